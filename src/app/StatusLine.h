@@ -1,0 +1,26 @@
+// The one way to tell the user something.
+#pragma once
+
+#include "app/frmSearch.h"
+
+class StatusLine : public QObject
+{
+    Q_OBJECT
+
+  public:
+    /// The tool tip of nearly all status texts.
+    static const QString standardTip;
+
+    explicit StatusLine(frmSearch &form) : mForm(form) {}
+
+    /// Prints `text` followed by "..." and sets the tool tip, or none while tool tips are off. An empty text changes the
+    /// tool tip alone.
+    void UpDateStatus(const QString &text, const QString &tip = standardTip);
+
+  Q_SIGNALS:
+    /// A status text as it was given.
+    void told(const QString &text);
+
+  private:
+    frmSearch &mForm;
+};

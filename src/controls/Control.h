@@ -1,0 +1,66 @@
+// Controls as plain objects: name, state and events, no window. The logic reads and writes them; a widget of the same
+// name shows them and turns what the user does into their events. Knows util.
+#pragma once
+
+#include "controls/Colours.h"
+
+#include <QObject>
+#include <QString>
+
+enum class MouseButton { Left, Right };
+
+/// What every control has. A setter that changes something emits changed(), on which whatever shows the control
+/// makes itself match.
+class Control : public QObject
+{
+    Q_OBJECT
+
+  public:
+    /// `name` is the control's name; a member of a control array is written "chkSMA(9)".
+    Control(const QString &name, QObject *parent);
+
+    [[nodiscard]] QString name() const { return objectName(); }
+
+    [[nodiscard]] bool isEnabled() const { return mEnabled; }
+    void setEnabled(bool enabled) { assign(mEnabled, enabled); }
+    [[nodiscard]] bool isVisible() const { return mVisible; }
+    void setVisible(bool visible) { assign(mVisible, visible); }
+    [[nodiscard]] const QString &caption() const { return mCaption; }
+    void setCaption(const QString &caption) { assign(mCaption, caption); }
+    [[nodiscard]] const QString &toolTipText() const { return mToolTipText; }
+    void setToolTipText(const QString &text) { assign(mToolTipText, text); }
+    [[nodiscard]] Colour backColor() const { return mBackColor; }
+    void setBackColor(Colour colour) { assign(mBackColor, colour); }
+    [[nodiscard]] Colour foreColor() const { return mForeColor; }
+    void setForeColor(Colour colour) { assign(mForeColor, colour); }
+
+    // What a user does that no single kind of control owns.
+    void mouseDown(MouseButton button) { Q_EMIT mousePressed(button); }
+    void mouseMove() { Q_EMIT mouseMoved(); }
+    void doubleClick() { Q_EMIT doubleClicked(); }
+
+  Q_SIGNALS:
+    void changed();
+    void mousePressed(MouseButton button);
+    void mouseMoved();
+    void doubleClicked();
+
+  protected:
+    /// Stores a changed value and emits changed(). True when it differed.
+    template <class Value> bool assign(Value &member, const Value &value)
+    {
+        if (member == value)
+            return false;
+        member = value;
+        Q_EMIT changed();
+        return true;
+    }
+
+  private:
+    QString mCaption;
+    QString mToolTipText;
+    Colour mBackColor = Colours::ButtonFace;
+    Colour mForeColor = Colours::ButtonText;
+    bool mEnabled = true;
+    bool mVisible = true;
+};

@@ -1,0 +1,90 @@
+// The controls with a list: combo box and list box. Indices count from 0; -1 means that nothing is chosen.
+#pragma once
+
+#include "controls/Control.h"
+
+#include <QStringList>
+#include <vector>
+
+/// What both kinds share. An index outside the list raises error 380 when it is chosen and error 5 when it is to be
+/// removed; reading an item outside the list gives "".
+class ListControl : public Control
+{
+    Q_OBJECT
+
+  public:
+    ListControl(const QString &name, QObject *parent);
+
+    [[nodiscard]] int listCount() const { return static_cast<int>(mItems.size()); }
+    [[nodiscard]] const QStringList &items() const { return mItems; }
+    [[nodiscard]] QString list(int index) const { return mItems.value(index); }
+    [[nodiscard]] int listIndex() const { return mListIndex; }
+    /// Chooses an item, or none with -1. A changed index raises Click.
+    void setListIndex(int index);
+
+    virtual void addItem(const QString &item);
+    virtual void removeItem(int index);
+    /// Takes all items away; the index becomes -1 without a Click.
+    virtual void clear();
+
+  Q_SIGNALS:
+    void Click();
+
+  protected:
+    void checkIndex(int index, qint64 errorNumber) const;
+    virtual void indexChosen() {}
+
+  private:
+    QStringList mItems;
+    int mListIndex = -1;
+};
+
+/// A combo box. A drop-down list shows one of its items; an editable one holds any text.
+class ComboBox : public ListControl
+{
+    Q_OBJECT
+
+  public:
+    enum class Style { DropDownList, DropDownCombo };
+    ComboBox(const QString &name, Style style, QObject *parent);
+
+    [[nodiscard]] Style style() const { return mStyle; }
+    [[nodiscard]] QString text() const;
+    /// The user types, or the program writes: Change is raised when the text differs. A drop-down list accepts only
+    /// one of its items and chooses it; anything else is error 383.
+    void setText(const QString &text);
+    void clear() override;
+    /// The user opens the list.
+    void dropDown() { Q_EMIT DropDown(); }
+
+  Q_SIGNALS:
+    void Change();
+    void DropDown();
+
+  protected:
+    void indexChosen() override;
+
+  private:
+    Style mStyle;
+    QString mText;
+};
+
+/// A list box in which several items may be selected. Its index is the item with the focus.
+class ListBox : public ListControl
+{
+    Q_OBJECT
+
+  public:
+    using ListControl::ListControl;
+
+    [[nodiscard]] bool isSelected(int index) const;
+    /// Error 380 outside the list. A changed selection raises Click.
+    void setSelected(int index, bool selected);
+    [[nodiscard]] int selCount() const;
+    void addItem(const QString &item) override;
+    void removeItem(int index) override;
+    void clear() override;
+
+  private:
+    std::vector<bool> mSelected;
+};

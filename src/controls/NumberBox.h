@@ -1,0 +1,46 @@
+// The program's own number box: a set number of digits, always shown with leading zeros, wrapping at both ends.
+#pragma once
+
+#include "controls/Control.h"
+
+class NumberBox : public Control
+{
+    Q_OBJECT
+
+  public:
+    static constexpr int MaxDigits = 11;
+
+    /// Three digits, step 1, value 0.
+    NumberBox(const QString &name, QObject *parent);
+
+    [[nodiscard]] int digits() const { return mDigits; }
+    /// 2 to 11 digits, and the value 0; any other number is ignored.
+    void DigitCount(int digits);
+    [[nodiscard]] qint64 step() const { return mStep; }
+    /// Taken only below half the top of the range.
+    void setStep(qint64 step);
+    /// The digits shown, with their zeros.
+    [[nodiscard]] const QString &text() const { return mText; }
+    /// Taken if it is digits only, at least one and not more than `digits`; ignored otherwise.
+    void setText(const QString &text);
+    /// What the user types: shown as it stands, without zeros put in front.
+    void edit(const QString &text);
+    [[nodiscard]] qint64 value() const { return mText.toLongLong(); }
+
+    enum class Direction { Up, Down };
+    /// One step; past an end the value wraps to the other.
+    void makeStep(Direction direction);
+
+  Q_SIGNALS:
+    /// The number as text, without leading zeros.
+    void ValueChanged(const QString &text);
+
+  private:
+    [[nodiscard]] qint64 top() const;
+    void ShowIncValue(qint64 number);
+    void show(const QString &text);
+
+    QString mText;
+    qint64 mStep = 1;
+    int mDigits = 3;
+};

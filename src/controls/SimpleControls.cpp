@@ -1,0 +1,42 @@
+#include "controls/SimpleControls.h"
+
+#include "util/Errors.h"
+
+void CheckBox::setValue(int value)
+{
+    if (value < 0 || value > 2)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue, QStringLiteral("Invalid property value"));
+    if (assign(mValue, value))
+        Q_EMIT Click();
+}
+
+TextBox::TextBox(const QString &name, QObject *parent) : Control(name, parent)
+{
+    setBackColor(Colours::Window);
+    setForeColor(Colours::WindowText);
+}
+
+void TextBox::setText(const QString &text)
+{
+    if (assign(mText, text))
+        Q_EMIT Change();
+}
+
+void Button::click()
+{
+    if (isEnabled())
+        Q_EMIT Click();
+}
+
+TabControl::TabControl(const QString &name, QStringList captions, QObject *parent)
+    : Control(name, parent), mCaptions(std::move(captions))
+{
+}
+
+void TabControl::setTab(int tab)
+{
+    if (tab < 0 || tab >= mCaptions.size())
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue, QStringLiteral("Invalid property value"));
+    if (assign(mTab, tab))
+        Q_EMIT Click();
+}
