@@ -1,0 +1,13 @@
+// The engines' tests run against the real browsers, without a display.
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the built-in browser asks for it
+    QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
