@@ -1,0 +1,25 @@
+// A set of texts to be looked for at once: which of them stand in a page. Made once, used on any number of pages.
+// The cost of a look is that of reading the page once, whatever the number of texts. Knows nobody.
+#pragma once
+
+#include <QStringList>
+
+/// The texts, in their order. An empty text stands in every page but the empty one.
+class TextSet
+{
+  public:
+    TextSet(const QStringList &texts, Qt::CaseSensitivity sensitivity);
+
+    /// True when at least one of the texts stands in `page`.
+    [[nodiscard]] bool anyIn(QStringView page) const;
+
+    /// The index of the first text, in the order of the set, that stands in `page`; -1 when none does.
+    [[nodiscard]] qsizetype firstFound(QStringView page) const;
+
+    /// The index of the first text, in the order of the set, that does not stand in `page`; -1 when all do.
+    [[nodiscard]] qsizetype firstMissing(QStringView page) const;
+
+  private:
+    QStringList mTexts;
+    Qt::CaseSensitivity mSensitivity;
+};
