@@ -1,0 +1,72 @@
+#include "store/DatabaseFiles.h"
+#include "store/AdoErrors.h"
+#include "store/Catalog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+#include <array>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// What the engine keeps beside a file. It belongs to that file and no other.
+constexpr std::array companions{"-wal"_L1, "-shm"_L1, "-journal"_L1};
+
+void removeCompanions(const QString &path)
+{
+    for (const auto &ending : companions)
+        QFile::remove(path + ending);
+}
+
+// Puts `from` at `to` in one step; whoever looks sees the old file or the new one.
+void replaceFile(const QString &from, const QString &to)
+{
+    removeCompanions(to);
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        throw AdoError::error(ErrorNumber::PathAccessError);
+}
+} // namespace
+
+bool DatabaseFiles::isFileOrCanBeOne(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isFile())
+        return true;
+    if (!info.dir().exists())
+        return false;
+    QFile trial(path);
+    if (!trial.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        throw AdoError::error(ErrorNumber::PathAccessError);
+    trial.close();
+    trial.remove();
+    return true;
+}
+
+void DatabaseFiles::create(const QString &path, const TableFieldMatrix &matrix)
+{
+    QTemporaryFile place(path + ".XXXXXX"_L1);
+    if (!place.open())
+        throw AdoError::error(ErrorNumber::PathAccessError);
+    place.close();
+    // The engine's own files get the rights that any new file of the user's gets, not those of a temporary one.
+    place.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    {
+        const auto connection = Connection::open(place.fileName(), Connection::Access::Create);
+        connection->prepareForWriting();
+        Catalog::createAll(*connection, matrix);
+    }
+    replaceFile(place.fileName(), path);
+    place.setAutoRemove(false);
+}
+
+void DatabaseFiles::compact(const QString &path)
+{
+    if (!QFileInfo(path).isFile())
+        throw AdoError::error(ErrorNumber::FileNotFound);
+    const auto connection = Connection::open(path, Connection::Access::Write);
+    connection->administer("VACUUM");
+    static_cast<void>(connection->administerTexts("PRAGMA wal_checkpoint(TRUNCATE)"));
+}

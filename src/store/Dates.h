@@ -1,0 +1,16 @@
+// A date of the database is a text in ISO 8601: "2024-05-01", with a time "2024-05-01T10:20:30".
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <optional>
+
+/// ISO 8601: the date alone where the time is midnight, else with "T" and the time to the second.
+[[nodiscard]] QString dateText(const QDateTime &moment);
+
+/// Today's date, without a time.
+[[nodiscard]] QString todayText();
+
+/// The moment that `text` stands for: ISO 8601 with "T" or a blank between date and time, or month/day/year with an
+/// optional time (24 hours, or with AM or PM). Nothing for any other text. Blanks around it do not matter.
+[[nodiscard]] std::optional<QDateTime> parseDate(const QString &text);

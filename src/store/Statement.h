@@ -1,0 +1,68 @@
+// One prepared statement, taken from a connection's cache for as long as it is used. Errors of the engine come out as
+// RuntimeError. Inside store/ only.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace SQLite {
+class Database;
+class Statement;
+} // namespace SQLite
+
+/// Prepared statements by their text, so that the same statement is prepared once.
+class StatementCache
+{
+  public:
+    StatementCache();
+    ~StatementCache();
+    StatementCache(const StatementCache &) = delete;
+    StatementCache &operator=(const StatementCache &) = delete;
+
+    /// The statement of that text, prepared now where none is idle.
+    [[nodiscard]] std::unique_ptr<SQLite::Statement> take(SQLite::Database &database, const std::string &text);
+    /// Gives an idle statement back. When there are too many, all are let go.
+    void giveBack(std::unique_ptr<SQLite::Statement> statement) noexcept;
+    void clear() noexcept;
+
+  private:
+    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> mIdle;
+};
+
+class Statement
+{
+  public:
+    /// Cache and database outlive the statement.
+    Statement(StatementCache &cache, SQLite::Database &database, const std::string &text);
+    ~Statement();
+    Statement(const Statement &) = delete;
+    Statement &operator=(const Statement &) = delete;
+
+    /// Binds the parameter `place`, from 1. Texts go in as UTF-8.
+    Statement &bind(int place, const QVariant &value);
+    Statement &bind(int place, qint64 value);
+    Statement &bind(int place, const QString &value);
+
+    /// True while there is a row.
+    [[nodiscard]] bool step();
+    /// Runs a statement that has no rows, and gives the number of rows that it changed.
+    int run();
+
+    [[nodiscard]] int columnCount() const;
+    /// The columns of the row, from 0.
+    [[nodiscard]] qint64 integer(int column) const;
+    [[nodiscard]] QString text(int column) const;
+    /// The value as it is stored: qlonglong, double, QString, QByteArray, or Null.
+    [[nodiscard]] QVariant value(int column) const;
+
+  private:
+    StatementCache &mCache;
+    std::unique_ptr<SQLite::Statement> mStatement;
+    // Bound values that the engine reads in place.
+    std::vector<std::unique_ptr<const std::string>> mTexts;
+};

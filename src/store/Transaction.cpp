@@ -1,0 +1,43 @@
+#include "store/Transaction.h"
+#include "store/AdoErrors.h"
+#include "store/Connection.h"
+#include "store/cAdoMdb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr Place place{"cAdoMdb"_L1, "Transaction"_L1};
+}
+
+Transaction::Transaction(cAdoMdb &database) : mConnection(database.connection()), mLog(database.log())
+{
+    guarded(mLog, place, [&] {
+        if (!mConnection)
+            throw AdoError::error(AdoError::ConnectionClosed);
+        try {
+            mConnection->begin();
+            mActive = true;
+        } catch (...) {
+            mConnection->refuseWrites();
+            throw;
+        }
+    });
+}
+
+Transaction::~Transaction()
+{
+    if (mActive)
+        mConnection->rollBack();
+    else if (mConnection && !mCommitted)
+        mConnection->allowWrites();
+}
+
+bool Transaction::commit()
+{
+    if (!mActive)
+        return false;
+    const bool kept = guarded(mLog, place, [&] { mConnection->commit(); });
+    mActive = !kept;
+    mCommitted = kept;
+    return kept;
+}
