@@ -19,6 +19,7 @@ class ErrorLog : public QObject, public ErrorReceiver
     /// One record in the log file, then a message box that offers to open it or to end the program.
     void ErrorLogger(qint64 number, const QString &description, const QString &module,
                      const QString &location) override;
+    [[nodiscard]] ErrorReceiver *ifListening() override { return mShow ? this : nullptr; }
     /// Errors are logged and shown, or pass in silence.
     void ToggleErrMsg(bool show) { mShow = show; }
     [[nodiscard]] bool isShowing() const { return mShow; }

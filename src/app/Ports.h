@@ -2,6 +2,7 @@
 // these alone; both programs bring what stands behind them, and tests bring fakes for the clock and for faults.
 #pragma once
 
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -66,6 +67,18 @@ class SettingsStore
     virtual void SaveSetting(const QString &section, const QString &key, const QString &value) = 0;
     [[nodiscard]] virtual QString GetSetting(const QString &section, const QString &key,
                                              const QString &byDefault = {}) const = 0;
+};
+
+/// The place of the main window on the screen, in pixels. A program without a window has none: an empty place.
+class WindowPlace
+{
+  public:
+    virtual ~WindowPlace() = default;
+    [[nodiscard]] virtual QRect place() const = 0;
+    virtual void moveTo(const QRect &place) = 0;
+    /// The part of the screen that windows may use.
+    [[nodiscard]] virtual QRect screen() const = 0;
+    virtual void putOnTop(bool onTop) = 0;
 };
 
 /// Decides which controls may be used; stands above everything that calls it.

@@ -25,3 +25,10 @@
 {
     return list.isEmpty() ? emptyList() : list;
 }
+
+/// The highest index. Error 9 for a list that was never dimensioned.
+[[nodiscard]] inline int upperBound(const QStringList &list)
+{
+    static_cast<void>(firstOf(list));
+    return static_cast<int>(list.size()) - 1;
+}

@@ -47,6 +47,8 @@ class ErrorReceiver
     virtual ~ErrorReceiver() = default;
     virtual void ErrorLogger(qint64 number, const QString &description, const QString &module,
                              const QString &location) = 0;
+    /// This receiver for callers that would have thousands of records to make; null while nothing becomes of them.
+    [[nodiscard]] virtual ErrorReceiver *ifListening() { return this; }
 };
 
 /// Where an error happened: the object's name and the kind and name of the procedure, as they stand in the log.

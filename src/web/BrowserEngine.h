@@ -85,4 +85,6 @@ class BrowserFactory
     virtual void start(const QString &programPath) = 0;
     /// The program that is started where no other is set; "" if none is installed.
     [[nodiscard]] virtual QString defaultProgram() const = 0;
+    /// True for the file name of a program that can be driven, as in "chromium".
+    [[nodiscard]] virtual bool isDrivable(const QString &fileName) const = 0;
 };

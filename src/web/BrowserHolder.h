@@ -21,6 +21,7 @@ class BrowserHolder : public QObject
     void DocumentComplete(const QString &url, bool topDocument);
     void NewWindow2(bool *cancel);
     void WindowClosing();
+    void loadingEnded();
 
   private:
     struct DeleteLater

@@ -1,7 +1,8 @@
 #include "web/cIEObject.h"
 
-#include "web/Addresses.h"
+#include "util/Text.h"
 #include "web/EmailFinder.h"
+#include "web/ServerTypes.h"
 #include "web/TagContent.h"
 
 using namespace Qt::StringLiterals;
@@ -11,6 +12,13 @@ namespace
 constexpr auto module = "cIEObject"_L1;
 constexpr qint64 browserIsBusy = 0x800700AA;
 constexpr int shortestPage = 10;
+
+bool beginsWithProtocol(QStringView address)
+{
+    return std::any_of(protocolTypes.begin(), protocolTypes.end(), [&](QStringView protocol) {
+        return cUtility::startsWithIgnoringCase(address, protocol);
+    });
+}
 } // namespace
 
 cIEObject::cIEObject(ErrorReceiver &log, Desktop &desktop, ClipboardText &clipboard, BrowserFactory &browsers)
@@ -43,6 +51,7 @@ bool cIEObject::InitializeObject(std::shared_ptr<BrowserEngine> browser)
         connect(moIE.get(), &BrowserEngine::DocumentComplete, this, &cIEObject::DocumentComplete);
         connect(moIE.get(), &BrowserEngine::NewWindow2, this, &cIEObject::NewWindow2, Qt::DirectConnection);
         connect(moIE.get(), &BrowserEngine::WindowClosing, this, &cIEObject::WindowClosing);
+        connect(moIE.get(), &BrowserEngine::loadingEnded, this, &cIEObject::loadingEnded);
     });
     return mbHasBrowser;
 }
@@ -88,7 +97,7 @@ void cIEObject::NavigateToUrl(const QString &address)
     if (!mbHasBrowser)
         return;
     try {
-        if (startsWithProtocol(address))
+        if (beginsWithProtocol(address))
             moIE->Navigate(address);
         else if (address.contains(u'@'))
             mDesktop.open("mailto:"_L1 + address + "?Subject=Hello"_L1);
@@ -207,7 +216,7 @@ QStringList cIEObject::CollectEmail(const QString &text, const QString &search)
     return guardedResult(mLog, {module, "Function CollectEmail"_L1}, QStringList(), [&](QStringList &found) {
         const QString &markup = text.isEmpty() ? GetBrowserHTML() : text;
         if (!text.isEmpty() || markup.size() >= shortestPage)
-            found = ::CollectEmail(markup, search, &mLog);
+            found = cIEText::CollectEmail(markup, search, mLog.ifListening());
     });
 }
 
@@ -218,6 +227,6 @@ QStringList cIEObject::Get_HtmlTag_Content(const QString &tag, const QString &en
     return guardedResult(mLog, {module, "Get_HtmlTag_Content"_L1}, QStringList(), [&](QStringList &contents) {
         const QString &searched = markup.isEmpty() ? GetBrowserHTML() : markup;
         if (!markup.isEmpty() || searched.size() >= shortestPage)
-            contents = ::Get_HtmlTag_Content(tag, endTag, searched);
+            contents = cIEText::Get_HtmlTag_Content(tag, endTag, searched, &mLog);
     });
 }

@@ -21,7 +21,8 @@ class cIEObject : public QObject
     [[nodiscard]] std::shared_ptr<BrowserEngine> GetActiveBrowser();
     [[nodiscard]] QString InternetExplorerPath() const;
     void setInternetExplorerPath(const QString &path) { msIEPath = path; }
-    [[nodiscard]] BrowserEngine *browser() const { return moIE.get(); }
+    /// A page is on its way.
+    [[nodiscard]] bool isLoading() const { return moIE && moIE->isLoading(); }
 
     // Without a browser each of these does nothing and gives its type's empty value. None of them raises: an error goes
     // to the log, and the result is what was built until then.
@@ -64,6 +65,8 @@ class cIEObject : public QObject
     void DocumentComplete(const QString &url, bool topDocument);
     void NewWindow2(bool *cancel);
     void WindowClosing();
+    /// The page that NavigateToUrl has sent the browser to is there, or will not come.
+    void loadingEnded();
 
   private:
     template <class Result, class Body> Result read(QLatin1StringView location, Result result, Body body);

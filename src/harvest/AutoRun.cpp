@@ -1,0 +1,218 @@
+#include "harvest/AutoRun.h"
+
+#include "web/Addresses.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr auto module = "frmSearch"_L1;
+constexpr int serversOnlyOption = 0;
+constexpr int returnToStartOption = 2;
+const QString goCaption = u"Go"_s;
+const QString stopCaption = u"X"_s;
+} // namespace
+
+AutoRun::AutoRun(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, EventPump &pump,
+                 cTimer &timer, BrowserHolder &browser, Navigation &navigation, SiteRecords &records,
+                 ResultLinks &links, SavedUrls &savedUrls, PageScreening &screening)
+    : mLog(log), mForm(form), mStatus(status), mStates(states), mPump(pump), mTimer(timer), mBrowser(browser),
+      mNavigation(navigation), mRecords(records), mLinks(links), mSavedUrls(savedUrls), mScreening(screening)
+{
+}
+
+void AutoRun::cmdANStart_Click()
+{
+    if (mForm.cmdANStart.caption() == goCaption) {
+        mForm.cmdANStart.setCaption(stopCaption);
+        mForm.mbANCancel = false;
+        StartProcessAN();
+        return;
+    }
+    mForm.cmdANStart.setCaption(goCaption);
+    mForm.lblTrawlexTimer.setCaption(u"0"_s);
+    mForm.mbANCancel = true;
+    mTimer.CancelTimer();
+}
+
+void AutoRun::StartProcessAN()
+{
+    try {
+        run();
+    } catch (...) {
+        const RuntimeError error = currentError();
+        FinalizeProcess(u"Stopped (ERROR, UNKNOWN)"_s);
+        mLog.ErrorLogger(error.number(), error.description(), module, u"Sub StartProcessAN"_s);
+    }
+}
+
+void AutoRun::run()
+{
+    Walk walk;
+    if (!prepare(walk))
+        return;
+    while (walkSavedPage(walk) == Next::GoOn) {
+        mForm.mlngANLinkIndex = 0;
+        if (++walk.saved > walk.lastSaved)
+            break;
+    }
+    FinalizeProcess(end(walk));
+}
+
+/// False when there is nothing to walk: no run takes place then.
+bool AutoRun::prepare(Walk &walk)
+{
+    walk.useSaved = mForm.chkUseSavedUrls.isOn();
+    walk.serversOnly = mForm.chkSMA(serversOnlyOption).isOn();
+    if (!walk.useSaved && mForm.mlngANLinkIndex == 0 && !takeLinksOfPage(walk)) {
+        mForm.cmdANStart.setCaption(goCaption);
+        mStatus.UpDateStatus(u"No data saved for site"_s);
+        return false;
+    }
+    mForm.mbANRunning = true;
+    mStates.SetStateOfControls();
+    if (walk.useSaved) {
+        walk.lastSaved = mForm.cboANSavedUrls.listCount() - 1;
+        walk.saved = std::max(mForm.cboANSavedUrls.listIndex(), 0);
+        if (mForm.mbPassUrlsLoaded)
+            mForm.mastrLinks = emptyList();
+    }
+    mForm.mbANMCMNCStopped = false;
+    return true;
+}
+
+bool AutoRun::takeLinksOfPage(const Walk &walk)
+{
+    mForm.mstrANStartUrl = mBrowser->GetSiteUrl();
+    if (!mRecords.IsSiteDataSaved())
+        return false;
+    readLinks(walk);
+    return true;
+}
+
+void AutoRun::readLinks(const Walk &walk)
+{
+    mForm.mastrLinks = mLinks.GetLinks();
+    if (walk.serversOnly)
+        mForm.mastrLinks = cIEText::GetBaseUrls(mForm.mastrLinks);
+}
+
+QString AutoRun::savedUrl(int row)
+{
+    const QString element = mForm.mastrSavedUrlIds.value(row);
+    return mSavedUrls.GetSavedUrl(SavedUrls::Answer::Url, -1, element, {}, {});
+}
+
+/// One turn of the main loop: a saved result page, a PassUrl, or the page that the run began on.
+AutoRun::Next AutoRun::walkSavedPage(Walk &walk)
+{
+    if (walk.useSaved && mForm.mlngANLinkIndex == 0 && !mForm.mbPassUrlsLoaded &&
+        openResultPage(walk) == Next::LeaveMainLoop)
+        return Next::LeaveMainLoop;
+    if (walk.useSaved && mForm.mbPassUrlsLoaded)
+        takePassUrl(walk);
+    walk.lastLink = upperBound(mForm.mastrLinks);
+    if (walk.lastLink == 0 && mForm.mastrLinks.constFirst().isEmpty()) {
+        walk.emptyCount = walk.lastEmpty ? walk.emptyCount + 1 : 1;
+        walk.lastEmpty = true;
+        walk.noUrls = walk.emptyCount >= 2;
+        return walk.noUrls ? Next::LeaveMainLoop : Next::GoOn;
+    }
+    walk.lastEmpty = false;
+    return walkLinks(walk);
+}
+
+AutoRun::Next AutoRun::openResultPage(const Walk &walk)
+{
+    mForm.cboANSavedUrls.setListIndex(walk.saved);
+    mStatus.UpDateStatus(mForm.cboANSavedUrls.list(walk.saved));
+    mPump.doEvents();
+    if (!mNavigation.OpenSite(savedUrl(walk.saved)))
+        return Next::GoOn;
+    const qint64 pause = mForm.incSmRPPause.value();
+    mTimer.TimeIt(pause != 0 ? pause : mForm.incANTiming.value());
+    // Without a browser there is nothing to read; the user who has closed it has stopped the run.
+    if (!mForm.mbInitialized)
+        return Next::LeaveMainLoop;
+    readLinks(walk);
+    mForm.mstrANStartUrl = mBrowser->GetSiteUrl();
+    return Next::GoOn;
+}
+
+/// A PassUrl is itself the page to visit: the walk has that one link.
+void AutoRun::takePassUrl(const Walk &walk)
+{
+    mForm.cboANSavedUrls.setListIndex(walk.saved);
+    static_cast<void>(firstOf(mForm.mastrLinks));
+    mForm.mastrLinks[0] = savedUrl(walk.saved);
+}
+
+AutoRun::Next AutoRun::walkLinks(const Walk &walk)
+{
+    for (int i = mForm.mlngANLinkIndex; i <= walk.lastLink; ++i) {
+        mForm.mlngANLinkIndex = i;
+        if (!mayGoOn() || visit(walk, i) == Next::LeaveMainLoop)
+            return Next::LeaveMainLoop;
+    }
+    return Next::GoOn;
+}
+
+AutoRun::Next AutoRun::visit(const Walk &walk, int index)
+{
+    const QString link = mForm.mastrLinks.value(index);
+    if (!mScreening.NotQB(link))
+        return Next::GoOn;
+    mStatus.UpDateStatus(u"%1/%2 "_s.arg(index + 1).arg(walk.lastLink + 1) + link);
+    if (!mNavigation.OpenSite(link))
+        return Next::GoOn;
+    Q_EMIT visiting(index + 1, walk.lastLink + 1, link);
+    mTimer.TimeIt(mForm.incANTiming.value());
+    if (!mayGoOn())
+        return Next::LeaveMainLoop;
+    PageReading page(mBrowser);
+    if (mForm.incNotFoundMinSize.value() >= 1 && !walk.serversOnly)
+        mScreening.PageNotFound(page);
+    mScreening.CollectData(page);
+    return Next::GoOn;
+}
+
+QString AutoRun::end(const Walk &walk)
+{
+    if (walk.noUrls)
+        return u"Stopped (ERROR, NO URLS)"_s;
+    if (!mForm.mbANCancel) {
+        if (mForm.chkSMA(returnToStartOption).value() == 1)
+            mNavigation.OpenSite(mForm.mstrANStartUrl);
+        return u"Stopped (FINISHED)"_s;
+    }
+    if (!mForm.mbANMCMNCStopped)
+        return u"Stopped (USER)"_s;
+    // The loop has moved on by one before it saw the stop; one more is passed over, and near the end no text is given.
+    if (mForm.mlngANLinkIndex + 1 >= walk.lastLink)
+        return {};
+    ++mForm.mlngANLinkIndex;
+    return u"Stopped (MCMNC)"_s;
+}
+
+void AutoRun::ResetProcessAN()
+{
+    mForm.mbANCancel = true;
+    mForm.mlngANLinkIndex = 0;
+    mForm.mastrLinks = emptyList();
+    mTimer.CancelTimer();
+    mForm.cmdANStart.setCaption(goCaption);
+    mForm.lblTrawlexTimer.setCaption(u"0"_s);
+}
+
+void AutoRun::FinalizeProcess(const QString &status)
+{
+    mForm.cmdANStart.setCaption(goCaption);
+    mForm.cmdMNStart.setCaption(goCaption);
+    mForm.mbANRunning = false;
+    mForm.mbMNRunning = false;
+    mForm.mbANCancel = false;
+    mForm.mbMNCancel = false;
+    mStatus.UpDateStatus(status);
+    mStates.SetStateOfControls();
+    Q_EMIT finalized(status);
+}

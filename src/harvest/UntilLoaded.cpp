@@ -1,0 +1,1 @@
+#include "harvest/UntilLoaded.h"

@@ -1,0 +1,210 @@
+#include "lists/SavedUrls.h"
+
+#include "store/FixNull.h"
+#include "store/Schema.h"
+#include "util/Arrays.h"
+#include "util/Incr.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr auto module = "frmSearch"_L1;
+constexpr auto section = "SecFrmSearch"_L1;
+constexpr auto lineEnd = "\r\n"_L1;
+constexpr int openNextOnDelete = 4;
+constexpr int incrementPassUrl = 5;
+constexpr int incrementSavedUrl = 6;
+
+struct KindRow
+{
+    QLatin1StringView family;
+    QLatin1StringView firstName;
+    QLatin1StringView label;
+};
+
+constexpr KindRow passUrls{"PassUrls"_L1, "PassUrl-99"_L1, " Pass Urls"_L1};
+constexpr KindRow savedUrls{"RPgUrls"_L1, "Results-99"_L1, " Saved Links"_L1};
+
+const KindRow &row(SavedUrls::Kind kind)
+{
+    return kind == SavedUrls::Kind::PassUrl ? passUrls : savedUrls;
+}
+
+bool isEmptyArray(const QStringList &array)
+{
+    return upperBound(array) == 0 && array.constFirst().isEmpty();
+}
+} // namespace
+
+SavedUrls::SavedUrls(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states,
+                     SettingsStore &settings, DatabaseHolder &database, BrowserHolder &browser, SiteRecords &records,
+                     Navigation &navigation)
+    : mLog(log), mForm(form), mStatus(status), mStates(states), mSettings(settings), mDatabase(database),
+      mBrowser(browser), mRecords(records), mNavigation(navigation)
+{
+}
+
+QString SavedUrls::table(Kind kind) const
+{
+    return row(kind).family + mForm.cboANList.list(mForm.cboANList.listIndex());
+}
+
+QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, const QString &name, const QString &url)
+{
+    return guardedResult(mLog, {module, "Function GetSavedUrl"_L1}, QString(), [&](QString &result) {
+        const QStringList &array = mForm.mastrSavedUrlIds;
+        for (int i = 0; i <= upperBound(array); ++i) {
+            const QStringList parts = array[i].split(lineEnd);
+            const QString address = parts.value(1);
+            const bool hit = index >= 0          ? i == index
+                             : !item.isEmpty()   ? array[i] == item
+                             : !name.isEmpty()   ? parts[0] == name
+                                                 : !url.isEmpty() && address == url;
+            if (!hit)
+                continue;
+            result = answer == Answer::Index ? QString::number(i) : answer == Answer::Name ? parts[0] : address;
+            return;
+        }
+    });
+}
+
+QString SavedUrls::GetNewMaskName(Kind kind, const QString &otherTable)
+{
+    return guardedResult(mLog, {module, "Function GetNewMaskName"_L1}, QString(), [&](QString &result) {
+        const QString name = otherTable.isEmpty() ? table(kind) : otherTable;
+        QString candidate = row(kind).firstName;
+        const auto isTaken = [&] {
+            const Recordset rows = mDatabase->GetRecordset("SELECT MaskName FROM "_L1 + name + " WHERE MaskName='"_L1 +
+                                                      candidate + u'\'');
+            return !(rows.Bof() && rows.Eof());
+        };
+        do {
+            candidate = cUtility::Incr(candidate, 4, false, 1, u"", u"1", u"", false);
+        } while (isTaken());
+        result = candidate;
+    });
+}
+
+void SavedUrls::LoadSavedUrls(Kind kind)
+{
+    guarded(mLog, {module, "Sub LoadSavedUrls"_L1}, [&] {
+        mForm.cboANSavedUrls.clear();
+        mForm.mastrSavedUrlIds = emptyList();
+        Recordset rows = mDatabase->GetRecordset("SELECT MaskName,Url FROM "_L1 + table(kind));
+        QStringList elements;
+        for (; !rows.Eof(); rows.MoveNext()) {
+            QString name = FixNull(rows.Fields()["MaskName"_L1]);
+            if (name.isEmpty()) {
+                name = GetNewMaskName(kind);
+                rows.Fields()["MaskName"_L1].setValue(name);
+                rows.Update();
+            }
+            elements.append(name + lineEnd + FixNull(rows.Fields()["Url"_L1]));
+            mForm.cboANSavedUrls.addItem(name);
+        }
+        mForm.mastrSavedUrlIds = orEmptyList(std::move(elements));
+    });
+    mStates.SetStateOfControls();
+}
+
+QString SavedUrls::ExistsSavedUrl(const QString &url, const QString &name)
+{
+    return guardedResult(mLog, {module, "Function ExistsSavedUrl"_L1}, QString(), [&](QString &result) {
+        const Recordset rows = mDatabase->GetRecordset("SELECT Url FROM "_L1 + name + " WHERE Url='"_L1 + url + u'\'');
+        if (rows.Bof() && rows.Eof())
+            result = GetNewMaskName(Kind::SavedUrl, name);
+    });
+}
+
+void SavedUrls::AddSavedUrl(bool report, const QString &letter)
+{
+    guarded(mLog, {module, "Sub AddSavedUrl"_L1}, [&] {
+        if (mForm.mbPassUrlsLoaded)
+            return mStatus.UpDateStatus(u"Can't Add PassUrls"_s);
+        if (!mRecords.IsSiteDataSaved())
+            return mStatus.UpDateStatus(u"No data saved for site"_s);
+        const QString onShow = mForm.cboANList.list(mForm.cboANList.listIndex());
+        const QString target = savedUrls.family + (letter.isEmpty() ? onShow : letter);
+        const QString url = mBrowser->GetSiteUrl();
+        const QString name = ExistsSavedUrl(url, target);
+        if (name.isEmpty())
+            return mStatus.UpDateStatus(report ? u"Url Exists (%1)"_s.arg(target) : QString());
+        if (letter.isEmpty() || letter == onShow) {
+            if (isEmptyArray(mForm.mastrSavedUrlIds))
+                mForm.mastrSavedUrlIds.clear();
+            mForm.mastrSavedUrlIds.append(name + lineEnd + url);
+            mForm.cboANSavedUrls.addItem(name);
+            mForm.cboANSavedUrls.setListIndex(mForm.cboANSavedUrls.listCount() - 1);
+        }
+        mDatabase->AddRecord({recordElement("MaskName"_L1, name), recordElement("Url"_L1, url)}, -1, target, rowMarker);
+        mStatus.UpDateStatus(u"%1 Saved (%2)"_s.arg(name, target));
+    });
+}
+
+void SavedUrls::refillBox()
+{
+    mForm.cboANSavedUrls.clear();
+    for (const QString &element : std::as_const(mForm.mastrSavedUrlIds)) {
+        if (!element.isEmpty())
+            mForm.cboANSavedUrls.addItem(element.section(lineEnd, 0, 0));
+    }
+}
+
+void SavedUrls::RemoveSavedUrl()
+{
+    const int index = mForm.cboANSavedUrls.listIndex();
+    const Kind kind = mForm.mbPassUrlsLoaded ? Kind::PassUrl : Kind::SavedUrl;
+    guarded(mLog, {module, "Sub RemoveSavedUrl"_L1}, [&] {
+        if (index < 0)
+            return;
+        mDatabase->DeleteRecords(table(kind), u"MaskName"_s, mForm.cboANSavedUrls.text().trimmed(), false);
+        mForm.mastrSavedUrlIds[index].clear();
+        mForm.mastrSavedUrlIds = orEmptyList(cUtility::RemoveEmptyItemsFromArray(mForm.mastrSavedUrlIds));
+        refillBox();
+        const int count = mForm.cboANSavedUrls.listCount();
+        if (count > 0) {
+            mForm.cboANSavedUrls.setListIndex(std::min(index, count - 1));
+        } else {
+            if (mForm.mbPassUrlsLoaded) {
+                mForm.mbPassUrlsLoaded = false;
+                mForm.cboANSavedUrls.setToolTipText(mForm.chkSMV(0).value() == 1 ? u"Saved Urls"_s : QString());
+                LoadSavedUrls(Kind::SavedUrl);
+            }
+            mForm.chkUseSavedUrls.setValue(0);
+        }
+        mStatus.UpDateStatus(QString::number(count) + row(kind).label);
+        if (count > 0 && kind == Kind::PassUrl && mForm.chkSMA(openNextOnDelete).value() == 1)
+            cmdANSavedGo_Click();
+    });
+    mStates.SetStateOfControls();
+}
+
+void SavedUrls::cmdANSavedGo_Click()
+{
+    guarded(mLog, {module, "Sub cmdANSavedGo_Click"_L1}, [&] {
+        const int index = mForm.cboANSavedUrls.listIndex();
+        if (index < 0)
+            return;
+        const QString url = GetSavedUrl(Answer::Url, -1, mForm.mastrSavedUrlIds.value(index), {}, {});
+        if (url.isEmpty())
+            return;
+        mNavigation.OpenSite(url);
+        const int option = mForm.mbPassUrlsLoaded ? incrementPassUrl : incrementSavedUrl;
+        if (mForm.chkSMA(option).value() == 1 && index + 1 < mForm.cboANSavedUrls.listCount())
+            mForm.cboANSavedUrls.setListIndex(index + 1);
+    });
+}
+
+void SavedUrls::SaveSavedUrlPos()
+{
+    if (const int index = mForm.cboANSavedUrls.listIndex(); index >= 0)
+        mSettings.SaveSetting(section, "ANListIndex"_L1 + mForm.cboANList.text(), QString::number(index));
+}
+
+void SavedUrls::SetSavedUrlPos()
+{
+    const int index = mSettings.GetSetting(section, "ANListIndex"_L1 + mForm.cboANList.text(), u"0"_s).toInt();
+    if (index >= 0 && index < mForm.cboANSavedUrls.listCount())
+        mForm.cboANSavedUrls.setListIndex(index);
+}

@@ -1,0 +1,105 @@
+#include "sites/SiteRecords.h"
+
+#include "store/FixNull.h"
+#include "util/AddressList.h"
+#include "util/Text.h"
+#include "web/Addresses.h"
+#include "web/EmailFinder.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr auto module = "frmSearch"_L1;
+constexpr auto valueMarker = "<~Dorv~>"_L1;
+constexpr int slots = 5;
+
+struct FieldRow
+{
+    SiteField number;
+    QLatin1StringView name;
+    bool family;
+};
+
+constexpr FieldRow fieldRows[] = {
+    {SiteField::CnvHex, "CnvHex"_L1, false},  {SiteField::UrlLen, "UrlLen"_L1, false},
+    {SiteField::Group, "Group"_L1, false},    {SiteField::Url, "Url"_L1, true},
+    {SiteField::BeginUrl, "BeginUrl"_L1, true}, {SiteField::EndUrl, "EndUrl"_L1, true},
+    {SiteField::UrlMC, "UrlMC"_L1, true},     {SiteField::UrlMNC, "UrlMNC"_L1, true},
+    {SiteField::BUrlCol, "BUrlCol"_L1, true}, {SiteField::EUrlCol, "EUrlCol"_L1, true},
+};
+
+QString slotName(QLatin1StringView family, int slot)
+{
+    return u"%1-%2"_s.arg(family).arg(slot);
+}
+} // namespace
+
+QString SeparateSD(int part, const QString &value)
+{
+    if (!value.contains(valueMarker))
+        return value;
+    const QStringList parts = value.split(valueMarker);
+    return part > 1 || part < 0 || parts[0].isEmpty() ? QString() : parts[part];
+}
+
+QStringList SiteRecords::GetSearchSiteData(const QString &site, SiteField field)
+{
+    constexpr Place place{module, "Function GetSearchSiteData"_L1};
+    return guardedResult(mLog, place, emptyList(), [&](QStringList &result) {
+        const auto *row = std::find_if(std::begin(fieldRows), std::end(fieldRows),
+                                       [&](const FieldRow &candidate) { return candidate.number == field; });
+        if (row == std::end(fieldRows))
+            return;
+        const Recordset record = mDatabase->GetRecordset("SELECT * FROM SearchSites WHERE SiteName='"_L1 + site + u'\'');
+        if (record.Bof() && record.Eof())
+            return;
+        QStringList found;
+        if (!row->family)
+            found.append(FixNull(record.Fields()[row->name]));
+        for (int slot = 1; row->family && slot <= slots; ++slot) {
+            if (const QString value = FixNull(record.Fields()[slotName(row->name, slot)]); !value.isEmpty())
+                found.append(value);
+        }
+        result = orEmptyList(std::move(found));
+    });
+}
+
+QString SiteRecords::pageServer()
+{
+    return cIEText::GetServerFromUrl(mBrowser->GetSiteUrl(), cIEText::hostOnly);
+}
+
+/// Walks all records and their servers; at the first one equal to `server` (ignoring case) hands the record over.
+template <class Visit> bool SiteRecords::findServer(const QString &server, Visit visit)
+{
+    Recordset records = mDatabase->GetRecordset(u"SELECT * FROM SearchSites"_s);
+    for (; !records.Eof(); records.MoveNext()) {
+        for (int slot = 1; slot <= slots; ++slot) {
+            const QString value = FixNull(records.Fields()[slotName("Url"_L1, slot)]);
+            if (!value.isEmpty() && cUtility::equalIgnoringCase(value, server)) {
+                visit(records);
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool SiteRecords::IsSiteDataSaved()
+{
+    return guardedResult(mLog, {module, "Function IsSiteDataSaved"_L1}, false, [&](bool &saved) {
+        const QString server = pageServer();
+        saved = !server.isEmpty() && findServer(server, [](const Recordset &) {});
+    });
+}
+
+QString SiteRecords::GetSiteNameFromUrl(const QString &address)
+{
+    return guardedResult(mLog, {module, "Function GetSiteNameFromUrl"_L1}, QString(), [&](QString &name) {
+        const bool proceeds = address.isEmpty() ? IsSiteDataSaved() : cIEText::IsThisEmailOrLink(address, true) == cIEText::TextKind::Link;
+        if (proceeds)
+            findServer(address.isEmpty() ? pageServer() : address,
+                       [&](const Recordset &record) { name = FixNull(record.Fields()["SiteName"_L1]); });
+    });
+}

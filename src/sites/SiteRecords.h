@@ -1,0 +1,49 @@
+// Search-site records: how the result pages of one web site are read. Knows the store.
+#pragma once
+
+#include "store/DatabaseHolder.h"
+#include "web/BrowserHolder.h"
+
+/// The fields of a record by the numbers that address them.
+enum class SiteField {
+    SiteName = 1,
+    CnvHex = 2,
+    UrlLen = 3,
+    Group = 4,
+    Url = 5,
+    BeginUrl = 6,
+    EndUrl = 7,
+    UrlMC = 8,
+    UrlMNC = 9,
+    BUrlCol = 10,
+    EUrlCol = 11
+};
+
+/// Takes a value of two parts apart at its marker. A value without the marker comes back whole, whichever part is asked
+/// for; an empty first part gives "" for both; a part above 1 is "". Part 1 ends at a second marker.
+[[nodiscard]] QString SeparateSD(int part, const QString &value);
+
+class SiteRecords
+{
+  public:
+    SiteRecords(ErrorReceiver &log, DatabaseHolder &database, BrowserHolder &browser)
+        : mLog(log), mDatabase(database), mBrowser(browser)
+    {
+    }
+
+    /// The values of `field` in the record of `site`: the filled slots of a family in slot order, packed. The empty list
+    /// without a record or for a field that cannot be read.
+    [[nodiscard]] QStringList GetSearchSiteData(const QString &site, SiteField field);
+    /// The server of the page on show belongs to a record.
+    [[nodiscard]] bool IsSiteDataSaved();
+    /// The record that `address` belongs to, as it stands; with "" the record of the page on show. "" if there is none.
+    [[nodiscard]] QString GetSiteNameFromUrl(const QString &address);
+
+  private:
+    [[nodiscard]] QString pageServer();
+    template <class Visit> bool findServer(const QString &server, Visit visit);
+
+    ErrorReceiver &mLog;
+    DatabaseHolder &mDatabase;
+    BrowserHolder &mBrowser;
+};

@@ -1,0 +1,40 @@
+// The events of the Auto tab, the status bar and the tabs, each led to the operation that answers it.
+#pragma once
+
+#include "harvest/AutoRun.h"
+
+class BrowserConnection;
+class LifeCycle;
+
+class AutoTab : public QObject
+{
+    Q_OBJECT
+
+  public:
+    struct Parts
+    {
+        ErrorReceiver &log;
+        frmSearch &form;
+        StatusLine &status;
+        ControlStates &states;
+        cTimer &timer;
+        BrowserHolder &browser;
+        SavedUrls &savedUrls;
+        AutoRun &run;
+        BrowserConnection &connection;
+        LifeCycle &lifeCycle;
+    };
+    explicit AutoTab(const Parts &parts);
+
+  private:
+    void connectRun();
+    void connectSavedUrls();
+    void connectStatus();
+    void lblTrawlexTimer_MouseDown(MouseButton button);
+    void lblTrawlexTimer_MouseMove();
+    void lblAutoCollect_MouseDown(MouseButton button);
+    void cboANList_Click();
+    void sstSearch_Click();
+
+    Parts m;
+};

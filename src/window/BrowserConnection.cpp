@@ -1,0 +1,161 @@
+#include "window/BrowserConnection.h"
+
+#include "util/Text.h"
+#include "window/Options.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr auto module = "frmSearch"_L1;
+constexpr auto pathKey = "IEPath"_L1;
+constexpr int internalMode = 0;
+constexpr int blockPopUps = 2;
+constexpr qint64 startLimit = 10'000;
+constexpr qint64 askAgainAfter = 200;
+constexpr qint64 smallestSize = 51;
+constexpr int standardWidth = 380;
+constexpr int standardHeight = 440;
+} // namespace
+
+BrowserConnection::BrowserConnection(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states,
+                                     cTimer &timer, BrowserHolder &browser, const Outside &outside)
+    : mLog(log), mForm(form), mStatus(status), mStates(states), mTimer(timer), mBrowser(browser), mOut(outside)
+{
+    connect(&browser, &BrowserHolder::WindowClosing, this, &BrowserConnection::windowClosed);
+    connect(&browser, &BrowserHolder::NewWindow2, this, &BrowserConnection::newWindow, Qt::DirectConnection);
+}
+
+void BrowserConnection::InitializeIE()
+{
+    const int attempt = ++mAttempt;
+    bool connected = false;
+    guarded(mLog, {module, "Sub InitializeIE"_L1}, [&] {
+        mForm.mbInternalBrowser = false;
+        mBrowser.release();
+        mBrowser.set(std::make_unique<cIEObject>(mLog, mOut.desktop, mOut.clipboard, mOut.browsers));
+        connected = mForm.cboANWBSelect.listIndex() == internalMode ? connectInternal() : connectFreeStanding();
+    });
+    if (attempt != mAttempt)
+        return;
+    mForm.mbInitialized = connected;
+    mStatus.UpDateStatus(connected ? u"Initialized"_s : u"Not initialized"_s);
+    mStates.SetStateOfControls();
+}
+
+bool BrowserConnection::connectInternal()
+{
+    std::shared_ptr<BrowserEngine> browser = mOut.browsers.internalBrowser();
+    mForm.mbInternalBrowser = browser && mBrowser->InitializeObject(std::move(browser));
+    return mForm.mbInternalBrowser;
+}
+
+bool BrowserConnection::connectFreeStanding()
+{
+    std::shared_ptr<BrowserEngine> browser = mBrowser->GetActiveBrowser();
+    if (!browser) {
+        if (!VerifyIEPath()) {
+            mOut.dialogs.tell(u"* ERROR * Can Not Initialize * ERROR *"_s,
+                              u"Trawlex Requires Microsoft Intenet Explorer Version 5.5 Or Later."_s);
+            return false;
+        }
+        browser = startBrowser();
+    }
+    return browser && mBrowser->InitializeObject(std::move(browser));
+}
+
+/// Starts the program and asks for its window until it answers; input stays live meanwhile.
+std::shared_ptr<BrowserEngine> BrowserConnection::startBrowser()
+{
+    const int attempt = mAttempt;
+    mOut.browsers.start(mBrowser->InternetExplorerPath());
+    const qint64 end = mOut.pump.tickCount() + startLimit;
+    while (mOut.pump.tickCount() < end) {
+        const qint64 next = mOut.pump.tickCount() + askAgainAfter;
+        while (mOut.pump.tickCount() < next && attempt == mAttempt)
+            mOut.pump.waitForEvents(next - mOut.pump.tickCount());
+        if (attempt != mAttempt)
+            return {};
+        if (auto browser = mBrowser->GetActiveBrowser())
+            return browser;
+    }
+    return {};
+}
+
+void BrowserConnection::cmdANInitialize_Click()
+{
+    mForm.cmdANInitialize.setEnabled(false);
+    mStatus.UpDateStatus(u"Initializing browser"_s);
+    mOut.pump.doEvents();
+    InitializeIE();
+}
+
+bool BrowserConnection::VerifyIEPath()
+{
+    return guardedResult(mLog, {module, "Function VerifyIEPath"_L1}, false, [&](bool &found) {
+        const QString stored = mOut.settings.GetSetting(Options::section, pathKey);
+        // A browser that the user has chosen comes before the one that happens to be installed.
+        if (QFileInfo::exists(stored))
+            mBrowser->setInternetExplorerPath(stored);
+        found = QFileInfo::exists(mBrowser->InternetExplorerPath());
+        if (found)
+            return;
+        if (!stored.isEmpty()) {
+            mBrowser->setInternetExplorerPath(stored);
+            found = true;
+            return;
+        }
+        const QString chosen =
+            mOut.dialogs.chooseFile({}, u"Programs (*)|*|"_s, u"Locate Internet Explorer"_s);
+        if (chosen.isEmpty() || !mOut.browsers.isDrivable(QFileInfo(chosen).fileName().toLower()))
+            return;
+        // It takes effect at the next start.
+        mOut.settings.SaveSetting(Options::section, pathKey, chosen);
+        found = true;
+    });
+}
+
+void BrowserConnection::windowClosed()
+{
+    guarded(mLog, {module, "Sub mobjIE_WindowClosing"_L1}, [&] {
+        mForm.mbInitialized = false;
+        if (mForm.mbMNRunning) {
+            mForm.mbMNCancel = true;
+            mTimer.CancelTimer();
+        }
+        if (mForm.mbANRunning) {
+            mForm.mbANCancel = true;
+            mTimer.CancelTimer();
+        }
+        mBrowser.release();
+        mStatus.UpDateStatus(u"Not initialized"_s);
+        mStates.SetStateOfControls();
+    });
+}
+
+void BrowserConnection::newWindow(bool *cancel)
+{
+    if (mForm.chkSMV(blockPopUps).isOn())
+        *cancel = true;
+}
+
+void BrowserConnection::SetStandardPosition()
+{
+    guarded(mLog, {module, "Sub SetStandardPosition"_L1}, [&] {
+        if (!mForm.mbInitialized)
+            return;
+        const qint64 wantedWidth = mForm.incSMAIEWidth.value();
+        const qint64 wantedHeight = mForm.incSMAIEHeight.value();
+        QRect window = mOut.place.place();
+        window.moveTopLeft(mOut.place.screen().topLeft());
+        mOut.place.moveTo(window);
+        if (mForm.mbInternalBrowser)
+            return;
+        mBrowser->IETop(0);
+        mBrowser->IEWidth(wantedWidth >= smallestSize ? static_cast<int>(wantedWidth) : standardWidth);
+        mBrowser->IEHeight(wantedHeight >= smallestSize ? static_cast<int>(wantedHeight) : standardHeight);
+        mBrowser->IELeft(window.left() + window.width());
+    });
+}

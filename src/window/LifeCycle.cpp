@@ -1,0 +1,129 @@
+#include "window/LifeCycle.h"
+
+#include "window/WindowPlaces.h"
+
+#include <QScopedValueRollback>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr auto module = "frmSearch"_L1;
+constexpr auto formName = "frmSearch"_L1;
+constexpr auto keepOnTopKey = "mnuANStatusKeepOnTop"_L1;
+constexpr int promptBeforeEnding = 7;
+constexpr int orientAtStart = 4;
+
+struct DigitRow
+{
+    NumberBox frmSearch::*box;
+    int digits;
+};
+
+constexpr DigitRow digitCounts[] = {
+    {&frmSearch::incMNAutoUrl, 10},      {&frmSearch::incSFMinFileSize, 6}, {&frmSearch::incNotFoundMinSize, 6},
+    {&frmSearch::incSMAIEWidth, 4},      {&frmSearch::incSMAIEHeight, 4},   {&frmSearch::incSFMinGraphicSize, 6},
+    {&frmSearch::incSMAMAutoTxtElng, 4}, {&frmSearch::incSMDMinHtmlSize, 6}};
+} // namespace
+
+LifeCycle::LifeCycle(const Parts &parts) : m(parts)
+{
+    connect(&m.loader, &DatabaseLoader::unloadRequested, this, &LifeCycle::end);
+}
+
+bool LifeCycle::Form_Load()
+{
+    bool usable = false;
+    guarded(m.log, {module, "Sub Form_Load"_L1}, [&] {
+        for (const DigitRow &row : digitCounts)
+            (m.form.*row.box).DigitCount(row.digits);
+        m.options.GetSettings();
+        usable = m.loader.LoadDBData(false) && !mEnding;
+        if (!usable)
+            return end();
+        m.form.mbFormReady = true;
+        const QScopedValueRollback<bool> connecting(mConnecting, true);
+        m.connection.InitializeIE();
+    });
+    if (mEnding)
+        end();
+    return usable && !mEnding;
+}
+
+void LifeCycle::settle()
+{
+    guarded(m.log, {module, "Sub Form_Load"_L1}, [&] {
+        if (m.settings.GetSetting(Options::section, u"chkSAMoveToTopLeft"_s, u"1"_s) == "1"_L1) {
+            m.form.chkSMV(orientAtStart).setValue(1);
+            m.connection.SetStandardPosition();
+        } else {
+            m.place.moveTo(AlignFF(m.settings, formName, m.place.place(), m.place.screen()));
+        }
+        m.form.mbMainShown = true;
+    });
+    QTimer::singleShot(0, this, [this] {
+        const bool onTop = m.settings.GetSetting(Options::section, keepOnTopKey, u"True"_s) == "True"_L1;
+        if (!onTop)
+            return;
+        m.place.putOnTop(true);
+        saveOnTop(m.settings, formName, true);
+        m.settings.SaveSetting(Options::section, keepOnTopKey, u"True"_s);
+    });
+}
+
+void LifeCycle::Terminate()
+{
+    const bool asks = m.form.chkSMA(promptBeforeEnding).value() == 1;
+    if (asks && m.dialogs.ask(u"Program will terminate"_s, u"Shut down Trawlex?"_s, UserDialogs::Icon::Critical,
+                              UserDialogs::Answer::Yes) != UserDialogs::Answer::Yes)
+        return;
+    end();
+}
+
+void LifeCycle::stopRun()
+{
+    guarded(m.log, {module, "Sub Terminate"_L1}, [&] {
+        if (m.form.mbANRunning)
+            m.form.mbANCancel = true;
+        else if (m.form.mbMNRunning)
+            m.form.mbMNCancel = true;
+        else
+            return;
+        m.timer.CancelTimer();
+        if (m.browser.isSet())
+            m.browser->IEStop();
+    });
+}
+
+void LifeCycle::end()
+{
+    mEnding = true;
+    m.connection.giveUp();
+    stopRun();
+    // No object goes away while a run or the connecting of a browser stands on the stack.
+    if (!m.form.mbANRunning && !m.form.mbMNRunning && !mConnecting)
+        Form_Unload();
+}
+
+void LifeCycle::runEnded()
+{
+    if (mEnding)
+        QTimer::singleShot(0, this, &LifeCycle::end);
+}
+
+void LifeCycle::Form_Unload()
+{
+    if (mUnloaded)
+        return;
+    mUnloaded = true;
+    guarded(m.log, {module, "Sub Form_Unload"_L1}, [&] {
+        if (m.form.mbFormReady) {
+            m.options.saveAtExit();
+            SaveFF(m.settings, formName, m.place.place());
+        }
+        m.browser.release();
+        m.database.reset();
+    });
+    Q_EMIT ended();
+}

@@ -1,0 +1,49 @@
+// The wiring: makes the objects that need no toolkit, in the order in which they need one another, and connects them. Both
+// programs hold one Program and bring the ports.
+#pragma once
+
+#include "app/ErrorLog.h"
+#include "app/cTimer.h"
+#include "harvest/AutoRun.h"
+#include "harvest/UntilLoaded.h"
+#include "window/AutoTab.h"
+#include "window/LifeCycle.h"
+#include "window/StateOfControls.h"
+
+struct Program
+{
+    /// The ways out, which live as long as the Program.
+    struct Ports
+    {
+        EventPump &pump;
+        UserDialogs &dialogs;
+        Desktop &desktop;
+        ClipboardText &clipboard;
+        SettingsStore &settings;
+        WindowPlace &place;
+        BrowserFactory &browsers;
+        QString programFolder;
+    };
+    explicit Program(const Ports &ports);
+
+    frmSearch form;
+    ErrorLog log;
+    StatusLine status;
+    cTimer timer;
+    StateOfControls states;
+    DatabaseHolder database;
+    BrowserHolder browser;
+    Navigation navigation;
+    SiteRecords records;
+    ResultLinks links;
+    SavedUrls savedUrls;
+    PageData pageData;
+    ResultWriters writers;
+    PageScreening screening;
+    AutoRun autoRun;
+    Options options;
+    DatabaseLoader loader;
+    BrowserConnection connection;
+    LifeCycle lifeCycle;
+    AutoTab autoTab;
+};

@@ -1,0 +1,43 @@
+#include "window/WindowPlaces.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int twipsPerPixel = 15;
+
+QString twips(int pixels)
+{
+    return QString::number(pixels * twipsPerPixel);
+}
+
+/// A stored position on the screen's axis; beyond the screen, or negative, it is 0.
+int position(const QString &stored, int bound)
+{
+    const int pixels = static_cast<int>(stored.toDouble()) / twipsPerPixel;
+    return pixels < 0 || pixels >= bound ? 0 : pixels;
+}
+} // namespace
+
+void SaveFF(SettingsStore &settings, const QString &name, const QRect &place)
+{
+    settings.SaveSetting(name, u"NSWE_W"_s, twips(place.width()));
+    settings.SaveSetting(name, u"NSWE_H"_s, twips(place.height()));
+    settings.SaveSetting(name, u"NSWE_L"_s, twips(place.left()));
+    settings.SaveSetting(name, u"NSWE_T"_s, twips(place.top()));
+}
+
+QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &window, const QRect &screen)
+{
+    const QString left = twips((screen.width() - window.width()) / 2);
+    const QString top = twips((screen.height() - window.height()) / 2);
+    QRect place = window;
+    place.moveTo(position(settings.GetSetting(name, u"NSWE_L"_s, left), screen.width()),
+                 position(settings.GetSetting(name, u"NSWE_T"_s, top), screen.height()));
+    return place;
+}
+
+void saveOnTop(SettingsStore &settings, const QString &name, bool onTop)
+{
+    settings.SaveSetting(u"Window Position"_s, name, onTop ? u"1"_s : u"0"_s);
+}
