@@ -50,8 +50,8 @@ class TestServer : public QObject
     void answer(QTcpSocket *socket, const TestRequest &request);
     [[nodiscard]] TestReply replyTo(const QByteArray &path) const;
 
-    QTcpServer mServer;
     QHash<QByteArray, TestReply> mRoutes;
     QHash<QTcpSocket *, QByteArray> mUnread;
     QList<TestRequest> mRequests;
+    QTcpServer mServer; ///< last: its sockets tell of their end while they go
 };

@@ -1,12 +1,14 @@
 // Reads the document it stands in. The file is one expression, an object with two operations; it is evaluated in a
 // world of its own, where nothing that the page's scripts have redefined is seen.
 //
-//   read(what, frame)   what: "content" (markup, title, address), "html", "text", "links", "frameCount", "selection"
+//   read(what, frame)   what: "content" (markup, title, address), "title", "html", "text", "links", "frameCount",
+//                       "selection"
 //                       frame: index in window.frames, or -1 for the top document
 //     gives { texts: [...] }              the answer, texts only (a count as its digits)
 //        or { lengths: [...], ticket }    the same, too long for one message: the texts' lengths; the texts joined
 //                                         without a separator are fetched with piece()
-//        or { error: "..." }              what was asked for cannot be read
+//        or { error: "...", number }      what was asked for cannot be read; number: 9 no such frame, 70 access denied,
+//                                         0 anything else
 //   piece(ticket, from) gives the joined text from position `from` on, at most a little over `pieceLength` characters,
 //                       "" at its end; null when another read has taken the ticket's place. No piece ends between the
 //                       halves of a character.
@@ -40,6 +42,10 @@
     };
     const links = (page) => Array.from(documentLinks.call(page), (link) => String(link.href));
 
+    // Half a character has no place in a message: it would arrive as something of another length.
+    const halves = /\p{Surrogate}/gu;
+    const wellFormed = (each) => (each.toWellFormed ? each.toWellFormed() : each.replace(halves, "\ufffd"));
+
     const selection = (view) => {
         const inner = view.document.activeElement;
         if (inner && (inner.localName === "iframe" || inner.localName === "frame") && inner.contentDocument) {
@@ -50,6 +56,8 @@
 
     const operations = {
         content: (page) => [html(page), documentTitle.call(page) || location.href, location.href],
+        title: (page) => [documentTitle.call(page) || location.href],
+        title: (page) => [documentTitle.call(page) || location.href],
         html: (page) => [html(page)],
         text: (page) => [text(page)],
         links,
@@ -62,12 +70,12 @@
             return document;
         }
         if (frame >= window.length) {
-            throw new RangeError(`The page has no frame ${frame}.`);
+            throw { number: 9, message: `The page has no frame ${frame}.` };
         }
         try {
             return frameDocument.call(window[frame]);
         } catch (refused) {
-            throw new Error(`Access is denied: frame ${frame} belongs to another site.`);
+            throw { number: 70, message: `Access is denied: frame ${frame} belongs to another site.` };
         }
     };
 
@@ -82,11 +90,11 @@
     const read = (what, frame) => {
         kept = "";
         try {
-            const texts = operations[what](documentOf(frame));
+            const texts = operations[what](documentOf(frame)).map(wellFormed);
             const total = texts.reduce((sum, each) => sum + each.length, 0);
             return total <= pieceLength ? { texts } : keep(texts);
         } catch (failure) {
-            return { error: String(failure.message ?? failure) };
+            return { error: String(failure.message ?? failure), number: failure.number ?? 0 };
         }
     };
 
