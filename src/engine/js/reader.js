@@ -57,7 +57,6 @@
     const operations = {
         content: (page) => [html(page), documentTitle.call(page) || location.href, location.href],
         title: (page) => [documentTitle.call(page) || location.href],
-        title: (page) => [documentTitle.call(page) || location.href],
         html: (page) => [html(page)],
         text: (page) => [text(page)],
         links,
