@@ -159,7 +159,10 @@ PageScreening::Outcome PageScreening::write(PageReading &page, bool wantPage)
         committed = transaction.commit();
     });
     // Rows that did not reach the file are not reported as saved; a page written to a file of its own is there.
-    if (!committed)
+    const QMap<QString, int> rows = mWriters.takeAdded();
+    if (committed)
+        Q_EMIT rowsStored(rows);
+    else
         outcome = {wantPage, ResultWriters::NothingSaved, outcome.file, false, false, false};
     return outcome;
 }

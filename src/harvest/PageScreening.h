@@ -6,8 +6,10 @@
 #include "harvest/ResultWriters.h"
 #include "web/Navigation.h"
 
-class PageScreening
+class PageScreening : public QObject
 {
+    Q_OBJECT
+
   public:
     PageScreening(ErrorReceiver &log, frmSearch &form, StatusLine &status, cTimer &timer, DatabaseHolder &database,
                   Navigation &navigation, ResultWriters &writers);
@@ -21,6 +23,10 @@ class PageScreening
     /// The page may go on, by the texts that it must hold, or must not.
     [[nodiscard]] bool IsMCGo(PageReading &page);
     [[nodiscard]] bool IsMNCGo(PageReading &page);
+
+  Q_SIGNALS:
+    /// Rows of a page have reached the file: how many, by table.
+    void rowsStored(const QMap<QString, int> &rows);
 
   private:
     /// What the writers answered for one page.

@@ -50,7 +50,10 @@ bool ResultWriters::exists(const QString &sql)
 
 bool ResultWriters::add(const QString &table, const QStringList &row)
 {
-    return mDatabase->AddRecord(row, -1, table, rowMarker);
+    const bool added = mDatabase->AddRecord(row, -1, table, rowMarker);
+    if (added)
+        ++mAdded[table];
+    return added;
 }
 
 int ResultWriters::SaveSummary(PageReading &page)

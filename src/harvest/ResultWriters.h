@@ -4,6 +4,8 @@
 #include "harvest/PageData.h"
 #include "lists/SavedUrls.h"
 
+#include <QMap>
+
 class ResultWriters
 {
   public:
@@ -22,6 +24,8 @@ class ResultWriters
     [[nodiscard]] bool SavePhone(PageReading &page);
     /// Index of the page's row in SiteSummary as text, "-1" if there is none. `url` replaces the page's own address.
     [[nodiscard]] QString GetSSIndex(PageReading &page, const QString &url);
+    /// The rows added since the last call, by table.
+    [[nodiscard]] QMap<QString, int> takeAdded() { return std::exchange(mAdded, {}); }
 
   private:
     [[nodiscard]] bool exists(const QString &sql);
@@ -33,4 +37,5 @@ class ResultWriters
     DatabaseHolder &mDatabase;
     SavedUrls &mSavedUrls;
     PageData &mData;
+    QMap<QString, int> mAdded;
 };

@@ -1,0 +1,47 @@
+# The commands of the project; each installs what it needs first. See README.md.
+.PHONY: run test test-asan bench check format tidy fuzz deps build clean
+
+JOBS ?= $(shell nproc)
+PRESET ?= dev
+CTEST = ctest --test-dir build/$(1) --output-on-failure --no-tests=error
+
+run: build
+	@packaging/run.sh build/$(PRESET)/bin
+
+test: build
+	$(call CTEST,$(PRESET))
+
+test-asan: deps
+	cmake --preset asan
+	cmake --build --preset asan -j $(JOBS)
+	ASAN_OPTIONS=detect_leaks=0:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1 $(call CTEST,asan) -LE e2e
+
+bench: deps
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS)
+	bench/run.sh build/release/bin
+
+fuzz: deps
+	cmake --preset fuzz
+	cmake --build --preset fuzz -j $(JOBS)
+
+# Format, forbidden includes and words, static analysis, tests: what CI runs and what a commit should pass.
+check: build
+	tools/check.sh build/$(PRESET)
+	$(call CTEST,$(PRESET))
+
+format:
+	git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+tidy: build
+	tools/tidy.sh build/$(PRESET)
+
+build: deps
+	cmake --preset $(PRESET)
+	cmake --build --preset $(PRESET) -j $(JOBS)
+
+deps:
+	@packaging/install-deps.sh
+
+clean:
+	rm -rf build

@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""Harvests the demo from the command line: server, database, search-site record, run, and a look at what was stored.
+
+Used by `make run` without a display, and by the end-to-end tests.
+"""
+import argparse
+import json
+import os
+import pathlib
+import sqlite3
+import subprocess
+import sys
+import tempfile
+
+HERE = pathlib.Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE))
+import server  # noqa: E402
+
+RESULT_PAGE = "http://www.findery-demo.com/search?q=harbour"
+
+
+def browser_switches(port: int):
+    """Switches that map every made-up host to the demo's server."""
+    return [f"--host-resolver-rules=MAP * 127.0.0.1:{port}"]
+
+
+def command(program: pathlib.Path, folder: str, port: int, browser: str, switches: dict, extra=()):
+    words = [str(program), "--database-dir", folder, "--browser", browser, "--headless", "--json", "--until-loaded"]
+    for switch in browser_switches(port):
+        words += ["--browser-arg", switch]
+    for name, value in switches.items():
+        words += ["--set", f"{name}={value}"]
+    return words + list(extra) + ["--auto"]
+
+
+def make_database(program: pathlib.Path, folder: str, port: int, browser: str, env=None) -> str:
+    """A first run makes the database; it finds no record of the page and so harvests nothing."""
+    subprocess.run(command(program, folder, port, browser, {}), env=env, capture_output=True, timeout=120, check=False)
+    path = os.path.join(folder, "Trawlex-0.mdb")
+    subprocess.run([sys.executable, str(HERE / "record.py"), path], check=True)
+    return path
+
+
+def show(path: str):
+    with sqlite3.connect(path) as database:
+        for table, columns in (("SiteSummary", "Title, Url"), ("EmailAddress", "Address, Url"),
+                               ("PhoneNumber", "Number, Url"), ("PassUrlsA", "MaskName, Url")):
+            rows = database.execute(f'SELECT {columns} FROM "{table}" ORDER BY rowid').fetchall()
+            print(f"\n{table} ({len(rows)} rows)")
+            for row in rows:
+                print("  " + "  |  ".join(str(value) for value in row))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--bin", required=True, help="folder of trawlex-harvest")
+    parser.add_argument("--browser", default="iexplore", choices=["internal", "iexplore"])
+    parser.add_argument("--show", action="store_true", help="print the stored rows")
+    arguments = parser.parse_args()
+    program = pathlib.Path(arguments.bin) / "trawlex-harvest"
+    switches = json.loads((HERE / "expected.json").read_text(encoding="utf-8"))["switches"]
+    with tempfile.TemporaryDirectory() as folder, server.start() as demo:
+        env = dict(os.environ, XDG_CONFIG_HOME=folder, XDG_DATA_HOME=folder)
+        path = make_database(program, folder, demo.port, arguments.browser, env)
+        run = subprocess.run(command(program, folder, demo.port, arguments.browser, switches, ["--open", RESULT_PAGE]),
+                             env=env, stdout=subprocess.PIPE, text=True, timeout=600, check=False)
+        if arguments.show:
+            show(path)
+        if run.stdout.strip():
+            report = json.loads(run.stdout)
+            print(f"\n{report['status']}: {len(report['links'])} pages visited in {report['seconds']:.1f} s")
+        return run.returncode
+
+
+if __name__ == "__main__":
+    sys.exit(main())

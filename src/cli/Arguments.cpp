@@ -1,0 +1,105 @@
+#include "cli/Arguments.h"
+
+#include "util/Errors.h"
+
+#include <QFileInfo>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+[[noreturn]] void refuse(const QString &text)
+{
+    throw RuntimeError(ErrorNumber::InvalidProcedureCall, text);
+}
+
+void takeDatabaseDir(Arguments &arguments, const QString &value)
+{
+    const QFileInfo folder(value);
+    if (!folder.isDir())
+        refuse(u"--database-dir: no such folder: %1"_s.arg(value));
+    arguments.databaseDir = folder.absoluteFilePath();
+    if (!arguments.databaseDir.endsWith(u'/'))
+        arguments.databaseDir += u'/';
+}
+
+void takeBrowser(Arguments &arguments, const QString &value)
+{
+    const QStringList names{u"internal"_s, u"iexplore"_s};
+    const auto index = names.indexOf(value.toLower());
+    if (index < 0)
+        refuse(u"--browser: \"%1\" is neither \"internal\" nor \"iexplore\""_s.arg(value));
+    arguments.browser = static_cast<int>(index);
+}
+
+void takeSetting(Arguments &arguments, const QString &value)
+{
+    const auto equals = value.indexOf(u'=');
+    if (equals < 1)
+        refuse(u"--set: \"%1\" is not of the form NAME=VALUE"_s.arg(value));
+    arguments.settings.append({value.left(equals), value.mid(equals + 1)});
+}
+
+void takeRun(Arguments &arguments, Arguments::Run run)
+{
+    if (arguments.run && *arguments.run != run)
+        refuse(u"--auto and --manual exclude each other"_s);
+    arguments.run = run;
+}
+
+struct Option
+{
+    QLatin1StringView name;
+    bool hasValue;
+    void (*take)(Arguments &, const QString &value);
+    QLatin1StringView help;
+};
+
+// clang-format off
+const Option options[] = {
+    {"--database-dir"_L1, true, takeDatabaseDir, "DIR           folder of the database (default: the stored one)"_L1},
+    {"--browser"_L1, true, takeBrowser, "internal|iexplore  the built-in browser, or one in a window of its own"_L1},
+    {"--headless"_L1, false, [](Arguments &a, const QString &) { a.headless = true; }, "                  start the browser without a window"_L1},
+    {"--browser-arg"_L1, true, [](Arguments &a, const QString &v) { a.browserArgs.append(v); }, "ARG            a switch for the browser (repeatable)"_L1},
+    {"--open"_L1, true, [](Arguments &a, const QString &v) { a.open = v; }, "URL                   open a page first and wait until it has loaded"_L1},
+    {"--set"_L1, true, takeSetting, "NAME=VALUE             set a control by its name, as chkSMA(9)=1 (repeatable)"_L1},
+    {"--until-loaded"_L1, false, [](Arguments &a, const QString &) { a.untilLoaded = true; }, "              end each wait as soon as the page has loaded"_L1},
+    {"--auto"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Auto); }, "                      run the Auto tab"_L1},
+    {"--manual"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Manual); }, "                    run the Manual tab"_L1},
+    {"--json"_L1, false, [](Arguments &a, const QString &) { a.json = true; }, "                      print the outcome as one JSON object"_L1},
+    {"--help"_L1, false, [](Arguments &a, const QString &) { a.help = true; }, "                      print this"_L1},
+};
+// clang-format on
+} // namespace
+
+QString usage()
+{
+    QString text = u"trawlex-harvest: a harvest without a window\n\n"_s;
+    for (const Option &option : options)
+        text += u"  %1 %2\n"_s.arg(option.name, option.help);
+    return text + u"\nExit status: 0 after \"Stopped (FINISHED)\", 1 after any other end, 2 for bad arguments.\n"_s;
+}
+
+Arguments parseArguments(const QStringList &words)
+{
+    Arguments arguments;
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        const QString name = words[i].section(u'=', 0, 0);
+        const auto *option = std::find_if(std::begin(options), std::end(options),
+                                          [&](const Option &candidate) { return candidate.name == name; });
+        if (option == std::end(options))
+            refuse(u"unknown argument: %1 (see --help)"_s.arg(words[i]));
+        const bool attached = words[i].contains(u'=');
+        if (option->hasValue && !attached && i + 1 >= words.size())
+            refuse(u"%1 wants a value"_s.arg(name));
+        if (!option->hasValue && attached)
+            refuse(u"%1 takes no value"_s.arg(name));
+        option->take(arguments, !option->hasValue ? QString()
+                                : attached        ? words[i].section(u'=', 1)
+                                                  : words[++i]);
+    }
+    if (!arguments.run && !arguments.help)
+        refuse(u"one of --auto and --manual is wanted (see --help)"_s);
+    return arguments;
+}

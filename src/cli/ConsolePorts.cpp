@@ -1,0 +1,43 @@
+#include "cli/ConsolePorts.h"
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+void printError(const QString &line)
+{
+    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+    std::fflush(stderr);
+}
+
+void ConsoleDialogs::tell(const QString &title, const QString &text)
+{
+    printError(title + ": "_L1 + QString(text).replace("\r\n"_L1, " "_L1));
+}
+
+UserDialogs::Answer ConsoleDialogs::ask(const QString &title, const QString &text, Icon, Answer withoutWindow)
+{
+    tell(title, text);
+    return withoutWindow;
+}
+
+UserDialogs::Answer ConsoleDialogs::askAboutError(const QString &, const QString &record, const QString &)
+{
+    printError(record);
+    return Answer::No;
+}
+
+QString ConsoleDialogs::input(const QString &, const QString &, const QString &)
+{
+    return {};
+}
+
+QString ConsoleDialogs::chooseFile(const QString &, const QString &, const QString &)
+{
+    return {};
+}
+
+void ConsoleDesktop::open(const QString &target)
+{
+    printError("Not opened without a desktop: "_L1 + target);
+}

@@ -1,0 +1,58 @@
+#include "cli/ControlSetter.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+[[noreturn]] void refuse(const QString &name, const QString &text)
+{
+    throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"--set %1: %2"_s.arg(name, text));
+}
+
+void set(CheckBox &box, const QString &value)
+{
+    if (value != "0"_L1 && value != "1"_L1)
+        refuse(box.name(), u"a box takes 0 or 1, not \"%1\""_s.arg(value));
+    box.setValue(value.toInt());
+}
+
+void set(ComboBox &combo, const QString &value)
+{
+    const auto byText = combo.items().indexOf(value);
+    bool isIndex = false;
+    const int index = value.toInt(&isIndex);
+    if (byText >= 0)
+        combo.setListIndex(static_cast<int>(byText));
+    else if (isIndex && index >= 0 && index < combo.listCount())
+        combo.setListIndex(index);
+    else if (combo.style() == ComboBox::Style::DropDownCombo)
+        combo.setText(value);
+    else
+        refuse(combo.name(), u"there is no item \"%1\""_s.arg(value));
+}
+
+void set(NumberBox &number, const QString &value)
+{
+    number.setText(value);
+    bool isNumber = false;
+    if (value.toLongLong(&isNumber) != number.value() || !isNumber)
+        refuse(number.name(), u"takes up to %1 digits, not \"%2\""_s.arg(number.digits()).arg(value));
+}
+} // namespace
+
+void setControl(frmSearch &form, const QString &name, const QString &value)
+{
+    Control *control = form.control(name);
+    if (auto *box = qobject_cast<CheckBox *>(control))
+        set(*box, value);
+    else if (auto *combo = qobject_cast<ComboBox *>(control))
+        set(*combo, value);
+    else if (auto *number = qobject_cast<NumberBox *>(control))
+        set(*number, value);
+    else if (auto *text = qobject_cast<TextBox *>(control))
+        text->setText(value);
+    else if (auto *list = qobject_cast<ListBox *>(control))
+        list->addItem(value);
+    else
+        refuse(name, control ? u"this control has no value"_s : u"there is no such control"_s);
+}
