@@ -1,4 +1,7 @@
 // The engines' tests run against the real browsers, without a display.
+#include "engine/BrowserSwitches.h"
+#include "engine/WebEngineSetup.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
@@ -7,7 +10,7 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the built-in browser asks for it
+    prepareWebEngine(BrowserSwitches::ofUser({}));
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

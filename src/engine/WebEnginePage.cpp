@@ -1,0 +1,155 @@
+#include "engine/WebEnginePage.h"
+
+#include <QAuthenticator>
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUuid>
+#include <QWebEngineCertificateError>
+#include <QWebEngineClientCertificateSelection>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineFullScreenRequest>
+#include <QWebEngineQuotaRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+
+// Stands outside any namespace, as the macro demands.
+static void initResources()
+{
+    Q_INIT_RESOURCE(webengine);
+}
+
+namespace {
+
+struct Setting
+{
+    QWebEngineSettings::WebAttribute attribute;
+    bool on;
+};
+
+constexpr Setting settingRows[] = {
+    {QWebEngineSettings::JavascriptEnabled, true},
+    {QWebEngineSettings::JavascriptCanOpenWindows, true}, // else NewWindow2 is never heard of
+    {QWebEngineSettings::ErrorPageEnabled, true},
+    {QWebEngineSettings::PluginsEnabled, false},
+    {QWebEngineSettings::PdfViewerEnabled, false}, // a document that is no page is a download
+    {QWebEngineSettings::FullScreenSupportEnabled, false},
+    {QWebEngineSettings::JavascriptCanAccessClipboard, false},
+    {QWebEngineSettings::AllowWindowActivationFromJavaScript, false},
+    {QWebEngineSettings::FocusOnNavigationEnabled, false},
+    {QWebEngineSettings::PlaybackRequiresUserGesture, true},
+    {QWebEngineSettings::AutoLoadIconsForPage, false},
+    {QWebEngineSettings::DnsPrefetchEnabled, false},
+};
+
+QString framesScript(const QString &token)
+{
+    initResources();
+    QFile file(QStringLiteral(":/engine/js/webengine-frames.js"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("The script for frames is missing.");
+    return QString::fromUtf8(file.readAll()).replace(QStringLiteral("\"TOKEN\""), u'"' + token + u'"');
+}
+
+} // namespace
+
+WebEnginePage::WebEnginePage(QWebEngineProfile *profile)
+    : QWebEnginePage(profile, nullptr),
+      mToken(QUuid::createUuid().toString(QUuid::WithoutBraces) + QUuid::createUuid().toString(QUuid::WithoutBraces))
+{
+    setUp();
+    refuseRequests();
+    listenToFrames();
+}
+
+void WebEnginePage::setUp()
+{
+    for (const Setting &row : settingRows)
+        settings()->setAttribute(row.attribute, row.on);
+    settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+}
+
+void WebEnginePage::refuseRequests()
+{
+    connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
+        setFeaturePermission(origin, feature, PermissionDeniedByUser);
+    });
+    // Without a name and a password the browser shows what came along with the demand for them.
+    connect(this, &QWebEnginePage::authenticationRequired, this,
+            [](const QUrl &, QAuthenticator *authenticator) { *authenticator = QAuthenticator(); });
+    connect(this, &QWebEnginePage::proxyAuthenticationRequired, this,
+            [](const QUrl &, QAuthenticator *authenticator, const QString &) { *authenticator = QAuthenticator(); });
+    connect(this, &QWebEnginePage::certificateError, this,
+            [](QWebEngineCertificateError error) { error.rejectCertificate(); });
+    connect(this, &QWebEnginePage::selectClientCertificate, this,
+            [](QWebEngineClientCertificateSelection selection) { selection.selectNone(); });
+    connect(this, &QWebEnginePage::fullScreenRequested, this,
+            [](QWebEngineFullScreenRequest request) { request.reject(); });
+    connect(this, &QWebEnginePage::quotaRequested, this, [](QWebEngineQuotaRequest request) { request.reject(); });
+    connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+            [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+    connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
+            [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+}
+
+// The script belongs to the page and not to the profile: a profile's scripts are no longer put into a page whose
+// process has crashed.
+void WebEnginePage::listenToFrames()
+{
+    QWebEngineScript script;
+    script.setName(QStringLiteral("frames"));
+    script.setSourceCode(framesScript(mToken));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::ApplicationWorld);
+    script.setRunsOnSubFrames(true);
+    scripts().insert(script);
+}
+
+bool WebEnginePage::acceptNavigationRequest(const QUrl &, NavigationType type, bool isMainFrame)
+{
+    if (isMainFrame && type == NavigationTypeTyped)
+        Q_EMIT navigationTakenUp();
+    return true;
+}
+
+QWebEnginePage *WebEnginePage::createWindow(WebWindowType)
+{
+    Q_EMIT windowRefused();
+    return nullptr;
+}
+
+QStringList WebEnginePage::chooseFiles(FileSelectionMode, const QStringList &, const QStringList &)
+{
+    return {};
+}
+
+void WebEnginePage::javaScriptAlert(const QUrl &, const QString &) {}
+
+// "Leave this page?" comes this way too, and can be told only by the browser's own words for it.
+bool WebEnginePage::javaScriptConfirm(const QUrl &, const QString &message)
+{
+    return message == QCoreApplication::translate("QWebEnginePage", "Are you sure you want to leave this page? Changes "
+                                                                    "that you made may not be saved.");
+}
+
+bool WebEnginePage::javaScriptPrompt(const QUrl &, const QString &, const QString &, QString *)
+{
+    return false;
+}
+
+void WebEnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &message, int,
+                                             const QString &)
+{
+    if (!message.startsWith(mToken))
+        return;
+    const QJsonObject told = QJsonDocument::fromJson(QStringView(message).mid(mToken.size()).toUtf8()).object();
+    const QString url = told[QLatin1StringView("url")].toString();
+    const bool top = told[QLatin1StringView("top")].toBool();
+    if (told[QLatin1StringView("moment")].toString() == u"created")
+        Q_EMIT documentCreated(url, top);
+    else
+        Q_EMIT documentLoaded(url, top);
+}

@@ -1,0 +1,48 @@
+// A page that nobody sits in front of: whatever it asks is refused at once, so that nothing on it can stop a run. Knows
+// nothing of loading and reading (WebEngineBrowser).
+//
+// Refused: alert, confirm, prompt, print, passwords, permissions, wrong certificates, client certificates, downloads,
+// file choosers, full screen, protocol handlers, file access, addresses of other programs. Leaving a page is allowed
+// whatever the page says. A new window never opens.
+#pragma once
+
+#include <QWebEnginePage>
+
+class WebEnginePage : public QWebEnginePage
+{
+    Q_OBJECT
+
+  public:
+    /// `profile` must outlive the page.
+    explicit WebEnginePage(QWebEngineProfile *profile);
+
+  Q_SIGNALS:
+    /// The page wants a new window and does not get it. Emitted from within the browser's own work: the page must not
+    /// be deleted, and nothing read from it, before the handler has returned.
+    void windowRefused();
+    /// The page has begun to go to the address that it was given.
+    void navigationTakenUp();
+    /// A frame's document has come into being. `url` is as the document itself names it.
+    void documentCreated(const QString &url, bool topDocument);
+    /// A frame's document has been loaded.
+    void documentLoaded(const QString &url, bool topDocument);
+
+  protected:
+    bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
+    QWebEnginePage *createWindow(WebWindowType type) override;
+    QStringList chooseFiles(FileSelectionMode mode, const QStringList &oldFiles,
+                            const QStringList &acceptedMimeTypes) override;
+    void javaScriptAlert(const QUrl &securityOrigin, const QString &message) override;
+    bool javaScriptConfirm(const QUrl &securityOrigin, const QString &message) override;
+    bool javaScriptPrompt(const QUrl &securityOrigin, const QString &message, const QString &defaultValue,
+                          QString *result) override;
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString &message, int lineNumber,
+                                  const QString &sourceId) override;
+
+  private:
+    void setUp();
+    void refuseRequests();
+    void listenToFrames();
+
+    QString mToken; ///< begins each message of our own script; unknown to pages
+};

@@ -1,0 +1,58 @@
+// Reads a page by questions to its process, each answered later, and waits for the answers: synchronous for the caller.
+// Knows nothing of loading.
+//
+// While a question waits, the event loop runs without user input. Deleting the reader meanwhile is safe: the read ends
+// with an error. A document that is replaced under a question takes the answer with it; the question is then put again.
+#pragma once
+
+#include "util/Errors.h"
+
+#include <QDeadlineTimer>
+#include <QObject>
+#include <QStringList>
+#include <chrono>
+#include <memory>
+#include <vector>
+
+class QWebEnginePage;
+
+class WebEngineReader : public QObject
+{
+    Q_OBJECT
+
+  public:
+    /// `page` must outlive the reader. `limit` is the time that one read may take in all.
+    WebEngineReader(QWebEnginePage &page, std::chrono::milliseconds limit);
+    ~WebEngineReader() override;
+
+    /// The answer of the page's reader (js/reader.js) to `what`, of frame `frame` or of the top document with -1.
+    /// Raises a RuntimeError: what the document refuses, no answer in time, fail().
+    [[nodiscard]] QStringList read(QLatin1StringView what, int frame = -1);
+    /// True while a read is under way.
+    [[nodiscard]] bool isReading() const { return mReading > 0; }
+    /// Ends every read that is under way with this error.
+    void fail(const RuntimeError &error);
+    /// Asks whether the page's process answers at all; `*answered` is set when it does.
+    void probe(const std::shared_ptr<bool> &answered);
+
+  Q_SIGNALS:
+    /// A question found no answer in time. Emitted before the read raises its error.
+    void unanswered();
+    /// The last read under way has ended.
+    void finished();
+
+  private:
+    struct Question;
+
+    [[nodiscard]] QVariant ask(const QString &script, const QDeadlineTimer &deadline);
+    void wait(const std::shared_ptr<Question> &question, const QDeadlineTimer &deadline);
+    void put(const std::shared_ptr<Question> &question);
+    void putAgainIfLost(const std::shared_ptr<Question> &question);
+    /// The texts of a long answer; nothing when the document was replaced meanwhile.
+    [[nodiscard]] std::unique_ptr<QStringList> fetch(const QVariantMap &announced, const QDeadlineTimer &deadline);
+
+    QWebEnginePage &mPage;
+    std::chrono::milliseconds mLimit;
+    std::vector<std::weak_ptr<Question>> mOpen;
+    int mReading = 0;
+};

@@ -1,0 +1,17 @@
+// Stands in each frame from its document's creation on, in a world that the page's scripts cannot see, and tells the
+// engine of two moments: "created" when the document has come into being, "load" when it has been loaded with all that
+// belongs to it. What it says begins with TOKEN, which the engine puts in and no page knows.
+(() => {
+    "use strict";
+
+    const tell = (moment) => {
+        console.info("TOKEN" + JSON.stringify({ moment, top: window === window.top, url: location.href }));
+    };
+    tell("created");
+    window.addEventListener("load", (event) => {
+        // A page can send an event named "load" itself, but not one that the browser vouches for.
+        if (event.isTrusted && event.target === document) {
+            tell("load");
+        }
+    });
+})();

@@ -1,0 +1,47 @@
+// A built-in browser on a server of the test's own, with what it has signalled, in order. A warning of Qt that no test
+// has announced fails the test.
+#pragma once
+
+#include "TestServer.h"
+#include "engine/WebEngineBrowser.h"
+
+#include <QStringList>
+#include <functional>
+#include <gtest/gtest.h>
+#include <ostream>
+
+/// How texts stand in the messages of failed tests.
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.left(2000).toStdString() << '"';
+}
+
+class WebEngineTest : public testing::Test
+{
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Runs the event loop until `condition` holds; false after `milliseconds`.
+    static bool waitUntil(const std::function<bool()> &condition, int milliseconds = 10000);
+    /// Runs the event loop for a while in which nothing is expected to happen.
+    static void idle(int milliseconds);
+
+    void startBrowser(const WebEngineOptions &options = {});
+    /// Navigates to `path` of the server and waits until it has loaded.
+    void open(const QString &path);
+    void openAddress(const QString &address);
+    /// Serves `html` at "/page" and opens it.
+    void openPage(const QByteArray &html);
+    [[nodiscard]] QString text() { return browser->documentPart(BrowserEngine::Part::Text); }
+    /// The title once it is no longer `now`.
+    [[nodiscard]] QString titleAfter(const QString &now);
+    /// Runs `call` and gives the error that it raises, "" without one.
+    static QString errorOf(const std::function<void()> &call);
+    /// Announces that the test makes Qt warn, in words that contain `text`.
+    static void expectWarning(const QString &text);
+
+    TestServer server;
+    std::shared_ptr<WebEngineBrowser> browser;
+    QStringList signalled; ///< "frame ADDRESS", "page ADDRESS", "ended", "window", "closing"
+};

@@ -1,0 +1,439 @@
+// Loading, reading and the signals of the built-in browser.
+#include "WebEngineFixture.h"
+
+#include <QClipboard>
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <QTimer>
+
+using Part = BrowserEngine::Part;
+using namespace Qt::StringLiterals;
+
+// --- before the first page ---------------------------------------------------------------------------------------
+
+TEST_F(WebEngineTest, IsBlankBeforeTheFirstPage)
+{
+    EXPECT_FALSE(browser->isLoading());
+    EXPECT_EQ(browser->LocationURL(), u"about:blank");
+    EXPECT_EQ(browser->LocationName(), u"about:blank");
+    EXPECT_EQ(browser->documentPart(Part::Text), QString());
+    EXPECT_EQ(browser->content().url, u"about:blank");
+    EXPECT_EQ(browser->links(), QStringList());
+    EXPECT_EQ(browser->frameCount(), 0);
+}
+
+// --- reading -----------------------------------------------------------------------------------------------------
+
+TEST_F(WebEngineTest, ReadsMarkupTextTitleAndAddress)
+{
+    openPage("<!doctype html><html><head><title> A  title </title></head><body><p>One</p>"
+             "<p style='display:none'>hidden</p><p>Two &amp; &#x1F600;</p></body></html>");
+    const PageContent content = browser->content();
+    EXPECT_EQ(content.html, QStringLiteral("<head><title> A  title </title></head><body><p>One</p>"
+                                           "<p style=\"display:none\">hidden</p><p>Two &amp; \U0001F600</p></body>"));
+    EXPECT_EQ(content.title, u"A title");
+    EXPECT_EQ(content.url, server.address(QStringLiteral("/page")));
+    EXPECT_EQ(browser->documentPart(Part::Html), content.html);
+    EXPECT_EQ(browser->documentPart(Part::Text), QStringLiteral("One\n\nTwo & \U0001F600"));
+    EXPECT_EQ(browser->LocationName(), u"A title");
+    EXPECT_EQ(browser->LocationURL(), server.address(QStringLiteral("/page")));
+}
+
+TEST_F(WebEngineTest, APageWithoutATitleIsNamedByItsAddress)
+{
+    openPage("<p>nothing to call it by");
+    EXPECT_EQ(browser->LocationName(), server.address(QStringLiteral("/page")));
+    EXPECT_EQ(browser->content().title, server.address(QStringLiteral("/page")));
+}
+
+TEST_F(WebEngineTest, GivesResolvedLinksInDocumentOrderWithRepeats)
+{
+    openPage("<base href='/deep/'><a href='b c%zz'>1</a><map><area href='../up'></map><a name='none'>x</a>"
+             "<a href='mailto:a@b.example'>m</a><a href='b c%zz'>again</a><a href='javascript:void(0)'>s</a>");
+    EXPECT_EQ(browser->links(),
+              (QStringList{server.address(u"/deep/b%20c%zz"_s), server.address(u"/up"_s), u"mailto:a@b.example"_s,
+                           server.address(u"/deep/b%20c%zz"_s), u"javascript:void(0)"_s}));
+}
+
+TEST_F(WebEngineTest, WhatThePageRedefinesDoesNotReachTheReader)
+{
+    openPage("<title>real</title><form name='links'></form><a href='/x'>x</a><script>"
+             "Object.defineProperty(document,'title',{get(){return 'forged'}});"
+             "Object.defineProperty(Element.prototype,'innerHTML',{get(){return 'forged'}});"
+             "Object.prototype.texts=['forged'];JSON.stringify=()=>'forged';console.info=()=>{};</script>");
+    EXPECT_EQ(browser->LocationName(), u"real");
+    EXPECT_TRUE(browser->documentPart(Part::Html).contains("forged'}}"_L1)); // the script itself, not its effect
+    EXPECT_EQ(browser->links(), QStringList{server.address(u"/x"_s)});
+    EXPECT_EQ(signalled.constFirst(), u"page "_s + server.address(u"/page"_s));
+}
+
+TEST_F(WebEngineTest, LeavesNoTraceInThePagesOwnWorld)
+{
+    openPage("<title>t</title><script>const before=Object.getOwnPropertyNames(window).length;setTimeout(()=>{"
+             "document.title=[typeof trawlexReader,Object.getOwnPropertyNames(window).length-before].join()},300)"
+             "</script>");
+    EXPECT_FALSE(browser->content().html.isEmpty());
+    EXPECT_EQ(titleAfter(u"t"_s), u"undefined,0");
+}
+
+TEST_F(WebEngineTest, HalvesOfCharactersDoNotHurt)
+{
+    openPage("<title>t</title><p id=p></p><script>p.textContent='a\\ud800b\\udc00c'</script>");
+    EXPECT_EQ(text(), QStringLiteral("a\uFFFDb\uFFFDc"));
+    EXPECT_TRUE(browser->content().html.contains(QStringLiteral("a\uFFFDb\uFFFDc")));
+}
+
+TEST_F(WebEngineTest, ReadsAPageOfAHundredMegabytesWhole)
+{
+    constexpr qsizetype size = 100'000'000;
+    openPage("<title>big</title><p>start</p><!--" + QByteArray("0123456789").repeated(size / 10) + "--><p>end</p>");
+    const PageContent content = browser->content();
+    EXPECT_GT(content.html.size(), size);
+    EXPECT_TRUE(content.html.endsWith("--><p>end</p></body>"_L1));
+    EXPECT_EQ(content.html.count(u'9'), size / 10);
+    EXPECT_EQ(content.title, u"big");
+    EXPECT_EQ(text(), u"start\n\nend");
+}
+
+TEST_F(WebEngineTest, ReadsPlainTextAndXml)
+{
+    server.route("/text", {.body = "just\ntext", .contentType = "text/plain"});
+    server.route("/xml", {.body = "<a><b>one</b></a>", .contentType = "text/xml"});
+    open(u"/text"_s);
+    EXPECT_EQ(text(), u"just\ntext");
+    open(u"/xml"_s);
+    EXPECT_TRUE(text().contains("one"_L1));
+}
+
+TEST_F(WebEngineTest, ReadsFramesAndRefusesThoseOfOtherSites)
+{
+    server.page("/inner", "<title>i</title><p>inner</p><a href='/from-inner'>x</a>");
+    openPage("<p>outer</p><iframe src='/inner'></iframe><iframe src='" +
+             server.address(u"/inner"_s, u"localhost"_s).toUtf8() + "'></iframe>");
+    EXPECT_EQ(browser->frameCount(), 2);
+    EXPECT_EQ(browser->framePart(0, Part::Text), u"inner\n\nx");
+    EXPECT_TRUE(browser->framePart(0, Part::Html).contains("<p>inner</p>"_L1));
+    EXPECT_EQ(browser->frameLinks(0), QStringList{server.address(u"/from-inner"_s)});
+    EXPECT_TRUE(errorOf([&] { (void)browser->framePart(1, Part::Text); }).contains("another site"_L1));
+    EXPECT_TRUE(errorOf([&] { (void)browser->frameLinks(1); }).contains("another site"_L1));
+    EXPECT_FALSE(errorOf([&] { (void)browser->framePart(2, Part::Text); }).isEmpty());
+    EXPECT_FALSE(errorOf([&] { (void)browser->framePart(-1, Part::Text); }).isEmpty());
+}
+
+TEST_F(WebEngineTest, AReadOutlivesAChangeOfTheDocument)
+{
+    server.route("/slow", {.body = "<title>slow</title>slow", .delay = 300});
+    openPage("<title>first</title>first");
+    browser->Navigate(server.address(u"/slow"_s));
+    for (int i = 0; i < 400 && browser->isLoading(); ++i) {
+        const PageContent content = browser->content(); // of either document, but of one, and in reasonable time
+        EXPECT_EQ(content.url, server.address(content.title == u"first" ? u"/page"_s : u"/slow"_s));
+        idle(1);
+    }
+    EXPECT_EQ(browser->LocationName(), u"slow");
+}
+
+TEST_F(WebEngineTest, CopiesTheSelectionAndLeavesTheClipboardAloneWithoutOne)
+{
+    QGuiApplication::clipboard()->setText(u"before"_s);
+    openPage("<p id=p>chosen words</p>");
+    browser->copySelection();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"before");
+    openPage("<p id=p>chosen words</p><script>getSelection().selectAllChildren(p)</script>");
+    browser->copySelection();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"chosen words");
+}
+
+TEST_F(WebEngineTest, SavingNeedsSomebodyToAskWhereTo)
+{
+    openPage("<p>x");
+    EXPECT_FALSE(errorOf([&] { browser->saveAs(); }).isEmpty());
+    int asked = 0;
+    QObject::connect(browser.get(), &WebEngineBrowser::saveRequested, [&] { ++asked; });
+    browser->saveAs();
+    EXPECT_EQ(asked, 1);
+}
+
+// --- loading -----------------------------------------------------------------------------------------------------
+
+TEST_F(WebEngineTest, NavigateReturnsAtOnceAndLoadingEndsWithThePage)
+{
+    server.route("/slow", {.body = "slow", .delay = 200});
+    browser->Navigate(server.address(u"/slow"_s));
+    EXPECT_TRUE(browser->isLoading());
+    EXPECT_EQ(browser->LocationURL(), u"about:blank");
+    EXPECT_TRUE(signalled.isEmpty());
+    EXPECT_TRUE(waitUntil([&] { return !browser->isLoading(); }));
+    idle(0);
+    EXPECT_EQ(signalled, (QStringList{u"page "_s + server.address(u"/slow"_s), u"ended"_s}));
+}
+
+TEST_F(WebEngineTest, TellsEachFrameAndThePageLast)
+{
+    server.route("/slow", {.body = "slow", .delay = 300});
+    server.page("/nested", "<iframe src='/fast'></iframe>");
+    server.page("/fast", "fast");
+    const QString other = server.address(u"/slow"_s, u"localhost"_s);
+    openPage("<iframe src='/slow'></iframe><iframe src='/nested'></iframe><iframe src='" + other.toUtf8() +
+             "'></iframe>");
+    ASSERT_EQ(signalled.size(), 6) << signalled.join(u' ').toStdString();
+    QStringList frames = signalled.mid(0, 4);
+    frames.sort();
+    EXPECT_EQ(frames, (QStringList{u"frame "_s + server.address(u"/fast"_s), u"frame "_s + server.address(u"/nested"_s),
+                                   u"frame "_s + server.address(u"/slow"_s), u"frame "_s + other}));
+    EXPECT_LT(signalled.indexOf(u"frame "_s + server.address(u"/fast"_s)),
+              signalled.indexOf(u"frame "_s + server.address(u"/nested"_s)));
+    EXPECT_EQ(signalled[4], u"page "_s + server.address(u"/page"_s));
+    EXPECT_EQ(signalled[5], u"ended");
+}
+
+TEST_F(WebEngineTest, APageCannotForgeALoadedFrame)
+{
+    openPage("<title>t</title><iframe srcdoc='<script>dispatchEvent(new Event(\"load\"));"
+             "parent.dispatchEvent(new Event(\"load\"));console.info(\"{}\")</script>'></iframe>");
+    idle(50);
+    EXPECT_EQ(signalled, (QStringList{u"frame about:srcdoc"_s, u"page "_s + server.address(u"/page"_s), u"ended"_s}));
+}
+
+TEST_F(WebEngineTest, AMoveWithinThePageHasLoadedAtOnce)
+{
+    openPage("<title>t</title><p id=here>x");
+    const QString there = server.address(u"/page#here"_s);
+    signalled.clear();
+    browser->Navigate(there);
+    EXPECT_FALSE(browser->isLoading());
+    EXPECT_EQ(browser->LocationURL(), there);
+    EXPECT_TRUE(signalled.isEmpty());
+    EXPECT_TRUE(waitUntil([&] { return signalled.size() == 2; }));
+    EXPECT_EQ(signalled, (QStringList{u"page "_s + there, u"ended"_s}));
+    EXPECT_EQ(browser->content().url, there);
+    EXPECT_EQ(server.requestCount("/page"), 1);
+}
+
+TEST_F(WebEngineTest, TheSameAddressAgainIsLoadedAgain)
+{
+    openPage("<p>x");
+    open(u"/page"_s);
+    open(u"/page#a"_s);
+    open(u"/page#a"_s);
+    EXPECT_EQ(server.requestCount("/page"), 3);
+}
+
+TEST_F(WebEngineTest, FollowsRedirectsOfServersAndScripts)
+{
+    server.page("/end", "<title>end</title>");
+    server.route("/moved", {.status = 302, .headers = {"Location: /end"}});
+    server.page("/script", "<script>location.replace('/end')</script>");
+    for (const QString &path : {u"/moved"_s, u"/script"_s}) {
+        open(path);
+        EXPECT_EQ(browser->LocationURL(), server.address(u"/end"_s));
+        EXPECT_EQ(signalled.constLast(), u"ended");
+        EXPECT_TRUE(signalled.contains(u"page "_s + server.address(u"/end"_s)));
+    }
+}
+
+TEST_F(WebEngineTest, APageThatMovesOnByItselfIsLoadingAgain)
+{
+    server.page("/end", "<title>end</title>");
+    openPage("<title>start</title><meta http-equiv=refresh content='0.3;url=/end'>");
+    EXPECT_TRUE(waitUntil([&] { return signalled.count(u"ended"_s) == 2; }));
+    EXPECT_EQ(browser->LocationURL(), server.address(u"/end"_s));
+}
+
+TEST_F(WebEngineTest, AddressesThatThePageChangesByItselfAreTold)
+{
+    openPage("<title>t</title><script>setTimeout(()=>{history.pushState(0,'','/pushed?a|b');document.title='u'},50)"
+             "</script>");
+    EXPECT_EQ(titleAfter(u"t"_s), u"u");
+    EXPECT_EQ(browser->content().url, server.address(u"/pushed?a|b"_s));
+    EXPECT_EQ(browser->LocationURL(), server.address(u"/pushed?a|b"_s));
+}
+
+TEST_F(WebEngineTest, FailedLoadsShowAPageAndHaveLoaded)
+{
+    server.route("/missing", {.body = "<title>nf</title>not here", .status = 404});
+    server.route("/empty", {.status = 500});
+    open(u"/missing"_s);
+    EXPECT_EQ(text(), u"not here");
+    open(u"/empty"_s);
+    EXPECT_FALSE(text().isEmpty());
+    EXPECT_EQ(browser->LocationURL(), server.address(u"/empty"_s));
+    openAddress(u"http://127.0.0.1:9/refused"_s); // a port that the browser will not even try
+    EXPECT_EQ(browser->LocationURL(), u"http://127.0.0.1:9/refused");
+    EXPECT_EQ(browser->content().url, u"http://127.0.0.1:9/refused");
+    EXPECT_EQ(signalled, (QStringList{u"page http://127.0.0.1:9/refused"_s, u"ended"_s}));
+    openAddress(u"http://name.invalid/"_s);
+    EXPECT_EQ(browser->LocationURL(), u"http://name.invalid/");
+}
+
+TEST_F(WebEngineTest, AnEmptyAnswerLeavesTheOldPageStanding)
+{
+    server.route("/none", {.status = 204});
+    openPage("<title>old</title>");
+    open(u"/none"_s);
+    EXPECT_EQ(signalled, QStringList{u"ended"_s});
+    EXPECT_EQ(browser->LocationURL(), server.address(u"/page"_s));
+    EXPECT_EQ(browser->LocationName(), u"old");
+}
+
+TEST_F(WebEngineTest, ANewNavigationTakesTheOldOnesPlace)
+{
+    server.route("/never", {.delay = -1});
+    server.page("/next", "<title>next</title>");
+    browser->Navigate(server.address(u"/never"_s));
+    idle(50);
+    browser->Navigate(server.address(u"/never?2"_s));
+    open(u"/next"_s);
+    EXPECT_EQ(browser->LocationName(), u"next");
+    idle(100);
+    EXPECT_EQ(signalled, (QStringList{u"page "_s + server.address(u"/next"_s), u"ended"_s}));
+}
+
+TEST_F(WebEngineTest, TheEndOfAnOlderLoadIsNotTakenForThatOfTheNewOne)
+{
+    server.route("/half", {.body = "<title>half</title><img src='/never'>"});
+    server.route("/never", {.delay = -1});
+    server.route("/slow", {.body = "<title>slow</title>", .delay = 300});
+    browser->Navigate(server.address(u"/half"_s));
+    EXPECT_TRUE(waitUntil([&] { return browser->LocationURL().endsWith("/half"_L1); }));
+    open(u"/slow"_s);
+    EXPECT_EQ(browser->LocationName(), u"slow");
+}
+
+TEST_F(WebEngineTest, StopEndsTheLoad)
+{
+    server.route("/never", {.delay = -1});
+    openPage("<title>old</title>");
+    signalled.clear();
+    browser->Navigate(server.address(u"/never"_s));
+    idle(50);
+    browser->Stop();
+    EXPECT_FALSE(browser->isLoading());
+    idle(100);
+    EXPECT_EQ(signalled, QStringList{u"ended"_s});
+    EXPECT_EQ(browser->LocationName(), u"old");
+}
+
+TEST_F(WebEngineTest, WhatIsNoAddressRaisesAnError)
+{
+    for (const QString &address : {u""_s, u"no address"_s, u"http://host:99999999/"_s, u"http://a b/"_s}) {
+        EXPECT_FALSE(errorOf([&] { browser->Navigate(address); }).isEmpty()) << address.toStdString();
+        EXPECT_FALSE(browser->isLoading());
+    }
+}
+
+TEST_F(WebEngineTest, AddressesMeanTheSameToTheServer)
+{
+    struct Row
+    {
+        QString given;
+        QByteArray asked;
+    };
+    const Row rows[] = {
+        {u"/a%20b?x=%C3%A9&y=a|b"_s, "/a%20b?x=%C3%A9&y=a%7Cb"},
+        {u"/\u00E9?q=\u00FC"_s, "/%C3%A9?q=%C3%BC"},
+        {u"/back\\slash?q=\\"_s, "/back/slash?q=%5C"},
+        {u"/plus+plus?a+b"_s, "/plus+plus?a+b"},
+        {u"/a%2Fb%3f"_s, "/a%2Fb%3F"},
+    };
+    for (const Row &row : rows) {
+        open(row.given);
+        EXPECT_EQ(server.requests().constLast().path, row.asked) << row.given.toStdString();
+    }
+}
+
+// --- signals and lifetimes ---------------------------------------------------------------------------------------
+
+TEST_F(WebEngineTest, NothingIsSignalledDuringARead)
+{
+    server.page("/page2", "<title>two</title>");
+    openPage("<title>one</title><script>setTimeout(()=>{const e=Date.now()+300;while(Date.now()<e);},20)</script>");
+    idle(60);
+    signalled.clear();
+    bool during = false;
+    bool reading = true;
+    QObject::connect(browser.get(), &BrowserEngine::loadingEnded, [&] { during = during || reading; });
+    QTimer::singleShot(0, [&] { browser->windowClosed(); });
+    EXPECT_FALSE(errorOf([&] { (void)browser->content(); }).isEmpty());
+    EXPECT_TRUE(signalled.isEmpty());
+    reading = false;
+    EXPECT_TRUE(waitUntil([&] { return signalled == QStringList{u"closing"_s}; }));
+    EXPECT_FALSE(during);
+}
+
+TEST_F(WebEngineTest, AClosedWindowAnswersNothing)
+{
+    openPage("<title>t</title>");
+    signalled.clear();
+    browser->windowClosed();
+    browser->windowClosed();
+    idle(20);
+    EXPECT_EQ(signalled, QStringList{u"closing"_s});
+    EXPECT_FALSE(errorOf([&] { browser->Navigate(server.address(u"/page"_s)); }).isEmpty());
+    EXPECT_FALSE(errorOf([&] { browser->Stop(); }).isEmpty());
+    EXPECT_FALSE(errorOf([&] { (void)browser->LocationURL(); }).isEmpty());
+    EXPECT_FALSE(errorOf([&] { (void)browser->content(); }).isEmpty());
+}
+
+TEST_F(WebEngineTest, TheLastReferenceMayBeDroppedInAnyHandler)
+{
+    server.page("/frame", "x");
+    const QByteArray html = "<title>t</title><script>window.open('/popup')</script><iframe src='/frame'></iframe>";
+    int dropped = 0;
+    const auto drop = [&] {
+        dropped += browser ? 1 : 0;
+        browser.reset();
+    };
+    const std::function<void()> connections[] = {
+        [&] { QObject::connect(browser.get(), &BrowserEngine::DocumentComplete, drop); },
+        [&] { QObject::connect(browser.get(), &BrowserEngine::loadingEnded, drop); },
+        [&] { QObject::connect(browser.get(), &BrowserEngine::NewWindow2, drop); },
+        [&] {
+            QObject::connect(browser.get(), &BrowserEngine::WindowClosing, drop);
+            QTimer::singleShot(50, browser.get(), [b = browser.get()] { b->windowClosed(); });
+        },
+    };
+    server.page("/page", html);
+    for (const auto &connectTo : connections) {
+        startBrowser();
+        connectTo();
+        browser->Navigate(server.address(u"/page"_s));
+        EXPECT_TRUE(waitUntil([&] { return !browser; }));
+        idle(50);
+    }
+    EXPECT_EQ(dropped, 4);
+}
+
+TEST_F(WebEngineTest, TheLastReferenceMayBeDroppedDuringARead)
+{
+    openPage("<title>t</title><script>setTimeout(()=>{const e=Date.now()+400;while(Date.now()<e);},20)</script>");
+    idle(60);
+    QTimer::singleShot(20, [this] { browser.reset(); });
+    BrowserEngine *engine = browser.get();
+    EXPECT_FALSE(errorOf([&] { (void)engine->content(); }).isEmpty());
+    EXPECT_FALSE(browser);
+    idle(50);
+}
+
+TEST_F(WebEngineTest, KeepsCookiesInTheFolderThatItIsGiven)
+{
+    QTemporaryDir folder;
+    server.route("/set", {.body = "x", .headers = {"Set-Cookie: trawl=1; Max-Age=1000"}});
+    startBrowser({.storageFolder = folder.filePath(u"profile"_s)});
+    open(u"/set"_s);
+    browser.reset();
+    idle(200);
+    startBrowser({.storageFolder = folder.filePath(u"profile"_s)});
+    openPage("x");
+    EXPECT_EQ(server.requests().constLast().headers.value("cookie"), "trawl=1");
+}
+
+TEST_F(WebEngineTest, ScriptsOfAPageWithoutAWindowRunAtFullPace)
+{
+    openPage("<title>t</title><script>let n=0;const go=()=>{if(++n<60)setTimeout(go,5);else document.title="
+             "document.visibilityState};go()</script>");
+    const QDeadlineTimer deadline(3000);
+    EXPECT_EQ(titleAfter(u"t"_s), u"visible");
+    EXPECT_FALSE(deadline.hasExpired());
+}
