@@ -1,0 +1,70 @@
+#include "engine/ChromiumFactory.h"
+#include "engine/ChromiumBrowser.h"
+#include "engine/ChromiumPage.h"
+#include "engine/ChromiumProgram.h"
+#include "engine/Platform.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds connectLimit{2};
+constexpr std::chrono::seconds closeLimit{5};
+
+} // namespace
+
+ChromiumFactory::ChromiumFactory(Settings settings) : mSettings(std::move(settings)) {}
+
+ChromiumFactory::~ChromiumFactory() = default;
+
+// A browser without a window has a profile of its own: the window program must not find one that nobody can see.
+ChromiumProfile &ChromiumFactory::profile()
+{
+    if (!mProfile)
+        mProfile = std::make_unique<ChromiumProfile>(mSettings.dataFolder,
+                                                     mSettings.headless ? u"browser-headless"_s : u"browser"_s);
+    return *mProfile;
+}
+
+std::shared_ptr<BrowserEngine> ChromiumFactory::runningBrowser()
+{
+    const QUrl endpoint = profile().endpoint();
+    if (!endpoint.isValid())
+        return nullptr;
+    const std::shared_ptr<DevToolsConnection> connection = DevToolsConnection::open(endpoint, connectLimit);
+    if (!connection)
+        return nullptr;
+    return std::make_shared<ChromiumBrowser>(std::make_shared<ChromiumPage>(connection));
+}
+
+void ChromiumFactory::start(const QString &programPath)
+{
+    profile().forgetEndpoint();
+    mStarted = ChromiumProgram::start(programPath, {.profileFolder = profile().folder(),
+                                                    .userSwitches = mSettings.userSwitches,
+                                                    .headless = mSettings.headless,
+                                                    .sandboxOff = sandboxOff()});
+}
+
+QString ChromiumFactory::defaultProgram() const
+{
+    return ChromiumProgram::find();
+}
+
+bool ChromiumFactory::sandboxOff() const
+{
+    return Platform::runsAsRoot();
+}
+
+void ChromiumFactory::closeBrowser()
+{
+    if (mStarted == 0 && !mSettings.headless)
+        return;
+    mStarted = 0;
+    const QUrl endpoint = profile().endpoint();
+    const auto connection = endpoint.isValid() ? DevToolsConnection::open(endpoint, connectLimit) : nullptr;
+    if (!connection)
+        return;
+    connection->send({}, "Browser.close"_L1);
+    connection->waitUntil([&] { return !connection->isOpen(); }, QDeadlineTimer(closeLimit));
+}

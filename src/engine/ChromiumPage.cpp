@@ -1,0 +1,372 @@
+#include "engine/ChromiumPage.h"
+#include "engine/EngineErrors.h"
+
+#include <QJsonArray>
+#include <QPointer>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds windowCallLimit{5};
+
+} // namespace
+
+struct ChromiumPage::EventRow
+{
+    QLatin1StringView method;
+    Handler handler;
+};
+
+const ChromiumPage::EventRow ChromiumPage::eventRows[] = {
+    {"Target.attachedToTarget"_L1, &ChromiumPage::onAttached},
+    {"Target.detachedFromTarget"_L1, &ChromiumPage::onDetached},
+    {"Target.targetDestroyed"_L1, &ChromiumPage::onDestroyed},
+    {"Target.targetCrashed"_L1, &ChromiumPage::onCrashed},
+    {"Page.javascriptDialogOpening"_L1, &ChromiumPage::onDialog},
+    {"Page.frameNavigated"_L1, &ChromiumPage::onFrameNavigated},
+    {"Page.navigatedWithinDocument"_L1, &ChromiumPage::onFrameMoved},
+    {"Page.frameDetached"_L1, &ChromiumPage::onFrameRemoved},
+    {"Page.lifecycleEvent"_L1, &ChromiumPage::onLifecycle},
+    {"Page.frameStartedNavigating"_L1, &ChromiumPage::onStartedNavigating},
+    {"Page.frameStoppedLoading"_L1, &ChromiumPage::onStoppedLoading},
+    {"Fetch.requestPaused"_L1, &ChromiumPage::onRequestPaused},
+    {"Fetch.authRequired"_L1, &ChromiumPage::onAuthRequired},
+};
+
+ChromiumPage::ChromiumPage(std::shared_ptr<DevToolsConnection> connection)
+    : mConnection(std::move(connection)), mTargets(*mConnection), mDialogs(*mConnection)
+{
+    QObject::connect(mConnection.get(), &DevToolsConnection::event, this, &ChromiumPage::handleEvent);
+    QObject::connect(mConnection.get(), &DevToolsConnection::closed, this, &ChromiumPage::onClosed);
+    QObject::connect(mConnection.get(), &DevToolsConnection::idle, this, &ChromiumPage::noticed);
+    QObject::connect(&mTargets, &TargetWatch::windowWanted, this, &ChromiumPage::windowWanted);
+    QObject::connect(&mTargets, &TargetWatch::processLost, this, &ChromiumPage::onProcessLost);
+    QObject::connect(&mTargets, &TargetWatch::windowClosed, this, &ChromiumPage::onClosed);
+    mTargets.attach();
+    mTopFrame = mTargets.target(); // the top frame of a page goes by its target's name
+    mAddress = mTargets.address();
+    mReader = std::make_unique<PageReader>(*mConnection, mTargets.session(), mTopFrame);
+    mWatch = std::make_unique<NavigationWatch>(*mConnection, mTargets.session());
+    QObject::connect(mWatch.get(), &NavigationWatch::pageEnded, this, &ChromiumPage::requestAfterLoss);
+}
+
+ChromiumPage::~ChromiumPage()
+{
+    abandon();
+}
+
+void ChromiumPage::abandon()
+{
+    mClosed = true;
+    mConnection->abandon();
+}
+
+void ChromiumPage::requireWindow() const
+{
+    if (mClosed || !mConnection->isOpen())
+        throw RuntimeError(EngineError::BrowserGone, u"The browser's window is no longer there."_s);
+}
+
+DevToolsConnection::Then ChromiumPage::whileAlive(std::function<void(const DevToolsConnection::Answer &)> then)
+{
+    return [self = QPointer<ChromiumPage>(this), then = std::move(then)](const DevToolsConnection::Answer &answer) {
+        if (self)
+            then(answer);
+    };
+}
+
+// ---- What is asked of the page
+
+void ChromiumPage::navigate(const QString &address)
+{
+    requireWindow();
+    mRequested = address;
+    mRequestedAfterLoss = false;
+    refuseCredentials(false);
+    request();
+}
+
+void ChromiumPage::request()
+{
+    const int number = mLoading.begin();
+    mWatch->begin();
+    mConnection->send(mTargets.session(), "Page.navigate"_L1, {{u"url"_s, mRequested}},
+                      whileAlive([this, number](const auto &answer) { answered(number, answer); }));
+}
+
+void ChromiumPage::answered(int number, const DevToolsConnection::Answer &answer)
+{
+    const QString error = answer.failed() ? answer.error : answer.result[u"errorText"].toString();
+    switch (mLoading.answered(number, answer.result[u"loaderId"].toString(), error)) {
+    case PageLoading::Verdict::Ended:
+        loadingEnded();
+        break;
+    case PageLoading::Verdict::Moved:
+        settle(number, true);
+        break;
+    case PageLoading::Verdict::Aborted:
+        settle(number, false);
+        break;
+    case PageLoading::Verdict::NeedsCredentials:
+        requestWithoutCredentials();
+        break;
+    case PageLoading::Verdict::Wait:
+    case PageLoading::Verdict::Outdated:
+        break;
+    }
+}
+
+// The browser answers in order: with the answer to a harmless question it has told all that went before.
+void ChromiumPage::settle(int number, bool moved)
+{
+    mConnection->send(mTargets.session(), "Page.getNavigationHistory"_L1, {},
+                      whileAlive([this, number, moved](const auto &) {
+                          if (!mLoading.settle(number))
+                              return;
+                          if (moved)
+                              notice({PageNotice::Kind::PageComplete, mAddress});
+                          loadingEnded();
+                      }));
+}
+
+// While it is driven the browser asks nobody for a password and shows an error page of its own; the page that the
+// server sends along with its refusal is got by asking again and refusing for the user.
+void ChromiumPage::requestWithoutCredentials()
+{
+    if (mRefusingCredentials)
+        return;
+    refuseCredentials(true);
+    request();
+}
+
+void ChromiumPage::refuseCredentials(bool refuse)
+{
+    if (refuse == mRefusingCredentials)
+        return;
+    mRefusingCredentials = refuse;
+    if (refuse)
+        mConnection->send(
+            mTargets.session(), "Fetch.enable"_L1,
+            {{u"handleAuthRequests"_s, true},
+             {u"patterns"_s, QJsonArray{QJsonObject{{u"urlPattern"_s, u"*"_s}, {u"resourceType"_s, u"Document"_s}}}}});
+    else
+        mConnection->send(mTargets.session(), "Fetch.disable"_L1);
+}
+
+void ChromiumPage::onRequestPaused(const QString &session, const QJsonObject &params)
+{
+    mConnection->send(session, "Fetch.continueRequest"_L1, {{u"requestId"_s, params[u"requestId"]}});
+}
+
+void ChromiumPage::onAuthRequired(const QString &session, const QJsonObject &params)
+{
+    mConnection->send(session, "Fetch.continueWithAuth"_L1,
+                      {{u"requestId"_s, params[u"requestId"]},
+                       {u"authChallengeResponse"_s, QJsonObject{{u"response"_s, u"CancelAuth"_s}}}});
+}
+
+void ChromiumPage::requestAfterLoss()
+{
+    if (std::exchange(mRequestedAfterLoss, true)) {
+        if (mLoading.cancel())
+            loadingEnded();
+    } else {
+        request();
+    }
+}
+
+void ChromiumPage::stop()
+{
+    requireWindow();
+    mConnection->send(mTargets.session(), "Page.stopLoading"_L1);
+    if (mLoading.cancel())
+        loadingEnded();
+}
+
+QString ChromiumPage::address() const
+{
+    requireWindow();
+    return mUnreachable.isEmpty() ? mAddress : mUnreachable;
+}
+
+QStringList ChromiumPage::read(QLatin1StringView what, int frame)
+{
+    requireWindow();
+    return mReader->read(what, frame);
+}
+
+PageContent ChromiumPage::content()
+{
+    const QStringList texts = read("content"_L1);
+    PageContent result{.html = texts.value(0), .title = texts.value(1), .url = texts.value(2)};
+    if (!mUnreachable.isEmpty() && result.url == mAddress)
+        result.url = mUnreachable;
+    return result;
+}
+
+void ChromiumPage::setBound(const QString &name, int pixels)
+{
+    requireWindow();
+    const QJsonObject window =
+        mConnection->call({}, "Browser.getWindowForTarget"_L1, {{u"targetId"_s, mTargets.target()}}, windowCallLimit);
+    const QJsonValue id = window[u"windowId"];
+    if (window[u"bounds"][u"windowState"].toString() != "normal"_L1)
+        mConnection->call({}, "Browser.setWindowBounds"_L1,
+                          {{u"windowId"_s, id}, {u"bounds"_s, QJsonObject{{u"windowState"_s, u"normal"_s}}}},
+                          windowCallLimit);
+    mConnection->call({}, "Browser.setWindowBounds"_L1,
+                      {{u"windowId"_s, id}, {u"bounds"_s, QJsonObject{{name, pixels}}}}, windowCallLimit);
+}
+
+// ---- What the browser tells
+
+void ChromiumPage::handleEvent(const QString &session, const QString &method, const QJsonObject &params)
+{
+    for (const EventRow &row : eventRows) {
+        if (row.method == method)
+            return (this->*row.handler)(session, params);
+    }
+}
+
+void ChromiumPage::onAttached(const QString &session, const QJsonObject &params)
+{
+    mTargets.attached(session, params);
+}
+
+void ChromiumPage::onDetached(const QString &, const QJsonObject &params)
+{
+    mTargets.detached(params);
+}
+
+void ChromiumPage::onDestroyed(const QString &, const QJsonObject &params)
+{
+    mTargets.destroyed(params);
+}
+
+void ChromiumPage::onCrashed(const QString &, const QJsonObject &params)
+{
+    mTargets.crashed(params);
+}
+
+void ChromiumPage::onDialog(const QString &session, const QJsonObject &params)
+{
+    mDialogs.answer(session, params);
+}
+
+void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &params)
+{
+    if (!mTargets.isOfPage(session))
+        return;
+    const QJsonObject frame = params[u"frame"].toObject();
+    const QString id = frame[u"id"].toString();
+    const QString url = frame[u"url"].toString() + frame[u"urlFragment"].toString();
+    const QString loader = frame[u"loaderId"].toString();
+    const bool top = session == mTargets.session() && !frame.contains(u"parentId");
+    if (top)
+        mDocuments.clear();
+    mDocuments[id] = {.loader = loader, .url = url};
+    if (!top)
+        return;
+    mTopFrame = id;
+    mAddress = url;
+    mUnreachable = frame[u"unreachableUrl"].toString();
+    mLoading.committed(loader);
+    if (!mLoading.isWaitingForDocument()) {
+        mWatch->end();
+        refuseCredentials(false);
+    }
+    mDialogs.newPage();
+    mReader->documentChanged(id);
+}
+
+void ChromiumPage::onFrameMoved(const QString &session, const QJsonObject &params)
+{
+    const QString url = params[u"url"].toString();
+    const auto document = mDocuments.find(params[u"frameId"].toString());
+    if (document != mDocuments.end())
+        document->url = url;
+    if (session == mTargets.session() && params[u"frameId"].toString() == mTopFrame)
+        mAddress = url;
+}
+
+// A frame that goes to another process is told of there.
+void ChromiumPage::onFrameRemoved(const QString &session, const QJsonObject &params)
+{
+    if (mTargets.isOfPage(session) && params[u"reason"].toString() != "swap"_L1)
+        mDocuments.remove(params[u"frameId"].toString());
+}
+
+// Documents that were there before us are told once more when we come; they are in no row and do not count.
+void ChromiumPage::onLifecycle(const QString &session, const QJsonObject &params)
+{
+    if (params[u"name"].toString() != "load"_L1 || !mTargets.isOfPage(session))
+        return;
+    const QString frame = params[u"frameId"].toString();
+    const QString loader = params[u"loaderId"].toString();
+    const auto document = mDocuments.find(frame);
+    if (document == mDocuments.end() || document->loader != loader || std::exchange(document->complete, true))
+        return;
+    const bool top = frame == mTopFrame;
+    const QString url = top && !mUnreachable.isEmpty() ? mUnreachable : document->url;
+    notice({top ? PageNotice::Kind::PageComplete : PageNotice::Kind::FrameComplete, url});
+    if (top && mLoading.documentLoaded(loader))
+        loadingEnded();
+}
+
+void ChromiumPage::onStartedNavigating(const QString &session, const QJsonObject &params)
+{
+    if (session == mTargets.session() && params[u"frameId"].toString() == mTopFrame)
+        mLoading.started(params[u"loaderId"].toString());
+}
+
+void ChromiumPage::onStoppedLoading(const QString &session, const QJsonObject &params)
+{
+    if (session == mTargets.session() && params[u"frameId"].toString() == mTopFrame && mLoading.stopped())
+        loadingEnded();
+}
+
+void ChromiumPage::onProcessLost()
+{
+    if (mReader)
+        mReader->processLost();
+    mDocuments.clear();
+    if (mLoading.processLost())
+        loadingEnded();
+}
+
+void ChromiumPage::onClosed()
+{
+    if (std::exchange(mClosed, true))
+        return;
+    if (mReader)
+        mReader->processLost(); // a read under way ends at once
+    if (mLoading.cancel())
+        notice({PageNotice::Kind::LoadingEnded});
+    notice({PageNotice::Kind::Closed});
+}
+
+void ChromiumPage::loadingEnded()
+{
+    mWatch->end();
+    refuseCredentials(false);
+    notice({PageNotice::Kind::LoadingEnded});
+}
+
+// ---- What the owner is told
+
+void ChromiumPage::notice(PageNotice notice)
+{
+    mNotices.push_back(std::move(notice));
+    Q_EMIT noticed();
+}
+
+std::optional<PageNotice> ChromiumPage::takeNotice()
+{
+    if (mNotices.empty() || mConnection->isWaiting())
+        return std::nullopt;
+    PageNotice first = std::move(mNotices.front());
+    mNotices.pop_front();
+    return first;
+}

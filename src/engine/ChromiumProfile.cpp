@@ -1,0 +1,78 @@
+#include "engine/ChromiumProfile.h"
+#include "engine/EngineResources.h"
+#include "util/Errors.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int profilesAtMost = 100;
+constexpr QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+
+QString endpointFile(const QString &folder)
+{
+    return folder + u"/DevToolsActivePort"_s;
+}
+
+} // namespace
+
+ChromiumProfile::ChromiumProfile(const QString &dataFolder, const QString &name)
+{
+    if (!QDir().mkpath(dataFolder))
+        throw RuntimeError(ErrorNumber::PathAccessError, u"Cannot make the folder %1."_s.arg(dataFolder));
+    const QString first = QDir(dataFolder).absoluteFilePath(name);
+    for (int number = 1; number <= profilesAtMost; ++number) {
+        if (!take(number == 1 ? first : first + u'-' + QString::number(number)))
+            continue;
+        make();
+        return;
+    }
+    throw RuntimeError(ErrorNumber::PathAccessError, u"Too many browsers run from %1."_s.arg(dataFolder));
+}
+
+// The lock stands beside the folder, whose content is the browser's own.
+bool ChromiumProfile::take(const QString &folder)
+{
+    auto lock = std::make_unique<QLockFile>(folder + u".lock"_s);
+    lock->setStaleLockTime(0); // a lock is stale when its process is gone, however old it is
+    if (!lock->tryLock() && lock->error() == QLockFile::LockFailedError)
+        return false;
+    if (!lock->isLocked())
+        throw RuntimeError(ErrorNumber::PathAccessError, u"Cannot write %1."_s.arg(folder + u".lock"_s));
+    mFolder = folder;
+    mLock = std::move(lock);
+    return true;
+}
+
+void ChromiumProfile::make()
+{
+    const QString settings = mFolder + u"/Default/Preferences"_s;
+    if (!QDir().mkpath(mFolder + u"/Default"_s) || !QFile::setPermissions(mFolder, ownerOnly))
+        throw RuntimeError(ErrorNumber::PathAccessError, u"Cannot make the folder %1."_s.arg(mFolder));
+    if (QFile::exists(settings))
+        return;
+    QFile file(settings);
+    const QByteArray content = engineResource(u"chromium-preferences.json"_s);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        throw RuntimeError(ErrorNumber::PathAccessError, u"Cannot write %1."_s.arg(settings));
+}
+
+// Two lines: the port, and the path of the browser's own endpoint.
+QUrl ChromiumProfile::endpoint() const
+{
+    QFile file(endpointFile(mFolder));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QStringList lines = QString::fromLatin1(file.readAll()).split(u'\n');
+    if (lines.size() < 2 || !lines[1].startsWith(u'/'))
+        return {};
+    return QUrl(u"ws://127.0.0.1:%1%2"_s.arg(lines[0], lines[1]));
+}
+
+void ChromiumProfile::forgetEndpoint()
+{
+    QFile::remove(endpointFile(mFolder));
+}

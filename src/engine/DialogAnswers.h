@@ -1,0 +1,22 @@
+// Answers the boxes that a page puts before its user, so that none ever stands: alert is confirmed, confirm and prompt
+// are declined, "leave this page?" is agreed to.
+#pragma once
+
+#include "engine/DevToolsConnection.h"
+
+class DialogAnswers : public QObject
+{
+    Q_OBJECT
+
+  public:
+    /// `connection` must outlive this object.
+    explicit DialogAnswers(DevToolsConnection &connection) : mConnection(connection) {}
+
+    void answer(const QString &session, const QJsonObject &dialog);
+    /// A new page: its boxes are counted anew.
+    void newPage() { mCount = 0; }
+
+  private:
+    DevToolsConnection &mConnection;
+    int mCount = 0;
+};

@@ -1,0 +1,80 @@
+#include "engine/PageLoading.h"
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+int PageLoading::begin()
+{
+    mOutdated = {mCurrent};
+    if (!mRequested.isEmpty())
+        mOutdated.insert(mRequested);
+    mRequested.clear();
+    mStarted.clear();
+    mLoading = true;
+    mAnswered = false;
+    mCommitted = false;
+    return ++mNumber;
+}
+
+PageLoading::Verdict PageLoading::answered(int number, const QString &loader, const QString &error)
+{
+    if (number != mNumber || !mLoading) {
+        if (!loader.isEmpty() && number != mNumber)
+            mOutdated.insert(loader);
+        return Verdict::Outdated;
+    }
+    mRequested = loader;
+    if (loader.isEmpty() && error.isEmpty())
+        return Verdict::Moved;
+    if (loader.isEmpty()) {
+        end();
+        return Verdict::Ended;
+    }
+    mAnswered = !error.isEmpty();
+    if (error == "net::ERR_ABORTED"_L1)
+        return Verdict::Aborted;
+    if (error == "net::ERR_INVALID_AUTH_CREDENTIALS"_L1)
+        return Verdict::NeedsCredentials;
+    return Verdict::Wait;
+}
+
+// A later request of the top frame has taken the place of ours: its document is awaited.
+bool PageLoading::settle(int number)
+{
+    const bool replaced = !mRequested.isEmpty() && !mStarted.isEmpty() && mStarted != mRequested;
+    return number == mNumber && !replaced && !mCommitted && end();
+}
+
+void PageLoading::committed(const QString &loader)
+{
+    mCurrent = loader;
+    if (mLoading && !mOutdated.contains(loader))
+        mCommitted = true;
+}
+
+bool PageLoading::documentLoaded(const QString &loader)
+{
+    return mCommitted && loader == mCurrent && end();
+}
+
+// Also the end of a page whose load was broken off and of a request that came to nothing.
+bool PageLoading::stopped()
+{
+    return (mCommitted || mAnswered) && end();
+}
+
+bool PageLoading::processLost()
+{
+    return mCommitted && end();
+}
+
+bool PageLoading::cancel()
+{
+    return end();
+}
+
+bool PageLoading::end()
+{
+    return std::exchange(mLoading, false);
+}

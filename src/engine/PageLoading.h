@@ -1,0 +1,59 @@
+// When a page counts as loading: a small machine that is told what the browser reports of the top frame. Knows neither
+// the protocol nor a connection, so every order of events can be tried without a browser.
+//
+// A load begins with begin() and ends with the load event of a document that was put in place since then. Which
+// document that is does not matter: a server's redirection, a script that moves on before its page is complete, a
+// scheme that the browser has changed by itself all put another one in place than was asked for. Documents that belong
+// to an earlier begin() do not count.
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+class PageLoading
+{
+  public:
+    /// What follows from the browser's answer to the request for a page.
+    enum class Verdict {
+        Wait,             ///< a document is coming
+        Ended,            ///< nothing is coming: the request is no address
+        Moved,            ///< a move within the page: settle(), once the browser has told of it
+        Aborted,          ///< a download, no content, or replaced: settle(), once the browser has told all it knows
+        NeedsCredentials, ///< the server asks for a name and password
+        Outdated          ///< the answer belongs to an earlier begin()
+    };
+
+    [[nodiscard]] bool isLoading() const { return mLoading; }
+    /// True from begin() until a document is put in place or loading ends.
+    [[nodiscard]] bool isWaitingForDocument() const { return mLoading && !mCommitted; }
+
+    /// A page has been asked for; what comes of earlier requests does not count. Gives the number that its answer is
+    /// known by.
+    int begin();
+    /// `loader` names the coming document, "" when there is none; `error` is the browser's text, "" for success.
+    Verdict answered(int number, const QString &loader, const QString &error);
+
+    // Each of these gives True when it ends the load.
+    bool settle(int number);
+    bool documentLoaded(const QString &loader);
+    bool stopped();
+    bool processLost();
+    bool cancel();
+
+    /// A request for a document of the top frame has left the browser.
+    void started(const QString &loader) { mStarted = loader; }
+    /// A document has been put in place in the top frame.
+    void committed(const QString &loader);
+
+  private:
+    bool end();
+
+    bool mLoading = false;
+    bool mAnswered = false;  // the request has been answered with an error
+    bool mCommitted = false; // a document that counts is in place
+    int mNumber = 0;
+    QString mCurrent;        // the document in place
+    QString mStarted;        // the latest request of the top frame
+    QString mRequested;      // the document that the answer named
+    QSet<QString> mOutdated; // documents that do not count
+};

@@ -1,0 +1,123 @@
+#include "engine/TargetWatch.h"
+#include "engine/EngineErrors.h"
+#include "util/Errors.h"
+
+#include <QJsonArray>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds callLimit{5};
+// A browser that is just starting opens its window a moment after it answers.
+constexpr std::chrono::milliseconds firstWindowLimit{1500};
+constexpr std::chrono::milliseconds betweenLooks{50};
+
+const QJsonArray pagesOnly{QJsonObject{{u"type"_s, u"page"_s}}};
+
+QJsonObject autoAttach(const QString &type)
+{
+    return {{u"autoAttach"_s, true},
+            {u"waitForDebuggerOnStart"_s, true},
+            {u"flatten"_s, true},
+            {u"filter"_s, QJsonArray{QJsonObject{{u"type"_s, type}}}}};
+}
+
+} // namespace
+
+void TargetWatch::attach()
+{
+    mConnection.call({}, "Target.setDiscoverTargets"_L1, {{u"discover"_s, true}, {u"filter"_s, pagesOnly}}, callLimit);
+    const QJsonObject page = findPage();
+    mTarget = page[u"targetId"].toString();
+    mAddress = page[u"url"].toString();
+    mFamily.insert(mTarget);
+    mConnection.send({}, "Browser.setDownloadBehavior"_L1, {{u"behavior"_s, u"deny"_s}});
+    mConnection.call({}, "Target.setAutoAttach"_L1, autoAttach(u"page"_s), callLimit);
+    mConnection.waitUntil([this] { return !mSession.isEmpty(); }, QDeadlineTimer(callLimit));
+    if (mSession.isEmpty())
+        throw RuntimeError(EngineError::BrowserGone, u"The browser's window cannot be reached."_s);
+}
+
+QJsonObject TargetWatch::findPage()
+{
+    const QDeadlineTimer deadline(firstWindowLimit);
+    do {
+        const QJsonObject answer = mConnection.call({}, "Target.getTargets"_L1, {{u"filter"_s, pagesOnly}}, callLimit);
+        for (const QJsonValue each : answer[u"targetInfos"].toArray()) {
+            if (!each[u"url"].toString().startsWith("devtools:"_L1))
+                return each.toObject();
+        }
+        mConnection.waitUntil([] { return false; }, QDeadlineTimer(betweenLooks));
+    } while (!deadline.hasExpired());
+    return mConnection.call({}, "Target.createTarget"_L1, {{u"url"_s, u"about:blank"_s}, {u"newWindow"_s, true}},
+                            callLimit);
+}
+
+void TargetWatch::attached(const QString &parent, const QJsonObject &params)
+{
+    const QString session = params[u"sessionId"].toString();
+    const QJsonObject info = params[u"targetInfo"].toObject();
+    const QString target = info[u"targetId"].toString();
+    if (isOfPage(parent)) {
+        preparePage(session);
+    } else if (target == mTarget) {
+        mSession = session;
+        preparePage(session);
+        mConnection.send(session, "Page.setInterceptFileChooserDialog"_L1, {{u"enabled"_s, true}, {u"cancel"_s, true}});
+    } else if (mFamily.contains(info[u"openerId"].toString())) {
+        decideOnWindow(session, target, params[u"waitingForDebugger"].toBool());
+    } else {
+        run(session);
+        mConnection.send({}, "Target.detachFromTarget"_L1, {{u"sessionId"_s, session}});
+    }
+}
+
+void TargetWatch::preparePage(const QString &session)
+{
+    mSessions.insert(session);
+    mConnection.send(session, "Page.enable"_L1);
+    mConnection.send(session, "Page.setLifecycleEventsEnabled"_L1, {{u"enabled"_s, true}});
+    mConnection.send(session, "Target.setAutoAttach"_L1, autoAttach(u"iframe"_s));
+    run(session);
+}
+
+// A refused window is closed before it runs and then let run: a window that is closed while it is held leaves the
+// process of its opener held for ever.
+void TargetWatch::decideOnWindow(const QString &session, const QString &target, bool isNew)
+{
+    bool cancel = false;
+    if (isNew)
+        Q_EMIT windowWanted(&cancel);
+    if (cancel) {
+        mConnection.send(session, "Page.close"_L1);
+    } else {
+        mFamily.insert(target);
+        mConnection.send(session, "Page.enable"_L1); // so that its boxes are told, and answered
+    }
+    run(session);
+}
+
+void TargetWatch::run(const QString &session)
+{
+    mConnection.send(session, "Runtime.runIfWaitingForDebugger"_L1);
+}
+
+void TargetWatch::detached(const QJsonObject &params)
+{
+    mSessions.remove(params[u"sessionId"].toString());
+    if (params[u"sessionId"].toString() == mSession)
+        Q_EMIT windowClosed();
+}
+
+void TargetWatch::destroyed(const QJsonObject &params)
+{
+    if (params[u"targetId"].toString() == mTarget)
+        Q_EMIT windowClosed();
+}
+
+void TargetWatch::crashed(const QJsonObject &params)
+{
+    if (params[u"targetId"].toString() == mTarget)
+        Q_EMIT processLost();
+}
