@@ -98,14 +98,6 @@ QStringList Catalog::userTables(Connection &connection)
     return names;
 }
 
-QStringList Catalog::columnNames(Connection &connection, const QString &table)
-{
-    QStringList names;
-    for (const ColumnInfo &column : connection.requireTable(table)->columns)
-        names.append(column.name);
-    return names;
-}
-
 bool Catalog::matches(Connection &connection, const TableFieldMatrix &matrix)
 {
     const QStringList tables = userTables(connection);
@@ -115,7 +107,7 @@ bool Catalog::matches(Connection &connection, const TableFieldMatrix &matrix)
         const QStringList fields = matrix.fieldsOf(row);
         qsizetype hits = 0;
         if (tables.contains(matrix.at(row, 0))) {
-            const QStringList columns = columnNames(connection, matrix.at(row, 0));
+            const QStringList columns = connection.columnNames(matrix.at(row, 0));
             if (columns.size() == fields.size())
                 hits =
                     std::count_if(columns.begin(), columns.end(), [&](const auto &it) { return fields.contains(it); });

@@ -29,9 +29,6 @@ void createAll(Connection &connection, const TableFieldMatrix &matrix);
 /// The names of the user's tables in the order of the catalog.
 [[nodiscard]] QStringList userTables(Connection &connection);
 
-/// The names of a table's columns in order.
-[[nodiscard]] QStringList columnNames(Connection &connection, const QString &table);
-
 /// True if the file has exactly the tables of the matrix, with exactly their columns, by name and number.
 [[nodiscard]] bool matches(Connection &connection, const TableFieldMatrix &matrix);
 } // namespace Catalog

@@ -202,6 +202,16 @@ QStringList Connection::tableNames(bool withEngineTables)
     return names;
 }
 
+QStringList Connection::columnNames(const QString &table)
+{
+    const auto info = readTable(table);
+    QStringList names;
+    if (info)
+        std::transform(info->columns.begin(), info->columns.end(), std::back_inserter(names),
+                       [](const ColumnInfo &column) { return column.name; });
+    return names;
+}
+
 std::shared_ptr<const TableInfo> Connection::table(const QString &name)
 {
     const QString key = name.toLower();
@@ -243,6 +253,11 @@ std::shared_ptr<const TableInfo> Connection::readTable(const QString &name)
         const std::string declared = columns.text(1).toStdString();
         const bool key = columns.integer(2) != 0 && sqlite3_stricmp(declared.c_str(), "INTEGER") == 0;
         info->columns.push_back({columns.text(0), bracketed(columns.text(0)), kindOfDeclaredType(declared), key});
+    }
+    for (const char *word : {"rowid", "_rowid_", "oid"}) {
+        info->key = word;
+        if (info->columnOf(QString::fromLatin1(word)) < 0)
+            break;
     }
     return info;
 }

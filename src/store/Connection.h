@@ -28,6 +28,8 @@ struct TableInfo
     /// In brackets, ready to be put into a statement.
     std::string quoted;
     std::vector<ColumnInfo> columns;
+    /// The word by which statements name a row's key: one that is no column of the table.
+    std::string key = "rowid";
 
     /// The column of that name without regard to case, or -1.
     [[nodiscard]] int columnOf(QStringView columnName) const;
@@ -71,6 +73,8 @@ class Connection
 
     /// The names of tables and views in the order of the catalog, those of the engine itself included on request.
     [[nodiscard]] QStringList tableNames(bool withEngineTables);
+    /// The names of a table's columns in order, whatever table it is; none where it is not there.
+    [[nodiscard]] QStringList columnNames(const QString &table);
     /// A table without regard to case; nothing where there is none, and for the engine's own.
     [[nodiscard]] std::shared_ptr<const TableInfo> table(const QString &name);
     /// The same; error AdoError::NoSuchTable.

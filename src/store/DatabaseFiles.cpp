@@ -45,21 +45,32 @@ bool DatabaseFiles::isFileOrCanBeOne(const QString &path)
     return true;
 }
 
-void DatabaseFiles::create(const QString &path, const TableFieldMatrix &matrix)
+bool DatabaseFiles::isSqlite(const QString &path)
+{
+    constexpr QByteArrayView head("SQLite format 3");
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(head.size()) == head;
+}
+
+void DatabaseFiles::build(const QString &path, const std::function<void(Connection &)> &fill)
 {
     QTemporaryFile place(path + ".XXXXXX"_L1);
     if (!place.open())
         throw AdoError::error(ErrorNumber::PathAccessError);
     place.close();
-    // The engine's own files get the rights that any new file of the user's gets, not those of a temporary one.
+    // The new file gets the rights that any new file of the user's gets, not those of a temporary one.
     place.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    {
-        const auto connection = Connection::open(place.fileName(), Connection::Access::Create);
-        connection->prepareForWriting();
-        Catalog::createAll(*connection, matrix);
-    }
+    fill(*Connection::open(place.fileName(), Connection::Access::Create));
     replaceFile(place.fileName(), path);
     place.setAutoRemove(false);
+}
+
+void DatabaseFiles::create(const QString &path, const TableFieldMatrix &matrix)
+{
+    build(path, [&](Connection &connection) {
+        connection.prepareForWriting();
+        Catalog::createAll(connection, matrix);
+    });
 }
 
 void DatabaseFiles::compact(const QString &path)

@@ -3,6 +3,7 @@
 #include "store/BlobFiles.h"
 #include "store/ColumnKinds.h"
 #include "store/Dates.h"
+#include "util/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -24,7 +25,7 @@ struct FieldValue
 // character long, so it keeps the delimiter's tail: a deliberate oddity of the record format.
 FieldValue split(const QString &element, const QString &delimiter)
 {
-    const qsizetype count = delimiter.isEmpty() ? 0 : element.count(delimiter);
+    const qsizetype count = cUtility::CountChar(element, delimiter);
     if (count == 0)
         throw AdoError::error(ErrorNumber::SubscriptOutOfRange);
     if (count == 1) {

@@ -2,6 +2,7 @@
 #include "store/AdoErrors.h"
 #include "store/ColumnKinds.h"
 #include "store/RecordsetState.h"
+#include "store/SavedRecordset.h"
 
 QString Field::Name() const
 {
@@ -80,6 +81,19 @@ RecordsetState &Recordset::state() const
 Recordset Recordset::unopened()
 {
     return Recordset(std::make_shared<RecordsetState>());
+}
+
+Recordset Recordset::open(const QString &filePath)
+{
+    return Recordset(std::make_shared<RecordsetState>(SavedRecordset::open(filePath), true));
+}
+
+void Recordset::Save(const QString &filePath, SaveFormat format) const
+{
+    if (format == SaveFormat::Binary)
+        SavedRecordset::saveBinary(state().keys(), filePath);
+    else
+        SavedRecordset::saveXml(state().keys(), filePath);
 }
 
 bool Recordset::isOpen() const

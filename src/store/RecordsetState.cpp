@@ -76,9 +76,10 @@ void KeySet::fetch(qint64 count)
     const bool first = mKeys.empty();
     if (mQuery.top >= 0)
         count = std::min(count, mQuery.top - static_cast<qint64>(mKeys.size()));
-    const std::string range = first ? "" : " AND rowid>?2 AND rowid<=?3";
-    Statement keys = mQuery.connection->prepare("SELECT rowid FROM " + mQuery.table->quoted + " WHERE 1" +
-                                                mQuery.condition + range + " ORDER BY rowid LIMIT ?4");
+    const TableInfo &table = *mQuery.table;
+    const std::string range = first ? "" : " AND " + table.key + ">?2 AND " + table.key + "<=?3";
+    Statement keys = mQuery.connection->prepare("SELECT " + table.key + " FROM " + table.quoted + " WHERE 1" +
+                                                mQuery.condition + range + " ORDER BY " + table.key + " LIMIT ?4");
     if (!mQuery.condition.empty())
         keys.bind(1, mQuery.value);
     if (!first)
@@ -90,7 +91,7 @@ void KeySet::fetch(qint64 count)
     const auto fetched = static_cast<qint64>(mKeys.size() - before);
     mComplete = fetched < count || (mQuery.top >= 0 && static_cast<qint64>(mKeys.size()) >= mQuery.top);
     if (first && !mComplete) {
-        Statement last = mQuery.connection->prepare("SELECT max(rowid) FROM " + mQuery.table->quoted);
+        Statement last = mQuery.connection->prepare("SELECT max(" + table.key + ") FROM " + table.quoted);
         mLastKey = last.step() ? last.integer(0) : 0;
     }
 }
@@ -239,7 +240,7 @@ const std::vector<QVariant> &RecordsetState::row()
     if (mRow)
         return *mRow;
     Statement statement = query().connection->prepare("SELECT " + columnList(query()) + " FROM " +
-                                                      query().table->quoted + " WHERE rowid=?1");
+                                                      query().table->quoted + " WHERE " + query().table->key + "=?1");
     if (!statement.bind(1, mKeys->key(mPlace)).step())
         throw AdoError::error(AdoError::RowDeleted);
     std::vector<QVariant> values;
@@ -303,7 +304,8 @@ void RecordsetState::remove()
     requireRow();
     const Query &from = query();
     from.connection->requireLiveTransaction();
-    Statement statement = from.connection->prepare("DELETE FROM " + from.table->quoted + " WHERE rowid=?1");
+    Statement statement =
+        from.connection->prepare("DELETE FROM " + from.table->quoted + " WHERE " + from.table->key + "=?1");
     statement.bind(1, mKeys->key(mPlace));
     from.connection->noteRevision(from.table->name);
     statement.run();

@@ -58,7 +58,8 @@ void RowBuffer::update(qint64 key)
         if (mSet[column])
             changes.append(changes.empty() ? "" : ",").append(mTable->columns[column].quoted).append("=?");
     }
-    Statement statement = mConnection.prepare("UPDATE " + mTable->quoted + " SET " + changes + " WHERE rowid=?");
+    Statement statement =
+        mConnection.prepare("UPDATE " + mTable->quoted + " SET " + changes + " WHERE " + mTable->key + "=?");
     int place = 0;
     for (std::size_t column = 0; column < mSet.size(); ++column) {
         if (mSet[column])

@@ -1,5 +1,6 @@
 #include "store/TableFieldMatrix.h"
 #include "store/AdoErrors.h"
+#include "util/Text.h"
 
 #include <algorithm>
 
@@ -23,15 +24,6 @@ RuntimeError limitExceeded(qint64 number, QLatin1StringView what, int limit)
     return {number, u"Maximum number of %1 %2 exceeded!"_s.arg(what).arg(limit)};
 }
 
-QString trimBlanks(const QString &text)
-{
-    QStringView view(text);
-    while (view.startsWith(u' '))
-        view = view.sliced(1);
-    while (view.endsWith(u' '))
-        view.chop(1);
-    return view.toString();
-}
 } // namespace
 
 QString LetterAndNumbersOnly(const QString &text, bool bRemoveSpaces)
@@ -99,7 +91,7 @@ int TableFieldMatrix::fieldCount(int tableIndex, const QString &tableName) const
 int TableFieldMatrix::rowOf(int tableIndex, const QString &tableName) const
 {
     const int count = tableCount();
-    const QString name = trimBlanks(tableName);
+    const QString name = cUtility::Trim(tableName).toString();
     if (name.isEmpty())
         return tableIndex >= 0 && tableIndex < count ? tableIndex : -1;
     for (int row = 0; row < count; ++row) {

@@ -1,5 +1,6 @@
 #include "store/TableListFile.h"
 #include "store/AdoErrors.h"
+#include "util/Ansi.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -26,7 +27,7 @@ std::vector<QStringList> readTableListFile(const QString &fileName)
     QFile file(fileName);
     if (fileName.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
-    const QString text = QString::fromLatin1(file.readAll());
+    const QString text = Ansi::decode(file.readAll());
     qsizetype open = text.indexOf(u'[');
     if (open < 0 || text.indexOf(u']', open) < 0)
         return {};

@@ -6,6 +6,7 @@
 #include "store/RecordWriter.h"
 #include "store/RecordsetState.h"
 #include "store/TableListFile.h"
+#include "util/Text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -23,15 +24,6 @@ constexpr Place place(QLatin1StringView location)
 // A query that fails in one of these ways gives a set that was never opened, and its reader finds out.
 constexpr std::array leftToTheReader{AdoError::BadSql, AdoError::NoSuchTable, AdoError::ConnectionClosed};
 
-QString trimBlanks(const QString &text)
-{
-    QStringView view(text);
-    while (view.startsWith(u' '))
-        view = view.sliced(1);
-    while (view.endsWith(u' '))
-        view.chop(1);
-    return view.toString();
-}
 } // namespace
 
 cAdoMdb::cAdoMdb(ErrorReceiver &log, AskYesNo ask) : mLog(log), mAsk(std::move(ask)) {}
@@ -48,7 +40,7 @@ QString cAdoMdb::DatabasePath()
 void cAdoMdb::setDatabasePath(const QString &sNewDatabasePathValue)
 {
     guarded(mLog, place("Let DatabasePath"_L1), [&] {
-        const QString path = trimBlanks(sNewDatabasePathValue);
+        const QString path = cUtility::Trim(sNewDatabasePathValue).toString();
         if (path.isEmpty() || !DatabaseFiles::isFileOrCanBeOne(path))
             return;
         mDatabasePath = path;
@@ -159,7 +151,7 @@ bool cAdoMdb::TestDatabase(bool bOpenConnection)
 bool cAdoMdb::LoadDatabase(const QString &sNewDatabasePath)
 {
     return guardedResult(mLog, place("Function LoadDatabase"_L1), false, [&](bool &loaded) {
-        const QString path = trimBlanks(sNewDatabasePath);
+        const QString path = cUtility::Trim(sNewDatabasePath).toString();
         if (!QFileInfo(DatabasePath()).isFile() && !QFileInfo(path).isFile())
             return;
         if (!path.isEmpty())
@@ -170,7 +162,7 @@ bool cAdoMdb::LoadDatabase(const QString &sNewDatabasePath)
         mobjAdoConn->prepareForWriting();
         for (const QString &table : Catalog::userTables(*mobjAdoConn)) {
             Tables_AddItem(table);
-            for (const QString &column : Catalog::columnNames(*mobjAdoConn, table))
+            for (const QString &column : mobjAdoConn->columnNames(table))
                 Fields_AddItem(column, -1, LetterAndNumbersOnly(table, true));
         }
         loaded = true;

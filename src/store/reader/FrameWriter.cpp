@@ -1,0 +1,34 @@
+#include "store/reader/FrameWriter.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+
+namespace {
+constexpr int nobodyReads = 3;
+
+void put(const void *bytes, std::size_t count)
+{
+    if (std::fwrite(bytes, 1, count, stdout) != count)
+        std::_Exit(nobodyReads);
+}
+} // namespace
+
+void writeFrame(Frames::Kind kind, std::string_view bytes)
+{
+    if (bytes.size() > Frames::maxLength)
+        throw std::length_error("A value is too long.");
+    const auto length = static_cast<std::uint32_t>(bytes.size());
+    const std::array<unsigned char, 5> head{
+        static_cast<unsigned char>(kind), static_cast<unsigned char>(length), static_cast<unsigned char>(length >> 8U),
+        static_cast<unsigned char>(length >> 16U), static_cast<unsigned char>(length >> 24U)};
+    put(head.data(), head.size());
+    put(bytes.data(), bytes.size());
+}
+
+void flushFrames()
+{
+    if (std::fflush(stdout) != 0)
+        std::_Exit(nobodyReads);
+}

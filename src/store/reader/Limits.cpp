@@ -1,0 +1,27 @@
+#include "store/reader/Limits.h"
+
+#ifdef __unix__
+#include <sys/resource.h>
+
+namespace {
+void bound(__rlimit_resource resource, rlim_t most)
+{
+    const rlimit limit{most, most};
+    setrlimit(resource, &limit);
+}
+} // namespace
+
+void limitThisProcess()
+{
+    constexpr rlim_t processorSeconds = 300;
+    bound(RLIMIT_CPU, processorSeconds);
+    bound(RLIMIT_CORE, 0);
+    bound(RLIMIT_FSIZE, 0);
+#ifndef __SANITIZE_ADDRESS__
+    constexpr rlim_t memory = 1024UL * 1024UL * 1024UL;
+    bound(RLIMIT_AS, memory);
+#endif
+}
+#else
+void limitThisProcess() {}
+#endif
