@@ -12,6 +12,7 @@ constexpr std::chrono::seconds callLimit{5};
 // A browser that is just starting opens its window a moment after it answers.
 constexpr std::chrono::milliseconds firstWindowLimit{1500};
 constexpr std::chrono::milliseconds betweenLooks{50};
+constexpr std::chrono::seconds pageLimit{3};
 
 const QJsonArray pagesOnly{QJsonObject{{u"type"_s, u"page"_s}}};
 
@@ -37,6 +38,19 @@ void TargetWatch::attach()
     mConnection.waitUntil([this] { return !mSession.isEmpty(); }, QDeadlineTimer(callLimit));
     if (mSession.isEmpty())
         throw RuntimeError(EngineError::BrowserGone, u"The browser's window cannot be reached."_s);
+    awaitPage();
+}
+
+// A page that hangs in a script must not keep us from attaching, and does not answer before it is broken off.
+void TargetWatch::awaitPage()
+{
+    const auto answered = std::make_shared<bool>(false);
+    mConnection.send(mSession, "Page.getFrameTree"_L1, {}, [answered](const auto &) { *answered = true; });
+    const auto wait = [&] { return mConnection.waitUntil([&] { return *answered; }, QDeadlineTimer(pageLimit)); };
+    if (!wait()) {
+        mConnection.send(mSession, "Runtime.terminateExecution"_L1);
+        wait();
+    }
 }
 
 QJsonObject TargetWatch::findPage()

@@ -40,6 +40,7 @@ class TargetWatch : public QObject
 
   private:
     [[nodiscard]] QJsonObject findPage();
+    void awaitPage();
     void preparePage(const QString &session);
     void decideOnWindow(const QString &session, const QString &target, bool isNew);
     void run(const QString &session);
