@@ -3,11 +3,11 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 /// A record is one line, whatever a page or a file has put into the description.
 QString oneLine(QString text)
 {
@@ -61,10 +61,9 @@ void ErrorLog::show(const QString &record)
     // An error raised while a box is open is in the file already; boxes do not pile up.
     if (mAsking)
         return;
-    mAsking = true;
+    const QScopedValueRollback<bool> asking(mAsking, true);
     const QString prompt = u"\r\nError was logged in "_s + fileName + u"\r\nOpen Error LOG?"_s;
     const auto answer = mDialogs.askAboutError(u"An error occurred!"_s, record, prompt);
-    mAsking = false;
     if (answer == UserDialogs::Answer::Yes)
         mDesktop.open(filePath());
     else if (answer == UserDialogs::Answer::Cancel)

@@ -24,6 +24,9 @@ AutoRun::AutoRun(ErrorReceiver &log, frmSearch &form, StatusLine &status, Contro
 void AutoRun::cmdANStart_Click()
 {
     if (mForm.cmdANStart.caption() == goCaption) {
+        // A run that was told to stop unwinds first; a second one on top of it would take its waits and its flags away.
+        if (mForm.mbANRunning)
+            return;
         mForm.cmdANStart.setCaption(stopCaption);
         mForm.mbANCancel = false;
         StartProcessAN();

@@ -14,8 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr int uniqueServers = 1;
 constexpr int saveUrlWithEmail = 3;
@@ -130,22 +129,24 @@ bool ResultWriters::SaveEmail(PageReading &page)
 {
     return guardedResult(mLog, {module, "Sub SaveEmail"_L1}, false, [&](bool &saved) {
         const QString &html = page.html();
-        QStringList addresses = html.size() < shortestPage ? QStringList() : cIEText::CollectEmail(html, u"@", mLog.ifListening());
+        QStringList addresses =
+            html.size() < shortestPage ? QStringList() : cIEText::CollectEmail(html, u"@", mLog.ifListening());
         const QString url = mForm.chkSMD(saveUrlWithEmail).value() == 1 ? page.url() : QString();
         if (firstOf(addresses).isEmpty())
             return;
         addresses = cUtility::RemoveRepeatsFromArray(addresses);
         if (mForm.chkEmailBlocking.isOn())
-            addresses =
-                cUtility::FilterArray(addresses, cLstBx::GetItems(mForm.lstBlockedEmailC, cLstBx::Which::All));
+            addresses = cUtility::FilterArray(addresses, cLstBx::GetItems(mForm.lstBlockedEmailC, cLstBx::Which::All));
         QString index;
         if (firstOf(addresses).isEmpty() || !summaryIndex(page, {}, index))
             return;
+        bool added = false;
         for (const QString &address : std::as_const(addresses)) {
             if (!address.isEmpty() && !exists("SELECT Address FROM EmailAddress WHERE address='"_L1 + address + u'\''))
-                saved |= add(u"EmailAddress"_s, {recordElement("SSIndex"_L1, index), recordElement("Address"_L1, address),
-                                                 recordElement("Url"_L1, url)});
+                added |= add(u"EmailAddress"_s, {recordElement("SSIndex"_L1, index),
+                                                 recordElement("Address"_L1, address), recordElement("Url"_L1, url)});
         }
+        saved = added;
     });
 }
 
@@ -161,12 +162,14 @@ bool ResultWriters::SavePhone(PageReading &page)
         QString index;
         if (!summaryIndex(page, {}, index))
             return;
+        bool added = false;
         for (const QString &number : std::as_const(numbers)) {
             if (!number.isEmpty() && !exists("SELECT Number FROM PhoneNumber WHERE Number='"_L1 + number + u'\''))
-                saved |= add(u"PhoneNumber"_s,
+                added |= add(u"PhoneNumber"_s,
                              {recordElement("SSIndex"_L1, index), recordElement("Number"_L1, number),
                               recordElement("Type"_L1, fax ? u"Fax"_s : u"Any"_s), recordElement("Url"_L1, url)});
         }
+        saved = added;
     });
 }
 
@@ -177,7 +180,9 @@ QString ResultWriters::GetSSIndex(PageReading &page, const QString &url)
         const QString keyServer = url.isEmpty() ? cIEText::GetServerFromUrl(key, cIEText::hostOnly) : QString();
         index = u"-1"_s;
         Recordset rows = mDatabase->GetRecordset(u"SELECT Index,Url FROM SiteSummary"_s);
-        const auto equals = [](QStringView left, QStringView right) { return cUtility::equalIgnoringCase(left, right); };
+        const auto equals = [](QStringView left, QStringView right) {
+            return cUtility::equalIgnoringCase(left, right);
+        };
         for (; !rows.Eof(); rows.MoveNext()) {
             const QString rowUrl = FixNull(rows.Fields()["Url"_L1]);
             const QString rowServer = cIEText::GetServerFromUrl(rowUrl, cIEText::hostOnly);

@@ -5,10 +5,12 @@
 #include "util/Arrays.h"
 #include "util/Incr.h"
 
+#include <QSet>
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr auto section = "SecFrmSearch"_L1;
 constexpr auto lineEnd = "\r\n"_L1;
@@ -35,6 +37,37 @@ bool isEmptyArray(const QStringList &array)
 {
     return upperBound(array) == 0 && array.constFirst().isEmpty();
 }
+
+void appendTo(QStringList &array, const QString &element)
+{
+    if (isEmptyArray(array))
+        array.clear();
+    array.append(element);
+}
+
+/// The names of one table, and the next that is free. Names are told apart without regard to case, as the table does.
+class MaskNames
+{
+  public:
+    MaskNames(cAdoMdb &database, const QString &table, QLatin1StringView start) : mCandidate(start)
+    {
+        Recordset rows = database.GetRecordset("SELECT MaskName FROM "_L1 + table);
+        for (; !rows.Eof(); rows.MoveNext())
+            mTaken.insert(FixNull(rows.Fields()["MaskName"_L1]).toLower());
+    }
+    /// Each call gives another one.
+    [[nodiscard]] QString next()
+    {
+        do {
+            mCandidate = cUtility::Incr(mCandidate, 4, false, 1, u"", u"1", u"", false);
+        } while (mTaken.contains(mCandidate.toLower()));
+        return mCandidate;
+    }
+
+  private:
+    QSet<QString> mTaken;
+    QString mCandidate;
+};
 } // namespace
 
 SavedUrls::SavedUrls(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states,
@@ -57,10 +90,10 @@ QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, co
         for (int i = 0; i <= upperBound(array); ++i) {
             const QStringList parts = array[i].split(lineEnd);
             const QString address = parts.value(1);
-            const bool hit = index >= 0          ? i == index
-                             : !item.isEmpty()   ? array[i] == item
-                             : !name.isEmpty()   ? parts[0] == name
-                                                 : !url.isEmpty() && address == url;
+            const bool hit = index >= 0        ? i == index
+                             : !item.isEmpty() ? array[i] == item
+                             : !name.isEmpty() ? parts[0] == name
+                                               : !url.isEmpty() && address == url;
             if (!hit)
                 continue;
             result = answer == Answer::Index ? QString::number(i) : answer == Answer::Name ? parts[0] : address;
@@ -72,17 +105,7 @@ QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, co
 QString SavedUrls::GetNewMaskName(Kind kind, const QString &otherTable)
 {
     return guardedResult(mLog, {module, "Function GetNewMaskName"_L1}, QString(), [&](QString &result) {
-        const QString name = otherTable.isEmpty() ? table(kind) : otherTable;
-        QString candidate = row(kind).firstName;
-        const auto isTaken = [&] {
-            const Recordset rows = mDatabase->GetRecordset("SELECT MaskName FROM "_L1 + name + " WHERE MaskName='"_L1 +
-                                                      candidate + u'\'');
-            return !(rows.Bof() && rows.Eof());
-        };
-        do {
-            candidate = cUtility::Incr(candidate, 4, false, 1, u"", u"1", u"", false);
-        } while (isTaken());
-        result = candidate;
+        result = MaskNames(*mDatabase, otherTable.isEmpty() ? table(kind) : otherTable, row(kind).firstName).next();
     });
 }
 
@@ -92,18 +115,19 @@ void SavedUrls::LoadSavedUrls(Kind kind)
         mForm.cboANSavedUrls.clear();
         mForm.mastrSavedUrlIds = emptyList();
         Recordset rows = mDatabase->GetRecordset("SELECT MaskName,Url FROM "_L1 + table(kind));
-        QStringList elements;
+        std::optional<MaskNames> names; // read when the first row without a name asks for it
         for (; !rows.Eof(); rows.MoveNext()) {
             QString name = FixNull(rows.Fields()["MaskName"_L1]);
             if (name.isEmpty()) {
-                name = GetNewMaskName(kind);
+                if (!names)
+                    names.emplace(*mDatabase, table(kind), row(kind).firstName);
+                name = names->next();
                 rows.Fields()["MaskName"_L1].setValue(name);
                 rows.Update();
             }
-            elements.append(name + lineEnd + FixNull(rows.Fields()["Url"_L1]));
+            appendTo(mForm.mastrSavedUrlIds, name + lineEnd + FixNull(rows.Fields()["Url"_L1]));
             mForm.cboANSavedUrls.addItem(name);
         }
-        mForm.mastrSavedUrlIds = orEmptyList(std::move(elements));
     });
     mStates.SetStateOfControls();
 }
@@ -131,14 +155,14 @@ void SavedUrls::AddSavedUrl(bool report, const QString &letter)
         if (name.isEmpty())
             return mStatus.UpDateStatus(report ? u"Url Exists (%1)"_s.arg(target) : QString());
         if (letter.isEmpty() || letter == onShow) {
-            if (isEmptyArray(mForm.mastrSavedUrlIds))
-                mForm.mastrSavedUrlIds.clear();
-            mForm.mastrSavedUrlIds.append(name + lineEnd + url);
+            appendTo(mForm.mastrSavedUrlIds, name + lineEnd + url);
             mForm.cboANSavedUrls.addItem(name);
             mForm.cboANSavedUrls.setListIndex(mForm.cboANSavedUrls.listCount() - 1);
         }
-        mDatabase->AddRecord({recordElement("MaskName"_L1, name), recordElement("Url"_L1, url)}, -1, target, rowMarker);
-        mStatus.UpDateStatus(u"%1 Saved (%2)"_s.arg(name, target));
+        // What did not reach the table is not told as saved.
+        if (mDatabase->AddRecord({recordElement("MaskName"_L1, name), recordElement("Url"_L1, url)}, -1, target,
+                                 rowMarker))
+            mStatus.UpDateStatus(u"%1 Saved (%2)"_s.arg(name, target));
     });
 }
 
@@ -159,6 +183,8 @@ void SavedUrls::RemoveSavedUrl()
         if (index < 0)
             return;
         mDatabase->DeleteRecords(table(kind), u"MaskName"_s, mForm.cboANSavedUrls.text().trimmed(), false);
+        if (index > upperBound(mForm.mastrSavedUrlIds))
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange, u"Subscript out of range"_s);
         mForm.mastrSavedUrlIds[index].clear();
         mForm.mastrSavedUrlIds = orEmptyList(cUtility::RemoveEmptyItemsFromArray(mForm.mastrSavedUrlIds));
         refillBox();

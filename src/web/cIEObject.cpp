@@ -7,17 +7,15 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "cIEObject"_L1;
-constexpr qint64 browserIsBusy = 0x800700AA;
+constexpr quint32 browserIsBusy = 0x800700AA;
 constexpr int shortestPage = 10;
 
 bool beginsWithProtocol(QStringView address)
 {
-    return std::any_of(protocolTypes.begin(), protocolTypes.end(), [&](QStringView protocol) {
-        return cUtility::startsWithIgnoringCase(address, protocol);
-    });
+    return std::any_of(protocolTypes.begin(), protocolTypes.end(),
+                       [&](QStringView protocol) { return cUtility::startsWithIgnoringCase(address, protocol); });
 }
 } // namespace
 
@@ -27,6 +25,13 @@ cIEObject::cIEObject(ErrorReceiver &log, Desktop &desktop, ClipboardText &clipbo
 }
 
 cIEObject::~cIEObject() = default;
+
+BrowserEngine *cIEObject::engine() const
+{
+    if (!moIE)
+        throw RuntimeError(ErrorNumber::ObjectNotSet, u"Object variable or With block variable not set"_s);
+    return moIE.get();
+}
 
 template <class Result, class Body> Result cIEObject::read(QLatin1StringView location, Result result, Body body)
 {
@@ -44,6 +49,8 @@ template <class Body> void cIEObject::act(QLatin1StringView location, Body body)
 bool cIEObject::InitializeObject(std::shared_ptr<BrowserEngine> browser)
 {
     guarded(mLog, {module, "Function InitializeObject"_L1}, [&] {
+        if (moIE)
+            moIE->disconnect(this);
         moIE = browser ? std::move(browser) : GetActiveBrowser();
         if (!moIE)
             return;
@@ -69,27 +76,27 @@ QString cIEObject::InternetExplorerPath() const
 
 void cIEObject::IEStop()
 {
-    act("Sub IETop"_L1, [&] { moIE->Stop(); });
+    act("Sub IETop"_L1, [&] { engine()->Stop(); });
 }
 
 void cIEObject::IETop(int pixels)
 {
-    act("Sub IETop"_L1, [&] { moIE->setTop(pixels); });
+    act("Sub IETop"_L1, [&] { engine()->setTop(pixels); });
 }
 
 void cIEObject::IELeft(int pixels)
 {
-    act("Sub IELeft"_L1, [&] { moIE->setLeft(pixels); });
+    act("Sub IELeft"_L1, [&] { engine()->setLeft(pixels); });
 }
 
 void cIEObject::IEWidth(int pixels)
 {
-    act("Sub IEWidth"_L1, [&] { moIE->setWidth(pixels); });
+    act("Sub IEWidth"_L1, [&] { engine()->setWidth(pixels); });
 }
 
 void cIEObject::IEHeight(int pixels)
 {
-    act("Sub IEHeight"_L1, [&] { moIE->setHeight(pixels); });
+    act("Sub IEHeight"_L1, [&] { engine()->setHeight(pixels); });
 }
 
 void cIEObject::NavigateToUrl(const QString &address)
@@ -98,49 +105,49 @@ void cIEObject::NavigateToUrl(const QString &address)
         return;
     try {
         if (beginsWithProtocol(address))
-            moIE->Navigate(address);
+            engine()->Navigate(address);
         else if (address.contains(u'@'))
             mDesktop.open("mailto:"_L1 + address + "?Subject=Hello"_L1);
         else
-            moIE->Navigate("http://"_L1 + address);
+            engine()->Navigate("http://"_L1 + address);
     } catch (...) {
         const RuntimeError error = currentError();
-        if (error.number() != browserIsBusy)
+        if (static_cast<quint32>(error.number()) != browserIsBusy)
             mLog.ErrorLogger(error.number(), error.description(), module, u"NavigateToUrl"_s);
     }
 }
 
 QString cIEObject::GetSiteUrl()
 {
-    return read("Function GetSiteUrl"_L1, QString(), [&](QString &url) { url = moIE->LocationURL(); });
+    return read("Function GetSiteUrl"_L1, QString(), [&](QString &url) { url = engine()->LocationURL(); });
 }
 
 QString cIEObject::GetSiteTitle()
 {
-    return read("Function GetSiteTitle"_L1, QString(), [&](QString &title) { title = moIE->LocationName(); });
+    return read("Function GetSiteTitle"_L1, QString(), [&](QString &title) { title = engine()->LocationName(); });
 }
 
 QString cIEObject::GetBrowserHTML()
 {
     return read("GetBrowserHtml"_L1, QString(),
-                [&](QString &html) { html = moIE->documentPart(BrowserEngine::Part::Html); });
+                [&](QString &html) { html = engine()->documentPart(BrowserEngine::Part::Html); });
 }
 
 QString cIEObject::GetBrowserText()
 {
     return read("GetBrowserText"_L1, QString(),
-                [&](QString &text) { text = moIE->documentPart(BrowserEngine::Part::Text); });
+                [&](QString &text) { text = engine()->documentPart(BrowserEngine::Part::Text); });
 }
 
 PageContent cIEObject::GetPage()
 {
-    return read("GetBrowserHtml"_L1, PageContent(), [&](PageContent &page) { page = moIE->content(); });
+    return read("GetBrowserHtml"_L1, PageContent(), [&](PageContent &page) { page = engine()->content(); });
 }
 
 QStringList cIEObject::GetLinksOnWebPage()
 {
     return read("GetLinksOnWebPage"_L1, mbHasBrowser ? emptyList() : QStringList(),
-                [&](QStringList &links) { links = orEmptyList(moIE->links()); });
+                [&](QStringList &links) { links = orEmptyList(engine()->links()); });
 }
 
 QStringList cIEObject::GetLinksOnAllFrames(bool topDocumentOnly)
@@ -152,12 +159,12 @@ QStringList cIEObject::GetLinksOnAllFrames(bool topDocumentOnly)
         // Each frame starts over at the front and cuts off what the frame before it left behind.
         for (int i = 0; i <= highest && !refused; ++i) {
             refused = !guarded(mLog, {module, location}, [&] {
-                if (const QStringList found = moIE->frameLinks(i); !found.isEmpty())
+                if (const QStringList found = engine()->frameLinks(i); !found.isEmpty())
                     links = found;
             });
         }
         if (refused)
-            links = orEmptyList(moIE->links());
+            links = orEmptyList(engine()->links());
     });
 }
 
@@ -166,10 +173,10 @@ QString cIEObject::allFrames(BrowserEngine::Part part, QLatin1StringView locatio
     return read(location, QString(), [&](QString &all) {
         const int highest = FrameCount();
         if (highest < 1)
-            all = moIE->documentPart(part);
+            all = engine()->documentPart(part);
         else
             for (int i = 0; i <= highest; ++i)
-                all += moIE->framePart(i, part);
+                all += engine()->framePart(i, part);
     });
 }
 
@@ -185,28 +192,28 @@ QString cIEObject::GetTextFromAllFrames()
 
 int cIEObject::FrameCount()
 {
-    return read("Function FrameCount"_L1, 0, [&](int &highest) { highest = moIE->frameCount() - 1; });
+    return read("Function FrameCount"_L1, 0, [&](int &highest) { highest = engine()->frameCount() - 1; });
 }
 
 QString cIEObject::GetFrame(int index)
 {
     return read("Function Frame"_L1, QString(), [&](QString &html) {
         if (index >= 0 && index < FrameCount())
-            html = moIE->framePart(index, BrowserEngine::Part::Html);
+            html = engine()->framePart(index, BrowserEngine::Part::Html);
     });
 }
 
 QString cIEObject::CopySelection()
 {
     return read("CopySelection"_L1, QString(), [&](QString &text) {
-        moIE->copySelection();
+        engine()->copySelection();
         text = mClipboard.text();
     });
 }
 
 void cIEObject::SaveWebPage()
 {
-    act("Sub SaveWebPage"_L1, [&] { moIE->saveAs(); });
+    act("Sub SaveWebPage"_L1, [&] { engine()->saveAs(); });
 }
 
 QStringList cIEObject::CollectEmail(const QString &text, const QString &search)

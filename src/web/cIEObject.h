@@ -15,7 +15,8 @@ class cIEObject : public QObject
     cIEObject(ErrorReceiver &log, Desktop &desktop, ClipboardText &clipboard, BrowserFactory &browsers);
     ~cIEObject() override;
 
-    /// Takes `browser`, or the running one if that is nothing. True once a browser has been taken.
+    /// Takes `browser`, or the running one if that is nothing. True once a browser has been taken, also when a later call
+    /// finds none; what is then asked of the browser is error 91.
     bool InitializeObject(std::shared_ptr<BrowserEngine> browser);
     /// A free-standing window of ours that runs already, or nothing.
     [[nodiscard]] std::shared_ptr<BrowserEngine> GetActiveBrowser();
@@ -72,6 +73,7 @@ class cIEObject : public QObject
     template <class Result, class Body> Result read(QLatin1StringView location, Result result, Body body);
     template <class Body> void act(QLatin1StringView location, Body body);
     QString allFrames(BrowserEngine::Part part, QLatin1StringView location);
+    [[nodiscard]] BrowserEngine *engine() const;
 
     ErrorReceiver &mLog;
     Desktop &mDesktop;

@@ -19,6 +19,7 @@ class AutoTab : public QObject
         ControlStates &states;
         cTimer &timer;
         BrowserHolder &browser;
+        Desktop &desktop;
         SavedUrls &savedUrls;
         AutoRun &run;
         BrowserConnection &connection;
@@ -33,8 +34,11 @@ class AutoTab : public QObject
     void lblTrawlexTimer_MouseDown(MouseButton button);
     void lblTrawlexTimer_MouseMove();
     void lblAutoCollect_MouseDown(MouseButton button);
+    void lblAutoCollect_MouseMove();
+    void lblPageSaved_MouseDown(MouseButton button);
     void cboANList_Click();
-    void sstSearch_Click();
+    void tab_Click(bool ofSettings);
+    void picStatus_DblClick();
 
     Parts m;
 };

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr auto pathKey = "IEPath"_L1;
 constexpr int internalMode = 0;
@@ -88,8 +87,10 @@ void BrowserConnection::cmdANInitialize_Click()
 {
     mForm.cmdANInitialize.setEnabled(false);
     mStatus.UpDateStatus(u"Initializing browser"_s);
+    const int attempt = mAttempt;
     mOut.pump.doEvents();
-    InitializeIE();
+    if (attempt == mAttempt)
+        InitializeIE();
 }
 
 bool BrowserConnection::VerifyIEPath()
@@ -97,9 +98,9 @@ bool BrowserConnection::VerifyIEPath()
     return guardedResult(mLog, {module, "Function VerifyIEPath"_L1}, false, [&](bool &found) {
         const QString stored = mOut.settings.GetSetting(Options::section, pathKey);
         // A browser that the user has chosen comes before the one that happens to be installed.
-        if (QFileInfo::exists(stored))
+        if (QFileInfo(stored).isFile())
             mBrowser->setInternetExplorerPath(stored);
-        found = QFileInfo::exists(mBrowser->InternetExplorerPath());
+        found = QFileInfo(mBrowser->InternetExplorerPath()).isFile();
         if (found)
             return;
         if (!stored.isEmpty()) {
@@ -107,8 +108,7 @@ bool BrowserConnection::VerifyIEPath()
             found = true;
             return;
         }
-        const QString chosen =
-            mOut.dialogs.chooseFile({}, u"Programs (*)|*|"_s, u"Locate Internet Explorer"_s);
+        const QString chosen = mOut.dialogs.chooseFile({}, u"Programs (*)|*|"_s, u"Locate Internet Explorer"_s);
         if (chosen.isEmpty() || !mOut.browsers.isDrivable(QFileInfo(chosen).fileName().toLower()))
             return;
         // It takes effect at the next start.
@@ -137,7 +137,8 @@ void BrowserConnection::windowClosed()
 
 void BrowserConnection::newWindow(bool *cancel)
 {
-    if (mForm.chkSMV(blockPopUps).isOn())
+    // The built-in browser has no second window.
+    if (mForm.mbInternalBrowser || mForm.chkSMV(blockPopUps).isOn())
         *cancel = true;
 }
 

@@ -98,7 +98,11 @@ bool DatabaseLoader::LoadDBData(bool useFileBox)
         const auto stored = [&](QLatin1StringView key) {
             return mSettings.GetSetting(Options::section, key, u"0"_s).toInt();
         };
-        mForm.chkUseSavedUrls.setValue(mForm.cboANSavedUrls.listCount() > 0 ? stored("chkUseSavedUrls"_L1) : 0);
+        const int useSaved = mForm.cboANSavedUrls.listCount() > 0 ? stored("chkUseSavedUrls"_L1) : 0;
+        if (mForm.chkUseSavedUrls.value() != useSaved)
+            mForm.chkUseSavedUrls.setValue(useSaved);
+        else
+            Q_EMIT mForm.chkUseSavedUrls.Click(); // its logic runs in any case
         mForm.chkMustNotContain.setValue(stored("SearchKeyChkMustNotContain Value"_L1));
         mForm.chkMustContain.setValue(stored("SearchKeyChkMustContain Value"_L1));
         restoreBlocking(mForm.chkUrlBlocking, mForm.lstBlockedUrlC, "chkUrlBlocking"_L1);

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr auto formName = "frmSearch"_L1;
 constexpr auto keepOnTopKey = "mnuANStatusKeepOnTop"_L1;
@@ -21,15 +20,20 @@ struct DigitRow
     int digits;
 };
 
-constexpr DigitRow digitCounts[] = {
-    {&frmSearch::incMNAutoUrl, 10},      {&frmSearch::incSFMinFileSize, 6}, {&frmSearch::incNotFoundMinSize, 6},
-    {&frmSearch::incSMAIEWidth, 4},      {&frmSearch::incSMAIEHeight, 4},   {&frmSearch::incSFMinGraphicSize, 6},
-    {&frmSearch::incSMAMAutoTxtElng, 4}, {&frmSearch::incSMDMinHtmlSize, 6}};
+constexpr DigitRow digitCounts[] = {{&frmSearch::incMNAutoUrl, 10},      {&frmSearch::incSFMinFileSize, 6},
+                                    {&frmSearch::incNotFoundMinSize, 6}, {&frmSearch::incSMAIEWidth, 4},
+                                    {&frmSearch::incSMAIEHeight, 4},     {&frmSearch::incSFMinGraphicSize, 6},
+                                    {&frmSearch::incSMAMAutoTxtElng, 4}, {&frmSearch::incSMDMinHtmlSize, 6}};
 } // namespace
 
 LifeCycle::LifeCycle(const Parts &parts) : m(parts)
 {
     connect(&m.loader, &DatabaseLoader::unloadRequested, this, &LifeCycle::end);
+    // A run that has been told to end may still have a wait before it; that wait is over as it begins.
+    connect(&m.timer, &cTimer::started, this, [this] {
+        if (mEnding)
+            m.timer.CancelTimer();
+    });
 }
 
 bool LifeCycle::Form_Load()
@@ -106,6 +110,12 @@ void LifeCycle::end()
         Form_Unload();
 }
 
+void LifeCycle::endWithoutSaving()
+{
+    mSaving = false;
+    end();
+}
+
 void LifeCycle::runEnded()
 {
     if (mEnding)
@@ -118,7 +128,7 @@ void LifeCycle::Form_Unload()
         return;
     mUnloaded = true;
     guarded(m.log, {module, "Sub Form_Unload"_L1}, [&] {
-        if (m.form.mbFormReady) {
+        if (m.form.mbFormReady && mSaving) {
             m.options.saveAtExit();
             SaveFF(m.settings, formName, m.place.place());
         }

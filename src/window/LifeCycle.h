@@ -36,6 +36,8 @@ class LifeCycle : public QObject
     void Terminate();
     /// Ends without asking: at once, or as soon as the run on the stack has unwound.
     void end();
+    /// Ends like end(), but nothing is written: what the user did since the start is not kept.
+    void endWithoutSaving();
     [[nodiscard]] bool isEnding() const { return mEnding; }
     /// A run has ended; what waited for that goes on.
     void runEnded();
@@ -50,6 +52,7 @@ class LifeCycle : public QObject
 
     Parts m;
     bool mEnding = false;
+    bool mSaving = true;
     bool mUnloaded = false;
     bool mConnecting = false;
 };

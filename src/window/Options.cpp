@@ -1,5 +1,7 @@
 #include "window/Options.h"
 
+#include "util/Text.h"
+#include "web/PhoneFinder.h"
 #include "window/OptionTable.h"
 #include "window/ToolTips.h"
 
@@ -7,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto onMark = "ON"_L1;
 constexpr auto offMark = "OFF"_L1;
 
@@ -41,6 +42,12 @@ Options::Options(ErrorLog &log, frmSearch &form, StatusLine &status, ControlStat
     : mLog(log), mForm(form), mStatus(status), mStates(states), mSettings(settings),
       mProgramFolder(std::move(programFolder))
 {
+    // What the loading does not reach, because a stored value before it does not convert, stays usable.
+    const QString base = baseFolder();
+    mForm.txtSFDBDir.setText(base);
+    mForm.txtSFMNDir.setText(base);
+    connectToolTips();
+    connect(&mForm.txtSBSelAreaCodes, &TextBox::Validate, this, &Options::txtSBSelAreaCodes_Validate);
     for (const SettingRow &row : settingRows()) {
         if (row.saved == SettingRow::Saved::AtChange)
             connectSetting(row.key, mForm.control(row.control));
@@ -83,8 +90,8 @@ void Options::connectSetting(QLatin1StringView key, Control *control)
         connect(box, &CheckBox::Click, this, write);
     else if (auto *list = qobject_cast<ListControl *>(control))
         connect(list, &ListControl::Click, this, write);
-    else if (auto *text = qobject_cast<TextBox *>(control))
-        connect(text, text == &mForm.txtSBSelAreaCodes ? &TextBox::Validate : &TextBox::Change, this, write);
+    else if (auto *text = qobject_cast<TextBox *>(control); text && text != &mForm.txtSBSelAreaCodes)
+        connect(text, &TextBox::Change, this, write);
 }
 
 void Options::load(Control &control, const QString &value)
@@ -102,7 +109,7 @@ void Options::load(Control &control, const QString &value)
 /// A stored folder, or the program's own, which is then stored, where that does not exist.
 QString Options::directory(const QString &key, const QString &byDefault)
 {
-    const QString base = mProgramFolder.endsWith(u'/') ? mProgramFolder : mProgramFolder + u'/';
+    const QString base = baseFolder();
     QString folder = mSettings.GetSetting(section, key, byDefault.isEmpty() ? base : byDefault);
     if (folder.isEmpty())
         folder = base;
@@ -112,16 +119,28 @@ QString Options::directory(const QString &key, const QString &byDefault)
     return base;
 }
 
+QString Options::baseFolder() const
+{
+    return mProgramFolder.endsWith(u'/') ? mProgramFolder : mProgramFolder + u'/';
+}
+
+void Options::loadDirectories()
+{
+    mForm.txtSFDBDir.setText(directory(u"SearchKeyTxtSaveLocation Text"_s, {}));
+    mForm.txtSFMNDir.setText(directory(u"txtFNSaveLocation"_s, mForm.txtSFDBDir.text()));
+    mForm.txtSFDBFile.setText(mSettings.GetSetting(startSection, u"DatabaseName"_s, u"Trawlex-0.mdb"_s));
+}
+
 void Options::GetSettings()
 {
     guarded(mLog, {"frmSearch"_L1, "Sub GetSettings"_L1}, [&] {
-        mForm.txtSFEditor.setText(mSettings.GetSetting(section, u"txtSFEditor"_s, QDir::currentPath() + "/editor.exe"_L1));
-        mForm.txtSFDBDir.setText(directory(u"SearchKeyTxtSaveLocation Text"_s, {}));
-        mForm.txtSFMNDir.setText(directory(u"txtFNSaveLocation"_s, mForm.txtSFDBDir.text()));
-        mForm.txtSFDBFile.setText(mSettings.GetSetting(startSection, u"DatabaseName"_s, u"Trawlex-0.mdb"_s));
-        for (const SettingRow &row : settingRows())
+        mForm.txtSFEditor.setText(
+            mSettings.GetSetting(section, u"txtSFEditor"_s, QDir::currentPath() + "/editor.exe"_L1));
+        for (const SettingRow &row : settingRows()) {
             load(*mForm.control(row.control), mSettings.GetSetting(section, row.key, row.byDefault));
-        showToolTips(mForm, mForm.chkSMV(0).value() == 1);
+            if (row.key == lastBeforeDirectories)
+                loadDirectories();
+        }
     });
 }
 
@@ -137,6 +156,50 @@ void Options::chkSwitch_Click(const CheckBox &box, QLatin1StringView on, QLatin1
         return;
     mStates.SetStateOfControls();
     mStatus.UpDateStatus(box.isOn() ? on : off);
+}
+
+/// The tip of a box that says which case its items are compared in.
+void Options::showCaseTip(CheckBox &box, const QString &items)
+{
+    if (!mForm.mbFormReady)
+        return;
+    const QString tip =
+        items + (box.isOn() ? " items Are case sensitive! ON"_L1 : " items are Not case sensitive! OFF"_L1);
+    box.setToolTipText(mForm.chkSMV(0).value() == 1 ? tip : QString());
+}
+
+/// A text box whose tip is its own text while tool tips are on. `whenEmpty` stands for an empty text; with `keepsHelp`
+/// it also stays while tool tips are off.
+void Options::mirrorText(TextBox &box, const QString &whenEmpty, bool keepsHelp)
+{
+    connect(&box, &TextBox::Change, this, [this, &box, whenEmpty, keepsHelp] {
+        const bool shows = mForm.chkSMV(0).value() == 1;
+        if (!shows)
+            box.setToolTipText(keepsHelp ? whenEmpty : QString());
+        else
+            box.setToolTipText(box.text().isEmpty() && !keepsHelp ? whenEmpty : box.text());
+    });
+}
+
+void Options::connectToolTips()
+{
+    mirrorText(mForm.txtANStartTag, {}, false);
+    mirrorText(mForm.txtANStopTag, {}, false);
+    mirrorText(mForm.txtSFDBFile, {}, false);
+    mirrorText(mForm.txtSFDBDir, u"Database directory"_s, true);
+    mirrorText(mForm.txtSFMNDir, u"File save directory"_s, true);
+    mirrorText(mForm.txtSBSelAreaCodes,
+               u"Find phone number for only select area codes. Enter area code list separated by commas"_s, false);
+    connect(&mForm.chkMCCS, &CheckBox::Click, this, [this] { showCaseTip(mForm.chkMCCS, u"Must Contain"_s); });
+    connect(&mForm.chkMNCCS, &CheckBox::Click, this, [this] { showCaseTip(mForm.chkMNCCS, u"Must Not Contain"_s); });
+}
+
+void Options::txtSBSelAreaCodes_Validate()
+{
+    guarded(mLog, {"frmSearch"_L1, "Sub txtSBSelAreaCodes_Validate"_L1}, [&] {
+        mForm.txtSBSelAreaCodes.setText(cAreaCode::normalizedAreaCodes(mForm.txtSBSelAreaCodes.text()));
+        save("txtSBSelAreaCodes"_L1, cUtility::Trim(mForm.txtSBSelAreaCodes.text()).toString());
+    });
 }
 
 void Options::chkSavePages_Click()

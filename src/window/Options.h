@@ -24,6 +24,7 @@ class Options : public QObject
 
   private:
     void load(Control &control, const QString &value);
+    [[nodiscard]] QString baseFolder() const;
     [[nodiscard]] QString directory(const QString &key, const QString &byDefault);
     void save(QLatin1StringView key, const QString &value);
     void connectSetting(QLatin1StringView key, Control *control);
@@ -31,6 +32,11 @@ class Options : public QObject
     void chkSavePages_Click();
     void chkSavePhone_Click();
     void chkSaveUrl_Click();
+    void loadDirectories();
+    void connectToolTips();
+    void showCaseTip(CheckBox &box, const QString &items);
+    void mirrorText(TextBox &box, const QString &whenEmpty, bool keepsHelp);
+    void txtSBSelAreaCodes_Validate();
 
     ErrorLog &mLog;
     frmSearch &mForm;

@@ -16,10 +16,10 @@ Program::Program(const Ports &ports)
                   ports.browsers}),
       lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, browser, database, options, loader,
                  connection}),
-      autoTab({log, form, status, states, timer, browser, savedUrls, autoRun, connection, lifeCycle})
+      autoTab({log, form, status, states, timer, browser, ports.desktop, savedUrls, autoRun, connection, lifeCycle})
 {
     log.ToggleErrMsg(ports.settings.GetSetting(Options::section, u"chkSMVTurnOffErrorMsg"_s, u"0"_s) == "1"_L1);
-    QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::end);
+    QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
             control->setEnabled(true);

@@ -14,8 +14,8 @@ QString twips(int pixels)
 /// A stored position on the screen's axis; beyond the screen, or negative, it is 0.
 int position(const QString &stored, int bound)
 {
-    const int pixels = static_cast<int>(stored.toDouble()) / twipsPerPixel;
-    return pixels < 0 || pixels >= bound ? 0 : pixels;
+    const double pixels = stored.toDouble() / twipsPerPixel;
+    return pixels > 0 && pixels < bound ? static_cast<int>(pixels) : 0;
 }
 } // namespace
 
