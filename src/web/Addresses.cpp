@@ -41,8 +41,9 @@ QStringView withoutLeft(QStringView text, qsizetype count)
     return count > text.size() ? QStringView() : text.sliced(count);
 }
 
-/// Whether the first ".ph" of a text counts as this server type: not where it begins ".phtml" or the like, nor ".php"
-/// with something behind it; at the very end ".php" counts.
+/// Whether the first ".ph" of a text counts as this server type: not where a "p" and at least one more character
+/// follow, so
+/// ".php?" does not count, while ".php" at the very end and ".phtml" do.
 bool holdsPhilippineType(QStringView lowerAddress)
 {
     const QStringView type = serverTypes[philippineType];

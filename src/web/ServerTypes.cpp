@@ -22,7 +22,8 @@ struct PairTypes
 };
 
 constexpr std::array<PairTypes, size_t(letterCount *letterCount)> typesByPair = [] {
-    std::array<PairTypes, size_t(letterCount * letterCount)> table{};
+    std::array<PairTypes, size_t(letterCount * letterCount)> table;
+    table.fill(PairTypes());
     for (size_t index = 0; index < serverTypes.size(); ++index) {
         const QStringView type = serverTypes[index];
         PairTypes &entry = table[size_t(pairIndex(type[1].unicode(), type[2].unicode()))];

@@ -16,7 +16,7 @@ inline constexpr std::array<QStringView, 106> serverTypes{
     u".ru",  u".sa",  u".se",  u".sg",  u".si",  u".sk", u".su", u".sz", u".th", u".tr", u".tt", u".tw",
     u".ua",  u".uk",  u".us",  u".uy",  u".ve",  u".ws", u".yu", u".za", u".tk", u".cx"};
 
-/// The server type that file names may look like (".php", ".phtml").
+/// The server type that file names may look like (".php").
 inline constexpr int philippineType = 77;
 static_assert(serverTypes[philippineType][1] == QChar(u'p') && serverTypes[philippineType][2] == QChar(u'h'));
 

@@ -1,0 +1,101 @@
+#include "web/TagContent.h"
+
+#include "PlainFinders.h"
+#include "util/QtPrint.h"
+#include "util/RandomText.h"
+
+using namespace Qt::StringLiterals;
+using cIEText::Get_HtmlTag_Content;
+
+namespace {
+const QStringList none{QString()};
+
+class Records : public ErrorReceiver
+{
+  public:
+    void ErrorLogger(qint64 number, const QString &description, const QString &module, const QString &location) override
+    {
+        EXPECT_EQ(number, 5);
+        EXPECT_EQ(description, u"Invalid procedure call or argument"_s);
+        EXPECT_EQ(module, u"cIEObject"_s);
+        EXPECT_EQ(location, u"Get_HtmlTag_Content"_s);
+        ++count;
+    }
+    int count = 0;
+};
+
+TEST(TagContent, KeepsTheCaseOfTheMarkupAndBeginsAtElementZero)
+{
+    EXPECT_EQ(Get_HtmlTag_Content(u"<B>", u"</b>", u"<b>One</B> x <B>Two</b>", nullptr),
+              (QStringList{u"One"_s, u"Two"_s}));
+    EXPECT_EQ(Get_HtmlTag_Content(u"<b", u"</b>", u"<b>One</b>", nullptr), QStringList{u"One"_s});
+}
+
+TEST(TagContent, ATagWithAttributesBeginsInsideThem)
+{
+    EXPECT_EQ(Get_HtmlTag_Content(u"<a>", u"</a>", u"<a href=x>t</a>", nullptr), QStringList{u"href=x>t"_s});
+}
+
+TEST(TagContent, ANearerNextTagEndsTheContentAndIsPassedOver)
+{
+    EXPECT_EQ(Get_HtmlTag_Content(u"<p>", u"</p>", u"<p>a<p>b</p><p>c</p>", nullptr), (QStringList{u"a"_s, u"c"_s}));
+}
+
+TEST(TagContent, WithoutTagsOrArgumentsThereIsNone)
+{
+    EXPECT_EQ(Get_HtmlTag_Content(u"<p>", u"</p>", u"text", nullptr), none);
+    EXPECT_EQ(Get_HtmlTag_Content(u"", u"</p>", u"<p>a</p>", nullptr), none);
+    EXPECT_EQ(Get_HtmlTag_Content(u"<p>", u"", u"<p>a</p>", nullptr), none);
+    EXPECT_EQ(Get_HtmlTag_Content(u"<p>", u"</p>", u"", nullptr), none);
+}
+
+TEST(TagContent, ATagWithoutEndStartsTheWalkAnew)
+{
+    const QStringList contents = Get_HtmlTag_Content(u"<b>", u"</b>", u"<b>x</b><b>y", nullptr);
+    EXPECT_EQ(contents.size(), 5000);
+    EXPECT_EQ(contents.count(u"x"_s), 5000);
+    EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", u"<b>y", nullptr), none);
+}
+
+TEST(TagContent, TenThousandContentsAreTheLimit)
+{
+    EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", u"<b>x</b>"_s.repeated(10001), nullptr).size(), 10000);
+}
+
+TEST(TagContent, AnEndDirectlyBehindTheTagEndsTheWalkWithOneRecord)
+{
+    Records records;
+    EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", u"<b>x</b><b</b><b>y</b>", &records), QStringList{u"x"_s});
+    EXPECT_EQ(records.count, 1);
+}
+
+TEST(TagContent, EqualsThePlainVersionOnRandomInput)
+{
+    RandomText random(41);
+    const QStringList pieces{u"<b>"_s, u"<B>"_s, u"</b>"_s, u"</B>"_s, u"<b x>"_s, u"a"_s, u"C"_s, u">"_s, u"<b"_s};
+    const QStringList tags{u"<b>"_s, u"<B"_s, u"<b>"_s, u"b"_s, u">"_s, u""_s, u"a"_s, u"<b></b>"_s};
+    const QStringList endTags{u"</b>"_s, u"</B>"_s, u"</b>"_s, u">"_s, u""_s, u"<b>"_s};
+    for (int round = randomRounds(); round > 0; --round) {
+        const QString tag = random.oneOf(tags);
+        const QString endTag = random.oneOf(endTags);
+        QString markup = random.text(pieces, 12);
+        if (!random.oneIn(300))
+            markup += endTag; // an open tag uses up all steps
+        const plain::Contents expected = plain::Get_HtmlTag_Content(tag, endTag, markup);
+        Records records;
+        ASSERT_EQ(Get_HtmlTag_Content(tag, endTag, markup, &records), expected.list)
+            << shown(tag) << shown(endTag) << shown(markup);
+        ASSERT_EQ(records.count, expected.errors) << shown(tag) << shown(endTag) << shown(markup);
+    }
+}
+
+TEST(TagContent, CostsNoMoreThanReadingTheMarkupOnAnyMarkup)
+{
+    constexpr qsizetype size = 1'000'000;
+    EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", u"<b>x"_s.repeated(size / 4) + u"</b>"_s, nullptr).size(), 10000);
+    EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", QString(size, u'a') + u"<b>x</b>"_s + QString(size, u'a') + u"<b>"_s,
+                                  nullptr)
+                  .size(),
+              5000);
+}
+} // namespace
