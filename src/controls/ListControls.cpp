@@ -3,9 +3,9 @@
 #include "util/Errors.h"
 
 #include <algorithm>
+#include <utility>
 
-namespace
-{
+namespace {
 constexpr qint64 textIsReadOnly = 383;
 }
 
@@ -33,6 +33,11 @@ void ListControl::setListIndex(int index)
     indexChosen();
     Q_EMIT changed();
     Q_EMIT Click();
+}
+
+bool ListControl::storeIndex(int index)
+{
+    return std::exchange(mListIndex, index) != index;
 }
 
 void ListControl::addItem(const QString &item)
@@ -72,10 +77,14 @@ void ComboBox::setText(const QString &text)
         const auto index = items().indexOf(text);
         if (index < 0)
             throw RuntimeError(textIsReadOnly, QStringLiteral("'Text' property is read-only"));
-        setListIndex(static_cast<int>(index));
-    } else if (assign(mText, text)) {
-        Q_EMIT Change();
+        return setListIndex(static_cast<int>(index));
     }
+    if (mText == text)
+        return;
+    storeIndex(-1);
+    mText = text;
+    Q_EMIT changed();
+    Q_EMIT Change();
 }
 
 void ComboBox::clear()
@@ -100,6 +109,18 @@ void ListBox::setSelected(int index, bool selected)
     if (mSelected[static_cast<std::size_t>(index)] == selected)
         return;
     mSelected[static_cast<std::size_t>(index)] = selected;
+    Q_EMIT changed();
+    Q_EMIT Click();
+}
+
+void ListBox::choose(int focusIndex, const std::vector<bool> &selected)
+{
+    if (focusIndex < -1 || focusIndex >= listCount() || selected.size() != mSelected.size())
+        return;
+    const bool moved = storeIndex(focusIndex);
+    if (!moved && selected == mSelected)
+        return;
+    mSelected = selected;
     Q_EMIT changed();
     Q_EMIT Click();
 }

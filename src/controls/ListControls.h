@@ -33,6 +33,8 @@ class ListControl : public Control
   protected:
     void checkIndex(int index, qint64 errorNumber) const;
     virtual void indexChosen() {}
+    /// Makes `index`, which is -1 or in the list, the chosen one. No Click; True when it differed.
+    bool storeIndex(int index);
 
   private:
     QStringList mItems;
@@ -51,7 +53,7 @@ class ComboBox : public ListControl
     [[nodiscard]] Style style() const { return mStyle; }
     [[nodiscard]] QString text() const;
     /// The user types, or the program writes: Change is raised when the text differs. A drop-down list accepts only
-    /// one of its items and chooses it; anything else is error 383.
+    /// one of its items and chooses it; anything else is error 383. In an editable one a new text chooses no item.
     void setText(const QString &text);
     void clear() override;
     /// The user opens the list.
@@ -80,6 +82,9 @@ class ListBox : public ListControl
     [[nodiscard]] bool isSelected(int index) const;
     /// Error 380 outside the list. A changed selection raises Click.
     void setSelected(int index, bool selected);
+    /// The user's choice: the item with the focus (or -1) and which items are selected, one flag each. Click is raised
+    /// once, when all of it is in place, and only if something changed. A choice that does not fit the list is ignored.
+    void choose(int focusIndex, const std::vector<bool> &selected);
     [[nodiscard]] int selCount() const;
     void addItem(const QString &item) override;
     void removeItem(int index) override;

@@ -37,12 +37,13 @@ bool cLstBx::DoesItemExist(const ListBox &list, const QString &item)
 
 void cLstBx::PopulateListBox(ListBox &list, const QStringList &values, bool noBlanks, bool clearPrevious)
 {
+    const QStringList wanted = values; // may be the list's own items
     if (clearPrevious)
         list.clear();
     QSet<QString> present;
     for (const QString &item : list.items())
         present.insert(item.toLower());
-    for (const QString &value : values) {
+    for (const QString &value : wanted) {
         if (!present.contains(value.toLower()) && !(noBlanks && isBlank(value)))
             list.addItem(value);
     }

@@ -1,0 +1,21 @@
+// The few shapes that the window is drawn with. They paint where they are told and know no widget.
+#pragma once
+
+#include "ui/Shades.h"
+
+#include <QPainter>
+#include <QRectF>
+
+namespace Drawing {
+/// A rounded box with a border inside `rect`; an invalid border colour draws none.
+void box(QPainter &painter, const QRectF &rect, const QColor &fill, const QColor &border, double width = 1.0);
+/// The ring that says where the keyboard is.
+void focusRing(QPainter &painter, const QRectF &rect, const Shades &shades);
+/// An arrow head as wide as `size`, its point down (or up).
+enum class Points { Down, Up };
+void chevron(QPainter &painter, const QPointF &centre, double size, const QColor &ink, Points points);
+
+/// The signs of lamps and marks, drawn, so that no font decides how they look.
+enum class Sign { Dash, Tick, Cross, Equals, Square };
+void sign(QPainter &painter, const QRectF &rect, Sign sign, const QColor &ink);
+} // namespace Drawing

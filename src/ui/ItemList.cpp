@@ -1,0 +1,46 @@
+#include "ui/ItemList.h"
+
+#include "ui/Shades.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+ItemList::ItemList(QWidget *parent) : QListView(parent)
+{
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideMiddle);
+    setVerticalScrollMode(ScrollPerPixel);
+}
+
+void ItemList::setEmptyText(const QString &text)
+{
+    mEmptyText = text;
+    viewport()->update();
+}
+
+void ItemList::paintEvent(QPaintEvent *event)
+{
+    QListView::paintEvent(event);
+    if (mEmptyText.isEmpty() || model() == nullptr || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    const Shades shades = Shades::of(palette());
+    painter.setPen(isEnabled() ? shades.quiet : shades.disabled);
+    painter.drawText(viewport()->rect().adjusted(8, 6, -8, -6), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                     mEmptyText);
+}
+
+void ItemList::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::RightButton)
+        QListView::mousePressEvent(event);
+}
+
+void ItemList::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!event->buttons().testFlag(Qt::RightButton))
+        QListView::mouseMoveEvent(event);
+}

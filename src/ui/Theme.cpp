@@ -1,0 +1,107 @@
+#include "ui/Theme.h"
+
+#include "ui/Style.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+struct Role
+{
+    QPalette::ColorRole role;
+    QRgb light, dark;
+};
+
+constexpr std::array<Role, 16> roles{{
+    {QPalette::Window, 0xFFF4F6F9, 0xFF1B1E26},
+    {QPalette::WindowText, 0xFF1A2130, 0xFFE8EBF1},
+    {QPalette::Base, 0xFFFFFFFF, 0xFF15181F},
+    {QPalette::AlternateBase, 0xFFF4F6F9, 0xFF1B1E26},
+    {QPalette::Text, 0xFF1A2130, 0xFFE8EBF1},
+    {QPalette::PlaceholderText, 0xFF667085, 0xFF8F98A9},
+    {QPalette::Button, 0xFFFFFFFF, 0xFF2A2F3A},
+    {QPalette::ButtonText, 0xFF1A2130, 0xFFE8EBF1},
+    {QPalette::Highlight, 0xFF1F66E0, 0xFF5B97FF},
+    {QPalette::HighlightedText, 0xFFFFFFFF, 0xFF0C111B},
+    {QPalette::ToolTipBase, 0xFF1A2130, 0xFFE8EBF1},
+    {QPalette::ToolTipText, 0xFFFFFFFF, 0xFF14171E},
+    {QPalette::Link, 0xFF1F66E0, 0xFF5B97FF},
+    {QPalette::Light, 0xFFFFFFFF, 0xFF2A2F3A},
+    {QPalette::Mid, 0xFFD5DAE2, 0xFF343A47},
+    {QPalette::Dark, 0xFFB4BBC8, 0xFF0F1116},
+}};
+
+constexpr std::array<Role, 3> disabledRoles{{
+    {QPalette::WindowText, 0xFF98A1B0, 0xFF666F80},
+    {QPalette::Text, 0xFF98A1B0, 0xFF666F80},
+    {QPalette::ButtonText, 0xFF98A1B0, 0xFF666F80},
+}};
+
+bool hasNoPaletteOfItsOwn(const QPalette &palette, const QPalette &ofStyle)
+{
+    return palette.color(QPalette::Window) == ofStyle.color(QPalette::Window) &&
+           palette.color(QPalette::Highlight) == ofStyle.color(QPalette::Highlight);
+}
+
+Theme::Mode told()
+{
+    const QString name = qEnvironmentVariable("TRAWLEX_THEME").toLower();
+    if (name == "light"_L1)
+        return Theme::Mode::Light;
+    return name == "dark"_L1 ? Theme::Mode::Dark : Theme::Mode::Desktop;
+}
+} // namespace
+
+Theme::Theme(QApplication &application) : QObject(&application), mStyle(new Style)
+{
+    QApplication::setStyle(mStyle);
+    application.installEventFilter(this);
+    setMode(told());
+}
+
+void Theme::setMode(Mode mode)
+{
+    mMode = mode;
+    if (mode != Mode::Desktop)
+        return QApplication::setPalette(palette(mode));
+    // A palette without set roles is the desktop's, and changes with it.
+    QApplication::setPalette(QPalette());
+    if (hasNoPaletteOfItsOwn(QApplication::palette(), mStyle->standardPalette()))
+        QApplication::setPalette(palette(Mode::Light));
+}
+
+QPalette Theme::palette(Mode mode)
+{
+    const bool dark = mode == Mode::Dark;
+    QPalette palette;
+    for (const Role &role : roles)
+        palette.setColor(role.role, QColor(dark ? role.dark : role.light));
+    for (const Role &role : disabledRoles)
+        palette.setColor(QPalette::Disabled, role.role, QColor(dark ? role.dark : role.light));
+    return palette;
+}
+
+bool Theme::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto type = event->type();
+    if (type == QEvent::KeyPress || type == QEvent::KeyRelease) {
+        if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
+            showUnderlines(type == QEvent::KeyPress);
+    } else if (type == QEvent::ApplicationDeactivate) {
+        showUnderlines(false);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Theme::showUnderlines(bool shown)
+{
+    mStyle->setUnderlines(shown);
+    for (QWidget *const window : QApplication::topLevelWidgets()) {
+        for (QWidget *const widget : window->findChildren<QWidget *>())
+            widget->update();
+    }
+}

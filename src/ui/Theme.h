@@ -1,0 +1,35 @@
+// Light or dark: follows the desktop's palette, or is told. Puts style and palette on the application; widgets draw
+// themselves from there. Made once, before the first window.
+#pragma once
+
+#include <QObject>
+#include <QPalette>
+
+class QApplication;
+class Style;
+
+class Theme : public QObject
+{
+    Q_OBJECT
+
+  public:
+    enum class Mode { Desktop, Light, Dark };
+
+    /// The variable TRAWLEX_THEME (light, dark) decides where it is set.
+    explicit Theme(QApplication &application);
+
+    void setMode(Mode mode);
+    [[nodiscard]] Mode mode() const { return mMode; }
+
+    /// Our own palettes, for a desktop that has none to offer.
+    [[nodiscard]] static QPalette palette(Mode mode);
+
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+  private:
+    void showUnderlines(bool shown);
+
+    Style *mStyle; ///< owned by the application
+    Mode mMode = Mode::Desktop;
+};

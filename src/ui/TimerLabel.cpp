@@ -1,0 +1,37 @@
+#include "ui/TimerLabel.h"
+
+#include "ui/Drawing.h"
+
+#include <QFontDatabase>
+
+using namespace Qt::StringLiterals;
+
+TimerLabel::TimerLabel(QWidget *parent) : QLabel(parent)
+{
+    QFont digits = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    digits.setPointSizeF(font().pointSizeF() * 2.0);
+    digits.setBold(true);
+    setFont(digits);
+    setAlignment(Qt::AlignCenter);
+    setFocusPolicy(Qt::ClickFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void TimerLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const Shades shades = Shades::of(palette());
+    const bool coloured = testAttribute(Qt::WA_SetPalette);
+    const QColor fill = coloured ? palette().color(QPalette::Active, QPalette::Base) : shades.panel;
+    Drawing::box(painter, rect(), fill, coloured ? fill : shades.edge);
+    painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
+    painter.setFont(font());
+    painter.drawText(rect(), Qt::AlignCenter, text());
+    if (hasFocus())
+        Drawing::focusRing(painter, rect(), shades);
+}
+
+QSize TimerLabel::minimumSizeHint() const
+{
+    return fontMetrics().size(Qt::TextSingleLine, u"000"_s) + QSize(16, 8);
+}
