@@ -37,7 +37,7 @@ def make_database(program: pathlib.Path, folder: str, port: int, browser: str, e
     """A first run makes the database; it finds no record of the page and so harvests nothing."""
     subprocess.run(command(program, folder, port, browser, {}), env=env, capture_output=True, timeout=120, check=False)
     path = os.path.join(folder, "Trawlex-0.mdb")
-    subprocess.run([sys.executable, str(HERE / "record.py"), path], check=True)
+    subprocess.run([sys.executable, str(HERE / "record.py"), path], check=True, stdout=subprocess.DEVNULL)
     return path
 
 
@@ -59,7 +59,7 @@ def main():
     arguments = parser.parse_args()
     program = pathlib.Path(arguments.bin) / "trawlex-harvest"
     switches = json.loads((HERE / "expected.json").read_text(encoding="utf-8"))["switches"]
-    with tempfile.TemporaryDirectory() as folder, server.start() as demo:
+    with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as folder, server.start() as demo:
         env = dict(os.environ, XDG_CONFIG_HOME=folder, XDG_DATA_HOME=folder)
         path = make_database(program, folder, demo.port, arguments.browser, env)
         run = subprocess.run(command(program, folder, demo.port, arguments.browser, switches, ["--open", RESULT_PAGE]),

@@ -1,0 +1,86 @@
+// trawlex: the window program. Makes the application, the ports and the skin, and wires them to the rest.
+#include "app/IniSettings.h"
+#include "app/QtEventPump.h"
+#include "desktop/DesktopBrowsers.h"
+#include "desktop/MainWindowPlace.h"
+#include "desktop/OneInstance.h"
+#include "desktop/Splash.h"
+#include "engine/BrowserSwitches.h"
+#include "engine/WebEngineSetup.h"
+#include "ui/QtClipboard.h"
+#include "ui/QtDesktop.h"
+#include "ui/QtDialogs.h"
+#include "window/Program.h"
+#include "window/ProgramFolder.h"
+#include "window/StartMode.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+void connectWindow(Program &program, MainWindow &window)
+{
+    QObject::connect(&window, &MainWindow::closeRequested, &program.lifeCycle, &LifeCycle::Terminate);
+    QObject::connect(&program.lifeCycle, &LifeCycle::ended, &window, [&window] {
+        window.allowClose();
+        QApplication::closeAllWindows();
+        QApplication::quit();
+    });
+    QObject::connect(&program.autoRun, &AutoRun::visiting, &window,
+                     [&window](int number, int count, const QString &) { window.setProgress(number - 1, count); });
+    QObject::connect(&program.autoRun, &AutoRun::finalized, &window, [&window] { window.setProgress(0, 0); });
+}
+
+int runHarvester(const QString &appName, const QStringList &switches, Splash &splash)
+{
+    QtEventPump pump;
+    QtDialogs dialogs;
+    QtDesktop desktop;
+    QtClipboard clipboard;
+    MainWindowPlace place;
+    IniSettings settings(appName);
+    DesktopBrowsers browsers({dataFolder(), switches, false});
+    settings.SaveSetting(Options::section, u"WorkingPath"_s, programFolder() + u'/');
+    Program program({pump, dialogs, desktop, clipboard, settings, place, browsers, programFolder()});
+    MainWindow window(program.form);
+    place.set(&window);
+    connectWindow(program, window);
+    if (!program.lifeCycle.Form_Load())
+        return 1;
+    splash.close();
+    window.show();
+    program.lifeCycle.settle();
+    const int status = QApplication::exec();
+    place.set(nullptr);
+    return status;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QStringList switches = BrowserSwitches::ofUser({});
+    prepareWebEngine(switches);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(u"trawlex"_s);
+    QApplication::setApplicationDisplayName(u"Trawlex"_s);
+    QApplication::setApplicationVersion(QStringLiteral(TRAWLEX_VERSION));
+    // The end of the program is decided by its life cycle alone.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const QString appName = GetRKAppName(u"trawlex"_s, programFolder());
+    Splash splash;
+    splash.show();
+    QApplication::processEvents();
+    const StartMode mode = startMode(QApplication::arguments().mid(1));
+    const OneInstance instance(appName);
+    if (!instance.isFirst())
+        return 0;
+    if (mode.kind == StartMode::Kind::PictureBrowser) {
+        splash.close();
+        QtDialogs().tell(u"Trawlex"_s, u"This version has no picture browser yet. Started without a file it harvests."_s);
+        return 0;
+    }
+    return runHarvester(appName, switches, splash);
+}

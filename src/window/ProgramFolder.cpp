@@ -1,0 +1,28 @@
+#include "window/ProgramFolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+QString dataFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/trawlex");
+    QDir().mkpath(folder);
+    return folder;
+}
+
+QString programFolder()
+{
+    const QString own = QCoreApplication::applicationDirPath();
+    return QFileInfo(own).isWritable() ? own : dataFolder();
+}
+
+bool hasDisplay()
+{
+#ifdef Q_OS_UNIX
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}

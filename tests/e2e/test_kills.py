@@ -1,0 +1,94 @@
+"""Browser, page process and program are killed in the middle of runs."""
+import os
+import pathlib
+import re
+import signal
+import sqlite3
+import time
+import unittest
+
+import trawlex
+
+
+def browser_process(folder):
+    """The free-standing browser's main process."""
+    return next((pid for pid, line in trawlex.processes(folder) if "--user-data-dir" in line and "--type=" not in line
+                 and "trawlex-harvest" not in line), None)
+
+
+def parents(pid):
+    while pid > 1:
+        yield pid
+        try:
+            stat = pathlib.Path(f"/proc/{pid}/stat").read_text(encoding="ascii", errors="replace")
+        except OSError:
+            return
+        pid = int(stat.rpartition(")")[2].split()[1])
+
+
+def page_processes(ancestor):
+    """The built-in browser's page processes keep the name of the zygote that they were forked from."""
+    forks = dict(trawlex.processes("--type=zygote"))
+    pages = [pid for pid in forks if list(parents(pid))[1] in forks]
+    pages += [pid for pid, _ in trawlex.processes("--type=renderer")]
+    return [pid for pid in pages if ancestor in parents(pid)]
+
+
+class Kills(trawlex.Case):
+    def visited(self, run):
+        return [line for line in run.status_lines() if re.match(r"\d+/\d+ ", line)]
+
+    def start_and_visit(self, browser, pages, **switches):
+        path = self.make_database(browser)
+        run = self.start_harvest(browser, **switches)
+        trawlex.wait_for(lambda: len(self.visited(run)) >= pages, 60, f"{pages} pages visited")
+        return path, run
+
+    def test_killing_the_browser_ends_the_run_as_the_user_would(self):
+        path, run = self.start_and_visit("iexplore", 5)
+        os.kill(browser_process(self.folder), signal.SIGKILL)
+        self.assertEqual(run.wait(timeout=20), 1)
+        self.assertIn("Stopped (USER)", run.status_lines())
+        self.assertGreaterEqual(trawlex.count(path, "SiteSummary"), 3)
+
+    def run_goes_on_without_the_page_process(self, browser):
+        path, run = self.start_and_visit(browser, 5)
+        pids = page_processes(browser_process(self.folder) if browser == "iexplore" else run.pid)
+        self.assertTrue(pids, "no page process found")
+        for pid in pids:
+            os.kill(pid, signal.SIGKILL)
+        self.assertEqual(run.wait(timeout=120), 0, run.status_lines())
+        self.assertEqual(len(self.visited(run)), len(trawlex.EXPECTED["links"]))
+        self.assertGreaterEqual(trawlex.count(path, "SiteSummary"), len(trawlex.EXPECTED["SiteSummary"]) - 3)
+
+    def test_killing_the_page_process_costs_a_page_and_not_the_run(self):
+        self.run_goes_on_without_the_page_process("iexplore")
+
+    def test_killing_the_page_process_of_the_built_in_browser_costs_a_page_and_not_the_run(self):
+        self.run_goes_on_without_the_page_process("internal")
+
+    def test_after_the_program_is_killed_the_file_opens_and_the_next_harvest_completes_it(self):
+        path, run = self.start_and_visit("iexplore", 12)
+        os.kill(run.pid, signal.SIGKILL)
+        run.wait(timeout=10)
+        with sqlite3.connect(path) as database:
+            self.assertEqual(database.execute("PRAGMA integrity_check").fetchone()[0], "ok")
+        self.assertGreaterEqual(trawlex.count(path, "SiteSummary"), 8)
+        done = self.harvest("iexplore")
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertEqual(trawlex.rows(path, "SiteSummary", ["Title", "Url"]), trawlex.expected_rows("SiteSummary"))
+
+    def test_a_wish_to_end_stops_the_run_in_the_middle_of_a_wait(self):
+        path = self.make_database()
+        run = self.start_harvest("iexplore", incANTiming=50)
+        trawlex.wait_for(lambda: self.visited(run), 60, "the first page")
+        run.terminate()
+        started = time.monotonic()
+        self.assertEqual(run.wait(timeout=20), 1)
+        self.assertLess(time.monotonic() - started, 10)
+        self.assertIn("Stopped (USER)", run.status_lines())
+        self.assertTrue(os.path.exists(path))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,121 @@
+"""What the end-to-end tests share: a demo server, a folder of its own for each test, and ways to run the programs."""
+import json
+import os
+import pathlib
+import shutil
+import signal
+import sqlite3
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "demo"))
+import harvest as demo_harvest  # noqa: E402
+import server  # noqa: E402
+
+BIN = pathlib.Path(os.environ.get("TRAWLEX_BIN", ROOT / "build/dev/bin"))
+HARVESTER = BIN / "trawlex-harvest"
+WINDOW = BIN / "trawlex"
+EXPECTED = json.loads((ROOT / "demo/expected.json").read_text(encoding="utf-8"))
+TABLES = {
+    "SiteSummary": ["Title", "Url"],
+    "EmailAddress": ["SSIndex", "Address", "Url"],
+    "PhoneNumber": ["SSIndex", "Number", "Type", "Url"],
+    "PassUrlsA": ["SSIndex", "MaskName", "Url"],
+}
+
+
+def wait_for(condition, seconds, what):
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.05)
+    raise AssertionError(f"not within {seconds} s: {what}")
+
+
+def rows(path, table, columns):
+    names = ", ".join(f'"{column}"' for column in columns)
+    with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
+        return database.execute(f'SELECT {names} FROM "{table}" ORDER BY rowid').fetchall()
+
+
+def count(path, table):
+    with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
+        return database.execute(f'SELECT count(*) FROM "{table}"').fetchone()[0]
+
+
+def expected_rows(table):
+    return [tuple(row[column] for column in TABLES[table]) for row in EXPECTED[table]]
+
+
+def processes(mark):
+    """Running processes whose command line holds `mark`, as (pid, command line)."""
+    found = []
+    for entry in pathlib.Path("/proc").iterdir():
+        if not entry.name.isdigit():
+            continue
+        try:
+            line = (entry / "cmdline").read_bytes().replace(b"\0", b" ").decode(errors="replace")
+        except OSError:
+            continue
+        if mark in line and int(entry.name) != os.getpid():
+            found.append((int(entry.name), line))
+    return found
+
+
+class Case(unittest.TestCase):
+    """A folder, settings and browser profile of its own; browsers that are left are ended with the test."""
+
+    def setUp(self):
+        self.folder = tempfile.mkdtemp(prefix="trawlex-e2e-")
+        self.env = dict(os.environ, XDG_CONFIG_HOME=self.folder + "/config", XDG_DATA_HOME=self.folder + "/data",
+                        XDG_RUNTIME_DIR=self.folder, LOGFILES=self.folder, LC_ALL="C.UTF-8")
+        self.demo = server.start()
+        self.addCleanup(self.clean_up)
+
+    def clean_up(self):
+        self.demo.shutdown()
+        self.demo.server_close()
+        for pid, _ in processes(self.folder):
+            try:
+                os.kill(pid, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def make_database(self, browser="iexplore"):
+        return demo_harvest.make_database(HARVESTER, self.folder, self.demo.port, browser, self.env)
+
+    def words(self, browser, extra=(), **switches):
+        chosen = dict(EXPECTED["switches"], **switches)
+        return demo_harvest.command(HARVESTER, self.folder, self.demo.port, browser, chosen, extra)
+
+    def harvest(self, browser, extra=("--open", demo_harvest.RESULT_PAGE), **switches):
+        done = subprocess.run(self.words(browser, extra, **switches), env=self.env, capture_output=True, text=True,
+                              timeout=300, check=False)
+        done.report = json.loads(done.stdout) if done.stdout.strip() else None
+        return done
+
+    def start_harvest(self, browser, extra=("--open", demo_harvest.RESULT_PAGE), **switches):
+        log = open(self.folder + "/stderr.txt", "w+", encoding="utf-8")
+        self.addCleanup(log.close)
+        run = subprocess.Popen(self.words(browser, extra, **switches), env=self.env, stdout=subprocess.PIPE, stderr=log,
+                               text=True)
+        self.addCleanup(lambda: (run.poll() is None and run.kill(), run.wait(), run.stdout.close()))
+        run.status_lines = lambda: pathlib.Path(log.name).read_text(encoding="utf-8").splitlines()
+        return run
+
+    def assert_expected_rows(self, path):
+        for table, columns in TABLES.items():
+            with self.subTest(table=table):
+                self.assertEqual(rows(path, table, columns), expected_rows(table))
+        pages = rows(path, "SiteSummary", ["Url", "FullPage"])
+        for (url, page), wanted in zip(pages, EXPECTED["SiteSummary"]):
+            with self.subTest(page=url):
+                self.assertEqual(bool(page), wanted["FullPage"])
+                self.assertIn(wanted.get("FullPageHolds", ""), page or "")
