@@ -104,10 +104,11 @@ void ChromiumPage::answered(int number, const DevToolsConnection::Answer &answer
         loadingEnded();
         break;
     case PageLoading::Verdict::Moved:
-        settle(number, true);
+        notice({PageNotice::Kind::PageComplete, mAddress});
+        loadingEnded();
         break;
     case PageLoading::Verdict::Aborted:
-        settle(number, false);
+        settle(number);
         break;
     case PageLoading::Verdict::NeedsCredentials:
         requestWithoutCredentials();
@@ -119,15 +120,11 @@ void ChromiumPage::answered(int number, const DevToolsConnection::Answer &answer
 }
 
 // The browser answers in order: with the answer to a harmless question it has told all that went before.
-void ChromiumPage::settle(int number, bool moved)
+void ChromiumPage::settle(int number)
 {
-    mConnection->send(mTargets.session(), "Page.getNavigationHistory"_L1, {},
-                      whileAlive([this, number, moved](const auto &) {
-                          if (!mLoading.settle(number))
-                              return;
-                          if (moved)
-                              notice({PageNotice::Kind::PageComplete, mAddress});
-                          loadingEnded();
+    mConnection->send(mTargets.session(), "Page.getNavigationHistory"_L1, {}, whileAlive([this, number](const auto &) {
+                          if (mLoading.settle(number))
+                              loadingEnded();
                       }));
 }
 
@@ -287,8 +284,13 @@ void ChromiumPage::onFrameMoved(const QString &session, const QJsonObject &param
     const auto document = mDocuments.find(params[u"frameId"].toString());
     if (document != mDocuments.end())
         document->url = url;
-    if (session == mTargets.session() && params[u"frameId"].toString() == mTopFrame)
-        mAddress = url;
+    if (session != mTargets.session() || params[u"frameId"].toString() != mTopFrame)
+        return;
+    mAddress = url;
+    if (mLoading.movedWithinPage()) {
+        notice({PageNotice::Kind::PageComplete, mAddress});
+        loadingEnded();
+    }
 }
 
 // A frame that goes to another process is told of there.

@@ -81,7 +81,7 @@ class ChromiumPage : public QObject
 
     void request();
     void answered(int number, const DevToolsConnection::Answer &answer);
-    void settle(int number, bool moved);
+    void settle(int number);
     void requestWithoutCredentials();
     void refuseCredentials(bool refuse);
     void requestAfterLoss();

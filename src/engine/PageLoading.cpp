@@ -14,6 +14,8 @@ int PageLoading::begin()
     mLoading = true;
     mAnswered = false;
     mCommitted = false;
+    mMoving = false;
+    mMoved = false;
     return ++mNumber;
 }
 
@@ -25,11 +27,12 @@ PageLoading::Verdict PageLoading::answered(int number, const QString &loader, co
         return Verdict::Outdated;
     }
     mRequested = loader;
-    if (loader.isEmpty() && error.isEmpty())
-        return Verdict::Moved;
+    mMoving = loader.isEmpty() && error.isEmpty();
+    if (mMoving && !mMoved)
+        return Verdict::Wait;
     if (loader.isEmpty()) {
         end();
-        return Verdict::Ended;
+        return mMoving ? Verdict::Moved : Verdict::Ended;
     }
     mAnswered = !error.isEmpty();
     if (error == "net::ERR_ABORTED"_L1)
@@ -42,7 +45,7 @@ PageLoading::Verdict PageLoading::answered(int number, const QString &loader, co
 // A later request of the top frame has taken the place of ours: its document is awaited.
 bool PageLoading::settle(int number)
 {
-    const bool replaced = !mRequested.isEmpty() && !mStarted.isEmpty() && mStarted != mRequested;
+    const bool replaced = !mStarted.isEmpty() && mStarted != mRequested;
     return number == mNumber && !replaced && !mCommitted && end();
 }
 
@@ -53,6 +56,13 @@ void PageLoading::committed(const QString &loader)
         mCommitted = true;
 }
 
+// The answer to the request and the word of the move come in either order.
+bool PageLoading::movedWithinPage()
+{
+    mMoved = true;
+    return mMoving && end();
+}
+
 bool PageLoading::documentLoaded(const QString &loader)
 {
     return mCommitted && loader == mCurrent && end();
@@ -61,7 +71,7 @@ bool PageLoading::documentLoaded(const QString &loader)
 // Also the end of a page whose load was broken off and of a request that came to nothing.
 bool PageLoading::stopped()
 {
-    return (mCommitted || mAnswered) && end();
+    return (mCommitted || mAnswered || mMoving) && end();
 }
 
 bool PageLoading::processLost()

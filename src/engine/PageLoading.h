@@ -15,9 +15,9 @@ class PageLoading
   public:
     /// What follows from the browser's answer to the request for a page.
     enum class Verdict {
-        Wait,             ///< a document is coming
+        Wait,             ///< a document is coming, or word of a move within the page
         Ended,            ///< nothing is coming: the request is no address
-        Moved,            ///< a move within the page: settle(), once the browser has told of it
+        Moved,            ///< it was a move within the page, and loading has ended
         Aborted,          ///< a download, no content, or replaced: settle(), once the browser has told all it knows
         NeedsCredentials, ///< the server asks for a name and password
         Outdated          ///< the answer belongs to an earlier begin()
@@ -35,6 +35,7 @@ class PageLoading
 
     // Each of these gives True when it ends the load.
     bool settle(int number);
+    bool movedWithinPage();
     bool documentLoaded(const QString &loader);
     bool stopped();
     bool processLost();
@@ -51,6 +52,8 @@ class PageLoading
     bool mLoading = false;
     bool mAnswered = false;  // the request has been answered with an error
     bool mCommitted = false; // a document that counts is in place
+    bool mMoving = false;    // the answer says that it is a move within the page
+    bool mMoved = false;     // the page has moved within itself
     int mNumber = 0;
     QString mCurrent;        // the document in place
     QString mStarted;        // the latest request of the top frame
