@@ -13,12 +13,18 @@ ItemList::ItemList(QWidget *parent) : QListView(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideMiddle);
     setVerticalScrollMode(ScrollPerPixel);
+    setViewportMargins(1, 2, 1, 2); // inside the frame's rounding
 }
 
 void ItemList::setEmptyText(const QString &text)
 {
     mEmptyText = text;
     viewport()->update();
+}
+
+QSize ItemList::sizeHint() const
+{
+    return {160, 6 * qMax(23, fontMetrics().height() + 4) + 2 * frameWidth()};
 }
 
 void ItemList::paintEvent(QPaintEvent *event)

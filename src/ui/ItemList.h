@@ -14,6 +14,8 @@ class ItemList : public QListView
 
     [[nodiscard]] const QString &emptyText() const { return mEmptyText; }
     void setEmptyText(const QString &text);
+    /// Six rows.
+    [[nodiscard]] QSize sizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent *event) override;

@@ -2,9 +2,11 @@
 
 #include "ui/Drawing.h"
 #include "ui/Icons.h"
+#include "ui/Theme.h"
 #include "ui_AutoTab.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QShortcut>
 #include <QWindow>
@@ -19,6 +21,7 @@ constexpr const char *iconProperty = "iconName";
 MainWindow::MainWindow(frmSearch &form)
     : mUi(std::make_unique<Ui::MainWindow>()), mAuto(std::make_unique<Ui::AutoTab>())
 {
+    Theme::of(*qApp);
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
     mUi->setupUi(this);
     mAuto->setupUi(mUi->autoPage);

@@ -33,7 +33,7 @@ class Lamp : public Mark
 
   public:
     explicit Lamp(QWidget *parent = nullptr);
-    [[nodiscard]] QSize sizeHint() const override { return {20, 20}; }
+    [[nodiscard]] QSize sizeHint() const override { return {18, 20}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
   protected:

@@ -34,8 +34,9 @@ QColor faintest(const QColor &ground, const QColor &ink, double share, double ra
 
 double contrast(const QColor &one, const QColor &other)
 {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
-    return (light + 0.05) / (dark + 0.05);
+    const double first = luminance(one);
+    const double second = luminance(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 QColor mixed(const QColor &from, const QColor &to, double share)

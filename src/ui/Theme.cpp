@@ -63,6 +63,12 @@ Theme::Theme(QApplication &application) : QObject(&application), mStyle(new Styl
     setMode(told());
 }
 
+Theme &Theme::of(QApplication &application)
+{
+    auto *theme = application.findChild<Theme *>({}, Qt::FindDirectChildrenOnly);
+    return theme != nullptr ? *theme : *new Theme(application);
+}
+
 void Theme::setMode(Mode mode)
 {
     mMode = mode;

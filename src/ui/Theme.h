@@ -1,5 +1,5 @@
 // Light or dark: follows the desktop's palette, or is told. Puts style and palette on the application; widgets draw
-// themselves from there. Made once, before the first window.
+// themselves from there. There is one for the application, made with its first window at the latest.
 #pragma once
 
 #include <QObject>
@@ -17,6 +17,9 @@ class Theme : public QObject
 
     /// The variable TRAWLEX_THEME (light, dark) decides where it is set.
     explicit Theme(QApplication &application);
+
+    /// The application's theme; made now if there is none yet.
+    static Theme &of(QApplication &application);
 
     void setMode(Mode mode);
     [[nodiscard]] Mode mode() const { return mMode; }

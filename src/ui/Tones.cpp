@@ -49,7 +49,14 @@ std::optional<Tone> Tones::of(Colour back, Colour fore, const Shades &shades)
         const QColor ink = fillOf(fore, shades.dark);
         return Tone{ground, contrast(ground, ink) < readableText ? shades.text : ink};
     }
+    if (isSystemColour(fore))
+        return Tone{fillOf(back, shades.dark), inkOn(fillOf(back, shades.dark))};
+    // A text colour that was asked for may want the other tone of its ground: white on red reads on the deeper red
+    // only.
+    for (const bool dark : {shades.dark, !shades.dark}) {
+        if (contrast(fillOf(back, dark), plain(fore)) >= readableText)
+            return Tone{fillOf(back, dark), plain(fore)};
+    }
     const QColor fill = fillOf(back, shades.dark);
-    const QColor ink = isSystemColour(fore) ? inkOn(fill) : plain(fore);
-    return Tone{fill, contrast(fill, ink) < readableText ? inkOn(fill) : ink};
+    return Tone{fill, inkOn(fill)};
 }
