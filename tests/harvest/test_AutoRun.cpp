@@ -1,0 +1,416 @@
+// The walk of an Auto run over the links of one result page: order, pace, statuses, stops, and where Go resumes.
+#include "support/ProgramFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr qint64 second = 1000;
+
+class AutoRunTest : public RunTest
+{
+  protected:
+    QStringList site(std::initializer_list<int> numbers) const
+    {
+        QStringList all;
+        for (const int number : numbers)
+            all.append(u"http://www.site%1.com/"_s.arg(number));
+        return all;
+    }
+};
+} // namespace
+
+TEST_F(AutoRunTest, VisitsEveryLinkInOrderAtThePaceOfTheCountdown)
+{
+    showResults(makeSites(3));
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({1, 2, 3}));
+    EXPECT_EQ(pump.seconds() - start, 15);
+    EXPECT_EQ(statuses, (QStringList{u"1/3 http://www.site1.com/"_s, u"2/3 http://www.site2.com/"_s,
+                                     u"3/3 http://www.site3.com/"_s, u"Stopped (FINISHED)"_s}));
+    EXPECT_EQ(form().mlngANLinkIndex, 0);
+    EXPECT_EQ(form().cmdANStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form().mbANRunning);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(AutoRunTest, SleepsBetweenTheSecondsOfAWait)
+{
+    form().incANTiming.setText(u"030"_s);
+    showResults(makeSites(1));
+    clickStart();
+    EXPECT_LE(pump.waits, 40);
+}
+
+TEST_F(AutoRunTest, TheTimerCountsUpAndKeepsItsLastValue)
+{
+    showResults(makeSites(1));
+    QStringList shown;
+    QObject::connect(&form().lblTrawlexTimer, &Control::changed, &form(), [&] {
+        if (shown.isEmpty() || shown.constLast() != form().lblTrawlexTimer.caption())
+            shown.append(form().lblTrawlexTimer.caption());
+    });
+    clickStart();
+    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"5"_s);
+    for (const auto *number : {"1", "2", "3", "4", "5"})
+        EXPECT_TRUE(shown.contains(QLatin1StringView(number))) << number;
+}
+
+TEST_F(AutoRunTest, WithoutARecordOfTheSiteNoRunTakesPlace)
+{
+    browser().pages[u"http://www.other.com/"_s].links = makeSites(2);
+    browser().show(u"http://www.other.com/"_s);
+    clickStart();
+    EXPECT_EQ(statuses, QStringList{u"No data saved for site"_s});
+    EXPECT_EQ(runs, 0);
+    EXPECT_EQ(form().cmdANStart.caption(), u"Go"_s);
+    EXPECT_TRUE(browser().navigated.isEmpty());
+}
+
+TEST_F(AutoRunTest, APageWithoutLinksIsFinishedAtOnce)
+{
+    showResults({});
+    clickStart();
+    EXPECT_EQ(statuses, QStringList{u"Stopped (FINISHED)"_s});
+}
+
+TEST_F(AutoRunTest, WhileItRunsTheButtonSaysXAndTheTimerIsRed)
+{
+    showResults(makeSites(1));
+    QString caption;
+    Colour colour = 0;
+    pump.after(second, [&] {
+        caption = form().cmdANStart.caption();
+        colour = form().lblTrawlexTimer.backColor();
+    });
+    clickStart();
+    EXPECT_EQ(caption, u"X"_s);
+    EXPECT_EQ(colour, Colours::Red);
+    EXPECT_EQ(form().lblTrawlexTimer.backColor(), Colours::ButtonFace);
+}
+
+TEST_F(AutoRunTest, XStopsInTheMiddleOfAWaitAndGoOpensTheSameLinkAgain)
+{
+    showResults(makeSites(4));
+    pump.after(7300, [&] { clickStart(); }); // the second link is being waited for
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_EQ(pump.seconds() - start, 7);
+    EXPECT_EQ(form().mlngANLinkIndex, 1);
+    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"0"_s);
+    browser().navigated.clear();
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({2, 3, 4}));
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+TEST_F(AutoRunTest, ThePageThatWasWaitedForWhenXCameIsNotScreened)
+{
+    form().chkSaveSummary.setValue(1);
+    form().chkSMD(1).setValue(0);
+    showResults(makeSites(2));
+    pump.after(7 * second, [&] { clickStart(); });
+    clickStart();
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({1}));
+}
+
+TEST_F(AutoRunTest, GoAfterFinishedTakesTheLinksOfThePageOnShowAfresh)
+{
+    showResults(makeSites(2));
+    clickStart();
+    browser().pages[u"http://www.seek.com/more"_s].links = site({2});
+    browser().show(u"http://www.seek.com/more"_s);
+    browser().navigated.clear();
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({2}));
+}
+
+TEST_F(AutoRunTest, ALeftClickOnTheTimerScreensThePageAtOnceAndTheRunGoesOn)
+{
+    form().chkSaveSummary.setValue(1);
+    form().chkSMD(1).setValue(0);
+    showResults(makeSites(2));
+    pump.after(2 * second, [&] { form().lblTrawlexTimer.mouseDown(MouseButton::Left); });
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(pump.seconds() - start, 2 + 5);
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({1, 2}));
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+TEST_F(AutoRunTest, ARightClickOnTheTimerDoesNotEndTheWait)
+{
+    showResults(makeSites(1));
+    pump.after(2 * second, [&] { form().lblTrawlexTimer.mouseDown(MouseButton::Right); });
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(pump.seconds() - start, 5);
+}
+
+TEST_F(AutoRunTest, ATimeOfZeroReadsThePageThatStandsThereRightAfterTheNavigation)
+{
+    form().incANTiming.setText(u"0"_s);
+    form().chkSaveSummary.setValue(1);
+    form().chkSMD(1).setValue(0);
+    const QStringList links = makeSites(2);
+    for (const QString &link : links)
+        browser().pages[link].loadTime = 10 * second;
+    showResults(links);
+    const qint64 start = pump.tickCount();
+    clickStart();
+    EXPECT_EQ(pump.tickCount(), start);
+    EXPECT_EQ(browser().navigated, links);
+    EXPECT_EQ(rows(u"SiteSummary"_s), QStringList{u"http://www.seek.com/?q=tea"_s});
+}
+
+TEST_F(AutoRunTest, APageThatIsSlowerThanTheCountdownIsScreenedAsItStands)
+{
+    form().chkSaveSummary.setValue(1);
+    form().chkSMD(1).setValue(0);
+    const QStringList links = makeSites(2);
+    browser().pages[links[1]].loadTime = 60 * second;
+    showResults(links);
+    clickStart();
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({1})); // the first page stood there at both times
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+TEST_F(AutoRunTest, WhatIsNoLinkIsPassedOverWithAStatusAndWithoutAWait)
+{
+    showResults({u"javascript:void(0)"_s, u"http://www.site1.com/"_s});
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({1}));
+    EXPECT_EQ(pump.seconds() - start, 5);
+    EXPECT_TRUE(statuses.contains(u"Invalid url javascript:void(0)"_s));
+    EXPECT_EQ(visited, site({1}));
+}
+
+TEST_F(AutoRunTest, QuickBlockedLinksArePassedOverWithoutStatusAndWait)
+{
+    form().mastrQB = {u"SITE2"_s, u"site3."_s};
+    showResults(makeSites(4));
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({1, 4}));
+    EXPECT_EQ(pump.seconds() - start, 10);
+    EXPECT_EQ(statuses,
+              (QStringList{u"1/4 http://www.site1.com/"_s, u"4/4 http://www.site4.com/"_s, u"Stopped (FINISHED)"_s}));
+}
+
+TEST_F(AutoRunTest, ServersOnlyOpensTheServersOfTheLinks)
+{
+    form().chkSMA(0).setValue(1);
+    showResults({u"http://www.site1.com/deep/page.html"_s, u"http://www.site2.com/x"_s});
+    clickStart();
+    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com"_s, u"http://www.site2.com"_s}));
+}
+
+TEST_F(AutoRunTest, ReturnsToThePageItBeganOnWhenItHasFinished)
+{
+    form().chkSMA(2).setValue(1);
+    showResults(makeSites(1));
+    clickStart();
+    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com/"_s, u"http://www.seek.com/?q=tea"_s}));
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+TEST_F(AutoRunTest, DoesNotReturnToTheStartPageWhenTheUserStops)
+{
+    form().chkSMA(2).setValue(1);
+    showResults(makeSites(2));
+    pump.after(second, [&] { clickStart(); });
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({1}));
+}
+
+TEST_F(AutoRunTest, ResetInTheMiddleStopsAndTheNextGoStartsAfresh)
+{
+    showResults(makeSites(3));
+    pump.after(7 * second, [&] { program->autoRun.ResetProcessAN(); });
+    clickStart();
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_EQ(form().mlngANLinkIndex, 0);
+    EXPECT_EQ(form().mastrLinks, emptyList());
+    browser().show(u"http://www.seek.com/?q=tea"_s);
+    browser().navigated.clear();
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({1, 2, 3}));
+}
+
+TEST_F(AutoRunTest, ChangingTheListLetterDiscardsAPendingWalk)
+{
+    showResults(makeSites(3));
+    pump.after(7 * second, [&] { clickStart(); });
+    clickStart();
+    ASSERT_EQ(form().mlngANLinkIndex, 1);
+    form().cboANList.setListIndex(1);
+    EXPECT_EQ(form().mlngANLinkIndex, 0);
+    EXPECT_EQ(form().mastrLinks, emptyList());
+    EXPECT_EQ(lastStatus(), u"0 loaded"_s);
+}
+
+TEST_F(AutoRunTest, AGoClickedBeforeTheStoppedRunHasUnwoundStartsNoSecondRun)
+{
+    showResults(makeSites(3));
+    int running = 0;
+    pump.after(2 * second, [&] {
+        clickStart(); // X
+        clickStart(); // Go, in the same moment
+        running = runs;
+    });
+    clickStart();
+    EXPECT_EQ(running, 0);
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_EQ(browser().navigated, site({1}));
+}
+
+TEST_F(AutoRunTest, TheBrowsersClosingInTheMiddleOfAWaitEndsTheRunOnTheSpot)
+{
+    form().chkSaveSummary.setValue(1);
+    showResults(makeSites(3));
+    FakeBrowser &window = browser();
+    pump.after(7 * second, [&] { window.close(); });
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(pump.seconds() - start, 7);
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_EQ(form().picStatus.printed(), u"Stopped (USER)..."_s);
+    EXPECT_FALSE(form().mbInitialized);
+    EXPECT_FALSE(program->browser.isSet());
+    EXPECT_EQ(form().mlngANLinkIndex, 1);
+    EXPECT_TRUE(form().cmdANInitialize.isEnabled());
+    EXPECT_FALSE(form().cmdANStart.isEnabled());
+}
+
+TEST_F(AutoRunTest, AfterTheBrowserIsConnectedAgainGoResumesTheWalk)
+{
+    showResults(makeSites(3));
+    const auto pages = browser().pages;
+    FakeBrowser &window = browser();
+    pump.after(7 * second, [&] { window.close(); });
+    clickStart();
+    browsers.running = std::make_shared<FakeBrowser>(pump);
+    browser().pages = pages;
+    form().cmdANInitialize.click();
+    ASSERT_TRUE(form().mbInitialized);
+    clickStart();
+    EXPECT_EQ(browser().navigated, site({2, 3}));
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+TEST_F(AutoRunTest, ALinkListThatWasNeverDimensionedEndsTheRunWithAnUnknownError)
+{
+    addSaved(u"Results-100"_s, u"http://www.seek.com/?q=tea"_s);
+    program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
+    form().chkUseSavedUrls.setValue(1);
+    // A driver that has never had a browser gives no list at all.
+    program->browser.set(std::make_unique<cIEObject>(program->log, desktop, clipboard, browsers));
+    clickStart();
+    EXPECT_EQ(lastStatus(), u"Stopped (ERROR, UNKNOWN)"_s);
+    EXPECT_EQ(form().cmdANStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form().mbANRunning);
+}
+
+TEST_F(AutoRunTest, WithErrorMessagesOnTheStatusComesBeforeTheBox)
+{
+    form().chkSMV(1).setValue(1);
+    qputenv("LOGFILES", folder.path().toUtf8());
+    form().mbFormReady = false;
+    form().chkUseSavedUrls.setValue(1); // without any Saved Url
+    form().mbFormReady = true;
+    bool toldBefore = false;
+    dialogs.duringError = [&] { toldBefore = statuses.contains(u"Stopped (ERROR, UNKNOWN)"_s); };
+    clickStart();
+    qunsetenv("LOGFILES");
+    EXPECT_TRUE(toldBefore);
+    ASSERT_EQ(dialogs.errors.size(), 1);
+    EXPECT_TRUE(dialogs.errors[0].text.contains(u"Module=frmSearch: ErrLoc=Sub StartProcessAN: "_s));
+    EXPECT_TRUE(dialogs.errors[0].text.endsWith(u"Err#=380"_s));
+}
+
+TEST_F(AutoRunTest, APageThatCannotBeReadIsLeftAndTheRunGoesOn)
+{
+    form().chkSaveSummary.setValue(1);
+    form().chkSMD(1).setValue(0);
+    const QStringList links = makeSites(2);
+    browser().pages[links[0]].readingFails = RuntimeError(50'001, u"took too long"_s);
+    showResults(links);
+    clickStart();
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({2}));
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+// A page that passes, with "stop on MCMNC" on, stops the run. The loop has moved on by one when it sees that, and one
+// more is passed over; near the end the position stays and no status is told; after the very last link it comes out
+// as 1.
+namespace {
+struct McmncCase
+{
+    const char *tag;
+    int links;
+    int stopsOn; ///< number of the link, from 1
+    int index;
+    QLatin1StringView status; ///< "": none is told
+    int nextLink;             ///< number of the first link that the next Go opens; 0: the list is read afresh
+};
+
+class McmncStop : public AutoRunTest, public testing::WithParamInterface<McmncCase>
+{
+};
+} // namespace
+
+TEST_P(McmncStop, LeavesThePositionAsTold)
+{
+    const McmncCase &row = GetParam();
+    form().chkMCMNCStop.setValue(1);
+    wantOnly(u"site %1,"_s.arg(row.stopsOn));
+    showResults(makeSites(row.links));
+    clickStart();
+    EXPECT_EQ(form().mlngANLinkIndex, row.index);
+    const QString last = u"%1/%2 http://www.site%1.com/"_s.arg(row.stopsOn).arg(row.links);
+    EXPECT_EQ(lastStatus(), row.status.isEmpty() ? last : QString(row.status));
+    EXPECT_EQ(form().picANEnd.backColor(), Colours::Red);
+    browser().navigated.clear();
+    clickStart();
+    EXPECT_EQ(browser().navigated.value(0),
+              row.nextLink == 0 ? QString() : u"http://www.site%1.com/"_s.arg(row.nextLink));
+}
+
+INSTANTIATE_TEST_SUITE_P(AutoRun, McmncStop,
+                         testing::Values(McmncCase{"first of five", 5, 1, 2, "Stopped (MCMNC)"_L1, 3},
+                                         McmncCase{"second of five", 5, 2, 3, "Stopped (MCMNC)"_L1, 4},
+                                         McmncCase{"third of five: near the end", 5, 3, 3, {}, 4},
+                                         McmncCase{"fourth of five: near the end", 5, 4, 4, {}, 5},
+                                         McmncCase{"the very last of five", 5, 5, 1, "Stopped (MCMNC)"_L1, 2},
+                                         McmncCase{"the very last of two", 2, 2, 0, {}, 0},
+                                         McmncCase{"the only one", 1, 1, 0, {}, 0}),
+                         [](const auto &row) {
+                             return u"stop_%1_of_%2"_s.arg(row.param.stopsOn).arg(row.param.links).toStdString();
+                         });
+
+TEST_F(AutoRunTest, TheWritersRunBeforeTheMcmncStop)
+{
+    form().chkMCMNCStop.setValue(1);
+    form().chkSaveSummary.setValue(1);
+    form().chkSMD(1).setValue(0);
+    wantOnly(u"site 1,"_s);
+    showResults(makeSites(5));
+    clickStart();
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({1}));
+    EXPECT_EQ(lastStatus(), u"Stopped (MCMNC)"_s);
+}
+
+TEST_F(AutoRunTest, ANewGoForgetsAnEarlierMcmncStop)
+{
+    form().chkMCMNCStop.setValue(1);
+    wantOnly(u"site 1,"_s);
+    showResults(makeSites(6));
+    clickStart();
+    ASSERT_EQ(lastStatus(), u"Stopped (MCMNC)"_s);
+    pump.after(2 * second, [&] { clickStart(); });
+    clickStart();
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+}
