@@ -3,7 +3,6 @@
 #include "PlainUtility.h"
 #include "QtPrint.h"
 #include "RandomText.h"
-#include "util/TextSet.h"
 
 using namespace Qt::StringLiterals;
 
@@ -77,33 +76,6 @@ TEST(Screening, EqualsThePlainVersionOnRandomInput)
         ASSERT_EQ(mustNotContain(page, items, isMinded ? minded : ignored), (Screening{mustNot.mayGo, mustNot.item}))
             << shown(page) << " items " << shown(items) << " minded " << isMinded;
     }
-}
-
-TEST(TextSet, FindsEachTextAtEveryPlaceOfAPage)
-{
-    const QStringList texts{u"x"_s, u"qu"_s, u"Foo"_s, u"\u00C9t\u00E9"_s, u"longer words"_s, u"\u4E2D\u6587"_s};
-    const TextSet set(texts, ignored);
-    for (qsizetype index = 0; index < texts.size(); ++index) {
-        for (int before = 0; before < 200; ++before) {
-            const QString page = QString(before, u'-') + plain::UCase(texts[index]) + QString(before % 70, u'-');
-            ASSERT_EQ(set.firstFound(page), index) << before;
-            ASSERT_EQ(set.firstMissing(page), index == 0 ? 1 : 0) << before;
-            ASSERT_FALSE(set.anyIn(page.first(before))) << before;
-        }
-    }
-}
-
-TEST(TextSet, HoldsManyTextsAndRepeats)
-{
-    QStringList texts;
-    for (int index = 0; index < 3000; ++index)
-        texts += u"item"_s + QString::number(index) + u";"_s;
-    texts += texts.first(10);
-    const TextSet set(texts, ignored);
-    EXPECT_EQ(set.firstFound(u"... ITEM2999; ... item1500; ..."), 1500);
-    EXPECT_EQ(set.firstFound(u"item3000;"), -1);
-    EXPECT_EQ(set.firstMissing(texts.join(u' ')), -1);
-    EXPECT_EQ(set.firstMissing(texts.sliced(1, texts.size() - 11).join(u' ')), 0);
 }
 
 TEST(QuickBlock, RefusesWhatHoldsABlockedText)
