@@ -304,6 +304,9 @@ bool Connection::inTransaction() const
 void Connection::begin()
 {
     requireLiveTransaction();
+    // The engine would begin and find out at the first row.
+    if (mReadOnly)
+        throw RuntimeError(AdoError::Engine, u"The database is read-only."_s);
     if (mDepth == 0)
         static_cast<void>(prepare("BEGIN IMMEDIATE").run());
     else

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QTemporaryFile>
 #include <array>
 #include <cstdio>
@@ -60,6 +61,7 @@ void DatabaseFiles::build(const QString &path, const std::function<void(Connecti
     place.close();
     // The new file gets the rights that any new file of the user's gets, not those of a temporary one.
     place.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    const auto tidy = qScopeGuard([name = place.fileName()] { removeCompanions(name); });
     fill(*Connection::open(place.fileName(), Connection::Access::Create));
     replaceFile(place.fileName(), path);
     place.setAutoRemove(false);
@@ -67,10 +69,7 @@ void DatabaseFiles::build(const QString &path, const std::function<void(Connecti
 
 void DatabaseFiles::create(const QString &path, const TableFieldMatrix &matrix)
 {
-    build(path, [&](Connection &connection) {
-        connection.prepareForWriting();
-        Catalog::createAll(connection, matrix);
-    });
+    build(path, [&](Connection &connection) { Catalog::createAll(connection, matrix); });
 }
 
 void DatabaseFiles::compact(const QString &path)

@@ -2,6 +2,7 @@
 #include "store/AdoErrors.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QtEndian>
@@ -9,7 +10,11 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int patience = 30'000;
+// How long the reader may be silent, and how long it is waited for at a time, in milliseconds.
+constexpr int patience = 10'000;
+constexpr int slice = 100;
+// A damaged file can send the library round in circles, complaining at each turn. No readable file has so many faults.
+constexpr qint64 mostComplaints = 256 * 1024;
 constexpr qsizetype headLength = 5;
 
 // The reader stands beside the program or, installed, in the folder for programs that only programs start.
@@ -40,7 +45,6 @@ ReaderProcess::ReaderProcess(const QStringList &arguments)
             environment.remove(name);
     }
     mProcess.setProcessEnvironment(environment);
-    mProcess.setStandardErrorFile(QProcess::nullDevice());
     mProcess.setStandardInputFile(QProcess::nullDevice());
     mProcess.start(readerProgram(), arguments, QIODevice::ReadOnly);
     if (!mProcess.waitForStarted(patience))
@@ -59,10 +63,19 @@ void ReaderProcess::fill(qsizetype count)
         mBytes.remove(0, mPlace);
         mPlace = 0;
     }
+    QElapsedTimer silence;
+    silence.start();
     while (mBytes.size() < count) {
-        if (mProcess.bytesAvailable() == 0 && !mProcess.waitForReadyRead(patience))
+        const bool ended = mProcess.state() == QProcess::NotRunning;
+        if (mProcess.bytesAvailable() == 0 && !ended)
+            mProcess.waitForReadyRead(slice);
+        mComplaints += mProcess.readAllStandardError().size();
+        const QByteArray arrived = mProcess.readAllStandardOutput();
+        if (!arrived.isEmpty())
+            silence.restart();
+        else if (ended || mComplaints > mostComplaints || silence.hasExpired(patience))
             breakOff(u"The database cannot be read: its reader ended or does not answer."_s);
-        mBytes += mProcess.readAllStandardOutput();
+        mBytes += arrived;
     }
 }
 

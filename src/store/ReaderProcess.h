@@ -26,7 +26,7 @@ class ReaderProcess
     ReaderProcess &operator=(const ReaderProcess &) = delete;
 
     /// The next frame; nothing behind the last one of a complete answer. Error AdoError::Engine for an answer that
-    /// fails, breaks off, breaks the form, or stays out for half a minute.
+    /// fails, breaks off, breaks the form, or stays out for ten seconds.
     [[nodiscard]] std::optional<Frame> next();
 
   private:
@@ -35,4 +35,5 @@ class ReaderProcess
     QProcess mProcess;
     QByteArray mBytes;
     qsizetype mPlace = 0;
+    qint64 mComplaints = 0;
 };

@@ -139,6 +139,173 @@ TEST_F(StoreTest, ASetCanBeReadChangedAndWalked)
     EXPECT_EQ(count(*database, u"SELECT * FROM MNUrlsB WHERE Url='ODD'"_s), 20);
 }
 
+TEST_F(StoreTest, APathInAMissingFolderIsRefusedSilently)
+{
+    cAdoMdb database(mLog);
+    QStringList told;
+    QObject::connect(&database, &cAdoMdb::DatabasePathChanged, &database,
+                     [&](const QString &path) { told.append(path); });
+    EXPECT_EQ(database.DatabasePath(), u"Default.mdb"_s);
+    database.setDatabasePath(pathOf(u"missing/x.mdb"_s));
+    database.setDatabasePath(u"   "_s);
+    EXPECT_EQ(database.DatabasePath(), u"Default.mdb"_s);
+    EXPECT_TRUE(told.isEmpty());
+    EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
+    database.setDatabasePath(u" "_s + pathOf(u"x.mdb"_s) + u"  "_s);
+    EXPECT_EQ(database.DatabasePath(), pathOf(u"x.mdb"_s));
+    EXPECT_EQ(told, QStringList{pathOf(u"x.mdb"_s)});
+    EXPECT_FALSE(QFileInfo::exists(pathOf(u"x.mdb"_s))) << "the trial file is gone";
+    database.setDatabasePath(mFolder.path());
+    EXPECT_TRUE(mLog.holds(75, "Let DatabasePath"_L1)) << "a folder is no file";
+    EXPECT_EQ(database.DatabasePath(), pathOf(u"x.mdb"_s));
+}
+
+TEST_F(StoreTest, AnExistingFileIsOverwrittenOnlyOnYes)
+{
+    created()->CloseConnection();
+    QString asked;
+    bool answer = false;
+    cAdoMdb database(mLog, [&](const QString &title, const QString &text) {
+        asked = title + u'|' + text;
+        return answer;
+    });
+    database.setDatabasePath(pathOf(u"Trawlex-0.mdb"_s));
+    database.Tables_AddItem(u"T"_s);
+    database.Fields_AddItem(u"Url"_s, 0, u""_s);
+    EXPECT_FALSE(database.CreateDatabase(false));
+    EXPECT_EQ(asked, u"FILE EXISTS|\"%1\" exists.\r\n Overwrite existing file?"_s.arg(database.DatabasePath()));
+    EXPECT_TRUE(declared(u"Trawlex-0.mdb"_s)->TestDatabase(false)) << "No leaves the file";
+    answer = true;
+    EXPECT_TRUE(database.CreateDatabase(false));
+    EXPECT_TRUE(database.TestDatabase(false));
+    asked.clear();
+    EXPECT_TRUE(database.CreateDatabase(true));
+    EXPECT_EQ(asked, u""_s);
+    EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
+}
+
+TEST_F(StoreTest, ARecordNeedsATableADelimiterAndAConnection)
+{
+    auto database = created();
+    EXPECT_FALSE(database->AddRecord({u"Url=x"_s}, -1, u""_s, u"="_s));
+    EXPECT_TRUE(mLog.holds(-2147221402, "Function AddRecord"_L1));
+    EXPECT_EQ(mLog.entries.last().description, u"Table Index -1 doesn't exist!"_s);
+    EXPECT_FALSE(database->AddRecord({u"Url=x"_s}, 32, u""_s, u"="_s));
+    EXPECT_TRUE(database->AddRecord({u"Url=x"_s}, 11, u""_s, u"="_s));
+    EXPECT_EQ(first(*database, u"SELECT Url FROM MNUrlsA"_s), QVariant(u"x"_s));
+    EXPECT_FALSE(database->AddRecord({u"Url"_s}, 11, u""_s, u"="_s));
+    EXPECT_TRUE(mLog.holds(9, "Function AddRecord"_L1));
+    EXPECT_FALSE(database->AddRecord({u"Url=x"_s}, -1, u"None"_s, u"="_s));
+    EXPECT_TRUE(mLog.holds(-2147217865, "Function AddRecord"_L1));
+    EXPECT_TRUE(database->AddRecord({u""_s, u"Url,a,b"_s, u"Index,77"_s, u"LastUrl,"_s}, -1, u"MNUrlsB"_s, u","_s));
+    Recordset row = database->GetRecordset(u"SELECT * FROM MNUrlsB"_s);
+    EXPECT_EQ(row.GetString(u"|"_s, u""_s, u"null"_s), u"1|a,b|"_s) << "one character: the split is exact";
+    database->CloseConnection();
+    EXPECT_FALSE(database->AddRecord({u"Url=x"_s}, 11, u""_s, u"="_s));
+    EXPECT_TRUE(mLog.holds(3709, "Function AddRecord"_L1));
+    database->CloseConnection();
+    EXPECT_TRUE(mLog.holds(3704, "Sub CloseConnection"_L1));
+}
+
+TEST_F(StoreTest, DefaultsFillTextsAndDatesOnly)
+{
+    auto database = created();
+    EXPECT_TRUE(database->AddRecord({}, -1, u"SiteSummary"_s, rowMarker));
+    Recordset row = database->GetRecordset(u"SELECT * FROM SiteSummary"_s);
+    EXPECT_EQ(row.GetString(u"|"_s, u""_s, u"null"_s), u"1|"_s + todayText() + u"||||null"_s);
+    EXPECT_TRUE(database->AddRecord({}, -1, u"EmailAddress"_s, rowMarker));
+    EXPECT_EQ(first(*database, u"SELECT SSIndex FROM EmailAddress"_s), QVariant(0LL));
+}
+
+TEST_F(StoreTest, ANumberThatIsNoneIsLostAlone)
+{
+    auto database = created();
+    EXPECT_TRUE(add(*database, u"EmailAddress"_s, {{"SSIndex"_L1, u"x"_s}, {"Address"_L1, u"a"_s}}));
+    EXPECT_TRUE(add(*database, u"EmailAddress"_s, {{"SSIndex"_L1, u"99999999999"_s}, {"Address"_L1, u"b"_s}}));
+    EXPECT_TRUE(add(*database, u"EmailAddress"_s, {{"SSIndex"_L1, u"-1"_s}, {"index"_L1, u"9"_s}}));
+    Recordset rows = database->GetRecordset(u"SELECT Index,SSIndex FROM EmailAddress"_s);
+    EXPECT_EQ(rows.GetString(u","_s, u";"_s, u""_s), u"1,0;2,0;3,-1;"_s);
+    EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
+}
+
+TEST_F(StoreTest, AnIndexIsNeverGivenTwice)
+{
+    auto database = created();
+    add(*database, u"Block"_s, {{"UrlsContent"_L1, u"a"_s}});
+    database->DeleteRecords(u"Block"_s, u""_s, u""_s, false);
+    add(*database, u"Block"_s, {{"UrlsContent"_L1, u"b"_s}});
+    EXPECT_EQ(first(*database, u"SELECT Index FROM Block"_s), QVariant(2LL));
+}
+
+TEST_F(StoreTest, TablesAreAddedAndRemoved)
+{
+    auto database = created();
+    EXPECT_FALSE(database->AddTable(u"Unknown"_s));
+    EXPECT_TRUE(mLog.holds(-2147221401, "AddTable"_L1));
+    EXPECT_EQ(mLog.entries.last().description, u"Table Unknown doesn't exist!"_s);
+    mLog.entries.clear();
+    database->Tables_AddItem(u"More"_s);
+    for (const QString &field : {u"Date"_s, u"SSIndex"_s, u"FullPage"_s})
+        database->Fields_AddItem(field, -1, u"More"_s);
+    EXPECT_TRUE(database->AddTable(u"More"_s)) << mLog.text();
+    Recordset rows = database->GetRecordset(u"SELECT * FROM More"_s);
+    const QList<int> kinds{3, 7, 130, 130};
+    for (int column = 0; column < 4; ++column)
+        EXPECT_EQ(rows.Fields()[column].Type(), kinds[column]);
+    EXPECT_FALSE(database->AddTable(u"More"_s)) << "it is there already";
+    EXPECT_FALSE(database->RemoveTable(u"more"_s));
+    EXPECT_TRUE(database->RemoveTable(u"More"_s));
+    EXPECT_EQ(database->Tables_Count(), 31);
+    EXPECT_TRUE(database->TestDatabase(false)) << mLog.text();
+}
+
+TEST_F(StoreTest, LoadDatabaseReadsTheNamesOfAFile)
+{
+    created()->CloseConnection();
+    cAdoMdb database(mLog);
+    EXPECT_FALSE(database.LoadDatabase(pathOf(u"none.mdb"_s)));
+    EXPECT_TRUE(database.LoadDatabase(pathOf(u"Trawlex-0.mdb"_s)));
+    EXPECT_EQ(database.Tables_Count(), 31);
+    EXPECT_EQ(database.Tables_ListItem(5, u""_s), u"SiteSummary"_s);
+    EXPECT_EQ(database.Fields_Count(-1, u"SearchSites"_s), 41);
+    EXPECT_TRUE(database.TestDatabase(false));
+    EXPECT_EQ(count(database, u"SELECT * FROM SiteSummary"_s), 0);
+    EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
+}
+
+TEST_F(StoreTest, CompactingGivesRoomBackAndTellsIt)
+{
+    auto database = created();
+    for (int number = 0; number < 20; ++number)
+        add(*database, u"SiteSummary"_s, {{"Url"_L1, QString::number(number)}, {"FullPage"_L1, QString(50'000, u'x')}});
+    database->DeleteRecords(u"SiteSummary"_s, u""_s, u""_s, false);
+    add(*database, u"Block"_s, {{"UrlsContent"_L1, u"kept"_s}});
+    database->CloseConnection();
+    const qint64 before = QFileInfo(database->DatabasePath()).size();
+    const QString report = database->CompactDatabase();
+    const qint64 after = QFileInfo(database->DatabasePath()).size();
+    EXPECT_LT(after, before);
+    EXPECT_EQ(report, u"%1 original size %2\r\nCompact size %3"_s.arg(database->DatabasePath()).arg(before).arg(after));
+    EXPECT_TRUE(database->TestDatabase(true)) << mLog.text();
+    EXPECT_EQ(database->GetFieldData(u"UrlsContent"_s, u"Block"_s), QStringList{u"kept"_s});
+}
+
+TEST_F(StoreTest, AQueryThatFailsLeavesItToItsReader)
+{
+    auto database = created();
+    EXPECT_EQ(database->GetFieldData(u"None"_s, u"Block"_s), QStringList{u""_s});
+    EXPECT_EQ(mLog.entries.size(), 1);
+    EXPECT_TRUE(mLog.holds(3704, "Function GetFieldData"_L1)) << mLog.text();
+    mLog.entries.clear();
+    for (const QString &statement :
+         {u"SELECT * FROM sqlite_master"_s, u"SELECT * FROM sqlite_sequence"_s, u"DELETE * FROM sqlite_sequence"_s,
+          u"SELECT * FROM [sqlite_schema]"_s, u"SELECT * FROM pragma_table_info"_s})
+        EXPECT_FALSE(database->GetRecordset(statement).isOpen()) << statement.toStdString();
+    database->CloseConnection();
+    EXPECT_FALSE(database->GetRecordset(u"SELECT * FROM Block"_s).isOpen());
+    EXPECT_TRUE(mLog.entries.size() == 0) << mLog.text();
+}
+
 TEST(DatabaseHolder, AnEmptyOneRaisesError91)
 {
     const DatabaseHolder holder;

@@ -1,4 +1,4 @@
-#include "store/reader/TextForms.h"
+#include "store/TextForms.h"
 
 #include <array>
 #include <chrono>

@@ -1,4 +1,5 @@
-// The forms in which the files hold texts, dates and decimals, as UTF-8. Functions of their arguments alone.
+// The forms in which other programs' database files hold texts, dates and decimals, as UTF-8. Functions of their
+// arguments alone.
 #pragma once
 
 #include <cstdint>

@@ -1,0 +1,176 @@
+// The search for a page's summary row, against the walk that it stands for.
+#include "StoreFixture.h"
+#include "store/AdoErrors.h"
+#include "store/SiteSummaryIndex.h"
+#include "store/Transaction.h"
+#include "util/Text.h"
+
+#include <QFile>
+#include <random>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// Stands in for the address rules: what lies between "//" and the next "/", or the start and the next "/".
+QString serverOf(const QString &url)
+{
+    const qsizetype slashes = url.indexOf("//"_L1);
+    const qsizetype start = slashes < 0 ? 0 : slashes + 2;
+    return url.mid(start).section(u'/', 0, 0);
+}
+
+qint64 plainWalk(cAdoMdb &database, const QString &key, const QString &keyServer)
+{
+    const QString page = cUtility::lowered(key);
+    const QString server = cUtility::lowered(keyServer);
+    Recordset rows = database.GetRecordset(u"SELECT Index,Url FROM SiteSummary"_s);
+    for (; !rows.Bof() && !rows.Eof(); rows.MoveNext()) {
+        const QString rowUrl = cUtility::lowered(rows.Fields()[1].Value().toString());
+        const QString rowServer = cUtility::lowered(serverOf(rows.Fields()[1].Value().toString()));
+        if (page == rowUrl || page == rowServer || server == rowUrl || server == rowServer)
+            return rows.Fields()[0].Value().toLongLong();
+    }
+    return -1;
+}
+
+class SummaryIndexTest : public StoreTest
+{
+  protected:
+    void addPage(const QString &url) { add(*mDatabase, u"SiteSummary"_s, {{"Url"_L1, url}}); }
+    [[nodiscard]] qint64 find(const QString &key, const QString &server = {})
+    {
+        const qint64 found = mIndex.find(*mDatabase, key, server);
+        EXPECT_EQ(found, plainWalk(*mDatabase, key, server)) << key.toStdString() << " " << server.toStdString();
+        return found;
+    }
+
+    std::unique_ptr<cAdoMdb> mDatabase = created();
+    SiteSummaryIndex mIndex{serverOf};
+};
+} // namespace
+
+TEST_F(SummaryIndexTest, TheFirstRowInTableOrderWins)
+{
+    EXPECT_EQ(find(u"http://a.de/"_s, u"a.de"_s), -1);
+    addPage(u"http://b.de/1"_s);
+    addPage(u"http://a.de/1"_s);
+    addPage(u"a.de"_s);
+    addPage(u"http://a.de/2"_s);
+    EXPECT_EQ(find(u"http://a.de/2"_s), 4) << "the address alone";
+    EXPECT_EQ(find(u"http://a.de/2"_s, u"a.de"_s), 2) << "another page of the same server comes first";
+    EXPECT_EQ(find(u"A.DE"_s), 2);
+    EXPECT_EQ(find(u"HTTP://B.DE/1"_s, u"nowhere"_s), 1);
+    EXPECT_EQ(find(u"x"_s, u"y"_s), -1);
+}
+
+TEST_F(SummaryIndexTest, EmptyTextsAreComparedLikeOthers)
+{
+    addPage(u"http://a.de/"_s);
+    EXPECT_EQ(find(u"x"_s, u""_s), -1);
+    addPage(u""_s);
+    EXPECT_EQ(find(u"x"_s, u""_s), 2);
+}
+
+TEST_F(SummaryIndexTest, CaseIsIgnoredBeyondAscii)
+{
+    addPage(u"http://MÜLLER.de/Ä"_s);
+    addPage(u"http://\u212A.de/"_s);
+    EXPECT_EQ(find(u"http://müller.DE/ä"_s), 1);
+    EXPECT_EQ(find(u"http://k.de/"_s), 2) << "the Kelvin sign's lower case is a k";
+}
+
+TEST_F(SummaryIndexTest, RowsThatAreAddedChangedOrRemovedAreSeen)
+{
+    addPage(u"http://a.de/1"_s);
+    EXPECT_EQ(find(u"http://a.de/1"_s), 1);
+    addPage(u"http://a.de/2"_s);
+    EXPECT_EQ(find(u"http://a.de/2"_s), 2);
+    Recordset row = mDatabase->GetRecordset(u"SELECT * FROM SiteSummary"_s);
+    row.Fields()["Url"_L1].setValue(u"http://c.de/"_s);
+    row.Update();
+    EXPECT_EQ(find(u"http://a.de/1"_s), -1);
+    EXPECT_EQ(find(u"c.de"_s), 1);
+    row.Delete();
+    EXPECT_EQ(find(u"c.de"_s), -1);
+    mDatabase->DeleteRecords(u"SiteSummary"_s, u"Index"_s, u"2"_s, true);
+    EXPECT_EQ(find(u"http://a.de/2"_s), -1);
+    row.AddNew();
+    row.Fields()["Url"_L1].setValue(u"http://d.de/"_s);
+    row.Update();
+    EXPECT_EQ(find(u"d.de"_s), 3);
+    mDatabase->DeleteRecords(u"SiteSummary"_s, u""_s, u""_s, false);
+    EXPECT_EQ(find(u"d.de"_s), -1);
+}
+
+TEST_F(SummaryIndexTest, ATransactionThatIsTakenBackIsForgotten)
+{
+    addPage(u"http://a.de/"_s);
+    {
+        Transaction page(*mDatabase);
+        addPage(u"http://b.de/"_s);
+        EXPECT_EQ(find(u"b.de"_s), 2);
+        Transaction inner(*mDatabase);
+        addPage(u"http://c.de/"_s);
+        EXPECT_EQ(find(u"c.de"_s), 3);
+    }
+    EXPECT_EQ(find(u"b.de"_s), -1);
+    addPage(u"http://c.de/"_s);
+    EXPECT_EQ(find(u"c.de"_s), 2) << "its number is given again";
+    EXPECT_EQ(find(u"b.de"_s), -1);
+}
+
+TEST_F(SummaryIndexTest, WhatAnotherProgramWritesIsSeen)
+{
+    addPage(u"http://a.de/"_s);
+    EXPECT_EQ(find(u"a.de"_s), 1);
+    sqlite3 *other = nullptr;
+    ASSERT_EQ(sqlite3_open(mDatabase->DatabasePath().toUtf8().constData(), &other), SQLITE_OK);
+    sqlite3_exec(other, "UPDATE SiteSummary SET Url='http://z.de/'", nullptr, nullptr, nullptr);
+    EXPECT_EQ(find(u"a.de"_s), -1);
+    EXPECT_EQ(find(u"z.de"_s), 1);
+    {
+        Transaction page(*mDatabase);
+        EXPECT_EQ(find(u"z.de"_s), 1);
+        EXPECT_EQ(sqlite3_exec(other, "DELETE FROM SiteSummary", nullptr, nullptr, nullptr), SQLITE_BUSY);
+        EXPECT_TRUE(page.commit());
+    }
+    sqlite3_exec(other, "DELETE FROM SiteSummary", nullptr, nullptr, nullptr);
+    EXPECT_EQ(find(u"z.de"_s), -1);
+    sqlite3_close(other);
+}
+
+TEST_F(SummaryIndexTest, AnotherDatabaseIsReadAnew)
+{
+    addPage(u"http://a.de/"_s);
+    EXPECT_EQ(find(u"a.de"_s), 1);
+    mDatabase = created(u"Trawlex-1.mdb"_s);
+    EXPECT_EQ(find(u"a.de"_s), -1);
+    mDatabase->CloseConnection();
+    EXPECT_THROW(static_cast<void>(mIndex.find(*mDatabase, u"a"_s, u"b"_s)), RuntimeError);
+}
+
+TEST_F(SummaryIndexTest, EqualsTheWalkOnRandomTables)
+{
+    std::mt19937 random(4711);
+    const QStringList servers{u"a.de"_s, u"A.de"_s, u"b.de"_s, u"www.a.de"_s, u""_s, u"ä.de"_s, u"Ä.DE"_s};
+    const QStringList forms{u"http://%1/"_s, u"%1"_s, u"http://%1/p%2"_s, u"HTTPS://%1/p%2/q"_s, u"%1/p%2"_s, u""_s};
+    const auto any = [&](const QStringList &list) {
+        return list[static_cast<qsizetype>(random() % unsigned(list.size()))];
+    };
+    const auto address = [&] {
+        QString form = any(forms);
+        return form.replace("%1"_L1, any(servers)).replace("%2"_L1, QString::number(random() % 3));
+    };
+    Transaction all(*mDatabase);
+    for (int step = 0; step < 600; ++step) {
+        const unsigned what = random() % 10;
+        if (what < 5)
+            addPage(address());
+        else if (what == 5 && random() % 4 == 0)
+            mDatabase->DeleteRecords(u"SiteSummary"_s, u"Index"_s, QString::number(random() % 100), true);
+        else
+            static_cast<void>(find(address(), random() % 2 == 0 ? QString() : any(servers)));
+    }
+    EXPECT_TRUE(all.commit());
+}
