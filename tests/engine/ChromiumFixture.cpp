@@ -3,10 +3,13 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QJsonArray>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <csignal>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -34,6 +37,21 @@ bool waitFor(const std::function<bool()> &done, int milliseconds)
     return done();
 }
 
+void idle(int milliseconds)
+{
+    waitFor([] { return false; }, milliseconds);
+}
+
+qint64 errorOf(const std::function<void()> &call)
+{
+    try {
+        call();
+    } catch (const RuntimeError &error) {
+        return error.number();
+    }
+    return 0;
+}
+
 void ChromiumTest::SetUpTestSuite()
 {
     stage = std::make_unique<Stage>();
@@ -51,13 +69,26 @@ void ChromiumTest::TearDownTestSuite()
 
 void ChromiumTest::SetUp()
 {
-    browser = connect();
+    take(connect());
     ASSERT_TRUE(browser) << "the browser did not start";
 }
 
 void ChromiumTest::TearDown()
 {
     browser.reset();
+}
+
+void ChromiumTest::take(std::shared_ptr<BrowserEngine> engine)
+{
+    browser = std::move(engine);
+    told.clear();
+    if (!browser)
+        return;
+    BrowserEngine *sender = browser.get();
+    QObject::connect(sender, &BrowserEngine::DocumentComplete, sender,
+                     [this](const QString &url, bool top) { told.append((top ? u"page "_s : u"frame "_s) + url); });
+    QObject::connect(sender, &BrowserEngine::loadingEnded, sender, [this] { told.append(u"ended"_s); });
+    QObject::connect(sender, &BrowserEngine::WindowClosing, sender, [this] { told.append(u"closing"_s); });
 }
 
 TestServer &ChromiumTest::server()
@@ -70,6 +101,11 @@ ChromiumFactory &ChromiumTest::factory()
     return stage->factory;
 }
 
+QString ChromiumTest::dataFolder()
+{
+    return stage->folder.path();
+}
+
 std::shared_ptr<BrowserEngine> ChromiumTest::connect()
 {
     std::shared_ptr<BrowserEngine> found = factory().runningBrowser();
@@ -80,28 +116,55 @@ std::shared_ptr<BrowserEngine> ChromiumTest::connect()
     return found;
 }
 
+std::shared_ptr<DevToolsConnection> ChromiumTest::backDoor()
+{
+    QFile file(dataFolder() + u"/browser-headless/DevToolsActivePort"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return nullptr;
+    const QStringList lines = QString::fromLatin1(file.readAll()).split(u'\n');
+    return DevToolsConnection::open(QUrl(u"ws://127.0.0.1:%1%2"_s.arg(lines.value(0), lines.value(1))), 2s);
+}
+
+QHash<QString, QString> ChromiumTest::windows()
+{
+    const QJsonObject answer = backDoor()->call({}, "Target.getTargets"_L1, {}, 5s);
+    QHash<QString, QString> found;
+    for (const QJsonValue each : answer[u"targetInfos"].toArray()) {
+        if (each[u"type"].toString() == "page"_L1)
+            found.insert(each[u"targetId"].toString(), each[u"url"].toString());
+    }
+    return found;
+}
+
 void ChromiumTest::open(const QString &address)
 {
-    QSignalSpy ended(browser.get(), &BrowserEngine::loadingEnded);
+    const qsizetype before = told.count(u"ended"_s);
     browser->Navigate(address);
     EXPECT_TRUE(browser->isLoading());
-    EXPECT_TRUE(waitFor([&] { return !ended.isEmpty(); })) << address.toStdString() << " did not end loading";
+    EXPECT_TRUE(waitFor([&] { return told.count(u"ended"_s) > before; })) << str(address) << " did not end loading";
     EXPECT_FALSE(browser->isLoading());
 }
 
-void ChromiumTest::show(const QByteArray &html)
+QString ChromiumTest::show(const QByteArray &html)
 {
     const QByteArray path = "/page" + QByteArray::number(++pageNumber);
     server().page(path, html);
     openPath(QString::fromLatin1(path));
+    return here(QString::fromLatin1(path));
 }
 
-QList<qint64> ChromiumTest::processes()
+bool ChromiumTest::waitForTitle(const QString &title, int milliseconds)
+{
+    return waitFor([&] { return browser->LocationName() == title; }, milliseconds);
+}
+
+QList<qint64> ChromiumTest::processes(const QByteArray &part)
 {
     QList<qint64> found;
     for (const QString &entry : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
         QFile file(u"/proc/%1/cmdline"_s.arg(entry));
-        if (file.open(QIODevice::ReadOnly) && file.readAll().contains(stage->folder.path().toUtf8()))
+        const QByteArray line = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        if (line.contains(stage->folder.path().toUtf8()) && line.contains(part))
             found.append(entry.toLongLong());
     }
     return found;

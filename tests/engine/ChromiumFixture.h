@@ -3,16 +3,31 @@
 
 #include "TestServer.h"
 #include "engine/ChromiumFactory.h"
+#include "engine/DevToolsConnection.h"
+#include "engine/EngineErrors.h"
 
 #include <QElapsedTimer>
-#include <QSignalSpy>
-#include <QTemporaryDir>
+#include <QStringList>
+#include <functional>
 #include <gtest/gtest.h>
 
 /// Runs the event loop until `done` or the limit; gives `done()`.
 bool waitFor(const std::function<bool()> &done, int milliseconds = 10000);
+/// Runs the event loop for a while in which nothing is expected to happen.
+void idle(int milliseconds);
+/// Runs `call` and gives the number of the error that it raises, 0 without one.
+qint64 errorOf(const std::function<void()> &call);
+/// A text as Google Test shows it.
+inline std::string str(const QString &text)
+{
+    return text.toStdString();
+}
+inline std::string str(const QStringList &texts)
+{
+    return texts.join(u" | ").toStdString();
+}
 
-/// A browser that runs for all tests of one suite; each test gets its page.
+/// A browser without a window that runs for all tests of one suite; each test gets its page anew.
 class ChromiumTest : public testing::Test
 {
   protected:
@@ -23,18 +38,29 @@ class ChromiumTest : public testing::Test
 
     /// Opens `address` and waits until loading has ended.
     void open(const QString &address);
-    void openPath(const QString &path) { open(server().address(path, QStringLiteral("site.test"))); }
-    /// Serves `html` under a path of its own and opens it.
-    void show(const QByteArray &html);
+    void openPath(const QString &path) { open(here(path)); }
+    /// Serves `html` under a path of its own and opens it; gives its address.
+    QString show(const QByteArray &html);
+    /// Runs the event loop until the page's title is `title`.
+    bool waitForTitle(const QString &title, int milliseconds = 5000);
+    [[nodiscard]] QString text() { return browser->documentPart(BrowserEngine::Part::Text); }
+
     /// The address of `path` on the site that tests are on, and on another one.
     static QString here(const QString &path) { return server().address(path, QStringLiteral("site.test")); }
     static QString elsewhere(const QString &path) { return server().address(path, QStringLiteral("other.test")); }
     static TestServer &server();
     static ChromiumFactory &factory();
-    /// Starts a browser that does not run, and connects to it.
+    static QString dataFolder();
+    /// Connects to the browser, which is started if it does not run.
     static std::shared_ptr<BrowserEngine> connect();
-    /// Process ids of the browser and all its helpers.
-    static QList<qint64> processes();
+    void take(std::shared_ptr<BrowserEngine> engine);
+    /// A second line to the browser, for what only its user could do.
+    static std::shared_ptr<DevToolsConnection> backDoor();
+    /// The browser's page windows: target and address of each.
+    static QHash<QString, QString> windows();
+    /// Process ids of the browser and all its helpers, or of those whose command line contains `part`.
+    static QList<qint64> processes(const QByteArray &part = {});
 
     std::shared_ptr<BrowserEngine> browser;
+    QStringList told; ///< the browser's signals in order: "frame ADDRESS", "page ADDRESS", "ended", "closing"
 };
