@@ -11,8 +11,15 @@ class DesktopBrowsers : public ChromiumFactory
   public:
     using ChromiumFactory::ChromiumFactory;
     ~DesktopBrowsers() override;
+    /// The browser of the window that is open, or of a new one.
     [[nodiscard]] std::shared_ptr<BrowserEngine> internalBrowser() override;
+    /// The window beside which the browser's window opens.
+    void standBeside(QWidget *main) { mMain = main; }
 
   private:
+    void forget();
+
+    QPointer<QWidget> mMain;
     QPointer<BareBrowserWindow> mobjWBare;
+    std::shared_ptr<WebEngineBrowser> mInternal;
 };

@@ -46,12 +46,15 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     Program program({pump, dialogs, desktop, clipboard, settings, place, browsers, programFolder()});
     MainWindow window(program.form);
     place.set(&window);
+    browsers.standBeside(&window);
     connectWindow(program, window);
     if (!program.lifeCycle.Form_Load())
         return 1;
+    // Placed before it is shown, so that the window manager takes our place and nothing jumps.
+    window.adjustSize();
+    program.lifeCycle.settle();
     splash.close();
     window.show();
-    program.lifeCycle.settle();
     const int status = QApplication::exec();
     place.set(nullptr);
     return status;

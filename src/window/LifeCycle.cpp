@@ -65,10 +65,7 @@ void LifeCycle::settle()
             m.place.moveTo(AlignFF(m.settings, formName, m.place.place(), m.place.screen()));
         }
         m.form.mbMainShown = true;
-    });
-    QTimer::singleShot(0, this, [this] {
-        const bool onTop = m.settings.GetSetting(Options::section, keepOnTopKey, u"True"_s) == "True"_L1;
-        if (!onTop)
+        if (m.settings.GetSetting(Options::section, keepOnTopKey, u"True"_s) != "True"_L1)
             return;
         m.place.putOnTop(true);
         saveOnTop(m.settings, formName, true);

@@ -30,7 +30,7 @@ class LifeCycle : public QObject
 
     /// Builds the form's state, opens the database, connects a browser. False when there is no usable database.
     bool Form_Load();
-    /// After the window is shown: its place, and that it stands on top.
+    /// Just before the window is shown: its place, and that it stands on top.
     void settle();
     /// The user wants to end; asks first where the option says so.
     void Terminate();

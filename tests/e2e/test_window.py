@@ -1,0 +1,150 @@
+"""The window under a virtual display, driven by real clicks and keys: a harvest stopped with X in the middle and resumed
+with Go, and the end of the program. The browser stands in its own window, as a user has it."""
+import json
+import os
+import pathlib
+import re
+import signal
+import subprocess
+import sys
+import time
+import unittest
+
+import trawlex
+
+SAVE_BOXES = ["chkSaveSummary", "chkSavePages", "chkSaveEmail", "chkSavePhone", "chkSaveUrl"]
+OPTIONS = {"udcNotFoundMinSize": "002000", "chkSMAMUrlIfNoData": "0", "chkShutDownPrompt": "0", "npTimimg": "002"}
+
+
+class Display:
+    """A display of its own with a window manager, ended with the test."""
+
+    def __init__(self, case):
+        read, write = os.pipe()
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1000x24", "-nolisten", "tcp"],
+                                       pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as number:
+            self.name = ":" + number.readline().strip()
+        case.env.update(DISPLAY=self.name, QT_QPA_PLATFORM="xcb")
+        case.env.pop("WAYLAND_DISPLAY", None)
+        self.env = case.env
+        self.manager = subprocess.Popen(["openbox"], env=case.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        case.addCleanup(self.close)
+
+    def close(self):
+        for process in (self.manager, self.server):
+            process.kill()
+            process.wait()
+
+    def do(self, *words):
+        done = subprocess.run(["xdotool", *map(str, words)], env=self.env, capture_output=True, text=True, timeout=20,
+                              check=False)
+        return done.stdout.split()
+
+    def screenshot(self, path):
+        subprocess.run(["import", "-window", "root", path], env=self.env, timeout=30, check=False)
+
+
+class WindowCase(trawlex.Case):
+    def setUp(self):
+        super().setUp()
+        self.display = Display(self)
+        self.env["TRAWLEX_BROWSER_ARGS"] = f'"--host-resolver-rules=MAP * 127.0.0.1:{self.demo.port}"'
+        self.database = os.path.join(self.folder, "database", "Trawlex-0.mdb")
+        os.mkdir(os.path.dirname(self.database))
+
+    def settings_file(self):
+        return pathlib.Path(self.folder, "config/trawlex/trawlex.ini")
+
+    def choose_options(self, **options):
+        """Puts options into the settings beside those that a first start has written."""
+        text = self.settings_file().read_text(encoding="utf-8")
+        prefix = re.search(r"^(.*SecFrmSearch\\)WorkingPath=", text, re.MULTILINE)[1]
+        kept = [line for line in text.splitlines() if not any(line.startswith(prefix + key + "=") for key in options)]
+        at = next(i for i, line in enumerate(kept) if line.startswith(prefix + "WorkingPath="))
+        kept[at:at] = [f"{prefix}{key}={value}" for key, value in options.items()]
+        self.settings_file().write_text("\n".join(kept) + "\n", encoding="utf-8")
+
+    def start(self):
+        log = open(self.folder + "/window.txt", "a", encoding="utf-8")
+        self.addCleanup(log.close)
+        self.window = subprocess.Popen([trawlex.WINDOW], env=self.env, cwd=self.folder, stdout=log, stderr=log)
+        self.addCleanup(lambda: (self.window.poll() is None and self.window.kill(), self.window.wait()))
+        self.id = trawlex.wait_for(self.find_window, 40, "the main window")
+        found = subprocess.run([trawlex.BIN / "window_positions"], env=self.env, capture_output=True, text=True, check=True)
+        self.positions = json.loads(found.stdout)
+
+    def find_window(self):
+        """The main window is ours, visible, and larger than the splash."""
+        for window in self.display.do("search", "--onlyvisible", "--pid", self.window.pid):
+            geometry = dict(part.split("=") for part in
+                            self.display.do("getwindowgeometry", "--shell", window) if "=" in part)
+            if int(geometry.get("HEIGHT", 0)) > 400:
+                return window
+        return None
+
+    def click(self, name, button=1):
+        x, y = self.positions[name][:2]
+        self.display.do("mousemove", "--window", self.id, x, y)
+        self.display.do("click", button)
+
+    def open_in_browser(self, url):
+        browser = trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--class", "hromium"), 20,
+                                   "the browser's window")[-1]
+        self.display.do("windowactivate", "--sync", browser)
+        self.display.do("key", "--window", browser, "ctrl+l")
+        self.display.do("type", "--delay", "5", url)
+        self.display.do("key", "Return")
+
+    def requests_of(self, host):
+        return [line for line in pathlib.Path(self.folder, "requests.txt").read_text().splitlines() if host in line]
+
+
+class FreeStandingBrowser(WindowCase):
+    def first_start(self):
+        """Makes settings and database; the end mark ends the program after its question."""
+        self.start()
+        self.click("picANEnd")
+        time.sleep(1)
+        self.display.do("key", "alt+y")
+        self.window.wait(timeout=20)
+        self.assertEqual(self.window.returncode, 0)
+
+    def test_a_harvest_stopped_with_x_and_resumed_with_go_stores_every_row(self):
+        self.first_start()
+        self.choose_options(**OPTIONS, **{"SearchKeyTxtSaveLocation Text": os.path.dirname(self.database) + "/"})
+        self.start()
+        trawlex.wait_for(lambda: os.path.exists(self.database), 10, "the database")
+        subprocess.run([sys.executable, trawlex.ROOT / "demo/record.py", self.database], check=True,
+                       stdout=subprocess.DEVNULL)
+        for box in SAVE_BOXES:
+            self.click(box)
+        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
+        time.sleep(3)
+        self.click("cmdANStart")
+        trawlex.wait_for(lambda: trawlex.count(self.database, "SiteSummary") >= 5, 60, "five summaries")
+        self.click("cmdANStart")
+        time.sleep(1)
+        stopped = trawlex.count(self.database, "SiteSummary")
+        time.sleep(5)
+        self.assertEqual(trawlex.count(self.database, "SiteSummary"), stopped, "the run went on after X")
+        self.click("cmdANStart")
+        wanted = len(trawlex.EXPECTED["PassUrlsA"])
+        trawlex.wait_for(lambda: trawlex.count(self.database, "PassUrlsA") >= wanted, 240, "all links")
+        self.assert_expected_rows(self.database)
+        self.click("picANEnd")
+        self.assertEqual(self.window.wait(timeout=20), 0)
+
+    def test_ending_in_the_middle_of_a_wait_leaves_no_process(self):
+        self.first_start()
+        self.choose_options(**OPTIONS)
+        self.start()
+        self.click("cmdANStart")
+        time.sleep(0.5)
+        self.click("picANEnd")
+        self.assertEqual(self.window.wait(timeout=20), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
