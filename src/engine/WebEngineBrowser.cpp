@@ -1,7 +1,7 @@
 #include "engine/WebEngineBrowser.h"
+#include "engine/EngineErrors.h"
 #include "engine/Platform.h"
 #include "engine/WebEngineAddress.h"
-#include "engine/WebEngineErrors.h"
 #include "engine/WebEnginePage.h"
 #include "engine/WebEngineReader.h"
 
@@ -15,11 +15,13 @@
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr std::chrono::milliseconds askAgain{100};
 constexpr QLatin1StringView partNames[] = {"html"_L1, "text"_L1};
 
 // Where the folder is given, it holds cookies: nobody else's business.
@@ -51,6 +53,7 @@ struct WebEngineBrowser::Kernel
 {
     std::unique_ptr<QWebEngineProfile> profile;
     std::unique_ptr<WebEnginePage> page;
+    QString token = WebEnginePage::newToken();
 
     void leaveLater()
     {
@@ -66,11 +69,10 @@ WebEngineBrowser::WebEngineBrowser(const WebEngineOptions &options)
 {
     mKernel->profile = makeProfile(options.storageFolder);
     connect(mKernel->profile.get(), &QWebEngineProfile::downloadRequested, this, &refuseDownload);
-    mKernel->page = std::make_unique<WebEnginePage>(mKernel->profile.get());
+    makePage();
     mReader = std::make_unique<WebEngineReader>(*mKernel->page, options.readLimit);
-    connectPage();
-    page()->runJavaScript(QStringLiteral("0")); // brings the page to life, else it cannot be made visible
-    keepVisible();
+    connect(mReader.get(), &WebEngineReader::unanswered, this, &WebEngineBrowser::endProcess);
+    connect(mReader.get(), &WebEngineReader::finished, this, [this] { emitLater({}); });
 }
 
 // From within a handler of NewWindow2 or a read, the page's own functions are still on the stack.
@@ -80,6 +82,26 @@ WebEngineBrowser::~WebEngineBrowser()
     mReader.reset();
     if (inUse)
         mKernel->leaveLater();
+}
+
+void WebEngineBrowser::makePage()
+{
+    mKernel->page = std::make_unique<WebEnginePage>(mKernel->profile.get(), mKernel->token);
+    connectPage();
+    page()->runJavaScript(QStringLiteral("0")); // brings the page to life, else it cannot be made visible
+    keepVisible();
+}
+
+// A page whose process has crashed comes back without some of what it had: our script no longer reaches all its frames.
+void WebEngineBrowser::replacePage()
+{
+    WebEnginePage *old = mKernel->page.release();
+    old->disconnect(this);
+    makePage();
+    mReader->setPage(*mKernel->page);
+    mProcessGone = false;
+    Q_EMIT pageReplaced(page());
+    old->deleteLater(); // it may be on the stack
 }
 
 void WebEngineBrowser::connectPage()
@@ -92,12 +114,7 @@ void WebEngineBrowser::connectPage()
     connect(page, &WebEnginePage::windowRefused, this, &WebEngineBrowser::onWindowRefused);
     connect(page, &WebEnginePage::navigationTakenUp, this, [this] { mStarted = true; });
     connect(page, &WebEnginePage::documentCreated, this, &WebEngineBrowser::onDocumentCreated);
-    connect(page, &WebEnginePage::documentLoaded, this, [this](const QString &url, bool topDocument) {
-        if (!topDocument) // the page has loaded when all its frames have: see endLoading()
-            emitLater([this, url] { Q_EMIT DocumentComplete(url, false); });
-    });
-    connect(mReader.get(), &WebEngineReader::unanswered, this, &WebEngineBrowser::endProcess);
-    connect(mReader.get(), &WebEngineReader::finished, this, [this] { emitLater({}); });
+    connect(page, &WebEnginePage::documentLoaded, this, &WebEngineBrowser::onDocumentLoaded);
 }
 
 QWebEnginePage *WebEngineBrowser::page() const
@@ -123,9 +140,9 @@ void WebEngineBrowser::Navigate(const QString &address)
     ++mNavigation;
     mLoading = true;
     mCommitted = false;
+    mDocumentLoaded = false;
     if (!mProcessGone && !moveWithin)
         watchLeaving();
-    mProcessGone = false;
     issue();
     if (moveWithin) { // the page tells nothing more of it
         mLocation = WebEngineAddress::text(url);
@@ -133,40 +150,50 @@ void WebEngineBrowser::Navigate(const QString &address)
     }
 }
 
-// While the page is busy with an earlier navigation, that one's end may still be told after this one has been issued.
+// While the page is busy with an earlier navigation, that one's end may still be told after this one has been given.
 void WebEngineBrowser::issue()
 {
     mReissuing = false;
-    mStarted = !page()->isLoading();
+    if (mProcessGone)
+        replacePage();
+    mStarted = false;
+    mWasBusy = page()->isLoading();
     mIssuing = true;
     page()->setUrl(WebEngineAddress::parsed(mAddress));
     mIssuing = false;
 }
 
-// A page whose script never ends keeps the next one from coming, as the same site's pages share a process.
+// A page whose script never ends keeps the next one from coming, as the same site's pages share a process. It is asked
+// twice, since the first question may have gone with the document.
 void WebEngineBrowser::watchLeaving()
 {
     const auto answered = std::make_shared<bool>(false);
+    const auto stillLeaving = [this, navigation = mNavigation] {
+        return navigation == mNavigation && mLoading && !mCommitted;
+    };
     mReader->probe(answered);
-    QTimer::singleShot(mOptions.leaveLimit, this, [this, answered, navigation = mNavigation] {
-        if (navigation == mNavigation && mLoading && !mCommitted)
+    QTimer::singleShot(mOptions.leaveLimit / 2, this, [this, answered, stillLeaving] {
+        if (stillLeaving())
+            mReader->probe(answered);
+    });
+    QTimer::singleShot(mOptions.leaveLimit, this, [this, answered, stillLeaving] {
+        if (stillLeaving())
             onLeaveLimit(*answered);
     });
 }
 
 void WebEngineBrowser::onLeaveLimit(bool answered)
 {
-    if (!answered) {
-        mReissuing = true;
-        Platform::endProcess(page()->renderProcessPid());
-    } else if (!page()->isLoading()) {
-        endLoading(false); // the page has taken the address for nothing it can open
-    }
+    if (!answered)
+        Platform::endProcess(page()->renderProcessPid()); // onProcessGone() gives the address to the next process
+    else if (!page()->isLoading())
+        endLoading(false); // the page has taken the address for nothing that it can open
 }
 
 void WebEngineBrowser::Stop()
 {
     raiseIfClosed();
+    mReissuing = false;
     page()->triggerAction(QWebEnginePage::Stop);
     if (mLoading)
         endLoading(false);
@@ -181,16 +208,58 @@ void WebEngineBrowser::onLoadingChanged(const QWebEngineLoadingInfo &info)
         mLoading = true; // also when the page moves on by itself
         return;
     }
-    if (!mLoading || (!mStarted && info.url() != WebEngineAddress::parsed(mAddress)))
-        return;
     // Stopped: nothing came (a download, an empty answer, another program's address); the old document still stands.
-    endLoading(info.status() != QWebEngineLoadingInfo::LoadStoppedStatus && !mProcessGone);
+    const bool stopped = info.status() == QWebEngineLoadingInfo::LoadStoppedStatus;
+    const bool own =
+        mCommitted || (mStarted && (stopped || !mWasBusy)) || info.url() == WebEngineAddress::parsed(mAddress);
+    if (!mLoading || !own)
+        return;
+    if (stopped || mDocumentLoaded)
+        endLoading(!stopped);
+    else
+        askWhetherLoaded();
+}
+
+// The end that was told may be that of a load which this one has cut off: the document knows.
+void WebEngineBrowser::askWhetherLoaded()
+{
+    const auto loading = [self = QPointer(this), navigation = mNavigation] {
+        return self && self->mLoading && self->mNavigation == navigation;
+    };
+    const auto later = [this, loading] {
+        if (loading())
+            askWhetherLoaded();
+    };
+    page()->runJavaScript(QStringLiteral("document.readyState"), QWebEngineScript::ApplicationWorld,
+                          [this, loading, later](const QVariant &state) {
+                              if (!loading())
+                                  return;
+                              if (state.toString() == u"complete")
+                                  endLoading(true);
+                              else
+                                  QTimer::singleShot(askAgain, this, later);
+                          });
+}
+
+// The end of a load that began while another one was under way is not always told; the document then tells it.
+void WebEngineBrowser::onDocumentLoaded(const QString &url, bool topDocument)
+{
+    if (!topDocument) { // the page itself has loaded when all its frames have: see endLoading()
+        emitLater([this, url] { Q_EMIT DocumentComplete(url, false); });
+        return;
+    }
+    mDocumentLoaded = true;
+    QTimer::singleShot(askAgain, this, [this, navigation = mNavigation] {
+        if (navigation == mNavigation && mLoading && mCommitted && !mReissuing && !page()->isLoading())
+            askWhetherLoaded();
+    });
 }
 
 void WebEngineBrowser::endLoading(bool withDocument)
 {
     mLoading = false;
     if (withDocument) {
+        mProcessGone = false;
         onUrlChanged(page()->url());
         emitLater([this, url = mLocation] { Q_EMIT DocumentComplete(url, true); });
     }
@@ -200,7 +269,7 @@ void WebEngineBrowser::endLoading(bool withDocument)
 // The address that is only asked for is told here too (mIssuing); it counts from the document's creation on.
 void WebEngineBrowser::onUrlChanged(const QUrl &url)
 {
-    if (!mIssuing && !url.isEmpty() && !WebEngineAddress::isSame(mLocation, url))
+    if (!mIssuing && !mProcessGone && !url.isEmpty() && !WebEngineAddress::isSame(mLocation, url))
         mLocation = WebEngineAddress::text(url);
 }
 
@@ -209,22 +278,28 @@ void WebEngineBrowser::onDocumentCreated(const QString &url, bool topDocument)
     if (!topDocument)
         return;
     mCommitted = true;
+    mDocumentLoaded = false;
+    mProcessGone = false;
     mLocation = WebEngineAddress::isErrorPage(url) ? WebEngineAddress::text(page()->url()) : url;
 }
 
+// The process of the page that is being left takes the navigation along when it ends; the address is then given again.
 void WebEngineBrowser::onProcessGone()
 {
-    mReader->fail({WebEngineError::Unavailable, QStringLiteral("The page's process has ended.")});
-    if (mReissuing) {
-        QTimer::singleShot(0, this, [this] {
-            if (mReissuing)
-                issue();
-        });
+    mProcessGone = true;
+    mReader->fail({EngineError::BrowserGone, QStringLiteral("The page's process has ended.")});
+    if (!mLoading)
+        return;
+    if (mCommitted || mReissued == mNavigation) {
+        endLoading(false);
         return;
     }
-    mProcessGone = true;
-    if (mLoading)
-        endLoading(false);
+    mReissuing = true;
+    mReissued = mNavigation;
+    QTimer::singleShot(0, this, [this] {
+        if (mReissuing)
+            issue();
+    });
 }
 
 void WebEngineBrowser::endProcess()
@@ -248,7 +323,7 @@ void WebEngineBrowser::windowClosed()
     if (mClosed)
         return;
     mClosed = true;
-    mReader->fail({WebEngineError::Unavailable, QStringLiteral("The browser's window has been closed.")});
+    mReader->fail({EngineError::BrowserGone, QStringLiteral("The browser's window has been closed.")});
     page()->triggerAction(QWebEnginePage::Stop);
     mLoading = false;
     emitLater([this] { Q_EMIT WindowClosing(); });
@@ -259,16 +334,16 @@ void WebEngineBrowser::windowClosed()
 void WebEngineBrowser::raiseIfClosed() const
 {
     if (mClosed)
-        throw RuntimeError(WebEngineError::Unavailable, QStringLiteral("The browser's window has been closed."));
+        throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The browser's window has been closed."));
 }
 
 QStringList WebEngineBrowser::read(QLatin1StringView what, int frame)
 {
     raiseIfClosed();
     if (mProcessGone)
-        throw RuntimeError(WebEngineError::Unavailable, QStringLiteral("The page's process has ended."));
+        throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page's process has ended."));
     if (mRefusing > 0)
-        throw RuntimeError(WebEngineError::Unavailable, QStringLiteral("The page waits for its new window."));
+        throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page waits for its new window."));
     return mReader->read(what, frame);
 }
 
@@ -343,7 +418,7 @@ void WebEngineBrowser::saveAs()
 {
     raiseIfClosed();
     if (!isSignalConnected(QMetaMethod::fromSignal(&WebEngineBrowser::saveRequested)))
-        throw RuntimeError(WebEngineError::Unavailable, QStringLiteral("The page can be saved only from a window."));
+        throw RuntimeError(EngineError::CannotDo, QStringLiteral("The page can be saved only from a window."));
     Q_EMIT saveRequested();
 }
 

@@ -1,8 +1,9 @@
 // The built-in browser: a page of its own with a profile of its own, with or without a view on it. Knows no widget.
 //
-// A page's process that does not answer within the read limit is ended; until the next Navigate() reads then raise an
-// error, as they do after a crash. The last reference to the browser may be dropped anywhere, in a handler of one of
-// its own signals too. Reads raise an error inside a handler of NewWindow2, since the page waits for its end.
+// A page's process that does not answer within the read limit is ended; reads then raise an error, as after a crash,
+// until the next Navigate() has brought a document. The last reference to the browser may be dropped anywhere, in a
+// handler of one of its own signals too. Reads raise an error inside a handler of NewWindow2, since the page waits for
+// its end.
 #pragma once
 
 #include "web/BrowserEngine.h"
@@ -35,7 +36,8 @@ class WebEngineBrowser : public BrowserEngine
     explicit WebEngineBrowser(const WebEngineOptions &options = {});
     ~WebEngineBrowser() override;
 
-    /// The page for a view to show. Belongs to the browser and may outlive it by a turn of the event loop.
+    /// The page for a view to show, until pageReplaced(). Belongs to the browser and may outlive it by a turn of the
+    /// event loop.
     [[nodiscard]] QWebEnginePage *page() const;
 
     /// Raises an error for what is no address. A move within the page has ended when this returns.
@@ -73,13 +75,20 @@ class WebEngineBrowser : public BrowserEngine
     /// The user is to be asked where to, and page()->save() called. The download of that page is accepted.
     void saveRequested();
 
+    /// The page has lost its process, and another one takes its place: a view has to show that one.
+    void pageReplaced(QWebEnginePage *page);
+
   private:
     struct Kernel;
 
+    void makePage();
+    void replacePage();
     void connectPage();
     void onLoadingChanged(const QWebEngineLoadingInfo &info);
     void onUrlChanged(const QUrl &url);
     void onDocumentCreated(const QString &url, bool topDocument);
+    void onDocumentLoaded(const QString &url, bool topDocument);
+    void askWhetherLoaded();
     void onProcessGone();
     void onWindowRefused();
     void endLoading(bool withDocument);
@@ -100,14 +109,17 @@ class WebEngineBrowser : public BrowserEngine
 
     std::deque<std::function<void()>> mDue; ///< signals that wait for the event loop, in order
     QString mLocation = QStringLiteral("about:blank");
-    QString mAddress;        ///< of the navigation under way
-    int mNavigation = 0;     ///< counts the calls of Navigate()
-    int mRefusing = 0;       ///< handlers of NewWindow2 on the stack
-    bool mLoading = false;   ///< see isLoading()
-    bool mStarted = false;   ///< the page has taken up the navigation; what ended before belongs to an earlier one
-    bool mCommitted = false; ///< the navigation has come to a document of its own
-    bool mIssuing = false;   ///< the page is being given its address
-    bool mReissuing = false; ///< the address is given again, to a new process
-    bool mProcessGone = false;
+    QString mAddress;             ///< of the navigation under way
+    int mNavigation = 0;          ///< counts the calls of Navigate()
+    int mReissued = 0;            ///< the navigation that has been given to a second process
+    int mRefusing = 0;            ///< handlers of NewWindow2 on the stack
+    bool mLoading = false;        ///< see isLoading()
+    bool mStarted = false;        ///< the page has taken up the navigation; what ended before belongs to an earlier one
+    bool mWasBusy = false;        ///< an earlier load was under way: what ends may be that one
+    bool mCommitted = false;      ///< the navigation has come to a document of its own
+    bool mDocumentLoaded = false; ///< that document has told that it has been loaded
+    bool mIssuing = false;        ///< the page is being given its address
+    bool mReissuing = false;      ///< the address is given again, to a new process
+    bool mProcessGone = false;    ///< and with it the document: nothing can be read until another one has come
     bool mClosed = false;
 };

@@ -10,6 +10,7 @@
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
+#include <QWebEngineProfile>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
@@ -56,13 +57,17 @@ QString framesScript(const QString &token)
 
 } // namespace
 
-WebEnginePage::WebEnginePage(QWebEngineProfile *profile)
-    : QWebEnginePage(profile, nullptr),
-      mToken(QUuid::createUuid().toString(QUuid::WithoutBraces) + QUuid::createUuid().toString(QUuid::WithoutBraces))
+WebEnginePage::WebEnginePage(QWebEngineProfile *profile, const QString &token)
+    : QWebEnginePage(profile, nullptr), mToken(token)
 {
     setUp();
     refuseRequests();
     listenToFrames();
+}
+
+QString WebEnginePage::newToken()
+{
+    return QUuid::createUuid().toString(QUuid::Id128) + QUuid::createUuid().toString(QUuid::Id128);
 }
 
 void WebEnginePage::setUp()
@@ -95,8 +100,8 @@ void WebEnginePage::refuseRequests()
             [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
 }
 
-// The script belongs to the page and not to the profile: a profile's scripts are no longer put into a page whose
-// process has crashed.
+// A page's own script can miss a frame of a page whose process has crashed, a profile's script a process that has
+// crashed and come back; the script itself sees to it that it works once.
 void WebEnginePage::listenToFrames()
 {
     QWebEngineScript script;
@@ -106,6 +111,8 @@ void WebEnginePage::listenToFrames()
     script.setWorldId(QWebEngineScript::ApplicationWorld);
     script.setRunsOnSubFrames(true);
     scripts().insert(script);
+    if (profile()->scripts()->find(script.name()).isEmpty())
+        profile()->scripts()->insert(script);
 }
 
 bool WebEnginePage::acceptNavigationRequest(const QUrl &, NavigationType type, bool isMainFrame)

@@ -13,8 +13,9 @@ class WebEnginePage : public QWebEnginePage
     Q_OBJECT
 
   public:
-    /// `profile` must outlive the page.
-    explicit WebEnginePage(QWebEngineProfile *profile);
+    /// `profile` must outlive the page. `token` begins each message of our own script: no page may know it.
+    WebEnginePage(QWebEngineProfile *profile, const QString &token);
+    [[nodiscard]] static QString newToken();
 
   Q_SIGNALS:
     /// The page wants a new window and does not get it. Emitted from within the browser's own work: the page must not
@@ -44,5 +45,5 @@ class WebEnginePage : public QWebEnginePage
     void refuseRequests();
     void listenToFrames();
 
-    QString mToken; ///< begins each message of our own script; unknown to pages
+    QString mToken;
 };

@@ -1,5 +1,5 @@
 #include "engine/WebEngineReader.h"
-#include "engine/WebEngineErrors.h"
+#include "engine/EngineErrors.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -36,9 +36,15 @@ const QString &readerScript()
     return script;
 }
 
+qint64 numberOf(const QVariantMap &failedAnswer)
+{
+    const qint64 number = failedAnswer[QStringLiteral("number")].toLongLong();
+    return number != 0 ? number : EngineError::CannotRead;
+}
+
 RuntimeError gone()
 {
-    return {WebEngineError::Unavailable, QStringLiteral("The browser is gone.")};
+    return {EngineError::BrowserGone, QStringLiteral("The browser is gone.")};
 }
 
 // Counts one read for as long as it lasts, unless the reader goes first.
@@ -76,7 +82,7 @@ struct WebEngineReader::Question
     }
 };
 
-WebEngineReader::WebEngineReader(QWebEnginePage &page, std::chrono::milliseconds limit) : mPage(page), mLimit(limit) {}
+WebEngineReader::WebEngineReader(QWebEnginePage &page, std::chrono::milliseconds limit) : mPage(&page), mLimit(limit) {}
 
 WebEngineReader::~WebEngineReader()
 {
@@ -91,7 +97,7 @@ QStringList WebEngineReader::read(QLatin1StringView what, int frame)
     while (true) {
         const QVariantMap answer = ask(readerScript() + call, deadline).toMap();
         if (const auto error = answer.constFind(QStringLiteral("error")); error != answer.constEnd())
-            throw RuntimeError(answer[QStringLiteral("number")].toLongLong(), error->toString());
+            throw RuntimeError(numberOf(answer), error->toString());
         if (const auto texts = answer.constFind(QStringLiteral("texts")); texts != answer.constEnd())
             return texts->toStringList();
         if (const auto texts = fetch(answer, deadline))
@@ -142,7 +148,7 @@ QVariant WebEngineReader::ask(const QString &script, const QDeadlineTimer &deadl
     if (question->answer.isValid())
         return question->answer;
     Q_EMIT unanswered();
-    throw RuntimeError(WebEngineError::Unavailable, QStringLiteral("The page did not answer in time."));
+    throw RuntimeError(EngineError::NoAnswer, QStringLiteral("The page did not answer in time."));
 }
 
 // Nothing of the reader is touched once the loop has run: it may be gone by then.
@@ -165,7 +171,7 @@ void WebEngineReader::wait(const std::shared_ptr<Question> &question, const QDea
 void WebEngineReader::put(const std::shared_ptr<Question> &question)
 {
     ++question->round;
-    mPage.runJavaScript(question->script, world, [weak = std::weak_ptr(question)](const QVariant &answer) {
+    mPage->runJavaScript(question->script, world, [weak = std::weak_ptr(question)](const QVariant &answer) {
         const auto asked = weak.lock();
         if (!asked || asked->isClosed() || !answer.isValid())
             return;
@@ -179,12 +185,12 @@ void WebEngineReader::put(const std::shared_ptr<Question> &question)
 void WebEngineReader::putAgainIfLost(const std::shared_ptr<Question> &question)
 {
     const QPointer self(this);
-    mPage.runJavaScript(QStringLiteral("0"), world,
-                        [self, weak = std::weak_ptr(question), round = question->round](const QVariant &answer) {
-                            const auto asked = weak.lock();
-                            if (self && asked && !asked->isClosed() && answer.isValid() && asked->round == round)
-                                self->put(asked);
-                        });
+    mPage->runJavaScript(QStringLiteral("0"), world,
+                         [self, weak = std::weak_ptr(question), round = question->round](const QVariant &answer) {
+                             const auto asked = weak.lock();
+                             if (self && asked && !asked->isClosed() && answer.isValid() && asked->round == round)
+                                 self->put(asked);
+                         });
 }
 
 void WebEngineReader::fail(const RuntimeError &error)
@@ -198,7 +204,7 @@ void WebEngineReader::fail(const RuntimeError &error)
 
 void WebEngineReader::probe(const std::shared_ptr<bool> &answered)
 {
-    mPage.runJavaScript(QStringLiteral("0"), world, [answered](const QVariant &answer) {
+    mPage->runJavaScript(QStringLiteral("0"), world, [answered](const QVariant &answer) {
         if (answer.isValid())
             *answered = true;
     });

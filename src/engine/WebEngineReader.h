@@ -21,10 +21,12 @@ class WebEngineReader : public QObject
     Q_OBJECT
 
   public:
-    /// `page` must outlive the reader. `limit` is the time that one read may take in all.
+    /// `page` must outlive the reader, or the next setPage(). `limit` is the time that one read may take in all.
     WebEngineReader(QWebEnginePage &page, std::chrono::milliseconds limit);
     ~WebEngineReader() override;
 
+    /// From now on `page` is read; reads under way should have been ended.
+    void setPage(QWebEnginePage &page) { mPage = &page; }
     /// The answer of the page's reader (js/reader.js) to `what`, of frame `frame` or of the top document with -1.
     /// Raises a RuntimeError: what the document refuses, no answer in time, fail().
     [[nodiscard]] QStringList read(QLatin1StringView what, int frame = -1);
@@ -51,7 +53,7 @@ class WebEngineReader : public QObject
     /// The texts of a long answer; nothing when the document was replaced meanwhile.
     [[nodiscard]] std::unique_ptr<QStringList> fetch(const QVariantMap &announced, const QDeadlineTimer &deadline);
 
-    QWebEnginePage &mPage;
+    QWebEnginePage *mPage;
     std::chrono::milliseconds mLimit;
     std::vector<std::weak_ptr<Question>> mOpen;
     int mReading = 0;

@@ -4,17 +4,11 @@
 
 #include "TestServer.h"
 #include "engine/WebEngineBrowser.h"
+#include "util/QtPrint.h"
 
 #include <QStringList>
 #include <functional>
 #include <gtest/gtest.h>
-#include <ostream>
-
-/// How texts stand in the messages of failed tests.
-inline void PrintTo(const QString &text, std::ostream *out)
-{
-    *out << '"' << text.left(2000).toStdString() << '"';
-}
 
 class WebEngineTest : public testing::Test
 {
