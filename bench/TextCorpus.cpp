@@ -1,8 +1,10 @@
 #include "TextCorpus.h"
 
+#include "util/Text.h"
 #include "util/TextFiles.h"
 
 #include <QDir>
+#include <algorithm>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -93,11 +95,16 @@ QStringList madeUpAddresses(int count)
 QStringList absentTexts(int count, int firstNumber)
 {
     QStringList texts;
-    for (int index = 0; index < count; ++index) {
-        const int number = firstNumber + index;
-        const QStringList &list = words();
-        texts += list[number % list.size()] + u" qz"_s.first(1 + number % 2) + list[(number * 7 + 3) % list.size()] +
-                 u" "_s + list[(number * 3 + 1) % list.size()] + u"zq"_s;
+    for (int number = firstNumber; number < firstNumber + count; ++number) {
+        const auto word = [&](int factor, int offset) { return words()[(number * factor + offset) % words().size()]; };
+        texts += word(1, 0) + u' ' + word(7, 3) + u' ' + word(3, 50);
     }
     return texts;
+}
+
+bool standsInAPage(const QString &text)
+{
+    const QStringList &pages = corpusPages();
+    return std::any_of(pages.begin(), pages.end(),
+                       [&](const QString &page) { return cUtility::holdsIgnoringCase(page, text); });
 }

@@ -13,5 +13,7 @@
 /// `count` addresses as lists hold them: hosts repeat, paths mostly differ, one in five stands twice.
 [[nodiscard]] QStringList madeUpAddresses(int count);
 
-/// `count` texts that no page holds.
+/// `count` texts of three common words each, so made that hardly a page holds one.
 [[nodiscard]] QStringList absentTexts(int count, int firstNumber);
+
+[[nodiscard]] bool standsInAPage(const QString &text);

@@ -1,7 +1,11 @@
 #include "util/Text.h"
 
+#include "util/CaseVariants.h"
+
 #include <QStringList>
 #include <algorithm>
+#include <array>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -15,13 +19,86 @@ bool sameLowered(QChar left, QChar right)
 {
     return left == right || cUtility::lowerUnit(left.unicode()) == cUtility::lowerUnit(right.unicode());
 }
+
+// Texts are read in blocks of this many units, in loops without branches that compilers turn into vector instructions.
+constexpr qsizetype blockSize = 32;
+
+bool isAsciiBlock(const char16_t *units)
+{
+    char16_t all = 0;
+    for (qsizetype at = 0; at < blockSize; ++at)
+        all |= units[at];
+    return all < 0x80;
+}
+
+void lowerAsciiBlock(const char16_t *units, char16_t *result)
+{
+    constexpr char16_t letterCount = 26;
+    for (qsizetype at = 0; at < blockSize; ++at)
+        result[at] = char16_t(units[at] + (char16_t(units[at] - u'A') < letterCount ? 0x20 : 0));
+}
+
+/// All units that stand for one unit when case is ignored, repeated where there are fewer.
+using Variants = std::array<char16_t, 3>;
+
+std::optional<Variants> variantsOf(QChar unit)
+{
+    const cUtility::CaseVariants all = cUtility::caseVariants(unit.unicode());
+    if (size_t(all.size()) > Variants().size())
+        return std::nullopt;
+    Variants variants;
+    variants.fill(all.front());
+    std::copy(all.begin(), all.end(), variants.begin());
+    return variants;
+}
+
+bool isOneOf(char16_t unit, const Variants &variants)
+{
+    return (unit == variants[0]) | (unit == variants[1]) | (unit == variants[2]);
+}
+
+/// True when some unit of a block may begin a text whose last unit stands at the same place of the block at `ends`.
+bool holdsBothEnds(const char16_t *begins, const char16_t *ends, const Variants &first, const Variants &last)
+{
+    quint16 any = 0;
+    for (qsizetype at = 0; at < blockSize; ++at)
+        any |= quint16(isOneOf(begins[at], first) & isOneOf(ends[at], last));
+    return any != 0;
+}
+
+/// The first `find` (not empty) at or behind `from`, case ignored: blocks that hold no unit with both ends are passed
+/// over.
+qsizetype indexFolded(QStringView text, QStringView find, qsizetype from)
+{
+    const std::optional<Variants> first = variantsOf(find.front());
+    const std::optional<Variants> last = variantsOf(find.back());
+    const qsizetype reach = find.size() - 1;
+    const auto search = [&](qsizetype begin, qsizetype end) -> qsizetype {
+        const auto stop = text.begin() + end;
+        const auto found = std::search(text.begin() + begin, stop, find.begin(), find.end(), sameLowered);
+        return found == stop ? -1 : found - text.begin();
+    };
+    qsizetype at = from;
+    for (; first && last && at + blockSize + reach <= text.size(); at += blockSize)
+        if (holdsBothEnds(text.utf16() + at, text.utf16() + at + reach, *first, *last))
+            if (const qsizetype found = search(at, at + blockSize + reach); found >= 0)
+                return found;
+    return search(at, text.size());
+}
 } // namespace
 
 QString cUtility::lowered(QStringView text)
 {
     QString result(text.size(), Qt::Uninitialized);
-    std::transform(text.begin(), text.end(), result.begin(),
-                   [](QChar unit) { return QChar(lowerUnit(unit.unicode())); });
+    const char16_t *from = text.utf16();
+    auto *to = reinterpret_cast<char16_t *>(result.data());
+    for (qsizetype at = 0; at < text.size(); at += blockSize) {
+        const qsizetype units = std::min(blockSize, text.size() - at);
+        if (units == blockSize && isAsciiBlock(from + at))
+            lowerAsciiBlock(from + at, to + at);
+        else
+            std::transform(from + at, from + at + units, to + at, lowerUnit);
+    }
     return result;
 }
 
@@ -43,8 +120,7 @@ qsizetype cUtility::indexIn(QStringView text, QStringView find, qsizetype from, 
         return from;
     if (sensitivity == Qt::CaseSensitive)
         return text.indexOf(find, from);
-    const auto found = std::search(text.begin() + from, text.end(), find.begin(), find.end(), sameLowered);
-    return found == text.end() ? -1 : found - text.begin();
+    return indexFolded(text, find, from);
 }
 
 bool cUtility::equalIgnoringCase(QStringView left, QStringView right)

@@ -38,25 +38,30 @@ bool mayHoldNumbers(QStringView text)
                        [&](QStringView word) { return cUtility::holdsIgnoringCase(text, word); });
 }
 
+using Number = std::array<QChar, size_t(numberSize)>;
+
 /// The ten digits that are read from the beginning of a candidate, nothing when there are more or fewer.
-std::optional<QString> numberIn(QStringView candidate)
+std::optional<Number> numberIn(QStringView candidate)
 {
     constexpr int separatorLimit = 2;
     if (!candidate.contains(phoneWords[0]) && !candidate.contains(phoneWords[1]))
         return std::nullopt;
-    QString number;
+    Number number;
+    size_t digits = 0;
     int separators = 0;
     for (const QChar unit : candidate) {
         if (unit == u' ')
             continue;
         if (cUtility::isDigit(unit.unicode())) {
-            number += unit;
+            if (digits == number.size())
+                return std::nullopt;
+            number[digits++] = unit;
             separators = 0;
         } else if ((unit != u'-' && unit != u')') || ++separators == separatorLimit) {
             break;
         }
     }
-    return number.size() == numberSize ? std::optional(number) : std::nullopt;
+    return digits == number.size() ? std::optional(number) : std::nullopt;
 }
 
 bool isFax(QStringView text, qsizetype at)
@@ -72,17 +77,83 @@ struct Reading
     QString number;
 };
 
-/// All places of `text` from which a number can be read, in order.
-QList<Reading> readingsOf(QStringView text, bool faxOnly)
+/// The places of a text from which numbers can be read. Ten digits must stand within 15 characters, so of a text
+/// without so many digits in two neighbouring blocks no place is looked at.
+class Readings
 {
-    const qsizetype reach = faxOnly ? faxReach : candidateSize;
-    QList<Reading> readings;
-    for (qsizetype at = 0; at + reach < text.size(); ++at) {
-        const std::optional<QString> number = numberIn(text.sliced(at, candidateSize));
-        if (number && (!faxOnly || isFax(text, at)))
-            readings += {at, *number};
+  public:
+    Readings(QStringView text, bool faxOnly)
+        : mText(text), mFaxOnly(faxOnly), mBehindLast(text.size() - (faxOnly ? faxReach : candidateSize))
+    {
     }
-    return readings;
+
+    /// All of them, in order.
+    QList<Reading> all()
+    {
+        int digits = digitsAt(0);
+        for (qsizetype at = 0; at < mBehindLast; at += blockSize) {
+            const int next = digitsAt(at + blockSize);
+            if (digits + next >= numberSize)
+                readBlock(at);
+            digits = next;
+        }
+        return mReadings;
+    }
+
+  private:
+    static constexpr qsizetype blockSize = 32;
+    static_assert(candidateSize <= blockSize);
+
+    /// How many digits the block at `at` holds; what is left behind the last whole block counts as full of them.
+    [[nodiscard]] int digitsAt(qsizetype at) const
+    {
+        if (at + blockSize > mText.size())
+            return blockSize;
+        const char16_t *units = mText.utf16() + at;
+        quint16 digits = 0;
+        for (qsizetype place = 0; place < blockSize; ++place) // without branches, for the vector unit
+            digits = quint16(digits + (char16_t(units[place] - u'0') < 10 ? 1 : 0));
+        return digits;
+    }
+
+    [[nodiscard]] bool isDigitAt(qsizetype at) const { return cUtility::isDigit(mText[at].unicode()); }
+
+    void readBlock(qsizetype begin)
+    {
+        const qsizetype end = std::min(begin + blockSize, mBehindLast);
+        qsizetype digits = 0;
+        for (qsizetype at = begin; at < begin + candidateSize; ++at)
+            digits += isDigitAt(at) ? 1 : 0;
+        for (qsizetype at = begin; at < end; ++at) {
+            if (digits >= numberSize)
+                readAt(at);
+            digits += (isDigitAt(at + candidateSize) ? 1 : 0) - (isDigitAt(at) ? 1 : 0);
+        }
+    }
+
+    void readAt(qsizetype at)
+    {
+        const std::optional<Number> number = numberIn(mText.sliced(at, candidateSize));
+        if (number && (!mFaxOnly || isFax(mText, at)))
+            mReadings += {at, QString(number->data(), numberSize)};
+    }
+
+    QStringView mText;
+    bool mFaxOnly;
+    qsizetype mBehindLast;
+    QList<Reading> mReadings;
+};
+
+/// The readings that begin with each text of one length.
+using ReadingsByCode = QHash<QStringView, QList<qsizetype>>;
+
+ReadingsByCode grouped(QStringView text, const QList<Reading> &readings, qsizetype codeSize)
+{
+    ReadingsByCode groups;
+    for (qsizetype index = 0; index < readings.size(); ++index)
+        if (const QStringView code = text.sliced(readings[index].at).left(codeSize); code.size() == codeSize)
+            groups[code] += index;
+    return groups;
 }
 } // namespace
 
@@ -106,14 +177,18 @@ QStringList cAreaCode::FindPhoneNumbers(QStringView text, QStringView areaCodes,
 {
     if (!mayHoldNumbers(text))
         return emptyList();
-    const QList<Reading> readings = readingsOf(text, faxOnly);
-    QStringList numbers;
+    const QList<Reading> readings = Readings(text, faxOnly).all();
     if (readings.isEmpty())
         return emptyList();
-    for (const QStringView code : codesOf(areaCodes))
-        for (const Reading &reading : readings)
-            if (text.sliced(reading.at).startsWith(code))
-                numbers += reading.number;
+    QStringList numbers;
+    QHash<qsizetype, ReadingsByCode> bySize;
+    for (const QStringView code : codesOf(areaCodes)) {
+        auto groups = bySize.constFind(code.size());
+        if (groups == bySize.constEnd())
+            groups = bySize.insert(code.size(), grouped(text, readings, code.size()));
+        for (const qsizetype index : groups->value(code))
+            numbers += readings[index].number;
+    }
     return orEmptyList(numbers);
 }
 

@@ -44,6 +44,7 @@ TEST(CaseVariants, AreAllUnitsThatHaveTheLowerCase)
         std::vector<char16_t> sorted(variants.begin(), variants.end());
         std::sort(sorted.begin(), sorted.end());
         ASSERT_EQ(sorted, expected[QChar(char16_t(unit)).toLower().unicode()]) << unit;
+        ASSERT_LE(sorted.size(), 3U) << "more than a fast search takes at once: " << unit;
     }
 }
 
