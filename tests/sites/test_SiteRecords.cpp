@@ -1,0 +1,237 @@
+// Search-site records as the runs read them, and the chain that a record drives.
+#include "sites/ResultLinks.h"
+#include "support/Database.h"
+#include "support/FakeBrowser.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+class SitesTest : public testing::Test
+{
+  protected:
+    SitesTest()
+    {
+        makeDatabase(database, log, folder.path());
+        holder.set(std::make_unique<cIEObject>(log, desktop, clipboard, browsers));
+        holder->InitializeObject(browser);
+    }
+    ~SitesTest() override
+    {
+        holder.release();
+        pump.doEvents();
+    }
+    void add(const QList<std::pair<QString, QString>> &fields) { addRow(*database, u"SearchSites"_s, fields); }
+    void show(const QString &address, const QStringList &pageLinks = {})
+    {
+        browser->pages[address].links = pageLinks;
+        browser->show(address);
+    }
+
+    QTemporaryDir folder;
+    RecordingLog log;
+    FakePump pump;
+    FakeDesktop desktop;
+    FakeClipboard clipboard;
+    FakeFactory browsers{pump};
+    std::shared_ptr<FakeBrowser> browser = std::make_shared<FakeBrowser>(pump);
+    BrowserHolder holder;
+    frmSearch form;
+    DatabaseHolder database;
+    SiteRecords records{log, database, holder};
+    ResultLinks links{log, form, holder, records};
+};
+} // namespace
+
+TEST_F(SitesTest, AFamilyIsReadInSlotOrderWithoutItsGaps)
+{
+    add({{u"SiteName"_s, u"Seek"_s},
+         {u"BeginUrl-3"_s, u"third"_s},
+         {u"BeginUrl-1"_s, u"first"_s},
+         {u"BeginUrl-5"_s, u"fifth"_s}});
+    EXPECT_EQ(records.GetSearchSiteData(u"Seek"_s, SiteField::BeginUrl),
+              (QStringList{u"first"_s, u"third"_s, u"fifth"_s}));
+}
+
+TEST_F(SitesTest, SingleFieldsStandInElementZero)
+{
+    add({{u"SiteName"_s, u"Seek"_s}, {u"CnvHex"_s, u"1"_s}, {u"UrlLen"_s, u"1<~Dorv~>20"_s}, {u"Group"_s, u"3"_s}});
+    EXPECT_EQ(records.GetSearchSiteData(u"Seek"_s, SiteField::CnvHex), QStringList{u"1"_s});
+    EXPECT_EQ(records.GetSearchSiteData(u"Seek"_s, SiteField::UrlLen), QStringList{u"1<~Dorv~>20"_s});
+    EXPECT_EQ(records.GetSearchSiteData(u"Seek"_s, SiteField::Group), QStringList{u"3"_s});
+}
+
+TEST_F(SitesTest, WhatCannotBeReadIsOneEmptyText)
+{
+    add({{u"SiteName"_s, u"Seek"_s}});
+    EXPECT_EQ(records.GetSearchSiteData(u"Seek"_s, SiteField::SiteName), emptyList());
+    EXPECT_EQ(records.GetSearchSiteData(u"Seek"_s, SiteField(12)), emptyList());
+    EXPECT_EQ(records.GetSearchSiteData(u"Seek"_s, SiteField::EndUrl), emptyList());
+    EXPECT_EQ(records.GetSearchSiteData(u"Unknown"_s, SiteField::Url), emptyList());
+    EXPECT_TRUE(log.entries.isEmpty());
+}
+
+TEST_F(SitesTest, ASiteNameWithAQuoteIsAnErrorInTheLog)
+{
+    EXPECT_EQ(records.GetSearchSiteData(u"O'Seek"_s, SiteField::Url), emptyList());
+    EXPECT_EQ(log.locations(), QStringList{u"Function GetSearchSiteData"_s});
+}
+
+TEST_F(SitesTest, APageBelongsToTheRecordOfItsServerInAnySlotAndAnyCase)
+{
+    add({{u"SiteName"_s, u"First"_s}, {u"Url-1"_s, u"www.first.com"_s}});
+    add({{u"SiteName"_s, u"Second"_s}, {u"Url-4"_s, u"WWW.Second.com"_s}});
+    show(u"http://www.second.com/results?q=x"_s);
+    EXPECT_TRUE(records.IsSiteDataSaved());
+    EXPECT_EQ(records.GetSiteNameFromUrl({}), u"Second"_s);
+    show(u"http://second.com/results"_s);
+    EXPECT_FALSE(records.IsSiteDataSaved());
+    EXPECT_EQ(records.GetSiteNameFromUrl({}), QString());
+}
+
+TEST_F(SitesTest, APageWithoutAServerBelongsToNoRecord)
+{
+    add({{u"SiteName"_s, u"Empty"_s}});
+    show(u"about:blank"_s);
+    EXPECT_FALSE(records.IsSiteDataSaved());
+    browser->show({});
+    EXPECT_FALSE(records.IsSiteDataSaved());
+}
+
+TEST_F(SitesTest, AnAddressIsComparedAsItStands)
+{
+    add({{u"SiteName"_s, u"Seek"_s}, {u"Url-2"_s, u"www.seek.com"_s}});
+    EXPECT_EQ(records.GetSiteNameFromUrl(u"WWW.SEEK.COM"_s), u"Seek"_s);
+    EXPECT_EQ(records.GetSiteNameFromUrl(u"http://www.seek.com/"_s), QString());
+    EXPECT_EQ(records.GetSiteNameFromUrl(u"ann@seek.com"_s), QString());
+}
+
+// The chain.
+
+namespace {
+class ChainTest : public SitesTest
+{
+  protected:
+    QStringList chain(const QList<std::pair<QString, QString>> &fields, const QStringList &pageLinks)
+    {
+        add(QList<std::pair<QString, QString>>{{u"SiteName"_s, u"Seek"_s}, {u"Url-1"_s, u"www.seek.com"_s}} + fields);
+        show(u"http://www.seek.com/?q"_s, pageLinks);
+        return links.GetLinks();
+    }
+    const QStringList page{u"http://www.seek.com/home"_s, u"http://www.a.com/1"_s, u"http://www.b.com/2"_s,
+                           u"http://www.a.com/1"_s, u"http://www.seek.com/next"_s};
+};
+} // namespace
+
+TEST_F(ChainTest, WithoutARecordTheLinksComeWithoutTheirRepeats)
+{
+    show(u"http://www.other.com/"_s, page);
+    EXPECT_EQ(links.GetLinks(), (QStringList{page[0], page[1], page[2], page[4]}));
+}
+
+TEST_F(ChainTest, APageWithoutLinksIsOneEmptyText)
+{
+    EXPECT_EQ(chain({{u"BUrlCol-1"_s, u"x"_s}}, {}), emptyList());
+}
+
+TEST_F(ChainTest, TakesTheResultsOutOfThePage)
+{
+    EXPECT_EQ(chain({{u"BUrlCol-1"_s, u"/home"_s}, {u"UrlMNC-1"_s, u"seek.com<~Dorv~>0"_s}}, page),
+              (QStringList{u"http://www.a.com/1"_s, u"http://www.b.com/2"_s}));
+}
+
+TEST_F(ChainTest, AStageThatWouldThrowAwayEveryLinkIsUndone)
+{
+    EXPECT_EQ(
+        chain({{u"BUrlCol-1"_s, u"nowhere"_s}, {u"UrlMC-1"_s, u"/<~Dorv~>1"_s}, {u"UrlMNC-1"_s, u"a.com<~Dorv~>0"_s}},
+              page),
+        (QStringList{page[0], page[2], page[4]}));
+}
+
+TEST_F(ChainTest, ATextThatStandsTwiceInEveryLinkWithCountOneFiltersNothing)
+{
+    EXPECT_EQ(
+        chain({{u"UrlMC-1"_s, u"www.<~Dorv~>1"_s}}, {u"http://www.a.com/www."_s, u"http://www.b.com/www."_s}).size(),
+        2);
+}
+
+TEST_F(ChainTest, AnEmptyFirstLinkAfterTheCutsUndoesTheCuts)
+{
+    EXPECT_EQ(chain({{u"BeginUrl-1"_s, u"u="_s}},
+                    {u"http://www.seek.com/go?u="_s, u"http://www.seek.com/go?u=http://www.a.com/"_s}),
+              (QStringList{u"http://www.seek.com/go?u="_s, u"http://www.seek.com/go?u=http://www.a.com/"_s}));
+}
+
+TEST_F(ChainTest, TextsAreTestedAgainstTheWrappedLink)
+{
+    EXPECT_EQ(chain({{u"UrlMC-1"_s, u"go?u=<~Dorv~>1"_s}, {u"BeginUrl-1"_s, u"u="_s}},
+                    {u"http://www.seek.com/home"_s, u"http://www.seek.com/go?u=http://www.a.com/"_s}),
+              QStringList{u"http://www.a.com/"_s});
+}
+
+TEST_F(ChainTest, LengthsAreThoseOfTheDecodedLinks)
+{
+    const QStringList encoded{u"http://www.a.com/%41%42%43"_s, u"http://www.b.com/a-long-way-down"_s};
+    EXPECT_EQ(chain({{u"CnvHex"_s, u"1"_s}, {u"UrlLen"_s, u"2<~Dorv~>021"_s}}, encoded),
+              QStringList{u"http://www.a.com/ABC"_s});
+}
+
+namespace {
+struct HexCase
+{
+    const char *field;
+    int option;
+    bool converts;
+};
+class HexTable : public ChainTest, public testing::WithParamInterface<HexCase>
+{
+};
+} // namespace
+
+TEST_P(HexTable, ConvertsByTheRecordOrTheOption)
+{
+    form.chkSMA(1).setValue(GetParam().option);
+    EXPECT_EQ(chain({{u"CnvHex"_s, QString::fromLatin1(GetParam().field)}}, {u"http://www.a.com/%41"_s}),
+              QStringList{GetParam().converts ? u"http://www.a.com/A"_s : u"http://www.a.com/%41"_s});
+}
+
+INSTANTIATE_TEST_SUITE_P(Chain, HexTable,
+                         testing::Values(HexCase{"0", 1, true}, HexCase{"1", 0, true}, HexCase{"0", 0, false},
+                                         HexCase{"", 0, false}));
+
+TEST_F(ChainTest, UniqueServersComeBeforeTheRepeatsAndAfterTheCuts)
+{
+    form.chkSMA(9).setValue(1);
+    EXPECT_EQ(chain({{u"BeginUrl-1"_s, u"u="_s}},
+                    {u"http://www.seek.com/go?u=http://www.a.com/1"_s, u"http://www.seek.com/go?u=http://www.a.com/2"_s,
+                     u"http://www.seek.com/go?u=http://www.b.com/1"_s}),
+              (QStringList{u"http://www.a.com/1"_s, u"http://www.b.com/1"_s}));
+}
+
+TEST_F(ChainTest, BlockedTextsDropLinksWithoutRegardToCase)
+{
+    form.lstBlockedUrlC.addItem(u"ads"_s);
+    const QStringList all{u"http://www.a.com/Downloads/x"_s, u"http://www.b.com/"_s};
+    form.chkUrlBlocking.setValue(1);
+    EXPECT_EQ(chain({}, all), QStringList{u"http://www.b.com/"_s});
+    form.chkUrlBlocking.setValue(0);
+    EXPECT_EQ(links.GetLinks(), all);
+}
+
+TEST_F(ChainTest, BlockingOnWithAnEmptyListDropsNothing)
+{
+    form.chkUrlBlocking.setValue(1);
+    EXPECT_EQ(chain({}, {u"http://www.a.com/"_s}), QStringList{u"http://www.a.com/"_s});
+}
+
+TEST_F(ChainTest, ABrokenCountIsLoggedAndLeavesTheLinksOfTheStageBefore)
+{
+    EXPECT_EQ(chain({{u"UrlMC-1"_s, u"no marker"_s}}, page), (QStringList{page[0], page[1], page[2], page[4]}));
+    EXPECT_EQ(log.locations(), QStringList{u"Function SDProcessMC"_s});
+}
+
+TEST_F(ChainTest, WithoutABrowserTheListWasNeverDimensioned)
+{
+    holder.set(std::make_unique<cIEObject>(log, desktop, clipboard, browsers));
+    EXPECT_TRUE(links.GetLinks().isEmpty());
+    EXPECT_EQ(log.locations(), QStringList{u"Function GetLinks"_s});
+}
