@@ -15,8 +15,12 @@
 namespace {
 constexpr qsizetype blockSize = 32;
 
-/// The buckets that may have a window ending at each unit of a block.
-using BlockBuckets = std::array<quint8, size_t(blockSize)>;
+/// The units of a block at which a window may end (bits), and the buckets of those windows.
+struct BlockBuckets
+{
+    quint32 units = 0;
+    std::array<quint8, size_t(blockSize)> buckets{};
+};
 
 /// The units of markup from the most common to the least; what is not listed is rare.
 constexpr QStringView byFrequency = u" eationsrlcdhpum/=\"-<>.gfbvwy_:10;2k,3458769xj'&()q\n\tz#?";
@@ -45,12 +49,10 @@ qsizetype rarestWindow(QStringView text, qsizetype units)
 #ifdef TRAWLEX_WITH_AVX2
 #define TRAWLEX_AVX2 __attribute__((target("avx2"))) inline
 
-/// The table results of the block before, for windows that reach over the border.
+/// The table results of the block before, for windows that reach over the border; by the place in the window.
 struct Carry
 {
-    __m256i first;
-    __m256i second;
-    __m256i third;
+    __m256i places[LiteralScanner::windowSize - 1];
 };
 
 /// The low bytes of 32 units, in order.
@@ -76,28 +78,42 @@ template <int places> TRAWLEX_AVX2 __m256i movedUp(__m256i now, __m256i before)
     return _mm256_alignr_epi8(now, _mm256_permute2x128_si256(before, now, 0x21), 16 - places);
 }
 
+/// The buckets whose windows pass at all places from the first to `place`, by the unit at which the window ends.
+template <size_t place>
+TRAWLEX_AVX2 __m256i passing(const LiteralScanner::Tables &tables, __m256i low, __m256i high, Carry &carry)
+{
+    constexpr int back = LiteralScanner::windowSize - 1 - int(place);
+    const __m256i here = lookUp(tables, place, low, high);
+    __m256i buckets = here;
+    if constexpr (back > 0) {
+        buckets = movedUp<back>(here, carry.places[place]);
+        carry.places[place] = here;
+    }
+    if constexpr (place > 0)
+        buckets = _mm256_and_si256(buckets, passing<place - 1>(tables, low, high, carry));
+    return buckets;
+}
+
 /// Goes on over whole blocks from `at` until one has a bucket. The index of that block, or of what is left behind the
 /// last.
 __attribute__((target("avx2"))) qsizetype nextBlock(QStringView page, qsizetype at,
                                                     const LiteralScanner::Tables &tables, BlockBuckets &found)
 {
     const __m256i nibbleMask = _mm256_set1_epi8(0x0F);
-    const __m256i all = _mm256_set1_epi8(-1);
-    Carry carry{all, all, all}; // windows that begin before `at` are not ruled out
+    Carry carry;
+    for (__m256i &place : carry.places)
+        place = _mm256_set1_epi8(-1); // windows that begin before `at` are not ruled out
     for (; at + blockSize <= page.size(); at += blockSize) {
         const __m256i bytes = lowBytes(page.utf16() + at);
         const __m256i low = _mm256_and_si256(bytes, nibbleMask);
         const __m256i high = _mm256_and_si256(_mm256_srli_epi16(bytes, 4), nibbleMask);
-        const Carry now{lookUp(tables, 0, low, high), lookUp(tables, 1, low, high), lookUp(tables, 2, low, high)};
-        const __m256i begins =
-            _mm256_and_si256(movedUp<3>(now.first, carry.first), movedUp<2>(now.second, carry.second));
-        const __m256i ends = _mm256_and_si256(movedUp<1>(now.third, carry.third), lookUp(tables, 3, low, high));
-        const __m256i buckets = _mm256_and_si256(begins, ends);
+        const __m256i buckets = passing<LiteralScanner::windowSize - 1>(tables, low, high, carry);
         if (!_mm256_testz_si256(buckets, buckets)) {
-            _mm256_storeu_si256(reinterpret_cast<__m256i *>(found.data()), buckets);
+            _mm256_storeu_si256(reinterpret_cast<__m256i *>(found.buckets.data()), buckets);
+            const __m256i isNone = _mm256_cmpeq_epi8(buckets, _mm256_setzero_si256());
+            found.units = ~quint32(_mm256_movemask_epi8(isNone));
             return at;
         }
-        carry = now;
     }
     return at;
 }
@@ -214,22 +230,23 @@ LiteralScanner::Pause LiteralScanner::scanWith(const Plan &plan, QStringView pag
                                                Progress &progress) const
 {
     constexpr qsizetype freeSteps = 4096;
-    BlockBuckets buckets;
+    BlockBuckets found;
     while (true) {
-        progress.at = nextBlock(page, progress.at, plan.tables, buckets);
+        progress.at = nextBlock(page, progress.at, plan.tables, found);
         const qsizetype units = std::min(blockSize, page.size() - progress.at);
         if (units <= 0)
             return Pause::AtEnd;
         if (units < blockSize) { // what is left behind the last whole block, with zeros behind it
             std::array<char16_t, size_t(blockSize)> rest{};
             std::copy_n(page.utf16() + progress.at, units, rest.begin());
-            if (nextBlock(QStringView(rest.data(), blockSize), 0, plan.tables, buckets) != 0)
+            if (nextBlock(QStringView(rest.data(), blockSize), 0, plan.tables, found) != 0)
                 return Pause::AtEnd;
         }
-        for (qsizetype unit = 0; unit < units; ++unit)
-            if (const quint8 found = buckets[size_t(unit)]; found != 0)
-                if (closeFoundAt(page, progress.at + unit, found, plan, open, progress.steps))
-                    return Pause::Closed;
+        for (; found.units != 0; found.units &= found.units - 1) {
+            const auto unit = std::countr_zero(found.units);
+            if (closeFoundAt(page, progress.at + unit, found.buckets[size_t(unit)], plan, open, progress.steps))
+                return Pause::Closed;
+        }
         progress.at += blockSize;
         if (progress.steps > freeSteps + progress.at)
             return Pause::TooManySteps;

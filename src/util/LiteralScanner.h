@@ -23,7 +23,7 @@ class LiteralScanner
     /// many places to compare that another method is better; the texts closed until then are right.
     [[nodiscard]] bool scan(QStringView page, OpenTexts &open) const;
 
-    static constexpr int windowSize = 4;
+    static constexpr int windowSize = 8;
     static constexpr int bucketCount = 8;
 
     /// The look-up tables: for each place of the window the buckets (bits) that hold a nibble, twice for the two lanes.
