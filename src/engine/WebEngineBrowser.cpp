@@ -4,6 +4,7 @@
 #include "engine/WebEngineAddress.h"
 #include "engine/WebEnginePage.h"
 #include "engine/WebEngineReader.h"
+#include "engine/WebEngineStage.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -99,6 +100,7 @@ void WebEngineBrowser::replacePage()
     old->disconnect(this);
     makePage();
     mReader->setPage(*mKernel->page);
+    WebEngineStage::replacePage(*old, *mKernel->page);
     mProcessGone = false;
     Q_EMIT pageReplaced(page());
     old->deleteLater(); // it may be on the stack

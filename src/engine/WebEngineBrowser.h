@@ -75,7 +75,7 @@ class WebEngineBrowser : public BrowserEngine
     /// The user is to be asked where to, and page()->save() called. The download of that page is accepted.
     void saveRequested();
 
-    /// The page has lost its process, and another one takes its place: a view has to show that one.
+    /// The page has lost its process, and another one has taken its place, in its view too.
     void pageReplaced(QWebEnginePage *page);
 
   private:

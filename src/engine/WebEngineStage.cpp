@@ -12,7 +12,12 @@ WebEngineStage::WebEngineStage(WebEngineBrowser &browser, QSize size) : mView(st
     mView->resize(size);
     mView->setPage(browser.page());
     mView->show();
-    QObject::connect(&browser, &WebEngineBrowser::pageReplaced, mView.get(), &QWebEngineView::setPage);
 }
 
 WebEngineStage::~WebEngineStage() = default;
+
+void WebEngineStage::replacePage(const QWebEnginePage &page, QWebEnginePage &next)
+{
+    if (QWebEngineView *view = QWebEngineView::forPage(&page))
+        view->setPage(&next);
+}

@@ -6,6 +6,7 @@
 #include <QSize>
 #include <memory>
 
+class QWebEnginePage;
 class QWebEngineView;
 class WebEngineBrowser;
 
@@ -16,6 +17,9 @@ class WebEngineStage
     explicit WebEngineStage(WebEngineBrowser &browser, QSize size = {1280, 1024});
     ~WebEngineStage();
     Q_DISABLE_COPY_MOVE(WebEngineStage)
+
+    /// The view that shows `page`, if there is one, shows `next` from now on: a window's as well as a stage's.
+    static void replacePage(const QWebEnginePage &page, QWebEnginePage &next);
 
   private:
     std::unique_ptr<QWebEngineView> mView;

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QNetworkProxy>
+#include <QPointer>
 #include <QSslKey>
 #include <QSslServer>
 #include <QTemporaryDir>
@@ -254,6 +255,7 @@ TEST_F(WebEngineRefusals, AddressesOfOtherProgramsAreNotLaunched)
 {
     Launches launches;
     openPage("<title>page</title><script>setTimeout(()=>{location.href='custom:thing'},10)</script>");
+    idle(200);
     for (const QString &address : {u"mailto:a@b.example"_s, u"custom:thing"_s, u"ftp://127.0.0.1/x"_s}) {
         openAddress(address);
         EXPECT_EQ(browser->LocationName(), u"page");
@@ -374,6 +376,22 @@ TEST_F(WebEngineRefusals, ACrashEndsTheLoadAndTheRead)
     EXPECT_LT(clock.elapsed(), 2000);
     EXPECT_FALSE(browser->isLoading());
     EXPECT_TRUE(waitUntil([&] { return signalled == QStringList{u"ended"_s}; }));
+}
+
+TEST_F(WebEngineRefusals, TheViewOfACrashedPageShowsTheNextOne)
+{
+    server.page("/next", "<title>next</title>");
+    openPage("<title>t</title>");
+    view = std::make_unique<QWebEngineView>();
+    view->setPage(browser->page());
+    QPointer<QWebEnginePage> replaced;
+    QObject::connect(browser.get(), &WebEngineBrowser::pageReplaced, [&](QWebEnginePage *page) { replaced = page; });
+    Platform::endProcess(browser->page()->renderProcessPid());
+    EXPECT_TRUE(waitUntil([&] { return !errorOf([&] { (void)text(); }).isEmpty(); }));
+    open(u"/next"_s);
+    EXPECT_EQ(view->page(), browser->page());
+    EXPECT_EQ(replaced, browser->page());
+    EXPECT_EQ(view->title(), u"next");
 }
 
 // --- the stage ---------------------------------------------------------------------------------------------------
