@@ -85,7 +85,8 @@ void BareBrowserWindow::showLocation(bool topDocument)
     if (!topDocument)
         return;
     mUi->txtAddressBar->setText(mBrowser->LocationURL());
-    setWindowTitle(mBrowser->LocationName());
+    // The page's own title, as the view has it: nothing is read from the page here.
+    setWindowTitle(mUi->WBOne->title());
 }
 
 void BareBrowserWindow::goToAddress()

@@ -68,7 +68,8 @@ void MainWindow::addKeys()
 void MainWindow::TurnOffTabStop()
 {
     for (QWidget *const widget : findChildren<QWidget *>()) {
-        if (widget->objectName() != "cboMNAutoUrl"_L1)
+        // A widget without it may stand in for another, to which it would hand the change on.
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->objectName() != "cboMNAutoUrl"_L1)
             widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(widget->focusPolicy() & ~Qt::TabFocus));
     }
 }

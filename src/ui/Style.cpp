@@ -241,6 +241,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
     switch (type) {
     case CT_PushButton:
         needed = size + QSize(2 * textInset, 6);
+        if (widget != nullptr && widget->property(accentProperty).toBool())
+            return needed.expandedTo(accentSize);
         return needed.expandedTo(QSize(rowHeight, rowHeight));
     case CT_ComboBox:
         needed = size + QSize(textInset + chevronRoom, 6);

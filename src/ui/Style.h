@@ -11,6 +11,8 @@ class Style : public QProxyStyle
   public:
     static constexpr double radius = 4.0;
     static constexpr int rowHeight = 28;
+    /// Of the button that stands out and of what stands beside it: two rows and the gap between them.
+    static constexpr QSize accentSize{76, 2 * rowHeight + 8};
     /// Dynamic property of the one button that stands out.
     static constexpr const char *accentProperty = "accent";
 

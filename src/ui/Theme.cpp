@@ -47,20 +47,21 @@ bool hasNoPaletteOfItsOwn(const QPalette &palette, const QPalette &ofStyle)
            palette.color(QPalette::Highlight) == ofStyle.color(QPalette::Highlight);
 }
 
-Theme::Mode told()
-{
-    const QString name = qEnvironmentVariable("TRAWLEX_THEME").toLower();
-    if (name == "light"_L1)
-        return Theme::Mode::Light;
-    return name == "dark"_L1 ? Theme::Mode::Dark : Theme::Mode::Desktop;
-}
 } // namespace
 
 Theme::Theme(QApplication &application) : QObject(&application), mStyle(new Style)
 {
     QApplication::setStyle(mStyle);
     application.installEventFilter(this);
-    setMode(told());
+    setMode(modeOfEnvironment());
+}
+
+Theme::Mode Theme::modeOfEnvironment()
+{
+    const QString name = qEnvironmentVariable("TRAWLEX_THEME").toLower();
+    if (name == "light"_L1)
+        return Mode::Light;
+    return name == "dark"_L1 ? Mode::Dark : Mode::Desktop;
 }
 
 Theme &Theme::of(QApplication &application)

@@ -15,9 +15,8 @@ class Theme : public QObject
   public:
     enum class Mode { Desktop, Light, Dark };
 
-    /// The variable TRAWLEX_THEME (light, dark) decides where it is set.
-    explicit Theme(QApplication &application);
-
+    /// What TRAWLEX_THEME says; Desktop where it says nothing that is known.
+    [[nodiscard]] static Mode modeOfEnvironment();
     /// The application's theme; made now if there is none yet.
     static Theme &of(QApplication &application);
 
@@ -31,6 +30,7 @@ class Theme : public QObject
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
+    explicit Theme(QApplication &application);
     void showUnderlines(bool shown);
 
     Style *mStyle; ///< owned by the application

@@ -1,6 +1,7 @@
 #include "ui/TimerLabel.h"
 
 #include "ui/Drawing.h"
+#include "ui/Style.h"
 
 #include <QFontDatabase>
 
@@ -31,7 +32,8 @@ void TimerLabel::paintEvent(QPaintEvent *)
         Drawing::focusRing(painter, rect(), shades);
 }
 
-QSize TimerLabel::minimumSizeHint() const
+QSize TimerLabel::sizeHint() const
 {
-    return fontMetrics().size(Qt::TextSingleLine, u"000"_s) + QSize(16, 8);
+    const QString longest = text().size() > 3 ? text() : u"000"_s;
+    return (fontMetrics().size(Qt::TextSingleLine, longest) + QSize(16, 8)).expandedTo(Style::accentSize);
 }

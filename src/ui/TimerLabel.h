@@ -10,7 +10,9 @@ class TimerLabel : public QLabel
   public:
     explicit TimerLabel(QWidget *parent = nullptr);
 
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
   protected:
     void paintEvent(QPaintEvent *event) override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
 };

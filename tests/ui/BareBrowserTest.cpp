@@ -1,0 +1,91 @@
+// The built-in browser's window, with the real engine in it.
+#include "ui/BareBrowserWindow.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int patience = 30000;
+}
+
+struct BareBrowser : testing::Test
+{
+    BareBrowser() : browser(std::make_shared<WebEngineBrowser>()), window(browser)
+    {
+        QObject::connect(browser.get(), &BrowserEngine::WindowClosing, browser.get(), [this] { ++closings; });
+        window.show();
+    }
+
+    /// The address of a page of that title.
+    QString page(const QString &title)
+    {
+        QFile file(folder.filePath(title + u".html"_s));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("<title>" + title.toUtf8() + "</title><p>text");
+        return QUrl::fromLocalFile(file.fileName()).toString();
+    }
+    [[nodiscard]] bool waitForTitle(const QString &title)
+    {
+        return QTest::qWaitFor([&] { return window.windowTitle() == title; }, patience);
+    }
+    QLineEdit &addressBar() { return *window.findChild<QLineEdit *>(u"txtAddressBar"_s); }
+    void press(const char *button)
+    {
+        QTest::mouseClick(window.findChild<QPushButton *>(QLatin1StringView(button)), Qt::LeftButton);
+    }
+
+    QTemporaryDir folder;
+    std::shared_ptr<WebEngineBrowser> browser;
+    BareBrowserWindow window;
+    int closings = 0;
+};
+
+TEST_F(BareBrowser, ShowsWhereItIs)
+{
+    EXPECT_EQ(window.windowTitle(), u"Internet Browse"_s);
+    EXPECT_EQ(window.objectName(), u"frmWBare"_s);
+    const QString address = page(u"harbour"_s);
+    window.NavigateToUrl(address);
+    ASSERT_TRUE(waitForTitle(u"harbour"_s));
+    EXPECT_EQ(addressBar().text(), address);
+}
+
+TEST_F(BareBrowser, GoesBackAndToWhatIsTyped)
+{
+    const QString first = page(u"first"_s);
+    addressBar().setText(first);
+    press("cmdGo_1");
+    ASSERT_TRUE(waitForTitle(u"first"_s));
+    addressBar().setText(page(u"second"_s));
+    QTest::keyClick(&addressBar(), Qt::Key_Return);
+    ASSERT_TRUE(waitForTitle(u"second"_s));
+    press("cmdGo_0");
+    ASSERT_TRUE(waitForTitle(u"first"_s));
+    EXPECT_EQ(addressBar().text(), first);
+}
+
+TEST_F(BareBrowser, TellsTheEngineOnceThatItIsClosed)
+{
+    window.AutoRefreshTimer(true);
+    EXPECT_TRUE(window.close());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return closings > 0; }, patience));
+    EXPECT_EQ(closings, 1);
+    EXPECT_THROW(browser->Navigate(u"about:blank"_s), RuntimeError);
+}
+
+TEST_F(BareBrowser, StandsBesideTheMainWindowOnTheScreen)
+{
+    QWidget main;
+    main.setGeometry(0, 0, 200, 400);
+    main.show();
+    window.placeBeside(main);
+    const QRect screen = window.screen()->availableGeometry();
+    EXPECT_GE(window.geometry().left(), qMin(200, screen.right() + 1 - window.width()));
+    EXPECT_TRUE(screen.contains(window.geometry()));
+}

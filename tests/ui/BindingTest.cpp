@@ -1,0 +1,324 @@
+// Each kind of control in both directions: what the logic sets is shown, what the user does is told.
+#include "WindowFixture.h"
+#include "ui/Chip.h"
+#include "ui/DropDown.h"
+#include "ui/Mark.h"
+#include "ui/NumberEdit.h"
+#include "ui/StatusBarLine.h"
+#include "ui/TimerLabel.h"
+
+#include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+
+using namespace Qt::StringLiterals;
+
+struct Bound : WindowFixture
+{
+};
+
+TEST_F(Bound, WhatAllControlsHaveIsShown)
+{
+    auto &box = widget<QCheckBox>("chkSavePages");
+    form.chkSavePages.setEnabled(false);
+    form.chkSavePages.setToolTipText(u"Save pages"_s);
+    settle();
+    EXPECT_FALSE(box.isEnabled());
+    EXPECT_EQ(box.toolTip(), u"Save pages"_s);
+    form.chkSavePages.setVisible(false);
+    form.chkSavePages.setToolTipText(QString());
+    settle();
+    EXPECT_TRUE(box.isHidden());
+    EXPECT_EQ(box.toolTip(), QString());
+    form.chkSavePages.setVisible(true);
+    form.chkSavePages.setEnabled(true);
+    settle();
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_TRUE(box.isEnabled());
+}
+
+TEST_F(Bound, ALongToolTipIsBrokenIntoLinesAndShowsNoMarkup)
+{
+    const QString tip = u"<b> "_s + QString(100, u'x') + u" &"_s;
+    form.cmdANStart.setToolTipText(tip);
+    settle();
+    const QString shown = widget<QWidget>("cmdANStart").toolTip();
+    EXPECT_TRUE(Qt::mightBeRichText(shown));
+    EXPECT_TRUE(shown.contains(u"&lt;b&gt;"_s));
+}
+
+TEST_F(Bound, CheckBoxesGoBothWays)
+{
+    auto &box = widget<QCheckBox>("chkSaveSummary");
+    const Raised clicks(form.chkSaveSummary, &CheckBox::Click);
+    click(box);
+    EXPECT_EQ(form.chkSaveSummary.value(), 1);
+    EXPECT_TRUE(box.isChecked());
+    QTest::keyClick(&box, Qt::Key_Space);
+    EXPECT_EQ(form.chkSaveSummary.value(), 0);
+    EXPECT_EQ(clicks.times(), 2);
+    form.chkSaveSummary.setValue(2);
+    settle();
+    EXPECT_EQ(box.checkState(), Qt::PartiallyChecked);
+    click(box);
+    EXPECT_EQ(form.chkSaveSummary.value(), 1);
+    EXPECT_EQ(box.checkState(), Qt::Checked);
+    EXPECT_FALSE(box.isTristate());
+}
+
+TEST_F(Bound, ACheckBoxThatTheLogicPutsBackShowsIt)
+{
+    QObject::connect(&form.chkSaveUrl, &CheckBox::Click, &form, [this] { form.chkSaveUrl.setValue(0); });
+    click(widget<QCheckBox>("chkSaveUrl"));
+    EXPECT_FALSE(widget<QCheckBox>("chkSaveUrl").isChecked());
+}
+
+TEST_F(Bound, AToggleButtonIsACheckBoxToo)
+{
+    auto &button = widget<QPushButton>("chkMCCS");
+    click(button);
+    EXPECT_EQ(form.chkMCCS.value(), 1);
+    EXPECT_TRUE(button.isChecked());
+    form.chkMCCS.setValue(0);
+    settle();
+    EXPECT_FALSE(button.isChecked());
+}
+
+TEST_F(Bound, AButtonShowsItsCaptionAndKeepsItsKey)
+{
+    auto &go = widget<QPushButton>("cmdANStart");
+    const Raised clicks(form.cmdANStart, &Button::Click);
+    EXPECT_EQ(go.text(), u"&Go"_s);
+    QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clicks.times() == 1; }, 2000));
+    form.cmdANStart.setCaption(u"X"_s);
+    settle();
+    EXPECT_EQ(go.text(), u"X"_s);
+    QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clicks.times() == 2; }, 2000));
+    click(go);
+    EXPECT_EQ(clicks.times(), 3);
+}
+
+TEST_F(Bound, RightClicksReachTheControlAndDoNotPressTheButton)
+{
+    const Raised clicks(form.cmdANStart, &Button::Click);
+    QList<MouseButton> pressed;
+    QObject::connect(&form.cmdANStart, &Control::mousePressed, &form, [&](MouseButton b) { pressed.append(b); });
+    click(widget<QPushButton>("cmdANStart"), Qt::RightButton);
+    EXPECT_EQ(pressed, QList<MouseButton>{MouseButton::Right});
+    EXPECT_EQ(clicks.times(), 0);
+    click(widget<QPushButton>("cmdANStart"));
+    EXPECT_EQ(pressed.last(), MouseButton::Left);
+    EXPECT_EQ(clicks.times(), 1);
+}
+
+TEST_F(Bound, NothingReachesADisabledControlEvenBeforeItIsShownAsSuch)
+{
+    const Raised clicks(form.chkSavePhone, &CheckBox::Click);
+    const Raised presses(form.lblTrawlexTimer, &Control::mousePressed);
+    form.chkSavePhone.setEnabled(false);
+    form.lblTrawlexTimer.setEnabled(false);
+    QTest::mouseClick(&widget<QCheckBox>("chkSavePhone"), Qt::LeftButton);
+    QTest::mouseClick(&widget<TimerLabel>("lblTrawlexTimer"), Qt::LeftButton);
+    EXPECT_EQ(clicks.times(), 0);
+    EXPECT_EQ(presses.times(), 0);
+    EXPECT_FALSE(widget<QCheckBox>("chkSavePhone").isChecked());
+    settle();
+    QTest::mouseClick(&widget<TimerLabel>("lblTrawlexTimer"), Qt::LeftButton);
+    EXPECT_EQ(presses.times(), 0);
+}
+
+TEST_F(Bound, CombosShowItemsAndChoice)
+{
+    auto &combo = widget<DropDown>("cboANSavedUrls");
+    EXPECT_EQ(combo.count(), 0);
+    for (const auto &item : {u"Results-100"_s, u"Results-101"_s})
+        form.cboANSavedUrls.addItem(item);
+    form.cboANSavedUrls.setListIndex(1);
+    settle();
+    EXPECT_EQ(combo.count(), 2);
+    EXPECT_EQ(combo.currentText(), u"Results-101"_s);
+    form.cboANSavedUrls.removeItem(1);
+    settle();
+    EXPECT_EQ(combo.count(), 1);
+    EXPECT_EQ(combo.currentIndex(), -1);
+    form.cboANSavedUrls.clear();
+    settle();
+    EXPECT_EQ(combo.count(), 0);
+}
+
+TEST_F(Bound, ACombosChoiceIsToldAndTheWheelMakesNone)
+{
+    auto &combo = widget<DropDown>("cboANSaveType");
+    const Raised clicks(form.cboANSaveType, &ComboBox::Click);
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(form.cboANSaveType.listIndex(), 1);
+    QTest::keyClick(&combo, Qt::Key_L);
+    EXPECT_EQ(form.cboANSaveType.text(), u"Links"_s);
+    EXPECT_EQ(clicks.times(), 2);
+    QWheelEvent wheel(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&combo, &wheel);
+    EXPECT_EQ(clicks.times(), 2);
+}
+
+TEST_F(Bound, AnOpeningListShowsWhatItsHandlerFills)
+{
+    auto &combo = widget<DropDown>("cboANList");
+    const Raised opened(form.cboANList, &ComboBox::DropDown);
+    QObject::connect(&form.cboANList, &ComboBox::DropDown, &form, [this] { form.cboANList.addItem(u"F"_s); });
+    combo.showPopup();
+    EXPECT_EQ(opened.times(), 1);
+    EXPECT_EQ(combo.count(), 6);
+    combo.hidePopup();
+}
+
+TEST_F(Bound, TextBoxesTellWhatIsTypedAndWhenTheyAreLeft)
+{
+    auto &edit = widget<QLineEdit>("txtANStartTag");
+    const Raised changes(form.txtANStartTag, &TextBox::Change);
+    const Raised validations(form.txtANStartTag, &TextBox::Validate);
+    edit.setFocus();
+    QTest::keyClicks(&edit, u"<main"_s);
+    EXPECT_EQ(form.txtANStartTag.text(), u"<main"_s);
+    EXPECT_EQ(changes.times(), 5);
+    EXPECT_EQ(validations.times(), 0);
+    widget<QWidget>("cmdANStart").setFocus();
+    EXPECT_EQ(validations.times(), 1);
+    form.txtANStartTag.setText(u"<body"_s);
+    settle();
+    EXPECT_EQ(edit.text(), u"<body"_s);
+}
+
+TEST_F(Bound, TypingInTheMiddleKeepsTheCursor)
+{
+    auto &edit = widget<QLineEdit>("txtANStartTag");
+    form.txtANStartTag.setText(u"ad"_s);
+    settle();
+    edit.setFocus();
+    edit.setCursorPosition(1);
+    QTest::keyClicks(&edit, u"bc"_s);
+    settle();
+    EXPECT_EQ(form.txtANStartTag.text(), u"abcd"_s);
+    EXPECT_EQ(edit.cursorPosition(), 3);
+}
+
+TEST_F(Bound, TabsGoBothWaysAndTheirPageFollows)
+{
+    auto &tabs = widget<QTabBar>("sstSearch");
+    const Raised clicks(form.sstSearch, &TabControl::Click);
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(2).center());
+    EXPECT_EQ(form.sstSearch.tab(), 2);
+    EXPECT_EQ(clicks.times(), 1);
+    EXPECT_TRUE(widget<QWidget>("settingsPage").isVisible());
+    form.sstSearch.setTab(0);
+    settle();
+    EXPECT_EQ(tabs.currentIndex(), 0);
+    EXPECT_TRUE(widget<QWidget>("autoPage").isVisible());
+    EXPECT_EQ(tabs.tabText(3), u"Data"_s);
+}
+
+TEST_F(Bound, TheTimerShowsItsCaptionInItsColoursAndAnswersBothButtons)
+{
+    auto &timer = widget<TimerLabel>("lblTrawlexTimer");
+    QList<MouseButton> pressed;
+    QObject::connect(&form.lblTrawlexTimer, &Control::mousePressed, &form, [&](MouseButton b) { pressed.append(b); });
+    form.lblTrawlexTimer.setCaption(u"12"_s);
+    form.lblTrawlexTimer.setBackColor(Colours::Red);
+    form.lblTrawlexTimer.setForeColor(Colours::White);
+    settle();
+    EXPECT_EQ(timer.text(), u"12"_s);
+    EXPECT_GT(timer.palette().color(QPalette::Base).red(), 180);
+    EXPECT_EQ(timer.palette().color(QPalette::WindowText), QColor(Qt::white));
+    click(timer);
+    click(timer, Qt::RightButton);
+    EXPECT_EQ(pressed, (QList<MouseButton>{MouseButton::Left, MouseButton::Right}));
+    form.lblTrawlexTimer.setBackColor(Colours::ButtonFace);
+    form.lblTrawlexTimer.setForeColor(Colours::ButtonText);
+    settle();
+    EXPECT_FALSE(timer.testAttribute(Qt::WA_SetPalette)) << "back to the desktop's colours";
+}
+
+TEST_F(Bound, LabelsAnswerQuickSecondClicksAndTheKeyboard)
+{
+    auto &chip = widget<Chip>("lblAutoPgUrls");
+    const Raised presses(form.lblAutoPgUrls, &Control::mousePressed);
+    doubleClick(chip, Qt::RightButton);
+    EXPECT_EQ(presses.times(), 2);
+    chip.setFocus();
+    QTest::keyClick(&chip, Qt::Key_Return);
+    QTest::keyClick(&chip, Qt::Key_Space);
+    EXPECT_EQ(presses.times(), 4);
+}
+
+TEST_F(Bound, AChipShowsItsCaptionBehindItsWord)
+{
+    auto &chip = widget<Chip>("lblAutoPgUrls");
+    EXPECT_EQ(chip.text(), u"Collect"_s);
+    form.lblAutoPgUrls.setCaption(u"B"_s);
+    settle();
+    EXPECT_EQ(chip.text(), u"Collect B"_s);
+    EXPECT_EQ(chip.accessibleName(), u"Collect B"_s);
+}
+
+TEST_F(Bound, TheStatusBarTellsMovesAndDoubleClicks)
+{
+    auto &status = widget<StatusBarLine>("picStatus");
+    const Raised moves(form.picStatus, &Control::mouseMoved);
+    const Raised doubles(form.picStatus, &Control::doubleClicked);
+    const Raised presses(form.picStatus, &Control::mousePressed);
+    form.picStatus.print(u"Initialized..."_s);
+    settle();
+    EXPECT_EQ(status.text(), u"Initialized..."_s);
+    QTest::mouseMove(&status, QPoint(20, 10));
+    QTest::mouseMove(&status, QPoint(30, 10));
+    settle();
+    EXPECT_GE(moves.times(), 1);
+    doubleClick(status);
+    EXPECT_EQ(doubles.times(), 1);
+    EXPECT_EQ(presses.times(), 1) << "the second press of a double click is the double click";
+    click(status, Qt::RightButton);
+    EXPECT_EQ(presses.times(), 2);
+}
+
+TEST_F(Bound, TheContextMenuKeyIsARightPressOnTheControlInFocus)
+{
+    const Raised presses(form.lstANMC, &Control::mousePressed);
+    MouseButton last = MouseButton::Left;
+    QObject::connect(&form.lstANMC, &Control::mousePressed, &form, [&](MouseButton b) { last = b; });
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+    QCoreApplication::sendEvent(&widget<QWidget>("lstANMC"), &key);
+    EXPECT_EQ(presses.times(), 1);
+    EXPECT_EQ(last, MouseButton::Right);
+}
+
+TEST_F(Bound, ManyChangesAreShownOnce)
+{
+    auto &status = widget<StatusBarLine>("picStatus");
+    form.picStatus.print(u"one"_s);
+    form.picStatus.print(u"two"_s);
+    EXPECT_EQ(status.text(), QString()) << "nothing is shown before the event loop turns";
+    window.binder().flush();
+    EXPECT_EQ(status.text(), u"two"_s);
+}
+
+TEST_F(Bound, ARunInsideAClickIsHeldUpByNothing)
+{
+    // A run is one long call inside the click on Go; its X is a click inside that.
+    int depth = 0;
+    QObject::connect(&form.cmdANStart, &Button::Click, &form, [&] {
+        if (++depth == 2)
+            return;
+        form.cmdANStart.setCaption(u"X"_s);
+        settle();
+        EXPECT_EQ(widget<QPushButton>("cmdANStart").text(), u"X"_s);
+        QTest::mouseClick(&widget<QPushButton>("cmdANStart"), Qt::LeftButton);
+        form.cmdANStart.setCaption(u"Go"_s);
+    });
+    click(widget<QPushButton>("cmdANStart"));
+    EXPECT_EQ(depth, 2);
+    EXPECT_EQ(widget<QPushButton>("cmdANStart").text(), u"&Go"_s);
+}
