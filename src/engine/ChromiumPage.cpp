@@ -31,25 +31,26 @@ const ChromiumPage::EventRow ChromiumPage::eventRows[] = {
     {"Page.lifecycleEvent"_L1, &ChromiumPage::onLifecycle},
     {"Page.frameStartedNavigating"_L1, &ChromiumPage::onStartedNavigating},
     {"Page.frameStoppedLoading"_L1, &ChromiumPage::onStoppedLoading},
-    {"Fetch.requestPaused"_L1, &ChromiumPage::onRequestPaused},
-    {"Fetch.authRequired"_L1, &ChromiumPage::onAuthRequired},
 };
 
 ChromiumPage::ChromiumPage(std::shared_ptr<DevToolsConnection> connection)
-    : mConnection(std::move(connection)), mTargets(*mConnection), mDialogs(*mConnection)
+    : mConnection(std::move(connection)), mTargets(*mConnection), mDialogs(*mConnection), mReader(*mConnection),
+      mWatch(*mConnection)
 {
     QObject::connect(mConnection.get(), &DevToolsConnection::event, this, &ChromiumPage::handleEvent);
     QObject::connect(mConnection.get(), &DevToolsConnection::closed, this, &ChromiumPage::onClosed);
     QObject::connect(mConnection.get(), &DevToolsConnection::idle, this, &ChromiumPage::noticed);
     QObject::connect(&mTargets, &TargetWatch::windowWanted, this, &ChromiumPage::windowWanted);
     QObject::connect(&mTargets, &TargetWatch::processLost, this, &ChromiumPage::onProcessLost);
+    QObject::connect(&mTargets, &TargetWatch::windowReplaced, this, &ChromiumPage::onWindowReplaced);
     QObject::connect(&mTargets, &TargetWatch::windowClosed, this, &ChromiumPage::onClosed);
+    QObject::connect(&mReader, &PageReader::brokenOff, &mDialogs, &DialogAnswers::hurry);
+    QObject::connect(&mWatch, &NavigationWatch::brokenOff, &mDialogs, &DialogAnswers::hurry);
+    QObject::connect(&mWatch, &NavigationWatch::pageStuck, this, &ChromiumPage::onPageStuck);
     mTargets.attach();
     mTopFrame = mTargets.target(); // the top frame of a page goes by its target's name
     mAddress = mTargets.address();
-    mReader = std::make_unique<PageReader>(*mConnection, mTargets.session(), mTopFrame);
-    mWatch = std::make_unique<NavigationWatch>(*mConnection, mTargets.session());
-    QObject::connect(mWatch.get(), &NavigationWatch::pageEnded, this, &ChromiumPage::requestAfterLoss);
+    mReader.setPage(mTargets.session(), mTopFrame);
 }
 
 ChromiumPage::~ChromiumPage()
@@ -83,15 +84,26 @@ void ChromiumPage::navigate(const QString &address)
 {
     requireWindow();
     mRequested = address;
-    mRequestedAfterLoss = false;
-    refuseCredentials(false);
+    mReplaced = false;
+    std::erase_if(mNotices, [](const PageNotice &each) { return each.kind == PageNotice::Kind::LoadingEnded; });
+    breakOffBefore(address);
     request();
+}
+
+// A page that is left needs its scripts no more; one that never ends can be broken off only before the browser begins
+// to put the next document in its place. A move within the page does not leave it.
+void ChromiumPage::breakOffBefore(const QString &address)
+{
+    if (address.contains(u'#') && address.section(u'#', 0, 0) == mAddress.section(u'#', 0, 0))
+        return;
+    mDialogs.hurry();
+    mConnection->send(mTargets.session(), "Runtime.terminateExecution"_L1);
 }
 
 void ChromiumPage::request()
 {
     const int number = mLoading.begin();
-    mWatch->begin();
+    mWatch.begin(mTargets.session());
     mConnection->send(mTargets.session(), "Page.navigate"_L1, {{u"url"_s, mRequested}},
                       whileAlive([this, number](const auto &answer) { answered(number, answer); }));
 }
@@ -110,9 +122,6 @@ void ChromiumPage::answered(int number, const DevToolsConnection::Answer &answer
     case PageLoading::Verdict::Aborted:
         settle(number);
         break;
-    case PageLoading::Verdict::NeedsCredentials:
-        requestWithoutCredentials();
-        break;
     case PageLoading::Verdict::Wait:
     case PageLoading::Verdict::Outdated:
         break;
@@ -128,50 +137,23 @@ void ChromiumPage::settle(int number)
                       }));
 }
 
-// While it is driven the browser asks nobody for a password and shows an error page of its own; the page that the
-// server sends along with its refusal is got by asking again and refusing for the user.
-void ChromiumPage::requestWithoutCredentials()
+void ChromiumPage::onPageStuck()
 {
-    if (mRefusingCredentials)
-        return;
-    refuseCredentials(true);
+    if (!std::exchange(mReplaced, true))
+        mTargets.replaceWindow();
+    else if (mLoading.cancel())
+        loadingEnded();
+}
+
+void ChromiumPage::onWindowReplaced()
+{
+    mTopFrame = mTargets.target();
+    mAddress = u"about:blank"_s;
+    mUnreachable.clear();
+    mDocuments.clear();
+    mDialogs.newPage();
+    mReader.setPage(mTargets.session(), mTopFrame);
     request();
-}
-
-void ChromiumPage::refuseCredentials(bool refuse)
-{
-    if (refuse == mRefusingCredentials)
-        return;
-    mRefusingCredentials = refuse;
-    if (refuse)
-        mConnection->send(
-            mTargets.session(), "Fetch.enable"_L1,
-            {{u"handleAuthRequests"_s, true},
-             {u"patterns"_s, QJsonArray{QJsonObject{{u"urlPattern"_s, u"*"_s}, {u"resourceType"_s, u"Document"_s}}}}});
-    else
-        mConnection->send(mTargets.session(), "Fetch.disable"_L1);
-}
-
-void ChromiumPage::onRequestPaused(const QString &session, const QJsonObject &params)
-{
-    mConnection->send(session, "Fetch.continueRequest"_L1, {{u"requestId"_s, params[u"requestId"]}});
-}
-
-void ChromiumPage::onAuthRequired(const QString &session, const QJsonObject &params)
-{
-    mConnection->send(session, "Fetch.continueWithAuth"_L1,
-                      {{u"requestId"_s, params[u"requestId"]},
-                       {u"authChallengeResponse"_s, QJsonObject{{u"response"_s, u"CancelAuth"_s}}}});
-}
-
-void ChromiumPage::requestAfterLoss()
-{
-    if (std::exchange(mRequestedAfterLoss, true)) {
-        if (mLoading.cancel())
-            loadingEnded();
-    } else {
-        request();
-    }
 }
 
 void ChromiumPage::stop()
@@ -191,7 +173,7 @@ QString ChromiumPage::address() const
 QStringList ChromiumPage::read(QLatin1StringView what, int frame)
 {
     requireWindow();
-    return mReader->read(what, frame);
+    return mReader.read(what, frame);
 }
 
 PageContent ChromiumPage::content()
@@ -271,11 +253,10 @@ void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &p
     mUnreachable = frame[u"unreachableUrl"].toString();
     mLoading.committed(loader);
     if (!mLoading.isWaitingForDocument()) {
-        mWatch->end();
-        refuseCredentials(false);
+        mWatch.end();
     }
     mDialogs.newPage();
-    mReader->documentChanged(id);
+    mReader.documentChanged(id);
 }
 
 void ChromiumPage::onFrameMoved(const QString &session, const QJsonObject &params)
@@ -331,8 +312,7 @@ void ChromiumPage::onStoppedLoading(const QString &session, const QJsonObject &p
 
 void ChromiumPage::onProcessLost()
 {
-    if (mReader)
-        mReader->processLost();
+    mReader.processLost();
     mDocuments.clear();
     if (mLoading.processLost())
         loadingEnded();
@@ -342,8 +322,7 @@ void ChromiumPage::onClosed()
 {
     if (std::exchange(mClosed, true))
         return;
-    if (mReader)
-        mReader->processLost(); // a read under way ends at once
+    mReader.processLost(); // a read under way ends at once
     if (mLoading.cancel())
         notice({PageNotice::Kind::LoadingEnded});
     notice({PageNotice::Kind::Closed});
@@ -351,8 +330,7 @@ void ChromiumPage::onClosed()
 
 void ChromiumPage::loadingEnded()
 {
-    mWatch->end();
-    refuseCredentials(false);
+    mWatch.end();
     notice({PageNotice::Kind::LoadingEnded});
 }
 

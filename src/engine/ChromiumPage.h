@@ -76,15 +76,13 @@ class ChromiumPage : public QObject
     void onLifecycle(const QString &session, const QJsonObject &params);
     void onStartedNavigating(const QString &session, const QJsonObject &params);
     void onStoppedLoading(const QString &session, const QJsonObject &params);
-    void onRequestPaused(const QString &session, const QJsonObject &params);
-    void onAuthRequired(const QString &session, const QJsonObject &params);
 
     void request();
     void answered(int number, const DevToolsConnection::Answer &answer);
     void settle(int number);
-    void requestWithoutCredentials();
-    void refuseCredentials(bool refuse);
-    void requestAfterLoss();
+    void breakOffBefore(const QString &address);
+    void onPageStuck();
+    void onWindowReplaced();
     void onProcessLost();
     void onClosed();
     void loadingEnded();
@@ -95,16 +93,15 @@ class ChromiumPage : public QObject
     std::shared_ptr<DevToolsConnection> mConnection;
     TargetWatch mTargets;
     DialogAnswers mDialogs;
-    std::unique_ptr<PageReader> mReader;
-    std::unique_ptr<NavigationWatch> mWatch;
+    PageReader mReader;
+    NavigationWatch mWatch;
     PageLoading mLoading;
     QHash<QString, Document> mDocuments; // by frame
     QString mTopFrame;
     QString mAddress;
-    QString mUnreachable; // what the error page in place stands for
-    QString mRequested;   // the latest Navigate
-    bool mRefusingCredentials = false;
-    bool mRequestedAfterLoss = false;
+    QString mUnreachable;   // what the error page in place stands for
+    QString mRequested;     // the latest Navigate
+    bool mReplaced = false; // the window has been replaced for the latest Navigate
     bool mClosed = false;
     std::deque<PageNotice> mNotices;
 };

@@ -12,6 +12,14 @@ namespace {
 constexpr int profilesAtMost = 100;
 constexpr QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
+// What the browser begins with, as it would write it itself: once a file is there, it is the browser's and the user's.
+// The first says what pages may do. The second switches every kind of password question of servers off: the page that a
+// server sends along with its question is shown in its place.
+constexpr std::pair<QLatin1StringView, QLatin1StringView> settingsFiles[] = {
+    {"chromium-preferences.json"_L1, "Default/Preferences"_L1},
+    {"chromium-local-state.json"_L1, "Local State"_L1},
+};
+
 QString endpointFile(const QString &folder)
 {
     return folder + u"/DevToolsActivePort"_s;
@@ -49,15 +57,16 @@ bool ChromiumProfile::take(const QString &folder)
 
 void ChromiumProfile::make()
 {
-    const QString settings = mFolder + u"/Default/Preferences"_s;
     if (!QDir().mkpath(mFolder + u"/Default"_s) || !QFile::setPermissions(mFolder, ownerOnly))
         throw RuntimeError(ErrorNumber::PathAccessError, u"Cannot make the folder %1."_s.arg(mFolder));
-    if (QFile::exists(settings))
-        return;
-    QFile file(settings);
-    const QByteArray content = engineResource(u"chromium-preferences.json"_s);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        throw RuntimeError(ErrorNumber::PathAccessError, u"Cannot write %1."_s.arg(settings));
+    for (const auto &[resource, name] : settingsFiles) {
+        QFile file(mFolder + u'/' + name);
+        if (file.exists())
+            continue;
+        const QByteArray content = engineResource(resource);
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            throw RuntimeError(ErrorNumber::PathAccessError, u"Cannot write %1."_s.arg(file.fileName()));
+    }
 }
 
 // Two lines: the port, and the path of the browser's own endpoint.

@@ -19,8 +19,14 @@ void DialogAnswers::answer(const QString &session, const QJsonObject &dialog)
     const auto send = [this, session, accept] {
         mConnection.send(session, "Page.handleJavaScriptDialog"_L1, {{u"accept"_s, accept}});
     };
-    if (++mCount <= boxesWithoutDelay)
+    if (++mCount <= boxesWithoutDelay || mHurry)
         send();
     else
         QTimer::singleShot(delayOfFurther, this, send);
+}
+
+void DialogAnswers::newPage()
+{
+    mCount = 0;
+    mHurry = false;
 }

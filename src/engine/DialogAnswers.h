@@ -14,9 +14,13 @@ class DialogAnswers : public QObject
 
     void answer(const QString &session, const QJsonObject &dialog);
     /// A new page: its boxes are counted anew.
-    void newPage() { mCount = 0; }
+    void newPage();
+    /// The page's script is to be broken off, which a script that does nothing but show boxes takes notice of only
+    /// after thousands of them: they are answered without delay until the next page.
+    void hurry() { mHurry = true; }
 
   private:
     DevToolsConnection &mConnection;
     int mCount = 0;
+    bool mHurry = false;
 };

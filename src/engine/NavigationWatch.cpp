@@ -6,21 +6,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::seconds betweenLooks{4};
+constexpr std::chrono::seconds betweenLooks{3};
 constexpr std::chrono::seconds limitOfAnswer{2};
-constexpr int breakOffsAtMost = 3;
+constexpr int breakOffsAtMost = 2;
 
 } // namespace
 
-NavigationWatch::NavigationWatch(DevToolsConnection &connection, QString session)
-    : mConnection(connection), mSession(std::move(session))
+NavigationWatch::NavigationWatch(DevToolsConnection &connection) : mConnection(connection)
 {
     mTimer.setSingleShot(true);
     QObject::connect(&mTimer, &QTimer::timeout, this, &NavigationWatch::look);
 }
 
-void NavigationWatch::begin()
+void NavigationWatch::begin(const QString &session)
 {
+    ++mLook;
+    mSession = session;
     mUnanswered = false;
     mBrokenOff = 0;
     mTimer.start(betweenLooks);
@@ -37,12 +38,13 @@ void NavigationWatch::look()
 {
     if (mUnanswered && ++mBrokenOff > breakOffsAtMost) {
         end();
-        mConnection.send(mSession, "Page.crash"_L1);
-        Q_EMIT pageEnded();
+        Q_EMIT pageStuck();
         return;
     }
-    if (mUnanswered)
+    if (mUnanswered) {
         mConnection.send(mSession, "Runtime.terminateExecution"_L1);
+        Q_EMIT brokenOff();
+    }
     mUnanswered = true;
     mTimer.start(limitOfAnswer);
     const QPointer<NavigationWatch> self(this);

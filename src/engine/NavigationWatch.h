@@ -1,6 +1,6 @@
 // Watches over a navigation that has been asked for until its document is in place: an old page that keeps the browser
-// from leaving it is made to let go. A script of the old page that never ends is broken off; a process that does not
-// answer even then is ended, and the navigation has to be asked for again.
+// from leaving it is made to let go. A script of the old page that never ends is broken off; when the page does not
+// answer even then, as when it hangs while the new document is about to take its place, its window has to be given up.
 #pragma once
 
 #include "engine/DevToolsConnection.h"
@@ -13,20 +13,22 @@ class NavigationWatch : public QObject
 
   public:
     /// `connection` must outlive this object.
-    NavigationWatch(DevToolsConnection &connection, QString session);
+    explicit NavigationWatch(DevToolsConnection &connection);
 
-    void begin();
+    void begin(const QString &session);
     void end();
 
   Q_SIGNALS:
-    /// The old page's process has been ended on purpose.
-    void pageEnded();
+    /// A script of the old page is being broken off.
+    void brokenOff();
+    /// The old page's window can no longer be used; the watch is over.
+    void pageStuck();
 
   private:
     void look();
 
     DevToolsConnection &mConnection;
-    const QString mSession;
+    QString mSession;
     QTimer mTimer;
     int mLook = 0;            // counts looks, so that a late answer is known as one
     bool mUnanswered = false; // the latest look has found no answer yet

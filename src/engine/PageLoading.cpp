@@ -35,11 +35,7 @@ PageLoading::Verdict PageLoading::answered(int number, const QString &loader, co
         return mMoving ? Verdict::Moved : Verdict::Ended;
     }
     mAnswered = !error.isEmpty();
-    if (error == "net::ERR_ABORTED"_L1)
-        return Verdict::Aborted;
-    if (error == "net::ERR_INVALID_AUTH_CREDENTIALS"_L1)
-        return Verdict::NeedsCredentials;
-    return Verdict::Wait;
+    return error == "net::ERR_ABORTED"_L1 ? Verdict::Aborted : Verdict::Wait;
 }
 
 // A later request of the top frame has taken the place of ours: its document is awaited.

@@ -15,12 +15,11 @@ class PageLoading
   public:
     /// What follows from the browser's answer to the request for a page.
     enum class Verdict {
-        Wait,             ///< a document is coming, or word of a move within the page
-        Ended,            ///< nothing is coming: the request is no address
-        Moved,            ///< it was a move within the page, and loading has ended
-        Aborted,          ///< a download, no content, or replaced: settle(), once the browser has told all it knows
-        NeedsCredentials, ///< the server asks for a name and password
-        Outdated          ///< the answer belongs to an earlier begin()
+        Wait,    ///< a document is coming, or word of a move within the page
+        Ended,   ///< nothing is coming: the request is no address
+        Moved,   ///< it was a move within the page, and loading has ended
+        Aborted, ///< a download, no content, or replaced: settle(), once the browser has told all it knows
+        Outdated ///< the answer belongs to an earlier begin()
     };
 
     [[nodiscard]] bool isLoading() const { return mLoading; }

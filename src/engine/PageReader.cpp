@@ -47,9 +47,13 @@ QString textOf(const QJsonObject &exception)
 
 } // namespace
 
-PageReader::PageReader(DevToolsConnection &connection, QString session, QString frame)
-    : mConnection(connection), mSession(std::move(session)), mFrame(std::move(frame))
+void PageReader::setPage(const QString &session, const QString &frame)
 {
+    mSession = session;
+    mFrame = frame;
+    mLost = false;
+    mWorld = {};
+    ++mDocument;
 }
 
 void PageReader::documentChanged(const QString &frame)
@@ -170,10 +174,12 @@ PageReader::Outcome PageReader::tryEvaluate(const QString &expression, QDeadline
         mSession, "Runtime.evaluate"_L1,
         {{u"expression"_s, expression}, {u"contextId"_s, context}, {u"returnByValue"_s, true}, {u"silent"_s, true}},
         [answer](const DevToolsConnection::Answer &given) { *answer = given; });
-    if (!waitPatiently([&] { return answer->has_value() || mLost; }, deadline, mayBreakOff))
+    if (!waitPatiently([&] { return answer->has_value() || mLost || mDocument != document; }, deadline, mayBreakOff))
         raiseNoAnswer();
     if (mLost)
         throw RuntimeError(EngineError::BrowserGone, u"The page's process has ended."_s);
+    if (!answer->has_value())
+        return Outcome::Lost;
 
     const QJsonObject exception = (*answer)->result[u"exceptionDetails"].toObject();
     if (isBrokenOff((*answer)->error, exception))
@@ -201,6 +207,7 @@ bool PageReader::waitPatiently(const std::function<bool()> &done, QDeadlineTimer
         if (deadline.hasExpired() || !mConnection.isOpen())
             break;
         mConnection.send(mSession, "Runtime.terminateExecution"_L1);
+        Q_EMIT brokenOff();
     }
     return mConnection.waitUntil(done, deadline);
 }

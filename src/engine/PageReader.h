@@ -18,15 +18,21 @@ class PageReader : public QObject
     static constexpr std::chrono::seconds patienceAgain{2};
 
     /// `connection` must outlive the reader.
-    PageReader(DevToolsConnection &connection, QString session, QString frame);
+    explicit PageReader(DevToolsConnection &connection) : mConnection(connection) {}
 
+    /// From now on another page is read, the top frame of which is `frame`.
+    void setPage(const QString &session, const QString &frame);
     /// The document has changed: its world is asked for ahead of the next read.
     void documentChanged(const QString &frame);
-    /// The page's process is gone; reads raise an error until documentChanged.
+    /// The page's process is gone; reads raise an error until documentChanged or setPage.
     void processLost();
 
     /// Runs `what` of js/reader.js for the document of frame `index` (-1: the top document). Raises a RuntimeError.
     [[nodiscard]] QStringList read(QLatin1StringView what, int index = -1);
+
+  Q_SIGNALS:
+    /// A script of the page is being broken off.
+    void brokenOff();
 
   private:
     struct World
@@ -47,7 +53,7 @@ class PageReader : public QObject
     [[noreturn]] void raiseNoAnswer();
 
     DevToolsConnection &mConnection;
-    const QString mSession;
+    QString mSession;
     QString mFrame;
     World mWorld;
     int mDocument = 0; // counts documents, so that a late answer is known as one

@@ -3,6 +3,8 @@
 #include "util/Errors.h"
 
 #include <QJsonArray>
+#include <QPointer>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,7 +80,8 @@ void TargetWatch::attached(const QString &parent, const QJsonObject &params)
     } else if (target == mTarget) {
         mSession = session;
         preparePage(session);
-        mConnection.send(session, "Page.setInterceptFileChooserDialog"_L1, {{u"enabled"_s, true}, {u"cancel"_s, true}});
+    } else if (mReplacing && !info.contains(u"openerId")) {
+        takeReplacement(session, target);
     } else if (mFamily.contains(info[u"openerId"].toString())) {
         decideOnWindow(session, target, params[u"waitingForDebugger"].toBool());
     } else {
@@ -87,11 +90,46 @@ void TargetWatch::attached(const QString &parent, const QJsonObject &params)
     }
 }
 
+// Where the old window stood is a matter of taste: without an answer the new one stands where the browser puts it.
+void TargetWatch::replaceWindow()
+{
+    const QPointer<TargetWatch> self(this);
+    mConnection.send({}, "Browser.getWindowForTarget"_L1, {{u"targetId"_s, mTarget}},
+                     [self](const DevToolsConnection::Answer &answer) {
+                         if (self)
+                             self->openReplacement(answer.result[u"bounds"].toObject());
+                     });
+}
+
+void TargetWatch::openReplacement(const QJsonObject &bounds)
+{
+    QJsonObject window{{u"url"_s, u"about:blank"_s}, {u"newWindow"_s, true}};
+    for (const QString &name : {u"left"_s, u"top"_s, u"width"_s, u"height"_s}) {
+        if (bounds.contains(name))
+            window.insert(name, bounds[name]);
+    }
+    mReplacing = true;
+    mConnection.send({}, "Target.createTarget"_L1, window);
+}
+
+void TargetWatch::takeReplacement(const QString &session, const QString &target)
+{
+    mReplacing = false;
+    const QString old = std::exchange(mTarget, target);
+    mSession = session;
+    mSessions.clear();
+    mFamily.insert(target);
+    preparePage(session);
+    mConnection.send({}, "Target.closeTarget"_L1, {{u"targetId"_s, old}});
+    Q_EMIT windowReplaced();
+}
+
 void TargetWatch::preparePage(const QString &session)
 {
     mSessions.insert(session);
     mConnection.send(session, "Page.enable"_L1);
     mConnection.send(session, "Page.setLifecycleEventsEnabled"_L1, {{u"enabled"_s, true}});
+    mConnection.send(session, "Page.setInterceptFileChooserDialog"_L1, {{u"enabled"_s, true}, {u"cancel"_s, true}});
     mConnection.send(session, "Target.setAutoAttach"_L1, autoAttach(u"iframe"_s));
     run(session);
 }

@@ -18,6 +18,10 @@ class TargetWatch : public QObject
     /// Attaches to the browser's first page window, made if there is none. Raises a RuntimeError.
     void attach();
 
+    /// Opens another window in the place of ours, which is closed without a word; windowReplaced() tells when it is
+    /// done.
+    void replaceWindow();
+
     [[nodiscard]] const QString &target() const { return mTarget; }
     /// The session of our page.
     [[nodiscard]] const QString &session() const { return mSession; }
@@ -36,11 +40,14 @@ class TargetWatch : public QObject
     /// A page of ours opens a window; it stands still until this has returned. Set `*cancel` to close it.
     void windowWanted(bool *cancel);
     void processLost();
+    void windowReplaced();
     void windowClosed();
 
   private:
     [[nodiscard]] QJsonObject findPage();
     void awaitPage();
+    void openReplacement(const QJsonObject &bounds);
+    void takeReplacement(const QString &session, const QString &target);
     void preparePage(const QString &session);
     void decideOnWindow(const QString &session, const QString &target, bool isNew);
     void run(const QString &session);
@@ -51,4 +58,5 @@ class TargetWatch : public QObject
     QString mAddress;
     QSet<QString> mSessions; // of our page and its frames
     QSet<QString> mFamily;   // our window and those that came from it
+    bool mReplacing = false; // the next window that nobody has opened is ours
 };

@@ -154,17 +154,6 @@ TEST(PageLoading, AnErrorWithoutAPageEndsWhenTheBrowserStops)
     EXPECT_TRUE(page.stopped());
 }
 
-TEST(PageLoading, ThePageBeforeTheRefusedPasswordDoesNotCount)
-{
-    PageLoading page;
-    EXPECT_EQ(page.answered(page.begin(), u"a"_s, u"net::ERR_INVALID_AUTH_CREDENTIALS"_s), Verdict::NeedsCredentials);
-    page.begin();
-    page.committed(u"a"_s);
-    EXPECT_FALSE(page.documentLoaded(u"a"_s));
-    page.committed(u"b"_s);
-    EXPECT_TRUE(page.documentLoaded(u"b"_s));
-}
-
 TEST(PageLoading, ALoadThatIsBrokenOffHalfWayEndsWhenTheBrowserStops)
 {
     PageLoading page;
