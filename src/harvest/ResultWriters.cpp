@@ -1,11 +1,9 @@
 #include "harvest/ResultWriters.h"
 
 #include "controls/cLstBx.h"
-#include "store/FixNull.h"
 #include "store/Schema.h"
 #include "util/Arrays.h"
 #include "util/Incr.h"
-#include "util/Text.h"
 #include "web/Addresses.h"
 #include "web/EmailFinder.h"
 #include "web/PhoneFinder.h"
@@ -37,7 +35,8 @@ bool isNumeric(const QString &text)
 
 ResultWriters::ResultWriters(ErrorReceiver &log, frmSearch &form, DatabaseHolder &database, SavedUrls &savedUrls,
                              PageData &data)
-    : mLog(log), mForm(form), mDatabase(database), mSavedUrls(savedUrls), mData(data)
+    : mLog(log), mForm(form), mDatabase(database), mSavedUrls(savedUrls), mData(data),
+      mSummaryIndex([](const QString &url) { return cIEText::GetServerFromUrl(url, cIEText::hostOnly); })
 {
 }
 
@@ -178,19 +177,6 @@ QString ResultWriters::GetSSIndex(PageReading &page, const QString &url)
     return guardedResult(mLog, {module, "Function GetSSIndex"_L1}, QString(), [&](QString &index) {
         const QString key = url.isEmpty() ? page.url() : url;
         const QString keyServer = url.isEmpty() ? cIEText::GetServerFromUrl(key, cIEText::hostOnly) : QString();
-        index = u"-1"_s;
-        Recordset rows = mDatabase->GetRecordset(u"SELECT Index,Url FROM SiteSummary"_s);
-        const auto equals = [](QStringView left, QStringView right) {
-            return cUtility::equalIgnoringCase(left, right);
-        };
-        for (; !rows.Eof(); rows.MoveNext()) {
-            const QString rowUrl = FixNull(rows.Fields()["Url"_L1]);
-            const QString rowServer = cIEText::GetServerFromUrl(rowUrl, cIEText::hostOnly);
-            if (equals(key, rowUrl) || equals(key, rowServer) || equals(keyServer, rowUrl) ||
-                equals(keyServer, rowServer)) {
-                index = FixNull(rows.Fields()["Index"_L1]);
-                return;
-            }
-        }
+        index = QString::number(mSummaryIndex.find(*mDatabase, key, keyServer));
     });
 }

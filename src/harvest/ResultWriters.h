@@ -3,6 +3,7 @@
 
 #include "harvest/PageData.h"
 #include "lists/SavedUrls.h"
+#include "store/SiteSummaryIndex.h"
 
 #include <QMap>
 
@@ -38,5 +39,6 @@ class ResultWriters
     DatabaseHolder &mDatabase;
     SavedUrls &mSavedUrls;
     PageData &mData;
+    SiteSummaryIndex mSummaryIndex;
     QMap<QString, int> mAdded;
 };

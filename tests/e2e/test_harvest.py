@@ -13,6 +13,7 @@ class WholeHarvest(trawlex.Case):
         self.assertEqual(done.report["status"], "Stopped (FINISHED)")
         self.assertEqual(done.report["links"], trawlex.EXPECTED["links"])
         self.assertIn("Stopped (FINISHED)", done.stderr.splitlines())
+        self.assertNotIn("Err#=", done.stderr)
         self.assert_expected_rows(path)
         for table in trawlex.TABLES:
             self.assertEqual(done.report["rows"].get(table, 0), len(trawlex.EXPECTED[table]), table)

@@ -70,6 +70,7 @@ def processes(mark):
 
 class Case(unittest.TestCase):
     """A folder, settings and browser profile of its own; browsers that are left are ended with the test."""
+    maxDiff = None
 
     def setUp(self):
         self.folder = tempfile.mkdtemp(prefix="trawlex-e2e-")
@@ -92,7 +93,8 @@ class Case(unittest.TestCase):
         return demo_harvest.make_database(HARVESTER, self.folder, self.demo.port, browser, self.env)
 
     def words(self, browser, extra=(), **switches):
-        chosen = dict(EXPECTED["switches"], **switches)
+        # Errors are told on standard error, where a failing test shows them.
+        chosen = {**EXPECTED["switches"], "chkSMV(1)": 1, **switches}
         return demo_harvest.command(HARVESTER, self.folder, self.demo.port, browser, chosen, extra)
 
     def harvest(self, browser, extra=("--open", demo_harvest.RESULT_PAGE), **switches):
