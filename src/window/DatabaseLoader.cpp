@@ -9,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr auto nameKey = "DatabaseName"_L1;
 } // namespace
@@ -24,8 +23,7 @@ DatabaseLoader::DatabaseLoader(ErrorReceiver &log, frmSearch &form, UserDialogs 
 QString DatabaseLoader::databasePath(bool useFileBox)
 {
     const QString folder = mForm.txtSFDBDir.text();
-    const QString name =
-        useFileBox ? mForm.txtSFDBFile.text() : mSettings.GetSetting(Options::startSection, nameKey);
+    const QString name = useFileBox ? mForm.txtSFDBFile.text() : mSettings.GetSetting(Options::startSection, nameKey);
     if (!name.isEmpty() && QFile::exists(folder + name))
         return folder + name;
     const QString vacant = cUtility::GetVacantFileSpecs(folder + firstDatabaseName);
@@ -40,9 +38,15 @@ void DatabaseLoader::fatal(const QString &path, const QString &text)
     mDialogs.tell(u"Fatal Database Test Error"_s, path + u"\r\n"_s + text);
 }
 
+/// The database object refuses a path that cannot be written, and keeps another file's; that one is not meant.
+bool DatabaseLoader::isPathTaken(const QString &path) const
+{
+    return mDatabase->DatabasePath() == path.trimmed();
+}
+
 bool DatabaseLoader::testExisting(const QString &path, bool useFileBox)
 {
-    if (mDatabase->TestDatabase(true))
+    if (isPathTaken(path) && mDatabase->TestDatabase(true))
         return true;
     if (useFileBox) {
         fatal(path, u"You will need to restart Trawlex"_s);
@@ -65,7 +69,7 @@ bool DatabaseLoader::LoadDatabase(bool useFileBox)
         declareSchema(*mDatabase);
         if (QFile::exists(path)) {
             goOn = testExisting(path, useFileBox);
-        } else if (!mDatabase->CreateDatabase(false)) {
+        } else if (!isPathTaken(path) || !mDatabase->CreateDatabase(false)) {
             fatal(path, u"Database could not be created."_s);
             Q_EMIT unloadRequested();
         }

@@ -24,6 +24,7 @@ class DatabaseLoader : public QObject
 
   private:
     [[nodiscard]] QString databasePath(bool useFileBox);
+    [[nodiscard]] bool isPathTaken(const QString &path) const;
     [[nodiscard]] bool testExisting(const QString &path, bool useFileBox);
     void fatal(const QString &path, const QString &text);
     void choose(ComboBox &combo, QLatin1StringView key);

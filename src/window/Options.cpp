@@ -57,6 +57,7 @@ Options::Options(ErrorLog &log, frmSearch &form, StatusLine &status, ControlStat
     connectSetting("SearchKeyChkMustNotContain Value"_L1, &mForm.chkMustNotContain);
     connectSetting("chkUseSavedUrls"_L1, &mForm.chkUseSavedUrls);
     connectSetting("cboANSavedUrls"_L1, &mForm.cboANSavedUrls);
+    connectSetting("chkSAMoveToTopLeft"_L1, &mForm.chkSMV(4)); // read when the window is placed
     for (const SwitchRow &row : switchRows()) {
         auto *box = qobject_cast<CheckBox *>(mForm.control(row.control));
         if (!row.caption.isEmpty())

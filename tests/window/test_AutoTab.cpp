@@ -1,0 +1,195 @@
+// What the Auto tab, the status bar and the tabs answer to the user.
+#include "support/ProgramFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+class AutoTabTest : public ProgramTest
+{
+  protected:
+    AutoTabTest()
+    {
+        load();
+        statuses.clear();
+    }
+    void tabs(int search, int settingsTab = 0, int files = 0, int misc = 0)
+    {
+        form().sstFiles.setTab(files);
+        form().sstMiscOptions.setTab(misc);
+        form().sstSettings.setTab(settingsTab);
+        form().sstSearch.setTab(search);
+        statuses.clear();
+    }
+};
+
+struct TabCase
+{
+    int search, settings, files, misc;
+    const char *tip;
+    const char *doubleClick;
+};
+
+class Tabs : public AutoTabTest, public testing::WithParamInterface<TabCase>
+{
+};
+} // namespace
+
+TEST_P(Tabs, HaveTheirTipAndTheirDoubleClick)
+{
+    const TabCase &row = GetParam();
+    tabs(row.search, row.settings, row.files, row.misc);
+    const QString before = form().picStatus.printed();
+    form().picStatus.mouseMove();
+    EXPECT_EQ(form().picStatus.toolTipText(),
+              u"Double Click "_s + QString::fromLatin1(row.tip) + u" Right click for menu"_s);
+    EXPECT_EQ(form().picStatus.printed(), before);
+    form().picStatus.doubleClick();
+    EXPECT_EQ(lastStatus(),
+              *row.doubleClick ? QString::fromLatin1(row.doubleClick) + u" double click, unassigned"_s : QString());
+    form().mbInitialized = false;
+    form().picStatus.doubleClick();
+    EXPECT_EQ(lastStatus(), u"Not initialized"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(Window, Tabs,
+                         testing::Values(TabCase{0, 0, 0, 0, "Add select Url [ANSelectUrls]", ""},
+                                         TabCase{1, 0, 0, 0, "Add select Url [MNSelectUrls]", ""},
+                                         TabCase{2, 0, 0, 0, "Settings/Blocking Not assigned", "Blocking"},
+                                         TabCase{2, 1, 0, 0, "Settings/Files/Files Not assigned", "Directory"},
+                                         TabCase{2, 1, 1, 0, "Settings/Files/Import Not assigned", "Import"},
+                                         TabCase{2, 2, 0, 0, "Settings/Misc/A-M Not assigned", "A-M"},
+                                         TabCase{2, 2, 0, 1, "Settings/Misc/Data Not assigned", "Save"},
+                                         TabCase{2, 2, 0, 2, "Settings/Misc/View Not assigned", "View"},
+                                         TabCase{2, 2, 0, 3, "Clear fields and add title and Url from web browser", ""},
+                                         TabCase{3, 0, 0, 0, "Data Not assigned", "DB"}),
+                         [](const auto &row) { return "row" + std::to_string(row.index); });
+
+TEST_F(AutoTabTest, ChangingTheTabTellsWhereTheUserIs)
+{
+    form().sstSearch.setTab(1);
+    EXPECT_EQ(lastStatus(), u"Manual"_s);
+    form().sstSearch.setTab(2);
+    EXPECT_EQ(lastStatus(), u"Settings - Blocking"_s);
+    form().sstSettings.setTab(1);
+    EXPECT_EQ(lastStatus(), u"Settings - Files - Directory"_s);
+    form().sstFiles.setTab(1);
+    EXPECT_EQ(lastStatus(), u"Settings - Files - Import"_s);
+    form().sstSettings.setTab(2);
+    EXPECT_EQ(lastStatus(), u"Settings - Misc - A-M"_s);
+    form().sstMiscOptions.setTab(2);
+    EXPECT_EQ(lastStatus(), u"Settings - Misc - View"_s);
+    form().sstSettings.setTab(0);
+    EXPECT_EQ(lastStatus(), u"Settings - Blocking"_s);
+    form().sstSettings.setTab(2);
+    form().sstSearch.setTab(3);
+    EXPECT_EQ(lastStatus(), u"Data"_s);
+    form().sstSearch.setTab(2);
+    EXPECT_EQ(lastStatus(), u"Settings - Misc"_s);
+}
+
+TEST_F(AutoTabTest, TheTimersTipFollowsTheTab)
+{
+    const auto tip = [this](int tab) {
+        form().sstSearch.setTab(tab);
+        form().lblTrawlexTimer.mouseMove();
+        return form().lblTrawlexTimer.toolTipText();
+    };
+    EXPECT_EQ(tip(0), u"Left click cancels timer. Right click to magnify Saved Url"_s);
+    EXPECT_EQ(tip(1), u"(Left click) - cancel timer. Right click to open file save directory"_s);
+    form().chkSMA(8).setValue(0);
+    EXPECT_EQ(tip(1), u"(Left click) - cancel timer. Right click to magnify active item"_s);
+    EXPECT_EQ(tip(3), u"Trawlex Timer (Sec). Left click cancels timer"_s);
+    form().chkSMV(0).setValue(0);
+    EXPECT_EQ(tip(0), QString());
+}
+
+TEST_F(AutoTabTest, WithoutABrowserTheTimerDoesNotAnswer)
+{
+    form().lblTrawlexTimer.setCaption(u"7"_s);
+    form().mbInitialized = false;
+    form().lblTrawlexTimer.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"7"_s);
+    form().mbInitialized = true;
+    form().lblTrawlexTimer.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"0"_s);
+}
+
+TEST_F(AutoTabTest, QuickBlockTakesTheServerOfThePageOnShow)
+{
+    browser().show(u"http://www.ads.com/banner"_s);
+    form().lblAutoCollect.mouseDown(MouseButton::Left);
+    ASSERT_EQ(form().mastrQB.size(), 1);
+    const QString server = form().mastrQB[0];
+    EXPECT_EQ(lastStatus(), u"QB added "_s + server);
+    EXPECT_TRUE(u"http://www.ads.com/banner"_s.contains(server));
+    EXPECT_FALSE(server.contains(u"www"_s));
+    form().lblAutoCollect.mouseDown(MouseButton::Left);
+    EXPECT_EQ(lastStatus(), u"Exists "_s + server);
+    browser().show(u"http://www.more.com/"_s);
+    form().lblAutoCollect.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().mastrQB.size(), 2);
+    browser().show(u"about:blank"_s);
+    form().lblAutoCollect.mouseDown(MouseButton::Left);
+    EXPECT_EQ(lastStatus(), u"Nothing to add"_s);
+    form().lblAutoCollect.mouseMove();
+    EXPECT_EQ(form().lblAutoCollect.toolTipText(),
+              u"Left click Add Quick Block. Right click Clear Quick Block. 2 blocked"_s);
+    form().lblAutoCollect.mouseDown(MouseButton::Right);
+    EXPECT_EQ(form().mastrQB, emptyList());
+    EXPECT_EQ(lastStatus(), u"Quick Block Cleared"_s);
+}
+
+TEST_F(AutoTabTest, QuickBlockIsOfTheAutoTabAlone)
+{
+    browser().show(u"http://www.ads.com/"_s);
+    form().sstSearch.setTab(1);
+    form().lblAutoCollect.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().mastrQB, emptyList());
+}
+
+TEST_F(AutoTabTest, ThePagesLabelOpensTheFolderOfFilesUnlessPagesGoIntoTheTable)
+{
+    form().chkSaveToFile.setValue(1);
+    form().lblPageSaved.mouseDown(MouseButton::Left);
+    EXPECT_TRUE(desktop.opened.isEmpty());
+    form().chkSaveToSS.setValue(0);
+    form().lblPageSaved.mouseDown(MouseButton::Right);
+    EXPECT_TRUE(desktop.opened.isEmpty());
+    form().lblPageSaved.mouseDown(MouseButton::Left);
+    EXPECT_EQ(desktop.opened, QStringList{form().txtSFMNDir.text()});
+}
+
+// Runs that end each wait once the page is there.
+
+namespace {
+class UntilLoadedTest : public RunTest
+{
+  protected:
+    UntilLoaded untilLoaded{program->timer, program->browser};
+};
+} // namespace
+
+TEST_F(UntilLoadedTest, AWaitIsOverAsSoonAsThePageHasLoaded)
+{
+    form().chkSaveSummary.setValue(1);
+    form().chkSMD(1).setValue(0);
+    const QStringList links = makeSites(3);
+    for (int i = 0; i < 3; ++i)
+        browser().pages[links[i]].loadTime = 700 * (i + 1);
+    showResults(links);
+    const qint64 start = pump.tickCount();
+    clickStart();
+    EXPECT_EQ(pump.tickCount() - start, 700 + 1400 + 2100);
+    EXPECT_EQ(rows(u"SiteSummary"_s), links);
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+TEST_F(UntilLoadedTest, APageThatDoesNotComeIsWaitedForNoLongerThanTheTime)
+{
+    const QStringList links = makeSites(1);
+    browser().pages[links[0]].loadTime = 60'000;
+    showResults(links);
+    const qint64 start = pump.tickCount();
+    clickStart();
+    EXPECT_EQ(pump.tickCount() - start, 5000);
+}

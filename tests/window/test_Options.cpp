@@ -1,0 +1,367 @@
+// The options: what they start with, what is stored when, and what they report.
+#include "support/ProgramFixture.h"
+#include "window/OptionTable.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+/// A control's state as the settings store holds it.
+QString state(const Control *control)
+{
+    if (const auto *box = qobject_cast<const CheckBox *>(control))
+        return QString::number(box->value());
+    if (const auto *list = qobject_cast<const ListControl *>(control))
+        return QString::number(list->listIndex());
+    if (const auto *number = qobject_cast<const NumberBox *>(control))
+        return number->text();
+    if (const auto *text = qobject_cast<const TextBox *>(control))
+        return text->text();
+    return u"(no state)"_s;
+}
+
+class OptionsTest : public ProgramTest
+{
+};
+
+struct KeyCase
+{
+    const char *key;
+    const char *control;
+    const char *first; ///< its state at a first start
+    const char *stored;
+    const char *state; ///< its state when `stored` was stored
+};
+
+void PrintTo(const KeyCase &row, std::ostream *out)
+{
+    *out << row.key;
+}
+
+class Keys : public ProgramTest, public testing::WithParamInterface<KeyCase>
+{
+  protected:
+    QString stateOf(const char *name) { return state(form().control(QString::fromLatin1(name))); }
+};
+} // namespace
+
+TEST_P(Keys, AreReadAtTheStartAndHaveTheirDefaults)
+{
+    const KeyCase &row = GetParam();
+    settings.preset("chkMCMNCStop", u"1"_s); // an output, without which the criteria go off
+    if (std::string_view(row.key) == "chkMCMNCStop")
+        settings.values.remove(u"SecFrmSearch/chkMCMNCStop"_s);
+    load();
+    EXPECT_EQ(stateOf(row.control), QString::fromLatin1(row.first));
+    program.reset();
+    settings.preset(row.key, QString::fromLatin1(row.stored));
+    load();
+    EXPECT_EQ(stateOf(row.control), QString::fromLatin1(row.state));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Options, Keys,
+    testing::Values(
+        KeyCase{"chkMCMNCStop", "chkMCMNCStop", "0", "1", "1"},
+        KeyCase{"chkAutoNavToNextPassUrl", "chkSMA(4)", "1", "0", "0"},
+        KeyCase{"chkOpenServersOnly", "chkSMA(0)", "0", "1", "1"}, KeyCase{"chkMNCnvHex", "chkSMA(1)", "0", "1", "1"},
+        KeyCase{"chkSMReturnToSearchPg", "chkSMA(2)", "1", "0", "0"},
+        KeyCase{"chkSMAMUseFTP", "chkSMA(3)", "0", "1", "1"},
+        KeyCase{"chkSMAPassUrlAutoIncr", "chkSMA(5)", "1", "0", "0"},
+        KeyCase{"chkSMASavedUrlAutoIncr", "chkSMA(6)", "0", "1", "1"},
+        KeyCase{"chkShutDownPrompt", "chkSMA(7)", "1", "0", "0"}, KeyCase{"chkSTmrRCDir", "chkSMA(8)", "1", "0", "0"},
+        KeyCase{"chkSMSUniqueServers", "chkSMA(9)", "0", "1", "1"},
+        KeyCase{"chkOpenHtmlExports", "chkSMD(0)", "1", "0", "0"},
+        KeyCase{"chkUniqueBaseUrls", "chkSMD(1)", "1", "0", "0"},
+        KeyCase{"chkUniqueSelectUrls", "chkSMD(2)", "0", "1", "1"},
+        KeyCase{"chkSMSaveUrlWithEmail", "chkSMD(3)", "1", "0", "0"},
+        KeyCase{"chkSMSaveUrlWithPhone", "chkSMD(4)", "1", "0", "0"},
+        KeyCase{"chkSUUseSiteTitle", "chkSMD(5)", "1", "0", "0"}, KeyCase{"chkSMFindFax", "chkSMD(6)", "0", "1", "1"},
+        KeyCase{"chkSMAMUrlIfNoData", "chkSMD(7)", "1", "0", "0"},
+        KeyCase{"chkSMAMAutoAddAutoUrl", "chkSMD(8)", "1", "0", "0"},
+        KeyCase{"chkShowToolTips", "chkSMV(0)", "1", "0", "0"},
+        KeyCase{"chkSMVTurnOffErrorMsg", "chkSMV(1)", "0", "1", "1"},
+        KeyCase{"chkSMVBlockPopUpWindows", "chkSMV(2)", "1", "0", "0"},
+        KeyCase{"chkSMAAllignmagnify", "chkSMV(3)", "0", "1", "1"}, KeyCase{"chkSaveUrl", "chkSaveUrl", "0", "1", "1"},
+        KeyCase{"chkSaveToSS", "chkSaveToSS", "1", "0", "0"}, KeyCase{"chkSaveToFile", "chkSaveToFile", "0", "1", "1"},
+        KeyCase{"chkPutInOneFile", "chkPutInOneFile", "0", "1", "1"},
+        KeyCase{"chkSaveSummary", "chkSaveSummary", "0", "1", "1"},
+        KeyCase{"chkSavePhone", "chkSavePhone", "0", "1", "1"},
+        KeyCase{"SearchKeyChkGetEmail Value", "chkSaveEmail", "0", "1", "1"},
+        KeyCase{"SearchKeyChkSavePages Value", "chkSavePages", "0", "1", "1"},
+        KeyCase{"SearchKeyChkMustContain Value", "chkMustContain", "0", "1", "1"},
+        KeyCase{"SearchKeyChkMustNotContain Value", "chkMustNotContain", "0", "1", "1"},
+        KeyCase{"chkMCCS", "chkMCCS", "0", "1", "1"}, KeyCase{"chkMNCCS", "chkMNCCS", "0", "1", "1"},
+        KeyCase{"optMCAllAny", "lstANMCAllAny", "0", "1", "1"},
+        KeyCase{"optMNCAllAny", "lstANMNCAllAny", "0", "1", "1"},
+        KeyCase{"SearchKeyCboSaveItem ListIndex", "cboANSaveType", "0", "2", "2"},
+        KeyCase{"lstDCoTmr", "cboANWBSelect", "1", "0", "0"}, KeyCase{"cboANList", "cboANList", "0", "4", "4"},
+        KeyCase{"optFilesSites", "cboFilesSites", "1", "0", "0"},
+        KeyCase{"SearchKeyTxtStartTag Text", "txtANStartTag", "", "<b>", "<b>"},
+        KeyCase{"SearchKeyTxtStopTag Text", "txtANStopTag", "", "</b>", "</b>"},
+        KeyCase{"txtSBSelAreaCodes", "txtSBSelAreaCodes", "", "212,415", "212,415"},
+        KeyCase{"udcMNTimin", "incMNTiming", "030", "012", "012"},
+        KeyCase{"npTimimg", "incANTiming", "030", "7", "007"},
+        KeyCase{"udMNGenUrlOne", "incMNAutoUrl", "0000000001", "42", "0000000042"},
+        KeyCase{"udcNotFoundMinSize", "incNotFoundMinSize", "000000", "5000", "005000"},
+        KeyCase{"incSMAIEHeight", "incSMAIEHeight", "0440", "0600", "0600"},
+        KeyCase{"incSMAIEWidth", "incSMAIEWidth", "0380", "0800", "0800"},
+        KeyCase{"udcSFMinFileS", "incSFMinFileSize", "000000", "000100", "000100"},
+        KeyCase{"incMNStep", "incMNStep", "001", "010", "010"},
+        KeyCase{"incSFMinGraphicSize", "incSFMinGraphicSize", "000000", "000009", "000009"},
+        KeyCase{"incSMAMAutoTxtElng", "incSMAMAutoTxtElng", "2000", "3000", "3000"},
+        KeyCase{"incSMDMinHtmlSize", "incSMDMinHtmlSize", "000000", "000500", "000500"},
+        KeyCase{"incSmRPPause", "incSmRPPause", "010", "000", "000"},
+        KeyCase{"incMNDLTiming", "incMNDLTiming", "004", "009", "009"},
+        KeyCase{"npTimimg", "incANTiming", "030", "not digits", "000"}),
+    [](const auto &row) { return "row" + std::to_string(row.index); });
+
+TEST_F(OptionsTest, LoadingWritesNothingBack)
+{
+    settings.preset("chkSaveSummary", u"1"_s);
+    settings.preset("cboANList", u"2"_s);
+    load();
+    for (const QString &key : settings.written)
+        EXPECT_EQ(key, u"mStartUp/DatabaseName"_s);
+    EXPECT_EQ(statuses, QStringList{u"Initialized"_s});
+}
+
+TEST_F(OptionsTest, AValueThatDoesNotConvertEndsTheLoadingThere)
+{
+    settings.preset("chkSaveToFile", u"abc"_s);
+    settings.preset("SearchKeyChkSavePages Value", u"1"_s); // behind it
+    settings.preset("chkMCMNCStop", u"1"_s);                // in front of it
+    settings.preset("chkSMSUniqueServers", u"1"_s);
+    load();
+    EXPECT_EQ(form().chkMCMNCStop.value(), 1);
+    EXPECT_EQ(form().chkSavePages.value(), 0);
+    EXPECT_EQ(form().chkSMA(9).value(), 0);
+    EXPECT_TRUE(loaded); // the folder of the program stands where no other was read
+    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u'/');
+}
+
+TEST_F(OptionsTest, AnIndexBeyondItsListIsSuchAValueToo)
+{
+    settings.preset("SearchKeyCboSaveItem ListIndex", u"9"_s);
+    settings.preset("chkSMSUniqueServers", u"1"_s);
+    load();
+    EXPECT_EQ(form().chkSMA(9).value(), 0);
+    EXPECT_TRUE(loaded);
+}
+
+TEST_F(OptionsTest, FoldersThatAreGoneGiveWayToTheProgramsAndTheStoreSaysSo)
+{
+    settings.preset("SearchKeyTxtSaveLocation Text", u"/gone/away/"_s);
+    settings.preset("txtFNSaveLocation", u"/gone/too/"_s);
+    load();
+    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u'/');
+    EXPECT_EQ(form().txtSFMNDir.text(), folder.path() + u'/');
+    EXPECT_EQ(settings.of("SearchKeyTxtSaveLocation Text"), folder.path() + u'/');
+    EXPECT_EQ(settings.of("txtFNSaveLocation"), folder.path() + u'/');
+}
+
+TEST_F(OptionsTest, TheFileSaveFolderDefaultsToThatOfTheDatabase)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"data"_s));
+    settings.preset("SearchKeyTxtSaveLocation Text", folder.path() + u"/data/"_s);
+    load();
+    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u"/data/"_s);
+    EXPECT_EQ(form().txtSFMNDir.text(), folder.path() + u"/data/"_s);
+    EXPECT_TRUE(QFile::exists(folder.path() + u"/data/Trawlex-0.mdb"_s));
+}
+
+TEST_F(OptionsTest, AnEmptyFolderCountsAsTheProgramsOwn)
+{
+    settings.preset("SearchKeyTxtSaveLocation Text", {});
+    load();
+    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u'/');
+}
+
+// What a click stores and tells.
+
+TEST_F(OptionsTest, EverySwitchStoresItsValueAndTellsItsStatus)
+{
+    load();
+    program->lifeCycle.settle();
+    form().chkSMV(1).setValue(0);
+    // Outputs first, so that the criteria stay on; blocking and Saved Urls have nothing to act on and go off at once.
+    const QStringList kept{u"chkUrlBlocking"_s, u"chkEmailBlocking"_s, u"chkUseSavedUrls"_s};
+    for (const SwitchRow &row : switchRows()) {
+        auto *box = qobject_cast<CheckBox *>(form().control(row.control));
+        ASSERT_NE(box, nullptr) << row.control.data();
+        if (kept.contains(QString(row.control)))
+            continue;
+        form().chkSavePages.setValue(1);
+        const int before = box->value();
+        statuses.clear();
+        box->click();
+        EXPECT_EQ(lastStatus(), before == 1 ? QString(row.off) : QString(row.on)) << row.control.data();
+        box->click();
+        EXPECT_EQ(lastStatus(), before == 1 ? QString(row.on) : QString(row.off)) << row.control.data();
+        box->setValue(before);
+    }
+    for (const SettingRow &row : settingRows()) {
+        auto *box = qobject_cast<CheckBox *>(form().control(row.control));
+        if (!box || kept.contains(QString(row.control)))
+            continue;
+        form().chkSavePages.setValue(1);
+        box->click();
+        EXPECT_EQ(settings.of(row.key.data()), QString::number(box->value())) << row.key.data();
+    }
+}
+
+namespace {
+struct PagesCase
+{
+    int on, toTable, toFile, oneFile;
+    const char *status;
+};
+class SavePagesStatus : public ProgramTest, public testing::WithParamInterface<PagesCase>
+{
+};
+} // namespace
+
+TEST_P(SavePagesStatus, NamesTheTarget)
+{
+    load();
+    form().chkSavePages.setValue(1 - GetParam().on);
+    form().chkSaveToSS.setValue(GetParam().toTable);
+    form().chkSaveToFile.setValue(GetParam().toFile);
+    form().chkPutInOneFile.setValue(GetParam().oneFile);
+    form().chkSavePages.click();
+    EXPECT_EQ(lastStatus(), QString::fromLatin1(GetParam().status));
+}
+
+INSTANTIATE_TEST_SUITE_P(Options, SavePagesStatus,
+                         testing::Values(PagesCase{1, 1, 1, 1, "Save Pages to SiteSummary ON"},
+                                         PagesCase{1, 0, 1, 1, "Save Pages to 1 file ON"},
+                                         PagesCase{1, 0, 1, 0, "Save Pages to files ON"},
+                                         PagesCase{1, 0, 0, 1, "Save Pages ON"},
+                                         PagesCase{0, 1, 1, 1, "Save Pages OFF"}));
+
+TEST_F(OptionsTest, SavingNumbersTellsTheAreaCodes)
+{
+    load();
+    form().chkSavePhone.click();
+    EXPECT_EQ(lastStatus(), u"Save all phone #s ON"_s);
+    form().txtSBSelAreaCodes.setText(u"212,415"_s);
+    form().chkSavePhone.click();
+    EXPECT_EQ(lastStatus(), u"Save[212,415]phone #s OFF"_s);
+}
+
+TEST_F(OptionsTest, SavingLinksTellsWhetherOnlyWithoutData)
+{
+    load();
+    form().chkSaveUrl.click();
+    EXPECT_EQ(lastStatus(), u"Save links if no data ON"_s);
+    form().chkSMD(7).setValue(0);
+    form().chkSaveUrl.click();
+    EXPECT_EQ(lastStatus(), u"Save links OFF"_s);
+}
+
+TEST_F(OptionsTest, LinksCannotBeSavedWhileTheListThatTheyWouldGoToIsOpen)
+{
+    load();
+    form().mbPassUrlsLoaded = true;
+    form().chkSaveUrl.click();
+    EXPECT_EQ(form().chkSaveUrl.value(), 0);
+    EXPECT_EQ(lastStatus(), u"PassUrlsA loaded"_s);
+    EXPECT_EQ(settings.of("chkSaveUrl"), u"0"_s);
+}
+
+TEST_F(OptionsTest, UniqueServersMakeTheStatusBarYellow)
+{
+    settings.preset("chkSMSUniqueServers", u"1"_s);
+    load();
+    EXPECT_EQ(form().picStatus.backColor(), Colours::Yellow);
+    form().chkSMA(9).click();
+    EXPECT_EQ(form().picStatus.backColor(), Colours::ButtonFace);
+}
+
+TEST_F(OptionsTest, ErrorMessagesFollowTheirOptionAtOnceAndFromTheStart)
+{
+    settings.preset("chkSMVTurnOffErrorMsg", u"1"_s);
+    load();
+    EXPECT_TRUE(program->log.isShowing());
+    form().chkSMV(1).click();
+    EXPECT_FALSE(program->log.isShowing());
+}
+
+TEST_F(OptionsTest, OrientAtStartIsStoredOnlyOnceTheWindowIsShown)
+{
+    load();
+    form().chkSMV(4).setValue(1);
+    EXPECT_EQ(settings.of("chkSAMoveToTopLeft"), u"0"_s);
+    program->lifeCycle.settle();
+    form().chkSMV(4).setValue(0);
+    form().chkSMV(4).setValue(1);
+    EXPECT_EQ(settings.of("chkSAMoveToTopLeft"), u"1"_s);
+    EXPECT_EQ(lastStatus(), u"Orient Trawlex at start ON"_s);
+}
+
+TEST_F(OptionsTest, TagsAreStoredAtEachChangeAndShownAsToolTips)
+{
+    load();
+    form().txtANStartTag.setText(u"<h1>"_s);
+    EXPECT_EQ(settings.of("SearchKeyTxtStartTag Text"), u"<h1>"_s);
+    EXPECT_EQ(form().txtANStartTag.toolTipText(), u"<h1>"_s);
+    form().chkSMV(0).setValue(0);
+    form().txtANStopTag.setText(u"</h1>"_s);
+    EXPECT_EQ(form().txtANStopTag.toolTipText(), QString());
+}
+
+TEST_F(OptionsTest, CaseSensitivityIsToldInTheBoxesTip)
+{
+    load();
+    form().chkSavePages.setValue(1);
+    form().chkMCCS.click();
+    EXPECT_EQ(form().chkMCCS.toolTipText(), u"Must Contain items Are case sensitive! ON"_s);
+    form().chkMCCS.click();
+    EXPECT_EQ(form().chkMCCS.toolTipText(), u"Must Contain items are Not case sensitive! OFF"_s);
+    form().chkMNCCS.click();
+    EXPECT_EQ(form().chkMNCCS.toolTipText(), u"Must Not Contain items Are case sensitive! ON"_s);
+    form().chkSMV(0).setValue(0);
+    form().chkMNCCS.click();
+    EXPECT_EQ(form().chkMNCCS.toolTipText(), QString());
+}
+
+TEST_F(OptionsTest, PathBoxesShowTheirTextAndTwoOfThemAreNeverWithoutATip)
+{
+    load();
+    form().txtSFDBFile.setText(u"x.mdb"_s);
+    form().txtSFDBDir.setText(u"/data/"_s);
+    EXPECT_EQ(form().txtSFDBFile.toolTipText(), u"x.mdb"_s);
+    EXPECT_EQ(form().txtSFDBDir.toolTipText(), u"/data/"_s);
+    form().chkSMV(0).setValue(0);
+    form().txtSFDBFile.setText(u"y.mdb"_s);
+    form().txtSFDBDir.setText(u"/other/"_s);
+    form().txtSFMNDir.setText(u"/files/"_s);
+    EXPECT_EQ(form().txtSFDBFile.toolTipText(), QString());
+    EXPECT_EQ(form().txtSFDBDir.toolTipText(), u"Database directory"_s);
+    EXPECT_EQ(form().txtSFMNDir.toolTipText(), u"File save directory"_s);
+}
+
+TEST_F(OptionsTest, AreaCodesAreTidiedAndStoredWhenTheBoxIsLeft)
+{
+    load();
+    const QString before = settings.of("txtSBSelAreaCodes");
+    form().txtSBSelAreaCodes.setText(u" 212;415;650, "_s);
+    EXPECT_EQ(settings.of("txtSBSelAreaCodes"), before);
+    form().txtSBSelAreaCodes.setText(u" 212; 415 "_s);
+    form().txtSBSelAreaCodes.validate();
+    EXPECT_EQ(form().txtSBSelAreaCodes.text(), u"212,415"_s);
+    EXPECT_EQ(settings.of("txtSBSelAreaCodes"), u"212,415"_s);
+    form().txtSBSelAreaCodes.setText(u" none "_s);
+    form().txtSBSelAreaCodes.validate();
+    EXPECT_EQ(form().txtSBSelAreaCodes.text(), u" none "_s);
+    EXPECT_EQ(settings.of("txtSBSelAreaCodes"), u"none"_s);
+}
+
+TEST_F(OptionsTest, ToolTipsGoOnAndOffWithTheirOption)
+{
+    load();
+    EXPECT_EQ(form().cmdANStart.toolTipText(), u"Go = Start, X = Stop (Right click for search site menu)"_s);
+    form().chkSMV(0).setValue(0);
+    EXPECT_EQ(form().cmdANStart.toolTipText(), QString());
+}
