@@ -59,7 +59,7 @@ void Catalog::createTable(Connection &connection, const QString &name, const std
 void Catalog::dropTable(Connection &connection, const QString &name)
 {
     const auto table = connection.requireTable(name);
-    connection.noteRevision(name);
+    ++table->changes->revision;
     connection.administer("DROP TABLE " + table->quoted);
 }
 

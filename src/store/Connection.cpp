@@ -80,9 +80,13 @@ std::unique_ptr<SQLite::Database> openAs(const QString &path, Connection::Access
 
 int TableInfo::columnOf(QStringView columnName) const
 {
-    const auto found = std::find_if(columns.begin(), columns.end(), [columnName](const ColumnInfo &column) {
-        return columnName.compare(column.name, Qt::CaseInsensitive) == 0;
-    });
+    // Nearly all names are spelled as the file spells them.
+    auto found = std::find_if(columns.begin(), columns.end(),
+                              [columnName](const ColumnInfo &column) { return columnName == column.name; });
+    if (found == columns.end())
+        found = std::find_if(columns.begin(), columns.end(), [columnName](const ColumnInfo &column) {
+            return columnName.compare(column.name, Qt::CaseInsensitive) == 0;
+        });
     return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
 }
 
@@ -214,15 +218,15 @@ QStringList Connection::columnNames(const QString &table)
 
 std::shared_ptr<const TableInfo> Connection::table(const QString &name)
 {
-    const QString key = name.toLower();
-    const auto known = mTables.constFind(key);
+    // Each spelling that is in use has an entry of its own.
+    const auto known = mTables.constFind(name);
     if (known != mTables.constEnd())
         return *known;
     if (isEngineName(name.toUtf8().constData()))
         return {};
     auto info = readTable(name);
     if (info)
-        mTables.insert(key, info);
+        mTables.insert(name, info);
     return info;
 }
 
@@ -254,6 +258,10 @@ std::shared_ptr<const TableInfo> Connection::readTable(const QString &name)
         const bool key = columns.integer(2) != 0 && sqlite3_stricmp(declared.c_str(), "INTEGER") == 0;
         info->columns.push_back({columns.text(0), bracketed(columns.text(0)), kindOfDeclaredType(declared), key});
     }
+    auto &changes = mChanges[info->name];
+    if (!changes)
+        changes = std::make_shared<TableChanges>();
+    info->changes = changes;
     for (const char *word : {"rowid", "_rowid_", "oid"}) {
         info->key = word;
         if (info->columnOf(QString::fromLatin1(word)) < 0)
@@ -265,26 +273,6 @@ std::shared_ptr<const TableInfo> Connection::readTable(const QString &name)
 qint64 Connection::lastRow() const
 {
     return mDatabase->getLastInsertRowid();
-}
-
-quint64 Connection::revision(const QString &table) const
-{
-    return mStates.value(table.toLower()).revision + mRollBacks;
-}
-
-quint64 Connection::additions(const QString &table) const
-{
-    return mStates.value(table.toLower()).additions;
-}
-
-void Connection::noteRevision(const QString &table)
-{
-    ++mStates[table.toLower()].revision;
-}
-
-void Connection::noteAddition(const QString &table)
-{
-    ++mStates[table.toLower()].additions;
 }
 
 qint64 Connection::outsideVersion()

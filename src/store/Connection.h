@@ -21,6 +21,15 @@ struct ColumnInfo
     bool autoIncrement = false;
 };
 
+/// What has been done to a table through the connection.
+struct TableChanges
+{
+    /// Rows that were changed, removed or taken back.
+    quint64 revision = 0;
+    /// Rows that were added.
+    quint64 additions = 0;
+};
+
 struct TableInfo
 {
     /// As the file spells it.
@@ -30,6 +39,8 @@ struct TableInfo
     std::vector<ColumnInfo> columns;
     /// The word by which statements name a row's key: one that is no column of the table.
     std::string key = "rowid";
+    /// Shared by all descriptions of the table; who writes counts here.
+    std::shared_ptr<TableChanges> changes;
 
     /// The column of that name without regard to case, or -1.
     [[nodiscard]] int columnOf(QStringView columnName) const;
@@ -85,12 +96,8 @@ class Connection
     /// The row number of the last row that was inserted.
     [[nodiscard]] qint64 lastRow() const;
 
-    /// How often rows of the table were changed, removed or taken back through this connection. Added rows count only
-    /// in `additions`.
-    [[nodiscard]] quint64 revision(const QString &table) const;
-    [[nodiscard]] quint64 additions(const QString &table) const;
-    void noteRevision(const QString &table);
-    void noteAddition(const QString &table);
+    /// The number of transactions, inner ones too, that were taken back.
+    [[nodiscard]] quint64 rollBacks() const { return mRollBacks; }
     /// A number that changes when another program has changed the file. Inside a transaction of ours it stands still.
     [[nodiscard]] qint64 outsideVersion();
 
@@ -109,12 +116,6 @@ class Connection
 
   private:
     class Privilege;
-    struct TableState
-    {
-        quint64 revision = 0;
-        quint64 additions = 0;
-    };
-
     explicit Connection(std::unique_ptr<SQLite::Database> database, Access access);
     void configure(Access access);
     [[nodiscard]] std::shared_ptr<const TableInfo> readTable(const QString &name);
@@ -125,7 +126,7 @@ class Connection
     std::unique_ptr<SQLite::Database> mDatabase;
     StatementCache mStatements;
     QHash<QString, std::shared_ptr<const TableInfo>> mTables;
-    QHash<QString, TableState> mStates;
+    QHash<QString, std::shared_ptr<TableChanges>> mChanges;
     quint64 mRollBacks = 0;
     qint64 mOutsideVersion = -1;
     int mDepth = 0;

@@ -5,6 +5,24 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+// Every record has a date, so it is written digit by digit.
+QString isoDate(QDate date)
+{
+    QString text = u"0000-00-00"_s;
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(&year, &month, &day);
+    const auto put = [&text](qsizetype last, int number) {
+        for (qsizetype place = last; number > 0; --place, number /= 10)
+            text[place] = QChar(u'0' + char16_t(number % 10));
+    };
+    put(3, year);
+    put(6, month);
+    put(9, day);
+    return text;
+}
+
 // A number of the match, 0 where the group took no part.
 int number(const QRegularExpressionMatch &match, QStringView group)
 {
@@ -26,13 +44,13 @@ int hourOf(const QRegularExpressionMatch &match)
 
 QString dateText(const QDateTime &moment)
 {
-    const bool bare = moment.time() == QTime(0, 0);
-    return moment.toString(bare ? u"yyyy-MM-dd"_s : u"yyyy-MM-dd'T'HH:mm:ss"_s);
+    const QString date = isoDate(moment.date());
+    return moment.time() == QTime(0, 0) ? date : date + u'T' + moment.time().toString(Qt::ISODate);
 }
 
 QString todayText()
 {
-    return dateText(QDate::currentDate().startOfDay(Qt::UTC));
+    return isoDate(QDate::currentDate());
 }
 
 std::optional<QDateTime> parseDate(const QString &text)

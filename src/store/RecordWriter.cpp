@@ -3,7 +3,6 @@
 #include "store/BlobFiles.h"
 #include "store/ColumnKinds.h"
 #include "store/Dates.h"
-#include "util/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -15,25 +14,29 @@ namespace {
 constexpr std::array passedOver{AdoError::NotAllowed, AdoError::NoSuchField, AdoError::TypeMismatch,
                                 AdoError::MultipleStep};
 
+// The value is a view on the element's own characters: pages are long, and a copy of each would show.
 struct FieldValue
 {
     QString field;
     QString value;
 };
 
-// The first delimiter parts field and value. Where there are more, the value is cut as if the delimiter were one
-// character long, so it keeps the delimiter's tail: a deliberate oddity of the record format.
-FieldValue split(const QString &element, const QString &delimiter)
+QString viewFrom(const QString &text, qsizetype place)
 {
-    const qsizetype count = cUtility::CountChar(element, delimiter);
-    if (count == 0)
+    return QString::fromRawData(text.constData() + place, text.size() - place);
+}
+
+FieldValue split(const QString &element, const RecordDelimiter &delimiter)
+{
+    const qsizetype first = delimiter.find(element, 0);
+    if (first < 0)
         throw AdoError::error(ErrorNumber::SubscriptOutOfRange);
-    if (count == 1) {
-        const qsizetype place = element.indexOf(delimiter);
-        return {element.left(place), element.sliced(place + delimiter.size())};
-    }
-    const qsizetype place = element.indexOf(delimiter, 0, Qt::CaseInsensitive);
-    return {element.left(place), element.sliced(place + 1)};
+    if (delimiter.find(element, first + 1) < 0)
+        return {element.left(first), viewFrom(element, first + delimiter.text().size())};
+    // Where there are more, the value is cut as if the delimiter were one character long, so it keeps the delimiter's
+    // tail: a deliberate oddity of the record format.
+    const qsizetype place = element.indexOf(delimiter.text(), 0, Qt::CaseInsensitive);
+    return {element.left(place), viewFrom(element, place + 1)};
 }
 } // namespace
 
@@ -51,13 +54,13 @@ void RecordWriter::setDefaults(const QStringList &fields)
             continue;
         const int kind = mRow.table().columns[static_cast<std::size_t>(column)].kind;
         if (kind == ColumnKind::Date)
-            mRow.set(column, todayText());
+            mRow.setStored(column, todayText());
         else if (startsAsEmptyText(kind))
-            mRow.set(column, u""_s);
+            mRow.setStored(column, u""_s);
     }
 }
 
-void RecordWriter::take(const QString &element, const QString &delimiter)
+void RecordWriter::take(const QString &element, const RecordDelimiter &delimiter)
 {
     if (element.isEmpty())
         return;

@@ -1,6 +1,7 @@
 // Writes one record that comes as texts "field<delimiter>value". Inside store/ only.
 #pragma once
 
+#include "store/RecordDelimiter.h"
 #include "store/RowBuffer.h"
 
 class RecordWriter
@@ -10,9 +11,10 @@ class RecordWriter
     /// Error AdoError::NoSuchTable.
     RecordWriter(Connection &connection, const QString &table, const QStringList &fields);
 
-    /// Takes one element; an empty one is passed over. A value that the column refuses, and a field that the table
-    /// lacks, lose that value alone. Error 9 for an element without the delimiter, 53 for a picture that is not there.
-    void take(const QString &element, const QString &delimiter);
+    /// Takes one element, which must stay as it is until `write`; an empty one is passed over. A value that the column
+    /// refuses, and a field that the table lacks, lose that value alone. Error 9 for an element without the delimiter,
+    /// 53 for a picture that is not there.
+    void take(const QString &element, const RecordDelimiter &delimiter);
 
     /// Writes the record.
     void write() { mRow.insert(); }

@@ -58,7 +58,7 @@ void runDelete(const Query &query)
         query.connection->prepare(query.condition.empty() ? head : head + " WHERE 1" + query.condition);
     if (!query.condition.empty())
         statement.bind(1, query.value);
-    query.connection->noteRevision(query.table->name);
+    ++query.table->changes->revision;
     statement.run();
 }
 
@@ -307,7 +307,7 @@ void RecordsetState::remove()
     Statement statement =
         from.connection->prepare("DELETE FROM " + from.table->quoted + " WHERE " + from.table->key + "=?1");
     statement.bind(1, mKeys->key(mPlace));
-    from.connection->noteRevision(from.table->name);
+    ++from.table->changes->revision;
     statement.run();
     mEdit.reset();
     mKeys->markDeleted(mPlace);

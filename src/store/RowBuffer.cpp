@@ -11,12 +11,16 @@ RowBuffer::RowBuffer(Connection &connection, std::shared_ptr<const TableInfo> ta
 
 void RowBuffer::set(int column, const QVariant &value)
 {
-    const auto place = static_cast<std::size_t>(column);
-    const ColumnInfo &info = mTable->columns[place];
+    const ColumnInfo &info = mTable->columns[static_cast<std::size_t>(column)];
     if (info.autoIncrement)
         throw AdoError::error(AdoError::MultipleStep);
-    mValues[place] = valueForColumn(info.kind, value);
-    mSet[place] = true;
+    setStored(column, valueForColumn(info.kind, value));
+}
+
+void RowBuffer::setStored(int column, QVariant value)
+{
+    mValues[static_cast<std::size_t>(column)] = std::move(value);
+    mSet[static_cast<std::size_t>(column)] = true;
 }
 
 bool RowBuffer::isEmpty() const
@@ -44,7 +48,7 @@ qint64 RowBuffer::insert()
             statement.bind(++place, mValues[column]);
     }
     statement.run();
-    mConnection.noteAddition(mTable->name);
+    ++mTable->changes->additions;
     return mConnection.lastRow();
 }
 
@@ -66,7 +70,7 @@ void RowBuffer::update(qint64 key)
             statement.bind(++place, mValues[column]);
     }
     statement.bind(++place, key);
-    mConnection.noteRevision(mTable->name);
+    ++mTable->changes->revision;
     if (statement.run() == 0)
         throw AdoError::error(AdoError::RowDeleted);
 }

@@ -14,6 +14,8 @@ class RowBuffer
 
     /// Errors: AdoError::TypeMismatch and AdoError::MultipleStep for a value that the column refuses.
     void set(int column, const QVariant &value);
+    /// The same for a value that is in the column's form already.
+    void setStored(int column, QVariant value);
     [[nodiscard]] bool isSet(int column) const { return mSet[static_cast<std::size_t>(column)]; }
     /// Null where nothing is set.
     [[nodiscard]] const QVariant &value(int column) const { return mValues[static_cast<std::size_t>(column)]; }

@@ -47,11 +47,10 @@ qint64 SiteSummaryIndex::find(cAdoMdb &database, const QString &key, const QStri
 
 void SiteSummaryIndex::refresh(const std::shared_ptr<Connection> &connection)
 {
-    const quint64 revision = connection->revision(summaryTable());
-    const quint64 additions = connection->additions(summaryTable());
-    const qint64 outside = connection->outsideVersion();
-    const bool same = mConnection.lock() == connection && mRevision == revision && mOutsideVersion == outside;
-    if (same && mAdditions == additions)
+    const TableChanges changes = *connection->requireTable(summaryTable())->changes;
+    const State now{changes.revision, connection->rollBacks(), connection->outsideVersion()};
+    const bool same = mConnection.lock() == connection && mState == now;
+    if (same && mAdditions == changes.additions)
         return;
     // Forgotten first, so that a fault half-way leaves nothing that looks up to date.
     mConnection.reset();
@@ -60,9 +59,8 @@ void SiteSummaryIndex::refresh(const std::shared_ptr<Connection> &connection)
         mLastRow = std::numeric_limits<qint64>::min();
     }
     takeRows(*connection);
-    mRevision = revision;
-    mAdditions = additions;
-    mOutsideVersion = outside;
+    mState = now;
+    mAdditions = changes.additions;
     mConnection = connection;
 }
 

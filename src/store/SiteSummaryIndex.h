@@ -33,6 +33,14 @@ class SiteSummaryIndex
 
   private:
     struct Keys;
+    // What must stand still for the hash to hold.
+    struct State
+    {
+        quint64 revision = 0;
+        quint64 rollBacks = 0;
+        qint64 outsideVersion = 0;
+        [[nodiscard]] bool operator==(const State &) const = default;
+    };
 
     void refresh(const std::shared_ptr<Connection> &connection);
     void takeRows(Connection &connection);
@@ -47,7 +55,6 @@ class SiteSummaryIndex
     std::weak_ptr<Connection> mConnection;
     QHash<quint64, qint64> mFirstRows;
     qint64 mLastRow = 0;
-    quint64 mRevision = 0;
+    State mState;
     quint64 mAdditions = 0;
-    qint64 mOutsideVersion = 0;
 };

@@ -135,5 +135,6 @@ std::string bracketed(const QString &name)
 {
     if (name.contains(u'[') || name.contains(u']') || name.contains(QChar(u'\0')))
         throw AdoError::error(AdoError::BadSql);
-    return "[" + name.toStdString() + "]";
+    std::string text("[");
+    return text.append(name.toStdString()).append("]");
 }

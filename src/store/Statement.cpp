@@ -79,8 +79,12 @@ Statement &Statement::bind(int place, qint64 value)
 
 Statement &Statement::bind(int place, const QString &value)
 {
-    mTexts.push_back(std::make_unique<const std::string>(value.toStdString()));
-    engineStep([&] { mStatement->bindNoCopy(place, *mTexts.back()); });
+    // The text is read where it lies; one with a zero in it needs its length told, which takes another copy.
+    const QByteArray &text = mTexts.emplace_back(value.toUtf8());
+    if (text.contains('\0'))
+        engineStep([&] { mStatement->bind(place, text.toStdString()); });
+    else
+        engineStep([&] { mStatement->bindNoCopy(place, text.constData()); });
     return *this;
 }
 

@@ -5,10 +5,10 @@
 #include <QByteArray>
 #include <QString>
 #include <QVariant>
+#include <deque>
 #include <memory>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 namespace SQLite {
 class Database;
@@ -64,5 +64,5 @@ class Statement
     StatementCache &mCache;
     std::unique_ptr<SQLite::Statement> mStatement;
     // Bound values that the engine reads in place.
-    std::vector<std::unique_ptr<const std::string>> mTexts;
+    std::deque<QByteArray> mTexts;
 };

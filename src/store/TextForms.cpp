@@ -113,10 +113,11 @@ std::string amountText(std::int64_t tenThousandths)
     const bool negative = tenThousandths < 0;
     const std::uint64_t size =
         negative ? 0U - static_cast<std::uint64_t>(tenThousandths) : static_cast<std::uint64_t>(tenThousandths);
-    std::string text = (negative ? "-" : "") + std::to_string(size / unit);
+    std::string text(negative ? 1 : 0, '-');
+    text += std::to_string(size / unit);
     if (size % unit == 0)
         return text;
     std::string fraction = std::to_string(unit + size % unit).substr(1);
     fraction.erase(fraction.find_last_not_of('0') + 1);
-    return text + "." + fraction;
+    return text.append(".").append(fraction);
 }

@@ -201,8 +201,9 @@ bool cAdoMdb::AddRecord(const QStringList &sNewFieldData, int nTableIndex, const
         const QString table = tableName(nTableIndex, sTableName);
         const int row = mMatrix.rowOf(-1, table);
         RecordWriter record(openConnection(), table, row < 0 ? QStringList() : mMatrix.fieldsOf(row));
+        const RecordDelimiter delimiter(sDelimiter);
         for (const QString &element : sNewFieldData)
-            record.take(element, sDelimiter);
+            record.take(element, delimiter);
         record.write();
         written = true;
     });

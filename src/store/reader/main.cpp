@@ -25,7 +25,8 @@ void writeColumns(const MdbTableDef &table)
 
 void writeTable(MdbCatalogEntry &entry)
 {
-    writeFrame(Frames::Table, (mdb_is_user_table(&entry) != 0 ? "u" : "s") + std::string(entry.object_name));
+    std::string text(1, mdb_is_user_table(&entry) != 0 ? 'u' : 's');
+    writeFrame(Frames::Table, text.append(static_cast<const char *>(entry.object_name)));
 }
 
 void writeCatalog(const JetFile &file)
