@@ -33,8 +33,8 @@ void ItemList::paintEvent(QPaintEvent *event)
     if (mEmptyText.isEmpty() || model() == nullptr || model()->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    const Shades shades = Shades::of(palette());
-    painter.setPen(isEnabled() ? shades.quiet : shades.disabled);
+    // It reads whether or not the list may be used now: it is what tells why it may not.
+    painter.setPen(Shades::of(palette()).quiet);
     painter.drawText(viewport()->rect().adjusted(8, 6, -8, -6), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
                      mEmptyText);
 }

@@ -5,6 +5,7 @@
 #include "ui/Theme.h"
 #include "ui_AutoTab.h"
 #include "ui_MainWindow.h"
+#include "ui_SettingsTab.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -16,21 +17,32 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr int usualWidth = 452;
 constexpr const char *iconProperty = "iconName";
+
+/// The tabs and the stack of their pages.
+struct TabPages
+{
+    QLatin1StringView tabs, pages;
+};
+constexpr TabPages tabPages[] = {{"sstSearch"_L1, "pages"_L1},
+                                 {"sstSettings"_L1, "settingsPages"_L1},
+                                 {"sstFiles"_L1, "filesPages"_L1},
+                                 {"sstMiscOptions"_L1, "miscPages"_L1}};
 } // namespace
 
 MainWindow::MainWindow(frmSearch &form)
-    : mUi(std::make_unique<Ui::MainWindow>()), mAuto(std::make_unique<Ui::AutoTab>())
+    : mUi(std::make_unique<Ui::MainWindow>()), mAuto(std::make_unique<Ui::AutoTab>()),
+      mSettings(std::make_unique<Ui::SettingsTab>())
 {
     Theme::of(*qApp);
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
     mUi->setupUi(this);
     mAuto->setupUi(mUi->autoPage);
+    mSettings->setupUi(mUi->settingsPage);
     setWindowTitle(u"Trawlex"_s);
     setWindowIcon(Icons::application());
-    dressButtons();
+    dressWidgets();
     mBinder.bindAll(form, *this);
-    connect(mUi->sstSearch, &QTabBar::currentChanged, mUi->pages, &QStackedWidget::setCurrentIndex);
-    mUi->pages->setCurrentIndex(mUi->sstSearch->currentIndex());
+    connectPages();
     connect(mUi->minimizeButton, &QPushButton::clicked, this, &QWidget::showMinimized);
     TurnOffTabStop();
     addKeys();
@@ -39,12 +51,26 @@ MainWindow::MainWindow(frmSearch &form)
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::dressButtons()
+void MainWindow::connectPages()
+{
+    for (const TabPages &row : tabPages) {
+        auto *const tabs = findChild<QTabBar *>(row.tabs);
+        auto *const pages = findChild<QStackedWidget *>(row.pages);
+        connect(tabs, &QTabBar::currentChanged, pages, &QStackedWidget::setCurrentIndex);
+        pages->setCurrentIndex(tabs->currentIndex());
+    }
+}
+
+void MainWindow::dressWidgets()
 {
     for (QPushButton *const button : findChildren<QPushButton *>()) {
         const QString icon = button->property(iconProperty).toString();
         if (!icon.isEmpty())
             button->setIcon(Icons::inked(icon));
+    }
+    for (QLabel *const label : findChildren<QLabel *>()) {
+        if (label->objectName().endsWith("Empty"_L1))
+            label->setForegroundRole(QPalette::PlaceholderText);
     }
     QFont bold = mAuto->cmdANStart->font();
     bold.setPointSizeF(bold.pointSizeF() * 1.35);

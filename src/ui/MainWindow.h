@@ -13,6 +13,7 @@
 namespace Ui {
 class AutoTab;
 class MainWindow;
+class SettingsTab;
 } // namespace Ui
 
 class MainWindow : public QWidget
@@ -44,7 +45,8 @@ class MainWindow : public QWidget
     void changeEvent(QEvent *event) override;
 
   private:
-    void dressButtons();
+    void dressWidgets();
+    void connectPages();
     void addKeys();
     void TurnOffTabStop();
     enum class Step { Next, Previous };
@@ -52,6 +54,7 @@ class MainWindow : public QWidget
 
     std::unique_ptr<Ui::MainWindow> mUi;
     std::unique_ptr<Ui::AutoTab> mAuto;
+    std::unique_ptr<Ui::SettingsTab> mSettings;
     Binder mBinder;
     bool mMayClose = false;
 };

@@ -221,6 +221,22 @@ TEST_F(Bound, TabsGoBothWaysAndTheirPageFollows)
     EXPECT_EQ(tabs.tabText(3), u"Data"_s);
 }
 
+TEST_F(Bound, TabsInsidePagesShowTheirPages)
+{
+    form.sstSearch.setTab(2);
+    form.sstSettings.setTab(2);
+    form.sstMiscOptions.setTab(1);
+    settle();
+    EXPECT_TRUE(widget<QWidget>("chkSMD_0").isVisible());
+    auto &tabs = widget<QTabBar>("sstMiscOptions");
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(2).center());
+    EXPECT_EQ(form.sstMiscOptions.tab(), 2);
+    EXPECT_TRUE(widget<QWidget>("chkSMV_0").isVisible());
+    form.sstSettings.setTab(1);
+    settle();
+    EXPECT_TRUE(widget<QLineEdit>("txtSFDBDir").isVisible());
+}
+
 TEST_F(Bound, TheTimerShowsItsCaptionInItsColoursAndAnswersBothButtons)
 {
     auto &timer = widget<TimerLabel>("lblTrawlexTimer");

@@ -213,6 +213,15 @@ struct Captions : WindowFixture
 TEST_F(Captions, AreNotCutAtThisScale)
 {
     expectNoneCut();
+    form.sstSearch.setTab(2);
+    for (const int page : {0, 1, 2}) {
+        form.sstSettings.setTab(page);
+        for (const int options : {0, 1, 2, 3}) {
+            form.sstMiscOptions.setTab(options);
+            settle();
+            expectNoneCut();
+        }
+    }
 }
 
 TEST_F(Captions, AreNotCutWithALargeFontOrLongTranslations)

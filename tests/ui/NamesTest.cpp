@@ -1,6 +1,7 @@
 // Widgets and controls find one another by name; nothing is left over.
 #include "WindowFixture.h"
 
+#include <QCheckBox>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -29,6 +30,28 @@ TEST_F(Names, EachControlOfTheAutoTabIsBoundToItsWidget)
     const QStringList bound = window.binder().boundControls();
     for (const QString &name : shownControls)
         EXPECT_TRUE(bound.contains(name)) << qPrintable(name);
+}
+
+TEST_F(Names, TheOptionSwitchesAreBoundMemberByMember)
+{
+    const QStringList bound = window.binder().boundControls();
+    struct Array
+    {
+        const char *name;
+        int count;
+    };
+    for (const Array &array : {Array{"chkSMA", 10}, Array{"chkSMD", 9}, Array{"chkSMV", 5}}) {
+        for (int i = 0; i < array.count; ++i) {
+            const QString name = u"%1(%2)"_s.arg(QLatin1StringView(array.name)).arg(i);
+            EXPECT_TRUE(bound.contains(name)) << qPrintable(name);
+        }
+    }
+    form.chkSMV(2).setCaption(u"Block PopUp Windows"_s);
+    form.chkSMV(2).setValue(1);
+    settle();
+    EXPECT_EQ(widget<QCheckBox>("chkSMV_2").text(), u"Block PopUp Windows"_s);
+    EXPECT_TRUE(widget<QCheckBox>("chkSMV_2").isChecked());
+    EXPECT_EQ(widget<QCheckBox>("chkSMV_2").accessibleName(), u"Block PopUp Windows"_s);
 }
 
 TEST_F(Names, EachWidgetNamedLikeAControlHasOne)
@@ -60,7 +83,7 @@ TEST_F(Names, AnArrayMemberIsWrittenWithAnUnderscore)
 
 TEST_F(Names, EveryWidgetHasAnAccessibleNameEvenWithoutToolTips)
 {
-    for (const QString &name : window.binder().boundControls()) {
+    for (const QString &name : shownControls) {
         const auto *const widget = window.findChild<QWidget *>(Binder::widgetName(name));
         if (name != u"picStatus"_s) {
             EXPECT_FALSE(widget->accessibleName().isEmpty()) << qPrintable(name);
