@@ -27,7 +27,7 @@ QString withSlashes(const QString &address)
 
 QUrl parsed(const QString &address)
 {
-    const QUrl url(withSlashes(address.trimmed()), QUrl::TolerantMode);
+    QUrl url(withSlashes(address.trimmed()), QUrl::TolerantMode);
     if (!url.isValid() || url.scheme().isEmpty())
         throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("Not an address: %1").arg(address));
     return url;

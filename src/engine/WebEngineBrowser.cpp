@@ -61,7 +61,7 @@ struct WebEngineBrowser::Kernel
         page->disconnect();
         QObject::connect(page.get(), &QObject::destroyed, profile.get(), &QObject::deleteLater);
         page.release()->deleteLater();
-        profile.release();
+        (void)profile.release(); // goes when the page has gone
     }
 };
 
@@ -225,22 +225,25 @@ void WebEngineBrowser::onLoadingChanged(const QWebEngineLoadingInfo &info)
 // The end that was told may be that of a load which this one has cut off: the document knows.
 void WebEngineBrowser::askWhetherLoaded()
 {
-    const auto loading = [self = QPointer(this), navigation = mNavigation] {
-        return self && self->mLoading && self->mNavigation == navigation;
-    };
-    const auto later = [this, loading] {
-        if (loading())
-            askWhetherLoaded();
-    };
     page()->runJavaScript(QStringLiteral("document.readyState"), QWebEngineScript::ApplicationWorld,
-                          [this, loading, later](const QVariant &state) {
-                              if (!loading())
-                                  return;
-                              if (state.toString() == u"complete")
-                                  endLoading(true);
-                              else
-                                  QTimer::singleShot(askAgain, this, later);
+                          [self = QPointer(this), navigation = mNavigation](const QVariant &state) {
+                              if (self && navigation == self->mNavigation)
+                                  self->onReadyState(state.toString());
                           });
+}
+
+void WebEngineBrowser::onReadyState(const QString &state)
+{
+    if (!mLoading)
+        return;
+    if (state == u"complete") {
+        endLoading(true);
+        return;
+    }
+    QTimer::singleShot(askAgain, this, [this, navigation = mNavigation] {
+        if (mLoading && navigation == mNavigation)
+            askWhetherLoaded();
+    });
 }
 
 // The end of a load that began while another one was under way is not always told; the document then tells it.

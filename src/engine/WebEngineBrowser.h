@@ -89,6 +89,7 @@ class WebEngineBrowser : public BrowserEngine
     void onDocumentCreated(const QString &url, bool topDocument);
     void onDocumentLoaded(const QString &url, bool topDocument);
     void askWhetherLoaded();
+    void onReadyState(const QString &state);
     void onProcessGone();
     void onWindowRefused();
     void endLoading(bool withDocument);
