@@ -1,4 +1,4 @@
-// Looks for a handful of texts in a page 32 units at a time: each text is known by up to four of its rarest
+// Looks for a handful of texts in a page 32 units at a time: each text is known by up to eight of its rarest
 // neighbouring units, all texts' units are tested at once by table look-ups within the vector unit, and only the places
 // that pass are compared. Ignoring case costs nothing: the tables hold all cases of a unit. Knows nobody.
 #pragma once

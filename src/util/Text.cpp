@@ -52,9 +52,10 @@ std::optional<Variants> variantsOf(QChar unit)
     return variants;
 }
 
-bool isOneOf(char16_t unit, const Variants &variants)
+/// 1 or 0, without a branch.
+quint16 isOneOf(char16_t unit, const Variants &variants)
 {
-    return (unit == variants[0]) | (unit == variants[1]) | (unit == variants[2]);
+    return quint16(quint16(unit == variants[0]) | quint16(unit == variants[1]) | quint16(unit == variants[2]));
 }
 
 /// True when some unit of a block may begin a text whose last unit stands at the same place of the block at `ends`.
@@ -62,7 +63,7 @@ bool holdsBothEnds(const char16_t *begins, const char16_t *ends, const Variants 
 {
     quint16 any = 0;
     for (qsizetype at = 0; at < blockSize; ++at)
-        any |= quint16(isOneOf(begins[at], first) & isOneOf(ends[at], last));
+        any = quint16(any | (isOneOf(begins[at], first) & isOneOf(ends[at], last)));
     return any != 0;
 }
 

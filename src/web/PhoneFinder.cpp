@@ -3,11 +3,13 @@
 #include "util/AddressList.h"
 #include "util/Incr.h"
 #include "util/Text.h"
+#include "util/UnitMasks.h"
 #include "web/AreaCodes.h"
 
 #include <QHash>
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -21,14 +23,18 @@ constexpr qsizetype numberSize = 10;
 // Only the first two decide whether a place is read; the walk over all of them asks whether the page is read at all.
 constexpr std::array<QStringView, 8> phoneWords{u"-", u")", u"(", u"phone", u"tele", u"cell", u"mobile", u"fax"};
 
-QList<QStringView> codesOf(QStringView areaCodes)
+QList<QStringView> codesOfTable()
 {
-    if (!areaCodes.isEmpty())
-        return areaCodes.split(u',');
     QList<QStringView> codes;
     for (const AreaCodeRow &row : areaCodeRows)
         codes += row.codes.split(u',');
     return codes;
+}
+
+QList<QStringView> codesOf(QStringView areaCodes)
+{
+    static const QList<QStringView> all = codesOfTable();
+    return areaCodes.isEmpty() ? all : areaCodes.split(u',');
 }
 
 bool mayHoldNumbers(QStringView text)
@@ -40,12 +46,18 @@ bool mayHoldNumbers(QStringView text)
 
 using Number = std::array<QChar, size_t(numberSize)>;
 
+/// The two words of which a candidate must hold one.
+constexpr std::array<char16_t, 2> marks{phoneWords[0].front().unicode(), phoneWords[1].front().unicode()};
+
+constexpr bool isMark(char16_t unit)
+{
+    return unit == marks[0] || unit == marks[1];
+}
+
 /// The ten digits that are read from the beginning of a candidate, nothing when there are more or fewer.
 std::optional<Number> numberIn(QStringView candidate)
 {
     constexpr int separatorLimit = 2;
-    if (!candidate.contains(phoneWords[0]) && !candidate.contains(phoneWords[1]))
-        return std::nullopt;
     Number number;
     size_t digits = 0;
     int separators = 0;
@@ -57,7 +69,7 @@ std::optional<Number> numberIn(QStringView candidate)
                 return std::nullopt;
             number[digits++] = unit;
             separators = 0;
-        } else if ((unit != u'-' && unit != u')') || ++separators == separatorLimit) {
+        } else if (!isMark(unit.unicode()) || ++separators == separatorLimit) {
             break;
         }
     }
@@ -77,8 +89,8 @@ struct Reading
     QString number;
 };
 
-/// The places of a text from which numbers can be read. Ten digits must stand within 15 characters, so of a text
-/// without so many digits in two neighbouring blocks no place is looked at.
+/// The places of a text from which numbers can be read. Ten digits and a mark must stand within 15 characters, so the
+/// text is read as bits first: which of 64 units are digits, and only where these are enough, which are marks.
 class Readings
 {
   public:
@@ -90,44 +102,42 @@ class Readings
     /// All of them, in order.
     QList<Reading> all()
     {
-        int digits = digitsAt(0);
-        for (qsizetype at = 0; at < mBehindLast; at += blockSize) {
-            const int next = digitsAt(at + blockSize);
-            if (digits + next >= numberSize)
-                readBlock(at);
-            digits = next;
-        }
+        for (qsizetype at = 0; at < mBehindLast; at += stride)
+            if (at + UnitMasks::unitCount <= mText.size())
+                readBlock(at, mText.utf16() + at);
+            else
+                readBlock(at, restFrom(at).data());
         return mReadings;
     }
 
   private:
-    static constexpr qsizetype blockSize = 32;
-    static_assert(candidateSize <= blockSize);
+    /// So many candidates lie wholly within the 64 units of a block.
+    static constexpr qsizetype stride = UnitMasks::unitCount - candidateSize + 1;
+    using Block = std::array<char16_t, size_t(UnitMasks::unitCount)>;
 
-    /// How many digits the block at `at` holds; what is left behind the last whole block counts as full of them.
-    [[nodiscard]] int digitsAt(qsizetype at) const
+    /// The last units of the text with zeros behind them.
+    [[nodiscard]] Block restFrom(qsizetype at) const
     {
-        if (at + blockSize > mText.size())
-            return blockSize;
-        const char16_t *units = mText.utf16() + at;
-        quint16 digits = 0;
-        for (qsizetype place = 0; place < blockSize; ++place) // without branches, for the vector unit
-            digits = quint16(digits + (char16_t(units[place] - u'0') < 10 ? 1 : 0));
-        return digits;
+        Block rest{};
+        std::copy_n(mText.utf16() + at, mText.size() - at, rest.begin());
+        return rest;
     }
 
-    [[nodiscard]] bool isDigitAt(qsizetype at) const { return cUtility::isDigit(mText[at].unicode()); }
-
-    void readBlock(qsizetype begin)
+    void readBlock(qsizetype at, const char16_t *units)
     {
-        const qsizetype end = std::min(begin + blockSize, mBehindLast);
-        qsizetype digits = 0;
-        for (qsizetype at = begin; at < begin + candidateSize; ++at)
-            digits += isDigitAt(at) ? 1 : 0;
-        for (qsizetype at = begin; at < end; ++at) {
-            if (digits >= numberSize)
-                readAt(at);
-            digits += (isDigitAt(at + candidateSize) ? 1 : 0) - (isDigitAt(at) ? 1 : 0);
+        constexpr quint64 candidateBits = (quint64(1) << candidateSize) - 1;
+        const quint64 digits = UnitMasks::digits(units);
+        if (std::popcount(digits) < numberSize)
+            return;
+        // The places with a mark in their candidate: those up to 14 before one.
+        quint64 places = UnitMasks::either(units, marks[0], marks[1]);
+        for (const int shift : {1, 2, 4, 7})
+            places |= places >> shift;
+        places &= (quint64(1) << std::min(stride, mBehindLast - at)) - 1;
+        for (; places != 0; places &= places - 1) {
+            const int place = std::countr_zero(places);
+            if (std::popcount(digits >> place & candidateBits) >= numberSize)
+                readAt(at + place);
         }
     }
 

@@ -1,0 +1,18 @@
+#include "FuzzInput.h"
+#include "web/Addresses.h"
+#include "web/PlainFinders.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    FuzzInput input(data, size);
+    const bool type = input.flag();
+    const bool www = input.flag();
+    const bool protocol = input.flag();
+    const QString address = input.text(120);
+    demandEqual(cIEText::GetServerFromUrl(address, {type, www, protocol}),
+                plain::GetServerFromUrl(address, type, www, protocol), "GetServerFromUrl");
+    demandEqual(cIEText::DoesThisEndInAUrl(address), plain::DoesThisEndInAUrl(address), "DoesThisEndInAUrl");
+    const QStringList list = address.split(u'|');
+    demandEqual(cIEText::GetUniqueServers(list), plain::GetUniqueServers(list), "GetUniqueServers");
+    return 0;
+}
