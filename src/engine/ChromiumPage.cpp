@@ -85,6 +85,7 @@ void ChromiumPage::navigate(const QString &address)
     requireWindow();
     mRequested = address;
     mReplaced = false;
+    mRequestedAgain = false;
     std::erase_if(mNotices, [](const PageNotice &each) { return each.kind == PageNotice::Kind::LoadingEnded; });
     breakOffBefore(address);
     request();
@@ -137,6 +138,15 @@ void ChromiumPage::settle(int number)
                       }));
 }
 
+// A document that was about to take its place in the lost process is lost with it.
+void ChromiumPage::requestAfterLoss()
+{
+    if (!std::exchange(mRequestedAgain, true))
+        request();
+    else if (mLoading.cancel())
+        loadingEnded();
+}
+
 void ChromiumPage::onPageStuck()
 {
     if (!std::exchange(mReplaced, true))
@@ -153,7 +163,8 @@ void ChromiumPage::onWindowReplaced()
     mDocuments.clear();
     mDialogs.newPage();
     mReader.setPage(mTargets.session(), mTopFrame);
-    request();
+    if (mLoading.isLoading())
+        request();
 }
 
 void ChromiumPage::stop()
@@ -314,7 +325,9 @@ void ChromiumPage::onProcessLost()
 {
     mReader.processLost();
     mDocuments.clear();
-    if (mLoading.processLost())
+    if (mLoading.isWaitingForDocument())
+        requestAfterLoss();
+    else if (mLoading.processLost())
         loadingEnded();
 }
 

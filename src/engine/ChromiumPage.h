@@ -81,6 +81,7 @@ class ChromiumPage : public QObject
     void answered(int number, const DevToolsConnection::Answer &answer);
     void settle(int number);
     void breakOffBefore(const QString &address);
+    void requestAfterLoss();
     void onPageStuck();
     void onWindowReplaced();
     void onProcessLost();
@@ -99,9 +100,10 @@ class ChromiumPage : public QObject
     QHash<QString, Document> mDocuments; // by frame
     QString mTopFrame;
     QString mAddress;
-    QString mUnreachable;   // what the error page in place stands for
-    QString mRequested;     // the latest Navigate
-    bool mReplaced = false; // the window has been replaced for the latest Navigate
+    QString mUnreachable;         // what the error page in place stands for
+    QString mRequested;           // the latest Navigate
+    bool mRequestedAgain = false; // the page's process was lost during the latest Navigate
+    bool mReplaced = false;       // the window has been replaced for the latest Navigate
     bool mClosed = false;
     std::deque<PageNotice> mNotices;
 };

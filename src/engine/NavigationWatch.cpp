@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::chrono::seconds betweenLooks{3};
 constexpr std::chrono::seconds limitOfAnswer{2};
-constexpr int breakOffsAtMost = 2;
+constexpr int breakOffsAtMost = 1;
 
 } // namespace
 

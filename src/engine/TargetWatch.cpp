@@ -1,5 +1,6 @@
 #include "engine/TargetWatch.h"
 #include "engine/EngineErrors.h"
+#include "engine/EngineResources.h"
 #include "util/Errors.h"
 
 #include <QJsonArray>
@@ -43,16 +44,15 @@ void TargetWatch::attach()
     awaitPage();
 }
 
-// A page that hangs in a script must not keep us from attaching, and does not answer before it is broken off.
+// A window that hangs takes no command at all, not even to break its script off.
 void TargetWatch::awaitPage()
 {
-    const auto answered = std::make_shared<bool>(false);
-    mConnection.send(mSession, "Page.getFrameTree"_L1, {}, [answered](const auto &) { *answered = true; });
-    const auto wait = [&] { return mConnection.waitUntil([&] { return *answered; }, QDeadlineTimer(pageLimit)); };
-    if (!wait()) {
-        mConnection.send(mSession, "Runtime.terminateExecution"_L1);
-        wait();
-    }
+    const auto ready = [this] { return mReady; };
+    if (mConnection.waitUntil(ready, QDeadlineTimer(pageLimit)))
+        return;
+    replaceWindow();
+    if (!mConnection.waitUntil(ready, QDeadlineTimer(callLimit)))
+        throw RuntimeError(EngineError::NoAnswer, u"The browser's window does not answer."_s);
 }
 
 QJsonObject TargetWatch::findPage()
@@ -80,7 +80,8 @@ void TargetWatch::attached(const QString &parent, const QJsonObject &params)
     } else if (target == mTarget) {
         mSession = session;
         preparePage(session);
-    } else if (mReplacing && !info.contains(u"openerId")) {
+        whenReady([] {});
+    } else if (mReplacing && !info.contains(u"openerId") && info[u"url"].toString() == "about:blank"_L1) {
         takeReplacement(session, target);
     } else if (mFamily.contains(info[u"openerId"].toString())) {
         decideOnWindow(session, target, params[u"waitingForDebugger"].toBool());
@@ -93,6 +94,8 @@ void TargetWatch::attached(const QString &parent, const QJsonObject &params)
 // Where the old window stood is a matter of taste: without an answer the new one stands where the browser puts it.
 void TargetWatch::replaceWindow()
 {
+    if (std::exchange(mReplacing, true))
+        return;
     const QPointer<TargetWatch> self(this);
     mConnection.send({}, "Browser.getWindowForTarget"_L1, {{u"targetId"_s, mTarget}},
                      [self](const DevToolsConnection::Answer &answer) {
@@ -108,30 +111,53 @@ void TargetWatch::openReplacement(const QJsonObject &bounds)
         if (bounds.contains(name))
             window.insert(name, bounds[name]);
     }
-    mReplacing = true;
     mConnection.send({}, "Target.createTarget"_L1, window);
 }
 
 void TargetWatch::takeReplacement(const QString &session, const QString &target)
 {
     mReplacing = false;
+    mReady = false;
     const QString old = std::exchange(mTarget, target);
+    mAddress = u"about:blank"_s;
     mSession = session;
     mSessions.clear();
     mFamily.insert(target);
     preparePage(session);
+    whenReady([this] { Q_EMIT windowReplaced(); });
     mConnection.send({}, "Target.closeTarget"_L1, {{u"targetId"_s, old}});
-    Q_EMIT windowReplaced();
+}
+
+// A page takes our commands one after the other: with the answer to a last one it has taken all.
+void TargetWatch::whenReady(std::function<void()> then)
+{
+    const QPointer<TargetWatch> self(this);
+    mConnection.send(mSession, "Page.getFrameTree"_L1, {},
+                     [self, session = mSession, then = std::move(then)](const DevToolsConnection::Answer &answer) {
+                         if (!self || self->mSession != session || answer.failed())
+                             return;
+                         self->mReady = true;
+                         then();
+                     });
 }
 
 void TargetWatch::preparePage(const QString &session)
 {
     mSessions.insert(session);
-    mConnection.send(session, "Page.enable"_L1);
+    guard(session);
     mConnection.send(session, "Page.setLifecycleEventsEnabled"_L1, {{u"enabled"_s, true}});
     mConnection.send(session, "Page.setInterceptFileChooserDialog"_L1, {{u"enabled"_s, true}, {u"cancel"_s, true}});
     mConnection.send(session, "Target.setAutoAttach"_L1, autoAttach(u"iframe"_s));
     run(session);
+}
+
+// From here on the boxes of the page are told, and answered.
+void TargetWatch::guard(const QString &session)
+{
+    static const QString script = QString::fromUtf8(engineResource(u"js/guard.js"_s));
+    mConnection.send(session, "Page.enable"_L1);
+    mConnection.send(session, "Page.addScriptToEvaluateOnNewDocument"_L1,
+                     {{u"source"_s, script}, {u"worldName"_s, u"trawlex"_s}, {u"runImmediately"_s, true}});
 }
 
 // A refused window is closed before it runs and then let run: a window that is closed while it is held leaves the
@@ -145,7 +171,7 @@ void TargetWatch::decideOnWindow(const QString &session, const QString &target, 
         mConnection.send(session, "Page.close"_L1);
     } else {
         mFamily.insert(target);
-        mConnection.send(session, "Page.enable"_L1); // so that its boxes are told, and answered
+        guard(session);
     }
     run(session);
 }

@@ -15,7 +15,8 @@ class TargetWatch : public QObject
     /// `connection` must outlive this object.
     explicit TargetWatch(DevToolsConnection &connection) : mConnection(connection) {}
 
-    /// Attaches to the browser's first page window, made if there is none. Raises a RuntimeError.
+    /// Attaches to the browser's first page window, made if there is none, made anew if it hangs. Raises a
+    /// RuntimeError.
     void attach();
 
     /// Opens another window in the place of ours, which is closed without a word; windowReplaced() tells when it is
@@ -49,6 +50,8 @@ class TargetWatch : public QObject
     void openReplacement(const QJsonObject &bounds);
     void takeReplacement(const QString &session, const QString &target);
     void preparePage(const QString &session);
+    void whenReady(std::function<void()> then);
+    void guard(const QString &session);
     void decideOnWindow(const QString &session, const QString &target, bool isNew);
     void run(const QString &session);
 
@@ -58,5 +61,6 @@ class TargetWatch : public QObject
     QString mAddress;
     QSet<QString> mSessions; // of our page and its frames
     QSet<QString> mFamily;   // our window and those that came from it
+    bool mReady = false;     // our page has taken all commands
     bool mReplacing = false; // the next window that nobody has opened is ours
 };

@@ -143,12 +143,22 @@ TEST_F(ChromiumRefusals, ADownloadThatAScriptStartsIsRefused)
     expectAllIsWell();
 }
 
-TEST_F(ChromiumRefusals, OtherProgramsAreNotStarted)
+TEST_F(ChromiumRefusals, APageStartsNoOtherPrograms)
 {
-    show("<title>page</title><script>location = 'trawlex-unknown:thing'</script>");
-    idle(300);
-    EXPECT_EQ(str(browser->LocationName()), "page");
+    const QString log = dataFolder() + u"/started"_s;
+    server().page("/mailing", "<script>location = 'mailto:frame@example.test'</script>");
+    for (const QByteArray html :
+         {"<script>location = 'mailto:script@example.test'</script>",
+          "<a id=a href='mailto:link@example.test'></a><script>a.click()</script>",
+          "<meta http-equiv=refresh content='0;url=mailto:refresh@example.test'>",
+          "<script>location = 'trawlex-unknown:thing'</script>", "<iframe src=/mailing></iframe>"}) {
+        show("<title>page</title>" + html);
+        idle(200);
+        EXPECT_EQ(str(browser->LocationName()), "page");
+    }
+    EXPECT_FALSE(QFile::exists(log));
     open(u"mailto:someone@example.test"_s);
+    EXPECT_TRUE(waitFor([&] { return QFile::exists(log); })) << "it is ours that starts one";
     expectAllIsWell();
 }
 
