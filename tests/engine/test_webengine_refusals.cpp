@@ -404,7 +404,7 @@ TEST_F(WebEngineRefusals, OnAStageAPageHasASizeWithoutAWindow)
              "<iframe loading=lazy src='/late'></iframe><script>document.title=[innerWidth,innerHeight]</script>");
     EXPECT_EQ(browser->LocationName(), u"1000,700");
     EXPECT_EQ(text(), u"wide");
-    EXPECT_EQ(server.requestCount("/late"), 1);
+    EXPECT_TRUE(waitUntil([&] { return server.requestCount("/late") == 1; }));
 }
 
 #include "test_webengine_refusals.moc"
