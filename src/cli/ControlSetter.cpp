@@ -1,9 +1,10 @@
 #include "cli/ControlSetter.h"
 
+#include "util/Text.h"
+
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 [[noreturn]] void refuse(const QString &name, const QString &text)
 {
     throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"--set %1: %2"_s.arg(name, text));
@@ -33,10 +34,11 @@ void set(ComboBox &combo, const QString &value)
 
 void set(NumberBox &number, const QString &value)
 {
-    number.setText(value);
-    bool isNumber = false;
-    if (value.toLongLong(&isNumber) != number.value() || !isNumber)
+    const bool fits = !value.isEmpty() && value.size() <= number.digits() &&
+                      std::all_of(value.begin(), value.end(), [](QChar c) { return cUtility::isDigit(c.unicode()); });
+    if (!fits)
         refuse(number.name(), u"takes up to %1 digits, not \"%2\""_s.arg(number.digits()).arg(value));
+    number.setText(value);
 }
 } // namespace
 

@@ -1,6 +1,5 @@
 #include "window/AutoTab.h"
 
-#include "web/Addresses.h"
 #include "window/BrowserConnection.h"
 #include "window/LifeCycle.h"
 
@@ -145,27 +144,14 @@ void AutoTab::lblTrawlexTimer_MouseMove()
     m.form.lblTrawlexTimer.setToolTipText(tip);
 }
 
-/// The Quick Block list: the server of the page on show is added, or all are dropped.
 void AutoTab::lblAutoCollect_MouseDown(MouseButton button)
 {
-    guarded(m.log, {module, "Sub lblAutoCollect_MouseDown"_L1}, [&] {
-        if (m.form.sstSearch.tab() != autoTabIndex)
-            return;
-        QStringList &blocked = m.form.mastrQB;
-        if (button == MouseButton::Right) {
-            blocked = emptyList();
-            return m.status.UpDateStatus(u"Quick Block Cleared"_s);
-        }
-        const QString server = cIEText::GetServerFromUrl(m.browser->GetSiteUrl(), {false, false, false});
-        if (server.isEmpty())
-            return m.status.UpDateStatus(u"Nothing to add"_s);
-        if (blocked.contains(server))
-            return m.status.UpDateStatus("Exists "_L1 + server);
-        if (firstOf(blocked).isEmpty())
-            blocked.clear();
-        blocked.append(server);
-        m.status.UpDateStatus("QB added "_L1 + server);
-    });
+    if (m.form.sstSearch.tab() != autoTabIndex)
+        return;
+    if (button == MouseButton::Left)
+        m.blocking.addQuickBlock();
+    else
+        m.blocking.clearQuickBlock();
 }
 
 void AutoTab::lblAutoCollect_MouseMove()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "harvest/AutoRun.h"
+#include "lists/Blocking.h"
 
 class BrowserConnection;
 class LifeCycle;
@@ -18,9 +19,9 @@ class AutoTab : public QObject
         StatusLine &status;
         ControlStates &states;
         cTimer &timer;
-        BrowserHolder &browser;
         Desktop &desktop;
         SavedUrls &savedUrls;
+        Blocking &blocking;
         AutoRun &run;
         BrowserConnection &connection;
         LifeCycle &lifeCycle;

@@ -15,8 +15,10 @@ constexpr auto nameKey = "DatabaseName"_L1;
 } // namespace
 
 DatabaseLoader::DatabaseLoader(ErrorReceiver &log, frmSearch &form, UserDialogs &dialogs, SettingsStore &settings,
-                               DatabaseHolder &database, SavedUrls &savedUrls)
-    : mLog(log), mForm(form), mDialogs(dialogs), mSettings(settings), mDatabase(database), mSavedUrls(savedUrls)
+                               DatabaseHolder &database, CriteriaSets &criteria, Blocking &blocking,
+                               SavedUrls &savedUrls)
+    : mLog(log), mForm(form), mDialogs(dialogs), mSettings(settings), mDatabase(database), mCriteria(criteria),
+      mBlocking(blocking), mSavedUrls(savedUrls)
 {
 }
 
@@ -95,6 +97,8 @@ bool DatabaseLoader::LoadDBData(bool useFileBox)
     if (!LoadDatabase(useFileBox))
         return false;
     guarded(mLog, {module, "Sub LoadDBData"_L1}, [&] {
+        mCriteria.LoadMCMNC();
+        mBlocking.LoadBlocked();
         choose(mForm.cboANList, "cboANList"_L1);
         mSavedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
         choose(mForm.cboANMCMNCMask, "cboMCMNCMask"_L1);

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/Ports.h"
+#include "lists/Blocking.h"
+#include "lists/CriteriaSets.h"
 #include "lists/SavedUrls.h"
 
 class DatabaseLoader : public QObject
@@ -10,10 +12,10 @@ class DatabaseLoader : public QObject
 
   public:
     DatabaseLoader(ErrorReceiver &log, frmSearch &form, UserDialogs &dialogs, SettingsStore &settings,
-                   DatabaseHolder &database, SavedUrls &savedUrls);
+                   DatabaseHolder &database, CriteriaSets &criteria, Blocking &blocking, SavedUrls &savedUrls);
 
-    /// True if the caller may go on. With `useFileBox` the name is that of txtSFDBFile, else the stored one; where no such
-    /// file exists a new one is made under a vacant name.
+    /// True if the caller may go on. With `useFileBox` the name is that of txtSFDBFile, else the stored one; where no
+    /// such file exists a new one is made under a vacant name.
     [[nodiscard]] bool LoadDatabase(bool useFileBox);
     /// LoadDatabase, then all that depends on the database's content.
     bool LoadDBData(bool useFileBox);
@@ -35,5 +37,7 @@ class DatabaseLoader : public QObject
     UserDialogs &mDialogs;
     SettingsStore &mSettings;
     DatabaseHolder &mDatabase;
+    CriteriaSets &mCriteria;
+    Blocking &mBlocking;
     SavedUrls &mSavedUrls;
 };

@@ -52,12 +52,13 @@ Options::Options(ErrorLog &log, frmSearch &form, StatusLine &status, ControlStat
         if (row.saved == SettingRow::Saved::AtChange)
             connectSetting(row.key, mForm.control(row.control));
     }
-    // These two are stored like the others and loaded only once the database is.
+    // These are stored like the others; they are loaded only once the database is, or the window is placed.
     connectSetting("SearchKeyChkMustContain Value"_L1, &mForm.chkMustContain);
     connectSetting("SearchKeyChkMustNotContain Value"_L1, &mForm.chkMustNotContain);
     connectSetting("chkUseSavedUrls"_L1, &mForm.chkUseSavedUrls);
     connectSetting("cboANSavedUrls"_L1, &mForm.cboANSavedUrls);
-    connectSetting("chkSAMoveToTopLeft"_L1, &mForm.chkSMV(4)); // read when the window is placed
+    connectSetting("cboANList"_L1, &mForm.cboANList);
+    connectSetting("chkSAMoveToTopLeft"_L1, &mForm.chkSMV(4));
     for (const SwitchRow &row : switchRows()) {
         auto *box = qobject_cast<CheckBox *>(mForm.control(row.control));
         if (!row.caption.isEmpty())

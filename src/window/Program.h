@@ -7,6 +7,7 @@
 #include "harvest/AutoRun.h"
 #include "harvest/UntilLoaded.h"
 #include "window/AutoTab.h"
+#include "window/CriteriaPanel.h"
 #include "window/LifeCycle.h"
 #include "window/StateOfControls.h"
 
@@ -37,6 +38,8 @@ struct Program
     SiteRecords records;
     ResultLinks links;
     SavedUrls savedUrls;
+    CriteriaSets criteria;
+    Blocking blocking;
     PageData pageData;
     ResultWriters writers;
     PageScreening screening;
@@ -46,4 +49,5 @@ struct Program
     BrowserConnection connection;
     LifeCycle lifeCycle;
     AutoTab autoTab;
+    CriteriaPanel criteriaPanel;
 };

@@ -1,5 +1,6 @@
 // What happens to the page on show: the tests it has to pass, the colours that report the outcome, and the fallback to
 // the server of an error page.
+#include "controls/cLstBx.h"
 #include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -111,6 +112,7 @@ TEST_P(MustContainTable, Decides)
     form().chkMCCS.setValue(row.caseSensitive ? 1 : 0);
     fill(form().lstANMC, row.items);
     form().lstANMCAllAny.setListIndex(row.mode);
+    cLstBx::UnSelect(form().lstANMC);
     for (const int index : row.userSelection)
         form().lstANMC.setSelected(index, true);
     EXPECT_EQ(mustContain(), row.mayGo);
@@ -152,6 +154,7 @@ TEST_P(MustNotContainTable, Decides)
     form().chkMNCCS.setValue(row.caseSensitive ? 1 : 0);
     fill(form().lstANMNC, row.items);
     form().lstANMNCAllAny.setListIndex(row.mode);
+    cLstBx::UnSelect(form().lstANMNC);
     for (const int index : row.userSelection)
         form().lstANMNC.setSelected(index, true);
     EXPECT_EQ(mustNotContain(), row.mayGo);

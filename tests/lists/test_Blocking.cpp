@@ -1,0 +1,202 @@
+// Blocked texts: two lists that share the rows of one table.
+#include "support/ProgramFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+using Kind = Blocking::Kind;
+using Batch = Blocking::Batch;
+
+class BlockingTest : public ProgramTest
+{
+  protected:
+    BlockingTest() { load(); }
+    Blocking &blocking() { return program->blocking; }
+    void addBlock(const QString &url, const QString &email)
+    {
+        addRow(database(), u"Block"_s, {{u"UrlsContent"_s, url}, {u"EmailContent"_s, email}});
+    }
+    /// The table's rows as "link|address".
+    QStringList table()
+    {
+        const QStringList urls = rows(u"Block"_s, u"UrlsContent"_s);
+        const QStringList emails = rows(u"Block"_s, u"EmailContent"_s);
+        QStringList all;
+        for (int i = 0; i < urls.size(); ++i)
+            all.append(urls[i] + u'|' + emails[i]);
+        return all;
+    }
+    void reload() { blocking().LoadBlocked(); }
+    void choose(ListBox &list, int index)
+    {
+        std::vector<bool> selected(static_cast<std::size_t>(list.listCount()));
+        selected[static_cast<std::size_t>(index)] = true;
+        list.choose(index, selected);
+    }
+};
+} // namespace
+
+TEST_F(BlockingTest, BothListsAreFilledInRowOrder)
+{
+    addBlock(u"ads"_s, {});
+    addBlock({}, u"spam"_s);
+    addBlock(u"banner"_s, u"noreply"_s);
+    reload();
+    EXPECT_EQ(form().lstBlockedUrlC.items(), (QStringList{u"ads"_s, u"banner"_s}));
+    EXPECT_EQ(form().lstBlockedEmailC.items(), (QStringList{u"spam"_s, u"noreply"_s}));
+}
+
+TEST_F(BlockingTest, AStartWithTextsRestoresTheBoxAndTheFirstItem)
+{
+    addBlock(u"ads"_s, u"spam"_s);
+    settings.preset("chkUrlBlocking", u"1"_s);
+    settings.preset("chkEmailBlocking", u"1"_s);
+    form().chkSaveEmail.setValue(1);
+    program->lifeCycle.end();
+    program.reset();
+    load();
+    EXPECT_EQ(form().chkUrlBlocking.value(), 1);
+    EXPECT_EQ(form().chkEmailBlocking.value(), 1);
+    EXPECT_EQ(form().lstBlockedUrlC.listIndex(), 0);
+}
+
+TEST_F(BlockingTest, AnAddedTextTakesTheFirstRowThatHasRoom)
+{
+    blocking().AddBlockedUrl(u"ads"_s);
+    EXPECT_EQ(lastStatus(), u"ads added"_s);
+    blocking().AddBlockedEC(u"spam"_s);
+    blocking().AddBlockedEC(u"noreply"_s);
+    blocking().AddBlockedUrl(u"banner"_s);
+    EXPECT_EQ(table(), (QStringList{u"ads|spam"_s, u"banner|noreply"_s}));
+    EXPECT_EQ(form().lstBlockedUrlC.items(), (QStringList{u"ads"_s, u"banner"_s}));
+    EXPECT_EQ(form().lstBlockedUrlC.listIndex(), 0);
+}
+
+TEST_F(BlockingTest, CommasAreTakenOutAndNothingLeftAddsNothing)
+{
+    blocking().AddBlockedUrl(u"a,b"_s);
+    EXPECT_EQ(form().lstBlockedUrlC.items(), QStringList{u"ab"_s});
+    blocking().AddBlockedUrl(u",,"_s);
+    EXPECT_EQ(table().size(), 1);
+}
+
+TEST_F(BlockingTest, ATextIsAddedOnceButMayDifferInCase)
+{
+    blocking().AddBlockedUrl(u"ads"_s);
+    blocking().AddBlockedUrl(u"ads"_s);
+    EXPECT_EQ(lastStatus(), u"ads exists"_s);
+    blocking().AddBlockedUrl(u"ADS"_s);
+    EXPECT_EQ(form().lstBlockedUrlC.items(), (QStringList{u"ads"_s, u"ADS"_s}));
+}
+
+TEST_F(BlockingTest, AsksForATextAndProposesThePagesServerForLinks)
+{
+    browser().show(u"http://www.ads.com/x"_s);
+    dialogs.inputAnswers = {u"ads.com"_s, u"@spam"_s};
+    blocking().AddBlockedUrl();
+    blocking().AddBlockedEC();
+    ASSERT_EQ(dialogs.inputs.size(), 2);
+    EXPECT_EQ(dialogs.inputs[0].title, u"Urls Must Not contain"_s);
+    EXPECT_EQ(dialogs.inputs[0].text, u"Enter new item"_s);
+    EXPECT_EQ(dialogs.inputs[0].prompt, u"www.ads.com"_s);
+    EXPECT_EQ(dialogs.inputs[1].title, u"Emails Must Not contain"_s);
+    EXPECT_EQ(dialogs.inputs[1].prompt, QString());
+    EXPECT_EQ(table(), QStringList{u"ads.com|@spam"_s});
+}
+
+TEST_F(BlockingTest, TheFirstTextDoesNotInItselfTurnBlockingOn)
+{
+    blocking().AddBlockedUrl(u"ads"_s);
+    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
+    form().chkUrlBlocking.setValue(1);
+    EXPECT_EQ(lastStatus(), u"Url blocking ON"_s);
+    blocking().AddBlockedUrl(u"banner"_s);
+    EXPECT_EQ(form().chkUrlBlocking.value(), 1);
+}
+
+TEST_F(BlockingTest, RemovingALinkTextKeepsTheAddressTextOfItsRow)
+{
+    addBlock(u"ads"_s, u"spam"_s);
+    addBlock(u"banner"_s, {});
+    reload();
+    choose(form().lstBlockedUrlC, 0);
+    blocking().RemoveBlockedUrl(Batch::No);
+    EXPECT_EQ(lastStatus(), u"ads removed"_s);
+    EXPECT_EQ(table(), (QStringList{u"|spam"_s, u"banner|"_s}));
+    EXPECT_EQ(form().lstBlockedUrlC.items(), QStringList{u"banner"_s});
+    EXPECT_EQ(form().lstBlockedUrlC.listIndex(), 0);
+}
+
+TEST_F(BlockingTest, ARowSharedByBothGoesWithItsSecondText)
+{
+    addBlock(u"ads"_s, u"spam"_s);
+    reload();
+    choose(form().lstBlockedEmailC, 0);
+    blocking().RemoveBlockedEC(Batch::No);
+    EXPECT_EQ(table(), QStringList{u"ads|"_s});
+    choose(form().lstBlockedUrlC, 0);
+    blocking().RemoveBlockedUrl(Batch::No);
+    EXPECT_TRUE(table().isEmpty());
+}
+
+TEST_F(BlockingTest, AnEarlierRowWithAnAddressTextAloneGoesWithALinkTextUntilTheNextLoad)
+{
+    addBlock({}, u"spam"_s);
+    addBlock(u"ads"_s, {});
+    addBlock({}, u"later"_s);
+    reload();
+    choose(form().lstBlockedUrlC, 0);
+    blocking().RemoveBlockedUrl(Batch::No);
+    EXPECT_EQ(table(), QStringList{u"|later"_s});
+    EXPECT_EQ(form().lstBlockedEmailC.items(), (QStringList{u"spam"_s, u"later"_s}));
+    reload();
+    EXPECT_EQ(form().lstBlockedEmailC.items(), QStringList{u"later"_s});
+}
+
+TEST_F(BlockingTest, AnEarlierRowWithALinkTextAloneStaysWhenAnAddressTextGoes)
+{
+    addBlock(u"ads"_s, {});
+    addBlock({}, u"spam"_s);
+    reload();
+    choose(form().lstBlockedEmailC, 0);
+    blocking().RemoveBlockedEC(Batch::No);
+    EXPECT_EQ(table(), QStringList{u"ads|"_s});
+}
+
+TEST_F(BlockingTest, RemovingTheLastTextClearsTheBoxAndItStaysOff)
+{
+    blocking().AddBlockedUrl(u"ads"_s);
+    form().chkUrlBlocking.setValue(1);
+    choose(form().lstBlockedUrlC, 0);
+    blocking().RemoveBlockedUrl(Batch::No);
+    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
+    blocking().AddBlockedUrl(u"banner"_s);
+    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
+}
+
+TEST_F(BlockingTest, AllSelectedTextsAreRemoved)
+{
+    for (const auto *text : {"a", "b", "c", "d"})
+        blocking().AddBlockedUrl(QString::fromLatin1(text));
+    form().lstBlockedUrlC.choose(0, {true, false, true, true});
+    blocking().RemoveBlocked(Kind::Url);
+    EXPECT_EQ(form().lstBlockedUrlC.items(), QStringList{u"b"_s});
+    EXPECT_EQ(table(), QStringList{u"b|"_s});
+}
+
+TEST_F(BlockingTest, ClearingEmptiesTheListAndItsColumn)
+{
+    addBlock(u"ads"_s, u"spam"_s);
+    addBlock(u"banner"_s, {});
+    reload();
+    blocking().ClearBlockedList(Kind::Url);
+    EXPECT_EQ(form().lstBlockedUrlC.listCount(), 0);
+    EXPECT_FALSE(table().join(u',').contains(u"ads"_s) || table().join(u',').contains(u"banner"_s));
+}
+
+TEST_F(BlockingTest, ClearingAnEmptyListDoesNothing)
+{
+    statuses.clear();
+    blocking().ClearBlockedList(Kind::Email);
+    EXPECT_TRUE(statuses.isEmpty());
+}
