@@ -124,6 +124,9 @@ void ChromiumPage::answered(int number, const DevToolsConnection::Answer &answer
         settle(number);
         break;
     case PageLoading::Verdict::Wait:
+        if (mLoading.isDocumentComing())
+            mWatch.documentComing();
+        break;
     case PageLoading::Verdict::Outdated:
         break;
     }
@@ -325,7 +328,7 @@ void ChromiumPage::onProcessLost()
 {
     mReader.processLost();
     mDocuments.clear();
-    if (mLoading.isWaitingForDocument())
+    if (mLoading.isDocumentComing())
         requestAfterLoss();
     else if (mLoading.processLost())
         loadingEnded();

@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::chrono::seconds betweenLooks{3};
 constexpr std::chrono::seconds limitOfAnswer{2};
+constexpr std::chrono::seconds limitOfDocument{5};
 constexpr int breakOffsAtMost = 1;
 
 } // namespace
@@ -25,6 +26,14 @@ void NavigationWatch::begin(const QString &session)
     mUnanswered = false;
     mBrokenOff = 0;
     mTimer.start(betweenLooks);
+}
+
+void NavigationWatch::documentComing()
+{
+    ++mLook;
+    mUnanswered = true;
+    mBrokenOff = breakOffsAtMost;
+    mTimer.start(limitOfDocument);
 }
 
 void NavigationWatch::end()

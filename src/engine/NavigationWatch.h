@@ -16,6 +16,9 @@ class NavigationWatch : public QObject
     explicit NavigationWatch(DevToolsConnection &connection);
 
     void begin(const QString &session);
+    /// The new document is about to take its place: from here on the old page takes no commands, and a page that does
+    /// not make room soon never will.
+    void documentComing();
     void end();
 
   Q_SIGNALS:

@@ -27,15 +27,14 @@ PageLoading::Verdict PageLoading::answered(int number, const QString &loader, co
         return Verdict::Outdated;
     }
     mRequested = loader;
-    mMoving = loader.isEmpty() && error.isEmpty();
-    if (mMoving && !mMoved)
-        return Verdict::Wait;
-    if (loader.isEmpty()) {
-        end();
-        return mMoving ? Verdict::Moved : Verdict::Ended;
-    }
     mAnswered = !error.isEmpty();
-    return error == "net::ERR_ABORTED"_L1 ? Verdict::Aborted : Verdict::Wait;
+    mMoving = loader.isEmpty() && error.isEmpty();
+    if (error == "net::ERR_ABORTED"_L1)
+        return Verdict::Aborted;
+    if (!loader.isEmpty() || (mMoving && !mMoved))
+        return Verdict::Wait;
+    end();
+    return mMoving ? Verdict::Moved : Verdict::Ended;
 }
 
 // A later request of the top frame has taken the place of ours: its document is awaited.

@@ -26,6 +26,9 @@ class PageLoading
     /// True from begin() until a document is put in place or loading ends.
     [[nodiscard]] bool isWaitingForDocument() const { return mLoading && !mCommitted; }
 
+    /// True when the browser has the document and is about to put it in place; a loss of the process takes it along.
+    [[nodiscard]] bool isDocumentComing() const { return isWaitingForDocument() && !mRequested.isEmpty(); }
+
     /// A page has been asked for; what comes of earlier requests does not count. Gives the number that its answer is
     /// known by.
     int begin();

@@ -160,7 +160,8 @@ void ChromiumTest::open(const QString &address)
     const qsizetype before = told.count(u"ended"_s);
     browser->Navigate(address);
     EXPECT_TRUE(browser->isLoading());
-    EXPECT_TRUE(waitFor([&] { return told.count(u"ended"_s) > before; })) << str(address) << " did not end loading";
+    EXPECT_TRUE(waitFor([&] { return told.count(u"ended"_s) > before; }, 20000))
+        << str(address) << " did not end loading";
     EXPECT_FALSE(browser->isLoading());
 }
 

@@ -100,6 +100,17 @@ TEST(PageLoading, ARequestThatAnotherHasReplacedGoesOnWithThat)
     EXPECT_TRUE(page.documentLoaded(u"b"_s));
 }
 
+TEST(PageLoading, ARequestThatIsRefusedAsARepetitionGoesOnWithTheFirst)
+{
+    PageLoading page;
+    page.begin();
+    const int number = page.begin();
+    page.started(u"a"_s);
+    EXPECT_EQ(page.answered(number, u""_s, u"net::ERR_ABORTED"_s), Verdict::Aborted);
+    EXPECT_FALSE(page.settle(number));
+    EXPECT_TRUE(page.isLoading());
+}
+
 TEST(PageLoading, AReplacementThatComesToNothingEndsWhenTheBrowserStops)
 {
     PageLoading page;
@@ -166,9 +177,13 @@ TEST(PageLoading, ALoadThatIsBrokenOffHalfWayEndsWhenTheBrowserStops)
 TEST(PageLoading, ALostProcessEndsThePageButNotARequest)
 {
     PageLoading page;
-    page.answered(page.begin(), u"a"_s, u""_s);
+    const int number = page.begin();
     EXPECT_FALSE(page.processLost()) << "the old page's process";
+    EXPECT_FALSE(page.isDocumentComing()) << "the browser may still find another process for it";
+    page.answered(number, u"a"_s, u""_s);
+    EXPECT_TRUE(page.isDocumentComing());
     page.committed(u"a"_s);
+    EXPECT_FALSE(page.isDocumentComing());
     EXPECT_TRUE(page.processLost());
     EXPECT_FALSE(page.processLost());
 }
