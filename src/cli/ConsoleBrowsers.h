@@ -1,8 +1,9 @@
-// The browsers as a program without a window has them: the built-in one works without any view.
+// The browsers as a program without a window has them: the built-in one works on a stage that is never shown.
 #pragma once
 
 #include "engine/ChromiumFactory.h"
 #include "engine/WebEngineBrowser.h"
+#include "engine/WebEngineStage.h"
 
 class ConsoleBrowsers : public ChromiumFactory
 {
@@ -11,6 +12,12 @@ class ConsoleBrowsers : public ChromiumFactory
     /// A browser that keeps nothing beyond this run.
     [[nodiscard]] std::shared_ptr<BrowserEngine> internalBrowser() override
     {
-        return std::make_shared<WebEngineBrowser>();
+        mStage.reset();
+        auto browser = std::make_shared<WebEngineBrowser>();
+        mStage = std::make_unique<WebEngineStage>(*browser);
+        return browser;
     }
+
+  private:
+    std::unique_ptr<WebEngineStage> mStage;
 };

@@ -11,7 +11,7 @@
 #include "engine/WebEngineSetup.h"
 #include "window/ProgramFolder.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTimer>
 #include <cstdio>
 
@@ -113,8 +113,8 @@ int main(int argc, char *argv[])
     const QStringList switches = BrowserSwitches::ofUser(arguments.browserArgs);
     const WebEnginePreparation preparation = prepareWebEngine(switches);
     int noArguments = 1;
-    const QGuiApplication application(noArguments, argv);
-    QGuiApplication::setApplicationName(windowProgram);
+    const QApplication application(noArguments, argv);
+    QApplication::setApplicationName(windowProgram);
 
     QtEventPump pump;
     ConsoleDialogs dialogs;

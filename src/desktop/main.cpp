@@ -15,6 +15,7 @@
 #include "window/StartMode.h"
 
 #include <QApplication>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,8 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     MainWindowPlace place;
     IniSettings settings(appName);
     DesktopBrowsers browsers({dataFolder(), switches, false});
+    if (browsers.sandboxOff())
+        std::fputs("Running as root: the browser's sandbox is off\n", stderr);
     settings.SaveSetting(Options::section, u"WorkingPath"_s, programFolder() + u'/');
     Program program({pump, dialogs, desktop, clipboard, settings, place, browsers, programFolder()});
     MainWindow window(program.form);

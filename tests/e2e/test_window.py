@@ -4,7 +4,6 @@ import json
 import os
 import pathlib
 import re
-import signal
 import subprocess
 import sys
 import time
@@ -97,38 +96,46 @@ class WindowCase(trawlex.Case):
         self.display.do("type", "--delay", "5", url)
         self.display.do("key", "Return")
 
-    def requests_of(self, host):
-        return [line for line in pathlib.Path(self.folder, "requests.txt").read_text().splitlines() if host in line]
 
-
-class FreeStandingBrowser(WindowCase):
     def first_start(self):
         """Makes settings and database; the end mark ends the program after its question."""
         self.start()
         self.click("picANEnd")
         time.sleep(1)
         self.display.do("key", "alt+y")
-        self.window.wait(timeout=20)
-        self.assertEqual(self.window.returncode, 0)
+        self.assertEqual(self.window.wait(timeout=20), 0)
 
-    def test_a_harvest_stopped_with_x_and_resumed_with_go_stores_every_row(self):
+    def start_with(self, **options):
+        """A second start with options and a database that knows the demo's search service."""
         self.first_start()
-        self.choose_options(**OPTIONS, **{"SearchKeyTxtSaveLocation Text": os.path.dirname(self.database) + "/"})
+        folder = {"SearchKeyTxtSaveLocation Text": os.path.dirname(self.database) + "/"}
+        self.choose_options(**{**OPTIONS, **folder, **options})
         self.start()
         trawlex.wait_for(lambda: os.path.exists(self.database), 10, "the database")
         subprocess.run([sys.executable, trawlex.ROOT / "demo/record.py", self.database], check=True,
                        stdout=subprocess.DEVNULL)
+
+    def wait_for_summaries(self, wanted, seconds=60):
+        trawlex.wait_for(lambda: trawlex.count(self.database, "SiteSummary") >= wanted, seconds, f"{wanted} summaries")
+
+    def assert_run_stands_still(self):
+        time.sleep(1)
+        stopped = trawlex.count(self.database, "SiteSummary")
+        time.sleep(5)
+        self.assertEqual(trawlex.count(self.database, "SiteSummary"), stopped, "the run goes on")
+
+
+class FreeStandingBrowser(WindowCase):
+    def test_a_harvest_stopped_with_x_and_resumed_with_go_stores_every_row(self):
+        self.start_with()
         for box in SAVE_BOXES:
             self.click(box)
         self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
         time.sleep(3)
         self.click("cmdANStart")
-        trawlex.wait_for(lambda: trawlex.count(self.database, "SiteSummary") >= 5, 60, "five summaries")
+        self.wait_for_summaries(5)
         self.click("cmdANStart")
-        time.sleep(1)
-        stopped = trawlex.count(self.database, "SiteSummary")
-        time.sleep(5)
-        self.assertEqual(trawlex.count(self.database, "SiteSummary"), stopped, "the run went on after X")
+        self.assert_run_stands_still()
         self.click("cmdANStart")
         wanted = len(trawlex.EXPECTED["PassUrlsA"])
         trawlex.wait_for(lambda: trawlex.count(self.database, "PassUrlsA") >= wanted, 240, "all links")
@@ -136,14 +143,48 @@ class FreeStandingBrowser(WindowCase):
         self.click("picANEnd")
         self.assertEqual(self.window.wait(timeout=20), 0)
 
-    def test_ending_in_the_middle_of_a_wait_leaves_no_process(self):
-        self.first_start()
-        self.choose_options(**OPTIONS)
-        self.start()
+    def test_closing_the_browser_stops_the_run_and_initialize_finds_another(self):
+        self.start_with(**{"chkSaveSummary": "1"})
+        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
+        time.sleep(3)
         self.click("cmdANStart")
-        time.sleep(0.5)
+        self.wait_for_summaries(3)
+        for window in self.display.do("search", "--onlyvisible", "--class", "hromium"):
+            self.display.do("windowclose", window)
+        self.assert_run_stands_still()
+        self.assertIsNone(self.window.poll())
+        self.click("cmdANInitialize")
+        trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--class", "hromium"), 20, "a new window")
+
+    def test_ending_in_the_middle_of_a_wait_ends_the_program(self):
+        self.start_with(npTimimg="050", chkSaveSummary="1")
+        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
+        time.sleep(3)
+        self.click("cmdANStart")
+        time.sleep(2)
         self.click("picANEnd")
         self.assertEqual(self.window.wait(timeout=20), 0)
+
+
+class BuiltInBrowser(WindowCase):
+    def test_its_window_is_driven_and_its_closing_stops_the_run(self):
+        self.start_with(lstDCoTmr="0", chkSaveSummary="1")
+        browser = trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--name", "Internet Browse|blank"), 20,
+                                   "the built-in browser's window")[-1]
+        self.display.do("windowactivate", "--sync", browser)
+        self.display.do("mousemove", "--window", browser, 150, 20)
+        self.display.do("click", "--repeat", "3", 1)
+        self.display.do("type", "--delay", "5", trawlex.demo_harvest.RESULT_PAGE)
+        self.display.do("key", "Return")
+        time.sleep(3)
+        self.click("cmdANStart")
+        self.wait_for_summaries(4)
+        self.display.do("windowactivate", "--sync", browser)
+        self.display.do("key", "alt+F4")
+        self.assert_run_stands_still()
+        self.assertIsNone(self.window.poll())
+        summaries = trawlex.rows(self.database, "SiteSummary", ["Title", "Url"])
+        self.assertEqual(summaries, trawlex.expected_rows("SiteSummary")[:len(summaries)])
 
 
 if __name__ == "__main__":

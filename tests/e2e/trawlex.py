@@ -16,7 +16,7 @@ sys.path.insert(0, str(ROOT / "demo"))
 import harvest as demo_harvest  # noqa: E402
 import server  # noqa: E402
 
-BIN = pathlib.Path(os.environ.get("TRAWLEX_BIN", ROOT / "build/dev/bin"))
+BIN = pathlib.Path(os.environ.get("TRAWLEX_BIN", ROOT / "build/dev/bin")).resolve()
 HARVESTER = BIN / "trawlex-harvest"
 WINDOW = BIN / "trawlex"
 EXPECTED = json.loads((ROOT / "demo/expected.json").read_text(encoding="utf-8"))
