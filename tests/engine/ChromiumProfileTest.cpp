@@ -1,0 +1,209 @@
+// The free-standing browser's program, its command line and its profile folder; no browser runs here.
+#include "engine/ChromiumFactory.h"
+#include "engine/ChromiumProgram.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTcpServer>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class ChromiumProfileTest : public testing::Test
+{
+  protected:
+    void SetUp() override { ASSERT_TRUE(data.isValid()); }
+    [[nodiscard]] QString path(const QString &name) const { return data.filePath(name); }
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    [[nodiscard]] QByteArray read(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir data;
+};
+
+constexpr QFileDevice::Permissions others = QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup |
+                                            QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
+
+} // namespace
+
+TEST_F(ChromiumProfileTest, AFolderIsMadeForItsOwnerAlone)
+{
+    const ChromiumProfile profile(path(u"new/data"_s), u"browser"_s);
+    EXPECT_EQ(profile.folder(), path(u"new/data/browser"_s));
+    EXPECT_FALSE(QFile::permissions(profile.folder()) & others);
+}
+
+TEST_F(ChromiumProfileTest, TheSameFolderIsNeverHeldTwice)
+{
+    auto first = std::make_unique<ChromiumProfile>(data.path(), u"browser"_s);
+    const ChromiumProfile second(data.path(), u"browser"_s);
+    const ChromiumProfile third(data.path(), u"browser"_s);
+    EXPECT_EQ(first->folder(), path(u"browser"_s));
+    EXPECT_EQ(second.folder(), path(u"browser-2"_s));
+    EXPECT_EQ(third.folder(), path(u"browser-3"_s));
+    first.reset();
+    EXPECT_EQ(ChromiumProfile(data.path(), u"browser"_s).folder(), path(u"browser"_s)) << "free again";
+}
+
+TEST_F(ChromiumProfileTest, TheLockOfAProcessThatIsGoneHoldsNobodyUp)
+{
+    write(u"browser.lock"_s, "99999999\ntrawlex\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    EXPECT_EQ(ChromiumProfile(data.path(), u"browser"_s).folder(), path(u"browser"_s));
+}
+
+TEST_F(ChromiumProfileTest, ANewProfileIsSetUpSoThatNothingIsAsked)
+{
+    const ChromiumProfile profile(data.path(), u"browser"_s);
+    const QJsonObject settings = QJsonDocument::fromJson(read(u"browser/Default/Preferences"_s)).object();
+    EXPECT_FALSE(settings[u"printing"][u"enabled"].toBool(true));
+    EXPECT_FALSE(settings[u"download"][u"prompt_for_download"].toBool(true));
+    EXPECT_EQ(settings[u"profile"][u"default_content_setting_values"][u"notifications"].toInt(), 2);
+    const QJsonObject state = QJsonDocument::fromJson(read(u"browser/Local State"_s)).object();
+    EXPECT_TRUE(state[u"auth"][u"schemes"].isString());
+}
+
+TEST_F(ChromiumProfileTest, WhatTheUserHasSetInAProfileStays)
+{
+    ASSERT_TRUE(QDir(data.path()).mkpath(u"browser/Default"_s));
+    write(u"browser/Default/Preferences"_s, "{\"mine\":1}");
+    const ChromiumProfile profile(data.path(), u"browser"_s);
+    EXPECT_EQ(read(u"browser/Default/Preferences"_s), "{\"mine\":1}");
+}
+
+TEST_F(ChromiumProfileTest, AFolderThatCannotBeMadeIsAnError)
+{
+    write(u"file"_s, "");
+    EXPECT_THROW(ChromiumProfile(path(u"file/data"_s), u"browser"_s), RuntimeError);
+}
+
+TEST_F(ChromiumProfileTest, TheEndpointIsReadFromTheBrowsersOwnFile)
+{
+    ChromiumProfile profile(data.path(), u"browser"_s);
+    EXPECT_FALSE(profile.endpoint().isValid());
+    for (const char *unfinished : {"", "4711", "4711\n", "4711\nno path"}) {
+        write(u"browser/DevToolsActivePort"_s, unfinished);
+        EXPECT_FALSE(profile.endpoint().isValid()) << unfinished;
+    }
+    write(u"browser/DevToolsActivePort"_s, "4711\n/devtools/browser/abc");
+    EXPECT_EQ(profile.endpoint(), QUrl(u"ws://127.0.0.1:4711/devtools/browser/abc"_s));
+    profile.forgetEndpoint();
+    EXPECT_FALSE(profile.endpoint().isValid());
+}
+
+TEST_F(ChromiumProfileTest, AnEndpointThatNobodyAnswersAtCostsLittle)
+{
+    ChromiumFactory factory({.dataFolder = data.path(), .userSwitches = {}, .headless = false});
+    EXPECT_EQ(factory.runningBrowser(), nullptr) << "no browser has ever run here";
+    QTcpServer gone;
+    ASSERT_TRUE(gone.listen(QHostAddress::LocalHost));
+    const QByteArray port = QByteArray::number(gone.serverPort());
+    QElapsedTimer clock;
+    clock.start();
+    write(u"browser/DevToolsActivePort"_s, port + "\n/devtools/browser/abc");
+    gone.close();
+    EXPECT_EQ(factory.runningBrowser(), nullptr);
+    EXPECT_LT(clock.elapsed(), 500) << "refused";
+    ASSERT_TRUE(gone.listen(QHostAddress::LocalHost, port.toUShort()));
+    EXPECT_EQ(factory.runningBrowser(), nullptr);
+    EXPECT_LT(clock.elapsed(), 4000) << "another program listens there and says nothing";
+}
+
+TEST_F(ChromiumProfileTest, WindowlessBrowsersHaveAProfileOfTheirOwn)
+{
+    ChromiumFactory factory({.dataFolder = data.path(), .userSwitches = {}, .headless = true});
+    EXPECT_EQ(factory.runningBrowser(), nullptr);
+    EXPECT_TRUE(QFile::exists(path(u"browser-headless"_s)));
+    EXPECT_FALSE(QFile::exists(path(u"browser"_s)));
+}
+
+TEST_F(ChromiumProfileTest, ClosingABrowserThatNeverRanDoesNothing)
+{
+    ChromiumFactory factory({.dataFolder = data.path(), .userSwitches = {}, .headless = true});
+    factory.closeBrowser();
+    EXPECT_FALSE(QFile::exists(path(u"browser"_s)));
+}
+
+TEST_F(ChromiumProfileTest, AProgramThatCannotBeStartedIsAnError)
+{
+    ChromiumFactory factory({.dataFolder = data.path(), .userSwitches = {}, .headless = true});
+    EXPECT_THROW(factory.start(path(u"no-such-program"_s)), RuntimeError);
+}
+
+TEST_F(ChromiumProfileTest, TheFirstInstalledProgramIsTaken)
+{
+    const QByteArray before = qgetenv("PATH");
+    qputenv("PATH", data.path().toUtf8());
+    EXPECT_EQ(ChromiumProgram::find(), QString());
+    for (const QString &name : {u"brave-browser"_s, u"google-chrome"_s, u"chromium"_s}) {
+        write(name, "#!/bin/sh\n");
+        QFile::setPermissions(path(name), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        EXPECT_EQ(ChromiumProgram::find(), path(name));
+    }
+    qputenv("PATH", before);
+}
+
+TEST_F(ChromiumProfileTest, ProgramsAreKnownByTheirFileName)
+{
+    EXPECT_TRUE(ChromiumProgram::isKnown(u"/usr/bin/chromium"_s));
+    EXPECT_TRUE(ChromiumProgram::isKnown(u"/opt/Google-Chrome"_s));
+    EXPECT_FALSE(ChromiumProgram::isKnown(u"/usr/bin/chromium-helper"_s));
+    EXPECT_FALSE(ChromiumProgram::isKnown(u"/chromium/editor"_s));
+    EXPECT_FALSE(ChromiumProgram::isKnown(QString()));
+}
+
+TEST_F(ChromiumProfileTest, AStartedProgramGetsTheCommandLine)
+{
+    write(u"chromium"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + path(u"arguments.new"_s).toUtf8() + "'\nmv '" +
+                             path(u"arguments.new"_s).toUtf8() + "' '" + path(u"arguments"_s).toUtf8() + "'\n");
+    QFile::setPermissions(path(u"chromium"_s), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    const ChromiumStart start{
+        .profileFolder = path(u"a b"_s), .userSwitches = {u"--mine=1"_s}, .headless = true, .sandboxOff = false};
+    EXPECT_GT(ChromiumProgram::start(path(u"chromium"_s), start), 0);
+    QElapsedTimer clock;
+    clock.start();
+    while (!QFile::exists(path(u"arguments"_s)) && clock.elapsed() < 10000)
+        ;
+    EXPECT_EQ(QString::fromUtf8(read(u"arguments"_s)), chromiumArguments(start).join(u'\n') + u'\n');
+}
+
+TEST(ChromiumArguments, TheUsersComeLast)
+{
+    const QStringList all = chromiumArguments({.profileFolder = u"/p"_s, .userSwitches = {u"--one"_s, u"--two=2"_s}});
+    EXPECT_EQ(all.first(), u"--user-data-dir=/p"_s);
+    EXPECT_EQ(all.mid(all.size() - 3), (QStringList{u"about:blank"_s, u"--one"_s, u"--two=2"_s}));
+    EXPECT_TRUE(all.contains(u"--remote-debugging-port=0"_s));
+    EXPECT_FALSE(all.contains(u"--headless=new"_s));
+    EXPECT_FALSE(all.contains(u"--no-sandbox"_s));
+}
+
+TEST(ChromiumArguments, ListsOfFeaturesAreJoined)
+{
+    const QStringList all =
+        chromiumArguments({.profileFolder = u"/p"_s, .userSwitches = {u"--disable-features=Mine"_s}});
+    const QStringList lists = all.filter(u"--disable-features="_s);
+    ASSERT_EQ(lists.size(), 1);
+    EXPECT_TRUE(lists.first().contains("HttpsUpgrades"_L1));
+    EXPECT_TRUE(lists.first().endsWith(",Mine"_L1));
+    EXPECT_EQ(all.last(), lists.first());
+}
+
+TEST(ChromiumArguments, AWindowlessBrowserAndOneWithoutSandboxAreAskedFor)
+{
+    const QStringList all =
+        chromiumArguments({.profileFolder = u"/p"_s, .userSwitches = {}, .headless = true, .sandboxOff = true});
+    EXPECT_TRUE(all.contains(u"--headless=new"_s));
+    EXPECT_TRUE(all.contains(u"--no-sandbox"_s));
+}
