@@ -23,6 +23,7 @@ void QtEventPump::waitForEvents(qint64 milliseconds)
 
 void QtEventPump::wakeUp()
 {
-    if (auto *dispatcher = QAbstractEventDispatcher::instance())
+    // The application's own: it may be asked from any thread.
+    if (auto *dispatcher = QCoreApplication::eventDispatcher())
         dispatcher->wakeUp();
 }
