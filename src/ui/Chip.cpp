@@ -71,7 +71,7 @@ void Chip::paintEvent(QPaintEvent *)
     painter.setPen(ink);
     painter.setFont(font());
     painter.drawText(rect().adjusted(inset + iconSize + gap, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
-    if (hasFocus())
+    if (Drawing::showsFocus(*this))
         Drawing::focusRing(painter, rect(), shades);
 }
 

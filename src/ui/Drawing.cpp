@@ -22,6 +22,11 @@ void Drawing::box(QPainter &painter, const QRectF &rect, const QColor &fill, con
     painter.restore();
 }
 
+bool Drawing::showsFocus(const QWidget &widget)
+{
+    return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 void Drawing::focusRing(QPainter &painter, const QRectF &rect, const Shades &shades)
 {
     box(painter, rect, Qt::transparent, shades.accent, 2.0);

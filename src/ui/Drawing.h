@@ -1,14 +1,17 @@
-// The few shapes that the window is drawn with. They paint where they are told and know no widget.
+// The few shapes that the window is drawn with, and the rule when one of them is wanted.
 #pragma once
 
 #include "ui/Shades.h"
 
 #include <QPainter>
 #include <QRectF>
+#include <QWidget>
 
 namespace Drawing {
 /// A rounded box with a border inside `rect`; an invalid border colour draws none.
 void box(QPainter &painter, const QRectF &rect, const QColor &fill, const QColor &border, double width = 1.0);
+/// True if `widget` has the focus and the user works with the keyboard: the mouse shows by itself where it is.
+[[nodiscard]] bool showsFocus(const QWidget &widget);
 /// The ring that says where the keyboard is.
 void focusRing(QPainter &painter, const QRectF &rect, const Shades &shades);
 /// An arrow head as wide as `size`, its point down (or up).

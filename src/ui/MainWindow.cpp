@@ -147,16 +147,6 @@ void MainWindow::paintEvent(QPaintEvent *)
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
-void MainWindow::moveEvent(QMoveEvent *)
-{
-    Q_EMIT placed();
-}
-
-void MainWindow::resizeEvent(QResizeEvent *)
-{
-    Q_EMIT placed();
-}
-
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange)

@@ -34,14 +34,10 @@ class MainWindow : public QWidget
   Q_SIGNALS:
     /// The user or the desktop wants the window closed.
     void closeRequested();
-    /// The window was moved or resized.
-    void placed();
 
   protected:
     void closeEvent(QCloseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    void moveEvent(QMoveEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
   private:

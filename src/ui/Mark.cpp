@@ -79,7 +79,7 @@ void Lamp::paintEvent(QPaintEvent *)
     painter.setBrush(fill());
     painter.drawEllipse(disc);
     Drawing::sign(painter, disc, sign(), ink());
-    if (hasFocus()) {
+    if (Drawing::showsFocus(*this)) {
         painter.setPen(QPen(Shades::of(palette()).accent, 1.5));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(disc.adjusted(-1.2, -1.2, 1.2, 1.2));
@@ -103,7 +103,7 @@ void EndMark::paintEvent(QPaintEvent *)
     square.moveCenter(QRectF(rect()).center());
     Drawing::box(painter, square, ground, QColor());
     Drawing::sign(painter, square, Drawing::Sign::Cross, neutral ? shades.text : ink());
-    if (hasFocus())
+    if (Drawing::showsFocus(*this))
         Drawing::focusRing(painter, square, shades);
 }
 

@@ -39,7 +39,7 @@ void SegmentStrip::paintEvent(QPaintEvent *)
         painter.setFont(face);
         painter.setPen(current ? shades.text : shades.quiet);
         painter.drawText(tab, Qt::AlignCenter | Qt::TextShowMnemonic, tabText(i));
-        if (current && hasFocus())
+        if (current && Drawing::showsFocus(*this))
             Drawing::focusRing(painter, tab, shades);
     }
 }

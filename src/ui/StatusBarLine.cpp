@@ -77,6 +77,6 @@ void StatusBarLine::paintEvent(QPaintEvent *)
         painter.fillRect(QRect(0, 0, width(), barHeight), shades.edge);
         painter.fillRect(QRectF(0, 0, double(width()) * mDone / mTotal, barHeight), shades.accent);
     }
-    if (hasFocus())
+    if (Drawing::showsFocus(*this))
         Drawing::focusRing(painter, rect().adjusted(1, 1, -1, -1), shades);
 }

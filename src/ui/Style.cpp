@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -35,19 +36,27 @@ QColor fieldFill(const QStyleOption &option, const Shades &shades)
     return has(option, QStyle::State_Enabled) ? base : mixed(base, shades.window, 0.6);
 }
 
-void drawField(const QStyleOption &option, QPainter &painter)
+/// Where one types shows its focus always, other widgets only while the user works with the keyboard.
+bool showsFocus(const QStyleOption &option, const QWidget *widget)
+{
+    if (!has(option, QStyle::State_HasFocus) || !has(option, QStyle::State_Enabled))
+        return false;
+    return qobject_cast<const QLineEdit *>(widget) != nullptr || has(option, QStyle::State_KeyboardFocusChange);
+}
+
+void drawField(const QStyleOption &option, QPainter &painter, const QWidget *widget)
 {
     const Shades shades = Shades::of(option.palette);
-    const bool focused = has(option, QStyle::State_HasFocus) && has(option, QStyle::State_Enabled);
+    const bool focused = showsFocus(option, widget);
     Drawing::box(painter, option.rect, fieldFill(option, shades), focused ? shades.accent : edgeOf(option, shades),
                  focused ? 2.0 : 1.0);
 }
 
-void drawLineEdit(const QStyleOption &option, QPainter &painter)
+void drawLineEdit(const QStyleOption &option, QPainter &painter, const QWidget *widget)
 {
     const auto *const frame = qstyleoption_cast<const QStyleOptionFrame *>(&option);
     if (frame != nullptr && frame->lineWidth > 0)
-        drawField(option, painter);
+        drawField(option, painter, widget);
 }
 
 void drawButton(const QStyleOption &option, QPainter &painter, const QWidget *widget)
@@ -56,7 +65,7 @@ void drawButton(const QStyleOption &option, QPainter &painter, const QWidget *wi
     const bool enabled = has(option, QStyle::State_Enabled);
     const bool accent = enabled && widget != nullptr && widget->property(Style::accentProperty).toBool();
     const bool on = has(option, QStyle::State_On);
-    const bool pointed = has(option, QStyle::State_MouseOver) || has(option, QStyle::State_HasFocus);
+    const bool pointed = has(option, QStyle::State_MouseOver) || showsFocus(option, widget);
     if (widget != nullptr && widget->property(Style::quietProperty).toBool() && !pointed)
         return;
     QColor fill = accent ? shades.accent : option.palette.color(QPalette::Button);
@@ -72,7 +81,7 @@ void drawButton(const QStyleOption &option, QPainter &painter, const QWidget *wi
     else if (on && enabled)
         border = shades.accent;
     Drawing::box(painter, option.rect, enabled ? fill : mixed(shades.panel, shades.window, 0.5), border);
-    if (!has(option, QStyle::State_HasFocus))
+    if (!showsFocus(option, widget))
         return;
     if (accent)
         Drawing::box(painter, QRectF(option.rect).adjusted(2, 2, -2, -2), Qt::transparent, shades.onAccent, 1.5);
@@ -101,9 +110,9 @@ void drawCheckMark(const QStyleOption &option, QPainter &painter)
                       ink);
 }
 
-void drawComboBox(const QStyleOptionComplex &option, QPainter &painter)
+void drawComboBox(const QStyleOptionComplex &option, QPainter &painter, const QWidget *widget)
 {
-    drawField(option, painter);
+    drawField(option, painter, widget);
     const Shades shades = Shades::of(option.palette);
     const QColor ink = has(option, QStyle::State_Enabled) ? shades.quiet : shades.disabled;
     const QRect rect = option.rect;
@@ -164,7 +173,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
 {
     switch (element) {
     case PE_PanelLineEdit:
-        return drawLineEdit(*option, *painter);
+        return drawLineEdit(*option, *painter, widget);
     case PE_PanelButtonCommand:
     case PE_PanelButtonBevel:
     case PE_PanelButtonTool:
@@ -173,10 +182,10 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         return drawCheckMark(*option, *painter);
     case PE_Frame:
         if (qobject_cast<const QAbstractItemView *>(widget) != nullptr)
-            return drawField(*option, *painter);
+            return drawField(*option, *painter, widget);
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     case PE_FrameFocusRect:
-        if (qobject_cast<const QCheckBox *>(widget) != nullptr)
+        if (qobject_cast<const QCheckBox *>(widget) != nullptr && showsFocus(*option, widget))
             Drawing::box(*painter, QRectF(option->rect).adjusted(-3, -1, 3, 1), Qt::transparent,
                          Shades::of(option->palette).accent, 1.5);
         return;
@@ -205,7 +214,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
                                const QWidget *widget) const
 {
     if (control == CC_ComboBox)
-        drawComboBox(*option, *painter);
+        drawComboBox(*option, *painter, widget);
     else if (control == CC_ScrollBar)
         drawScrollBar(*option, *painter, proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget));
     else
@@ -227,6 +236,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
+    case PM_ToolTipLabelFrameWidth:
+        return 5;
     case PM_FocusFrameHMargin:
         return 6;
     default:
@@ -282,7 +293,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *
 {
     if (hint == SH_UnderlineShortcut)
         return mUnderlines ? 1 : 0;
-    if (hint == SH_ComboBox_Popup || hint == SH_EtchDisabledText || hint == SH_DitherDisabledText)
+    if (hint == SH_ComboBox_Popup || hint == SH_EtchDisabledText || hint == SH_DitherDisabledText ||
+        hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
 }

@@ -49,7 +49,7 @@ void TabStrip::paintEvent(QPaintEvent *)
         const bool lit = current || (underMouse() && tab.contains(mouse));
         painter.setPen(lit ? shades.text : shades.quiet);
         painter.drawText(tab.adjusted(0, 6, 0, 0), Qt::AlignCenter | Qt::TextShowMnemonic, tabText(i));
-        if (current && hasFocus())
+        if (current && Drawing::showsFocus(*this))
             Drawing::focusRing(painter, tab.adjusted(4, 11, -4, -5), shades);
     }
 }

@@ -95,6 +95,10 @@ QPalette Theme::palette(Mode mode)
 bool Theme::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();
+    if (auto *const widget = qobject_cast<QWidget *>(watched)) {
+        if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress)
+            noteInput(*widget, type == QEvent::KeyPress ? Input::Keyboard : Input::Mouse);
+    }
     if (type == QEvent::KeyPress || type == QEvent::KeyRelease) {
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
             showUnderlines(type == QEvent::KeyPress);
@@ -102,6 +106,18 @@ bool Theme::eventFilter(QObject *watched, QEvent *event)
         showUnderlines(false);
     }
     return QObject::eventFilter(watched, event);
+}
+
+// The keyboard is in use from the first key on until the mouse is. Qt itself sets this mark and never takes it away.
+void Theme::noteInput(QWidget &widget, Input input)
+{
+    QWidget &window = *widget.window();
+    const bool keyboard = input == Input::Keyboard;
+    if (window.testAttribute(Qt::WA_KeyboardFocusChange) == keyboard)
+        return;
+    window.setAttribute(Qt::WA_KeyboardFocusChange, keyboard);
+    if (QWidget *const focused = QApplication::focusWidget())
+        focused->update();
 }
 
 void Theme::showUnderlines(bool shown)

@@ -6,6 +6,7 @@
 #include <QPalette>
 
 class QApplication;
+class QWidget;
 class Style;
 
 class Theme : public QObject
@@ -31,6 +32,8 @@ class Theme : public QObject
 
   private:
     explicit Theme(QApplication &application);
+    enum class Input { Keyboard, Mouse };
+    void noteInput(QWidget &widget, Input input);
     void showUnderlines(bool shown);
 
     Style *mStyle; ///< owned by the application

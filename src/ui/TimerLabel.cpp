@@ -28,7 +28,7 @@ void TimerLabel::paintEvent(QPaintEvent *)
     painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
     painter.setFont(font());
     painter.drawText(rect(), Qt::AlignCenter, text());
-    if (hasFocus())
+    if (Drawing::showsFocus(*this))
         Drawing::focusRing(painter, rect(), shades);
 }
 

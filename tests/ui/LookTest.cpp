@@ -180,6 +180,25 @@ TEST_F(Look, TheEnvironmentForcesATheme)
     qunsetenv("TRAWLEX_THEME");
 }
 
+TEST_F(Look, TheFocusIsShownToTheKeyboardAndNotToTheMouse)
+{
+    auto &box = widget<QCheckBox>("chkSavePages");
+    auto &chip = widget<QWidget>("lblAutoCollect");
+    for (QWidget *const shown : std::initializer_list<QWidget *>{&box, &chip}) {
+        widget<QWidget>("txtANStartTag").setFocus();
+        settle();
+        const QImage without = shown->grab().toImage();
+        QTest::mousePress(&window, Qt::LeftButton, {}, QPoint(2, 60));
+        shown->setFocus(Qt::MouseFocusReason);
+        settle();
+        EXPECT_EQ(shown->grab().toImage(), without);
+        QTest::keyClick(shown, Qt::Key_Shift);
+        settle();
+        EXPECT_NE(shown->grab().toImage(), without);
+        QTest::mousePress(&window, Qt::LeftButton, {}, QPoint(2, 60));
+    }
+}
+
 struct Captions : WindowFixture
 {
     void expectNoneCut()
