@@ -13,41 +13,42 @@ constexpr std::size_t mostIdleStatements = 200;
 StatementCache::StatementCache() = default;
 StatementCache::~StatementCache() = default;
 
-std::unique_ptr<SQLite::Statement> StatementCache::take(SQLite::Database &database, const std::string &text)
+StatementCache::Slot &StatementCache::slotOf(const std::string &text)
 {
-    const auto idle = mIdle.find(text);
-    if (idle != mIdle.end() && idle->second)
-        return std::move(idle->second);
-    return engineStep([&] { return std::make_unique<SQLite::Statement>(database, text); });
-}
-
-void StatementCache::giveBack(std::unique_ptr<SQLite::Statement> statement) noexcept
-{
-    try {
-        static_cast<void>(statement->tryReset());
-        statement->clearBindings();
-        if (mIdle.size() >= mostIdleStatements)
-            mIdle.clear();
-        mIdle[statement->getQuery()] = std::move(statement);
-    } catch (...) {
-        // A statement that cannot be kept is let go.
-        statement.reset();
-    }
+    const auto known = mSlots.find(text);
+    if (known != mSlots.end())
+        return known->second;
+    if (mSlots.size() >= mostIdleStatements)
+        clear();
+    return mSlots[text];
 }
 
 void StatementCache::clear() noexcept
 {
-    mIdle.clear();
+    ++mGeneration;
+    mSlots.clear();
 }
 
 Statement::Statement(StatementCache &cache, SQLite::Database &database, const std::string &text)
-    : mCache(cache), mStatement(cache.take(database, text))
+    : mCache(cache), mSlot(&cache.slotOf(text)), mGeneration(cache.generation()), mStatement(std::move(*mSlot))
 {
+    // The slot is empty for a new text, and while the same statement is in use further out.
+    if (!mStatement)
+        mStatement = engineStep([&] { return std::make_unique<SQLite::Statement>(database, text); });
 }
 
 Statement::~Statement()
 {
-    mCache.giveBack(std::move(mStatement));
+    if (mGeneration != mCache.generation() || *mSlot)
+        return;
+    try {
+        static_cast<void>(mStatement->tryReset());
+        mStatement->clearBindings();
+        *mSlot = std::move(mStatement);
+    } catch (const std::exception &) {
+        // A statement that cannot be made ready again is let go.
+        mStatement.reset();
+    }
 }
 
 Statement &Statement::bind(int place, const QVariant &value)

@@ -24,14 +24,18 @@ class StatementCache
     StatementCache(const StatementCache &) = delete;
     StatementCache &operator=(const StatementCache &) = delete;
 
-    /// The statement of that text, prepared now where none is idle.
-    [[nodiscard]] std::unique_ptr<SQLite::Statement> take(SQLite::Database &database, const std::string &text);
-    /// Gives an idle statement back. When there are too many, all are let go.
-    void giveBack(std::unique_ptr<SQLite::Statement> statement) noexcept;
+    /// A place for the statement of one text; it stays where it is until the cache is cleared.
+    using Slot = std::unique_ptr<SQLite::Statement>;
+
+    /// The slot of that text. When there are too many, all idle statements are let go first.
+    [[nodiscard]] Slot &slotOf(const std::string &text);
+    /// Changes when the slots go.
+    [[nodiscard]] quint64 generation() const { return mGeneration; }
     void clear() noexcept;
 
   private:
-    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> mIdle;
+    std::unordered_map<std::string, Slot> mSlots;
+    quint64 mGeneration = 0;
 };
 
 class Statement
@@ -62,6 +66,9 @@ class Statement
 
   private:
     StatementCache &mCache;
+    // Where the statement came from and goes back to, unless the cache has been cleared since.
+    StatementCache::Slot *mSlot;
+    quint64 mGeneration;
     std::unique_ptr<SQLite::Statement> mStatement;
     // Bound values that the engine reads in place.
     std::deque<QByteArray> mTexts;

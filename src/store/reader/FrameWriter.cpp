@@ -24,7 +24,8 @@ void writeFrame(Frames::Kind kind, std::string_view bytes)
         static_cast<unsigned char>(kind), static_cast<unsigned char>(length), static_cast<unsigned char>(length >> 8U),
         static_cast<unsigned char>(length >> 16U), static_cast<unsigned char>(length >> 24U)};
     put(head.data(), head.size());
-    put(bytes.data(), bytes.size());
+    if (!bytes.empty())
+        put(bytes.data(), bytes.size());
 }
 
 void flushFrames()

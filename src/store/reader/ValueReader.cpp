@@ -1,6 +1,6 @@
 #include "store/reader/ValueReader.h"
-#include "store/reader/FrameWriter.h"
 #include "store/TextForms.h"
+#include "store/reader/FrameWriter.h"
 
 #include <algorithm>
 #include <array>
