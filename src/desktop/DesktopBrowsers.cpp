@@ -15,10 +15,15 @@ std::shared_ptr<BrowserEngine> DesktopBrowsers::internalBrowser()
         mobjWBare = new BareBrowserWindow(mInternal);
         QObject::connect(mInternal.get(), &BrowserEngine::WindowClosing, mInternal.get(), [this] { forget(); });
     }
+    placeInternal();
     mobjWBare->show();
-    if (mMain)
-        mobjWBare->placeBeside(*mMain);
     return mInternal;
+}
+
+void DesktopBrowsers::placeInternal()
+{
+    if (mobjWBare && mMain)
+        mobjWBare->placeBeside(*mMain);
 }
 
 /// The user has closed the window: the next connecting makes a new one.

@@ -15,6 +15,8 @@ class DesktopBrowsers : public ChromiumFactory
     [[nodiscard]] std::shared_ptr<BrowserEngine> internalBrowser() override;
     /// The window beside which the browser's window opens.
     void standBeside(QWidget *main) { mMain = main; }
+    /// Puts the window of the built-in browser, if it is open, beside the main window.
+    void placeInternal();
 
   private:
     void forget();

@@ -58,6 +58,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     program.lifeCycle.settle();
     splash.close();
     window.show();
+    browsers.placeInternal();
     const int status = QApplication::exec();
     place.set(nullptr);
     return status;

@@ -68,7 +68,9 @@ void BareBrowserWindow::placeBeside(const QWidget &main)
     const int room = screen.right() - beside.right();
     const QSize size(qMin(usualSize.width(), qMax(room, leastSize.width())), qMin(usualSize.height(), screen.height()));
     const int left = qMin(beside.right() + 1, screen.right() + 1 - size.width());
-    setGeometry(QRect(QPoint(qMax(screen.left(), left), qMax(screen.top(), beside.top())), size));
+    // The place is that of the frame, so that the title bar stays on the screen.
+    resize(size);
+    move(qMax(screen.left(), left), qMax(screen.top(), beside.top()));
 }
 
 void BareBrowserWindow::closeEvent(QCloseEvent *event)

@@ -75,11 +75,11 @@ class WindowCase(trawlex.Case):
         self.positions = json.loads(found.stdout)
 
     def find_window(self):
-        """The main window is ours, visible, and larger than the splash."""
+        """The main window is ours, visible, larger than the splash, and not the built-in browser's."""
         for window in self.display.do("search", "--onlyvisible", "--pid", self.window.pid):
             geometry = dict(part.split("=") for part in
                             self.display.do("getwindowgeometry", "--shell", window) if "=" in part)
-            if int(geometry.get("HEIGHT", 0)) > 400:
+            if int(geometry.get("HEIGHT", 0)) > 400 and self.display.do("getwindowname", window) == ["Trawlex"]:
                 return window
         return None
 
@@ -149,8 +149,9 @@ class FreeStandingBrowser(WindowCase):
         time.sleep(3)
         self.click("cmdANStart")
         self.wait_for_summaries(3)
-        for window in self.display.do("search", "--onlyvisible", "--class", "hromium"):
-            self.display.do("windowclose", window)
+        browser = self.display.do("search", "--onlyvisible", "--class", "hromium")[-1]
+        self.display.do("windowactivate", "--sync", browser)
+        self.display.do("key", "alt+F4")
         self.assert_run_stands_still()
         self.assertIsNone(self.window.poll())
         self.click("cmdANInitialize")
