@@ -28,6 +28,20 @@ const QStringList &words()
     return list;
 }
 
+/// A word as texts have them: every other one is one of the most common, the rest hardly repeat.
+QString madeUpWord(std::mt19937 &engine)
+{
+    static const QStringList syllables =
+        u"ba con de ex fi gra hu in ju ket lo man ner or pla qui ros sta ter un ver wil xen yo zim ance tion ing er al"_s
+            .split(u' ');
+    if (engine() % 2 == 0)
+        return words()[int(engine() % unsigned(words().size()))];
+    QString word;
+    for (unsigned left = 2 + engine() % 3; left > 0; --left)
+        word += syllables[int(engine() % unsigned(syllables.size()))];
+    return word;
+}
+
 QString madeUpPage(std::mt19937 &engine)
 {
     const auto number = [&](int most) { return std::uniform_int_distribution<int>(0, most)(engine); };
@@ -40,7 +54,7 @@ QString madeUpPage(std::mt19937 &engine)
                 .arg(number(400))
                 .arg(number(99999));
         for (int word = 8 + number(14); word > 0; --word)
-            page += words()[number(int(words().size()) - 1)] + u' ';
+            page += madeUpWord(engine) + u' ';
         page += u"</a></p>\n"_s;
         if (paragraph % 300 == 7)
             page += u"Call (205) 555-%1 or write to desk%2@site%3.com now.\n"_s.arg(1000 + number(8999))
