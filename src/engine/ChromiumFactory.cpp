@@ -2,6 +2,7 @@
 #include "engine/ChromiumBrowser.h"
 #include "engine/ChromiumPage.h"
 #include "engine/ChromiumProgram.h"
+#include "engine/EngineErrors.h"
 #include "engine/Platform.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -10,6 +11,8 @@ namespace {
 
 constexpr std::chrono::seconds connectLimit{2};
 constexpr std::chrono::seconds closeLimit{5};
+// The window that is found may be closing; the next one may not.
+constexpr int attemptsAtMost = 3;
 
 } // namespace
 
@@ -28,13 +31,19 @@ ChromiumProfile &ChromiumFactory::profile()
 
 std::shared_ptr<BrowserEngine> ChromiumFactory::runningBrowser()
 {
-    const QUrl endpoint = profile().endpoint();
-    if (!endpoint.isValid())
-        return nullptr;
-    const std::shared_ptr<DevToolsConnection> connection = DevToolsConnection::open(endpoint, connectLimit);
-    if (!connection)
-        return nullptr;
-    return std::make_shared<ChromiumBrowser>(std::make_shared<ChromiumPage>(connection));
+    for (int attempt = 0; attempt < attemptsAtMost; ++attempt) {
+        const QUrl endpoint = profile().endpoint();
+        const auto connection = endpoint.isValid() ? DevToolsConnection::open(endpoint, connectLimit) : nullptr;
+        if (!connection)
+            break;
+        try {
+            return std::make_shared<ChromiumBrowser>(std::make_shared<ChromiumPage>(connection));
+        } catch (const RuntimeError &error) {
+            if (error.number() != EngineError::BrowserGone)
+                throw;
+        }
+    }
+    return nullptr;
 }
 
 void ChromiumFactory::start(const QString &programPath)

@@ -103,6 +103,7 @@ void ChromiumPage::breakOffBefore(const QString &address)
 
 void ChromiumPage::request()
 {
+    mLostProcess = false;
     const int number = mLoading.begin();
     mWatch.begin(mTargets.session());
     mConnection->send(mTargets.session(), "Page.navigate"_L1, {{u"url"_s, mRequested}},
@@ -121,7 +122,10 @@ void ChromiumPage::answered(int number, const DevToolsConnection::Answer &answer
         loadingEnded();
         break;
     case PageLoading::Verdict::Aborted:
-        settle(number);
+        if (mLostProcess)
+            requestAfterLoss();
+        else
+            settle(number);
         break;
     case PageLoading::Verdict::Wait:
         if (mLoading.isDocumentComing())
@@ -320,12 +324,28 @@ void ChromiumPage::onStartedNavigating(const QString &session, const QJsonObject
 
 void ChromiumPage::onStoppedLoading(const QString &session, const QJsonObject &params)
 {
-    if (session == mTargets.session() && params[u"frameId"].toString() == mTopFrame && mLoading.stopped())
+    if (session != mTargets.session() || params[u"frameId"].toString() != mTopFrame)
+        return;
+    if (mLoading.stopped())
         loadingEnded();
+    else if (mLoading.isMoving())
+        settleMove();
+}
+
+// The word of a move comes from the page itself, which answers in order; one that has not come with its answer to a
+// harmless question never will.
+void ChromiumPage::settleMove()
+{
+    mConnection->send(mTargets.session(), "Runtime.evaluate"_L1, {{u"expression"_s, u"0"_s}, {u"silent"_s, true}},
+                      whileAlive([this](const auto &) {
+                          if (mLoading.isMoving() && mLoading.cancel())
+                              loadingEnded();
+                      }));
 }
 
 void ChromiumPage::onProcessLost()
 {
+    mLostProcess = true;
     mReader.processLost();
     mDocuments.clear();
     if (mLoading.isDocumentComing())

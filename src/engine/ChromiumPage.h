@@ -80,6 +80,7 @@ class ChromiumPage : public QObject
     void request();
     void answered(int number, const DevToolsConnection::Answer &answer);
     void settle(int number);
+    void settleMove();
     void breakOffBefore(const QString &address);
     void requestAfterLoss();
     void onPageStuck();
@@ -102,6 +103,7 @@ class ChromiumPage : public QObject
     QString mAddress;
     QString mUnreachable;         // what the error page in place stands for
     QString mRequested;           // the latest Navigate
+    bool mLostProcess = false;    // since the latest request
     bool mRequestedAgain = false; // the page's process was lost during the latest Navigate
     bool mReplaced = false;       // the window has been replaced for the latest Navigate
     bool mClosed = false;

@@ -72,7 +72,7 @@ QJsonObject DevToolsConnection::call(const QString &session, QLatin1StringView m
     const auto answer = std::make_shared<std::optional<Answer>>();
     send(session, method, params, [answer](const Answer &given) { *answer = given; });
     waitUntil([&] { return answer->has_value(); }, QDeadlineTimer(limit));
-    if (!answer->has_value() && !mOpen)
+    if (!mOpen)
         throw RuntimeError(EngineError::BrowserGone, goneText);
     if (!answer->has_value())
         throw RuntimeError(EngineError::NoAnswer, u"The browser did not answer %1 in time."_s.arg(method));

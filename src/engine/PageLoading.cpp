@@ -66,7 +66,7 @@ bool PageLoading::documentLoaded(const QString &loader)
 // Also the end of a page whose load was broken off and of a request that came to nothing.
 bool PageLoading::stopped()
 {
-    return (mCommitted || mAnswered || mMoving) && end();
+    return (mCommitted || mAnswered) && end();
 }
 
 bool PageLoading::processLost()

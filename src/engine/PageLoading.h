@@ -29,6 +29,9 @@ class PageLoading
     /// True when the browser has the document and is about to put it in place; a loss of the process takes it along.
     [[nodiscard]] bool isDocumentComing() const { return isWaitingForDocument() && !mRequested.isEmpty(); }
 
+    /// True when the answer was a move within the page, of which there is no word yet.
+    [[nodiscard]] bool isMoving() const { return mLoading && mMoving; }
+
     /// A page has been asked for; what comes of earlier requests does not count. Gives the number that its answer is
     /// known by.
     int begin();

@@ -27,6 +27,12 @@ QJsonObject autoAttach(const QString &type)
             {u"filter"_s, QJsonArray{QJsonObject{{u"type"_s, type}}}}};
 }
 
+// A window that is just closing has no address.
+bool isUsable(const QString &address)
+{
+    return !address.isEmpty() && !address.startsWith("devtools:"_L1);
+}
+
 } // namespace
 
 void TargetWatch::attach()
@@ -47,12 +53,23 @@ void TargetWatch::attach()
 // A window that hangs takes no command at all, not even to break its script off.
 void TargetWatch::awaitPage()
 {
-    const auto ready = [this] { return mReady; };
-    if (mConnection.waitUntil(ready, QDeadlineTimer(pageLimit)))
-        return;
-    replaceWindow();
-    if (!mConnection.waitUntil(ready, QDeadlineTimer(callLimit)))
+    const auto settled = [this] { return mReady || mGone; };
+    if (!mConnection.waitUntil(settled, QDeadlineTimer(pageLimit)) && mConnection.isOpen()) {
+        replaceWindow();
+        mConnection.waitUntil(settled, QDeadlineTimer(callLimit));
+    }
+    if (mGone || !mConnection.isOpen())
+        throw RuntimeError(EngineError::BrowserGone, u"The browser's window was closed."_s);
+    if (!mReady)
         throw RuntimeError(EngineError::NoAnswer, u"The browser's window does not answer."_s);
+    keepOpen();
+}
+
+// A script may close a window that shows its first page; ours has shown another one before.
+void TargetWatch::keepOpen()
+{
+    if (mAddress == "about:blank"_L1)
+        mConnection.send(mSession, "Runtime.evaluate"_L1, {{u"expression"_s, u"history.pushState(null, '')"_s}});
 }
 
 QJsonObject TargetWatch::findPage()
@@ -61,7 +78,7 @@ QJsonObject TargetWatch::findPage()
     do {
         const QJsonObject answer = mConnection.call({}, "Target.getTargets"_L1, {{u"filter"_s, pagesOnly}}, callLimit);
         for (const QJsonValue each : answer[u"targetInfos"].toArray()) {
-            if (!each[u"url"].toString().startsWith("devtools:"_L1))
+            if (isUsable(each[u"url"].toString()))
                 return each.toObject();
         }
         mConnection.waitUntil([] { return false; }, QDeadlineTimer(betweenLooks));
@@ -124,7 +141,10 @@ void TargetWatch::takeReplacement(const QString &session, const QString &target)
     mSessions.clear();
     mFamily.insert(target);
     preparePage(session);
-    whenReady([this] { Q_EMIT windowReplaced(); });
+    whenReady([this] {
+        keepOpen();
+        Q_EMIT windowReplaced();
+    });
     mConnection.send({}, "Target.closeTarget"_L1, {{u"targetId"_s, old}});
 }
 
@@ -185,12 +205,18 @@ void TargetWatch::detached(const QJsonObject &params)
 {
     mSessions.remove(params[u"sessionId"].toString());
     if (params[u"sessionId"].toString() == mSession)
-        Q_EMIT windowClosed();
+        close();
 }
 
 void TargetWatch::destroyed(const QJsonObject &params)
 {
     if (params[u"targetId"].toString() == mTarget)
+        close();
+}
+
+void TargetWatch::close()
+{
+    if (!std::exchange(mGone, true))
         Q_EMIT windowClosed();
 }
 

@@ -47,6 +47,8 @@ class TargetWatch : public QObject
   private:
     [[nodiscard]] QJsonObject findPage();
     void awaitPage();
+    void keepOpen();
+    void close();
     void openReplacement(const QJsonObject &bounds);
     void takeReplacement(const QString &session, const QString &target);
     void preparePage(const QString &session);
@@ -62,5 +64,6 @@ class TargetWatch : public QObject
     QSet<QString> mSessions; // of our page and its frames
     QSet<QString> mFamily;   // our window and those that came from it
     bool mReady = false;     // our page has taken all commands
+    bool mGone = false;      // our window is closed
     bool mReplacing = false; // the next window that nobody has opened is ours
 };

@@ -13,6 +13,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
+// With this variable set, and a display, the browser shows its window.
+bool windowless()
+{
+    return qEnvironmentVariableIsEmpty("TRAWLEX_TEST_WINDOW");
+}
+
 struct Stage
 {
     Stage() { catchOtherPrograms(); }
@@ -35,7 +41,7 @@ struct Stage
     TestServer server;
     ChromiumFactory factory{{.dataFolder = folder.path(),
                              .userSwitches = {u"--host-resolver-rules=MAP *.test 127.0.0.1"_s},
-                             .headless = true}};
+                             .headless = windowless()}};
 };
 std::unique_ptr<Stage> stage;
 int pageNumber = 0;
@@ -134,7 +140,7 @@ std::shared_ptr<BrowserEngine> ChromiumTest::connect()
 
 std::shared_ptr<DevToolsConnection> ChromiumTest::backDoor()
 {
-    QFile file(dataFolder() + u"/browser-headless/DevToolsActivePort"_s);
+    QFile file(dataFolder() + (windowless() ? u"/browser-headless"_s : u"/browser"_s) + u"/DevToolsActivePort"_s);
     if (!file.open(QIODevice::ReadOnly))
         return nullptr;
     const QStringList lines = QString::fromLatin1(file.readAll()).split(u'\n');

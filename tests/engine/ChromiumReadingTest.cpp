@@ -171,8 +171,9 @@ TEST_F(ChromiumReading, TheWindowTakesItsPlaceAndSize)
     browser->setTop(30);
     browser->setWidth(700);
     browser->setHeight(500);
-    show("<body><script>document.title = [screenX, screenY, outerWidth, outerHeight].join()</script>");
-    EXPECT_EQ(str(browser->LocationName()), "40,30,700,500");
+    show("<title>-</title><script>setInterval(() => {"
+         "document.title = [screenX, screenY, outerWidth, outerHeight].join(); }, 20)</script>");
+    EXPECT_TRUE(waitForTitle(u"40,30,700,500"_s)) << str(browser->LocationName());
 }
 
 TEST_F(ChromiumReading, SavingIsTheUsersOwn)

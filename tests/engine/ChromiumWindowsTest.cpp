@@ -143,6 +143,9 @@ TEST_F(ChromiumWindows, TheUsersOwnWindowsAreLeftAlone)
 
 TEST_F(ChromiumWindows, APageCannotCloseOurWindow)
 {
+    factory().closeBrowser();
+    ASSERT_TRUE(waitFor([&] { return told.contains(u"closing"_s); }));
+    take(connect()); // nothing has been shown in its window
     show("<title>page</title><script>close(); open('', '_self').close()</script>");
     idle(300);
     EXPECT_FALSE(told.contains(u"closing"_s));
