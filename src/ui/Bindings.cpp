@@ -18,7 +18,6 @@
 
 using namespace Qt::StringLiterals;
 using Bindings::Bound;
-using Bindings::ReturnKey;
 
 namespace {
 /// Shows the caption on a button that was designed with `designed`: a caption that is the same but for its mnemonic
