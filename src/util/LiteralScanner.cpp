@@ -134,15 +134,16 @@ bool LiteralScanner::isSupported()
 #endif
 }
 
-LiteralScanner::LiteralScanner(const QStringList &texts, Qt::CaseSensitivity sensitivity)
+LiteralScanner::LiteralScanner(const QStringList &texts, Qt::CaseSensitivity sensitivity, qsizetype firstIndex)
     : mFolds(sensitivity == Qt::CaseInsensitive)
 {
+    Q_ASSERT(texts.size() <= mostTexts);
     mLiterals.reserve(size_t(texts.size()));
     for (qsizetype index = 0; index < texts.size(); ++index) {
         const QString &text = texts[index];
         const qsizetype units = std::min<qsizetype>(text.size(), windowSize);
         if (units > 0)
-            mLiterals.push_back({text, index, rarestWindow(text, units), units});
+            mLiterals.push_back({text, firstIndex + index, rarestWindow(text, units), units});
     }
     mWholePlan = planFor(nullptr);
 }
@@ -255,6 +256,8 @@ LiteralScanner::Pause LiteralScanner::scanWith(const Plan &plan, QStringView pag
 
 bool LiteralScanner::scan(QStringView page, OpenTexts &open) const
 {
+    if (std::none_of(mLiterals.begin(), mLiterals.end(), [&](const Literal &l) { return open.isOpen(l.index); }))
+        return true;
     Progress progress;
     Pause pause = scanWith(mWholePlan, page, open, progress);
     while (pause == Pause::Closed && !open.isDecided())

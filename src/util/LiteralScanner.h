@@ -11,13 +11,14 @@
 class LiteralScanner
 {
   public:
-    static constexpr qsizetype mostTexts = 64;
+    static constexpr qsizetype mostTexts = 40;
 
     /// False on processors without the instructions that it needs.
     [[nodiscard]] static bool isSupported();
 
     /// At most `mostTexts`; with case ignored they are lower-cased already. Empty texts are left out.
-    LiteralScanner(const QStringList &texts, Qt::CaseSensitivity sensitivity);
+    /// `firstIndex` is the index that the first of them has in the look.
+    LiteralScanner(const QStringList &texts, Qt::CaseSensitivity sensitivity, qsizetype firstIndex = 0);
 
     /// Reads `page` and closes each open text that it comes upon, until the look is decided. False when the page has so
     /// many places to compare that another method is better; the texts closed until then are right.
@@ -37,7 +38,7 @@ class LiteralScanner
     struct Literal
     {
         QString text;
-        qsizetype index;       // in the set
+        qsizetype index;       // in the look
         qsizetype windowBegin; // the place in the text of the units that the tables know
         qsizetype windowUnits;
     };

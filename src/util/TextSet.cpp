@@ -8,10 +8,20 @@ TextSet::TextSet(const QStringList &texts, Qt::CaseSensitivity sensitivity) : mT
 {
     if (sensitivity == Qt::CaseInsensitive)
         std::transform(mTexts.begin(), mTexts.end(), mTexts.begin(), cUtility::lowered);
-    if (mTexts.size() <= LiteralScanner::mostTexts && LiteralScanner::isSupported())
-        mScanner.emplace(mTexts, sensitivity);
-    else
+    constexpr qsizetype mostScanned = 8 * LiteralScanner::mostTexts;
+    if (mTexts.size() > mostScanned || !LiteralScanner::isSupported()) {
         mAutomaton.emplace(mTexts, sensitivity);
+        return;
+    }
+    for (qsizetype first = 0; first < mTexts.size(); first += LiteralScanner::mostTexts)
+        mScanners.emplace_back(mTexts.mid(first, LiteralScanner::mostTexts), sensitivity, first);
+}
+
+/// Reads `page` with the scanners; false when one of them gives it up.
+bool TextSet::scan(QStringView page, OpenTexts &open) const
+{
+    return std::all_of(mScanners.begin(), mScanners.end(),
+                       [&](const LiteralScanner &scanner) { return open.isDecided() || scanner.scan(page, open); });
 }
 
 qsizetype TextSet::look(QStringView page, Wanted wanted) const
@@ -22,11 +32,11 @@ qsizetype TextSet::look(QStringView page, Wanted wanted) const
     for (qsizetype index = 0; index < mTexts.size(); ++index)
         if (mTexts[index].isEmpty() && open.isOpen(index))
             open.close(index);
-    if (open.isDecided() || (mScanner && mScanner->scan(page, open)))
+    if (open.isDecided())
         return open.answer();
     if (mAutomaton)
         mAutomaton->scan(page, open);
-    else // the page is one that the scanner gives up on
+    else if (!scan(page, open))
         WordAutomaton(mTexts, mSensitivity).scan(page, open);
     return open.answer();
 }

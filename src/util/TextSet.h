@@ -25,9 +25,10 @@ class TextSet
 
   private:
     [[nodiscard]] qsizetype look(QStringView page, Wanted wanted) const;
+    [[nodiscard]] bool scan(QStringView page, OpenTexts &open) const;
 
     QStringList mTexts;
     Qt::CaseSensitivity mSensitivity;
-    std::optional<LiteralScanner> mScanner;  // for few texts
-    std::optional<WordAutomaton> mAutomaton; // for many
+    std::vector<LiteralScanner> mScanners;   // each for some of the texts
+    std::optional<WordAutomaton> mAutomaton; // for more texts than scanners are worth
 };

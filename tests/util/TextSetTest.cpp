@@ -83,7 +83,7 @@ TEST(TextSet, BothEnginesEqualThePlainVersionOnRandomInput)
     int scannedPages = 0;
     for (int round = randomRounds(); round > 0; --round) {
         const bool minded = random.oneIn(3);
-        QStringList texts = random.list(pieces, random.oneIn(20) ? 64 : 8, 4);
+        QStringList texts = random.list(pieces, random.oneIn(20) ? int(LiteralScanner::mostTexts) : 8, 4);
         texts.removeAll(QString()); // the set's own business
         if (!minded)
             std::transform(texts.begin(), texts.end(), texts.begin(), plain::LCase);
