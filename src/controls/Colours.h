@@ -11,8 +11,7 @@ constexpr Colour rgb(Colour red, Colour green, Colour blue)
     return red | green << 8U | blue << 16U;
 }
 
-namespace Colours
-{
+namespace Colours {
 constexpr Colour Red = 255;
 constexpr Colour Green = 65280;
 constexpr Colour Yellow = 65535;

@@ -4,8 +4,7 @@
 
 #include <QSet>
 
-namespace
-{
+namespace {
 bool isBlank(const QString &text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });

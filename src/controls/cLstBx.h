@@ -5,8 +5,7 @@
 
 #include <QStringList>
 
-namespace cLstBx
-{
+namespace cLstBx {
 enum class Which { All, Selected };
 
 /// The items in order, or the selected ones; items of blanks only are skipped. The empty list if nothing is left.

@@ -7,8 +7,7 @@
 using namespace Qt::StringLiterals;
 using Style = ComboBox::Style;
 
-namespace
-{
+namespace {
 void fill(ListControl &list, const QStringList &items)
 {
     for (const QString &item : items)

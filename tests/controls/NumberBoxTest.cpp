@@ -6,8 +6,7 @@
 using namespace Qt::StringLiterals;
 using Direction = NumberBox::Direction;
 
-namespace
-{
+namespace {
 struct NumberBoxes : testing::Test
 {
     NumberBox box{u"incANTiming"_s, nullptr};

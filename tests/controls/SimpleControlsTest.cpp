@@ -1,5 +1,5 @@
-#include "controls/ControlArray.h"
 #include "controls/SimpleControls.h"
+#include "controls/ControlArray.h"
 #include "controls/SignalCount.h"
 
 #include <gtest/gtest.h>
