@@ -14,7 +14,7 @@ namespace {
 constexpr int patience = 10'000;
 constexpr int slice = 100;
 // A damaged file can send the library round in circles, complaining at each turn. No readable file has so many faults.
-constexpr qint64 mostComplaints = 256 * 1024;
+constexpr qint64 mostComplaints = 262'144;
 constexpr qsizetype headLength = 5;
 
 // The reader stands beside the program or, installed, in the folder for programs that only programs start.
@@ -23,7 +23,7 @@ QString readerProgram()
     const QString self = QFileInfo(u"/proc/self/exe"_s).symLinkTarget();
     const QString folder =
         QCoreApplication::instance() != nullptr ? QCoreApplication::applicationDirPath() : QFileInfo(self).path();
-    const QString program = QStandardPaths::findExecutable(
+    QString program = QStandardPaths::findExecutable(
         u"trawlex-mdb-reader"_s, {folder, folder + "/../libexec/trawlex"_L1, folder + "/../lib/trawlex"_L1});
     if (program.isEmpty())
         throw RuntimeError(ErrorNumber::FileNotFound, u"trawlex-mdb-reader is not installed."_s);

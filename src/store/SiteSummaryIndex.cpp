@@ -33,7 +33,7 @@ SiteSummaryIndex::~SiteSummaryIndex() = default;
 
 qint64 SiteSummaryIndex::find(cAdoMdb &database, const QString &key, const QString &keyServer)
 {
-    const std::shared_ptr<Connection> connection = database.connection();
+    const std::shared_ptr<Connection> &connection = database.connection();
     if (!connection)
         throw AdoError::error(AdoError::ConnectionClosed);
     refresh(connection);
