@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr QSize usualSize(1024, 768);
 constexpr QSize leastSize(480, 360);
+constexpr QSize usualFrame(8, 40);
 
 QString withProtocol(const QString &url)
 {
@@ -66,11 +67,15 @@ void BareBrowserWindow::placeBeside(const QWidget &main)
     const QRect screen = main.screen()->availableGeometry();
     const QRect beside = main.frameGeometry();
     const int room = screen.right() - beside.right();
-    const QSize size(qMin(usualSize.width(), qMax(room, leastSize.width())), qMin(usualSize.height(), screen.height()));
-    const int left = qMin(beside.right() + 1, screen.right() + 1 - size.width());
-    // The place is that of the frame, so that the title bar stays on the screen.
-    resize(size);
-    move(qMax(screen.left(), left), qMax(screen.top(), beside.top()));
+    // The place is that of the frame, so that the title bar stays on the screen; what is resized is within the frame,
+    // whose width is a guess until the window is shown.
+    const QSize frame = isVisible() ? frameGeometry().size() - size() : usualFrame;
+    const QSize least = leastSize + frame;
+    const QSize whole(qMin(usualSize.width(), qMax(room, least.width())), qMin(usualSize.height(), screen.height()));
+    resize(whole - frame);
+    const int left = qMin(beside.right() + 1, screen.right() + 1 - whole.width());
+    const int top = qMin(beside.top(), screen.bottom() + 1 - whole.height());
+    move(qMax(screen.left(), left), qMax(screen.top(), top));
 }
 
 void BareBrowserWindow::closeEvent(QCloseEvent *event)

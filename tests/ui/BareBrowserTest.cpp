@@ -81,11 +81,20 @@ TEST_F(BareBrowser, TellsTheEngineOnceThatItIsClosed)
 
 TEST_F(BareBrowser, StandsBesideTheMainWindowOnTheScreen)
 {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     QWidget main;
-    main.setGeometry(0, 0, 200, 400);
+    main.setGeometry(10, 10, 200, 400);
     main.show();
-    window.placeBeside(main);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&main));
     const QRect screen = window.screen()->availableGeometry();
-    EXPECT_GE(window.geometry().left(), qMin(200, screen.right() + 1 - window.width()));
-    EXPECT_TRUE(screen.contains(window.geometry()));
+    for (const int left : {10, 700}) {
+        main.move(left, 10);
+        window.placeBeside(main);
+        const QRect place = window.frameGeometry();
+        EXPECT_TRUE(screen.contains(place)) << place.left() << ' ' << place.top() << ' ' << place.width() << ' '
+                                            << place.height() << " on " << screen.width() << ' ' << screen.height();
+        if (left == 10) {
+            EXPECT_EQ(place.left(), main.frameGeometry().right() + 1);
+        }
+    }
 }
