@@ -14,8 +14,7 @@ QString GetRKAppName(const QString &programName, const QString &programFolder)
     return u"(%1 - %2)\\%3"_s.arg(programName, user, folder);
 }
 
-namespace
-{
+namespace {
 /// The store nests one level at the backslash; "/" is its own separator and so never part of a name.
 QString address(QString appName, QString section, QString key)
 {

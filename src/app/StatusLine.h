@@ -13,8 +13,8 @@ class StatusLine : public QObject
 
     explicit StatusLine(frmSearch &form) : mForm(form) {}
 
-    /// Prints `text` followed by "..." and sets the tool tip, or none while tool tips are off. An empty text changes the
-    /// tool tip alone.
+    /// Prints `text` followed by "..." and sets the tool tip, or none while tool tips are off. An empty text changes
+    /// the tool tip alone.
     void UpDateStatus(const QString &text, const QString &tip = standardTip);
 
   Q_SIGNALS:

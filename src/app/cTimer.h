@@ -1,5 +1,5 @@
-// The countdown that paces a run. A wait keeps the event loop turning, so that buttons, browser events and the ending of
-// the program are handled in it; between the ticks it sleeps.
+// The countdown that paces a run. A wait keeps the event loop turning, so that buttons, browser events and the ending
+// of the program are handled in it; between the ticks it sleeps.
 #pragma once
 
 #include "app/Ports.h"

@@ -2,8 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto dropDownList = ComboBox::Style::DropDownList;
 
 void fill(ComboBox &combo, std::initializer_list<QLatin1StringView> items)

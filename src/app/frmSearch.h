@@ -1,5 +1,6 @@
-// The main window's state as a passive object: the named controls, flags and arrays through which the runs, the window's
-// events and the status display talk to one another. What is done with them lives in the classes above. Knows controls.
+// The main window's state as a passive object: the named controls, flags and arrays through which the runs, the
+// window's events and the status display talk to one another. What is done with them lives in the classes above. Knows
+// controls.
 #pragma once
 
 #include "controls/ControlArray.h"
@@ -73,10 +74,10 @@ class frmSearch : public QObject
     bool mbPassUrlsLoaded = false; ///< cboANSavedUrls shows PassUrls
 
     // The walk. Arrays are never without elements; empty is one "".
-    QStringList mastrLinks = emptyList();        ///< the addresses that the Auto run walks
-    int mlngANLinkIndex = 0;                     ///< survives a stop, so that Go resumes
-    QStringList mastrSavedUrlIds = emptyList();  ///< name, line end, address; same order as cboANSavedUrls
-    QStringList mastrQB = emptyList();           ///< Quick Block texts
-    QString mstrANStartUrl;                      ///< where "Return to start page on finish." leads
-    int mlngAutoCollectState = 0;                ///< 0 to 11
+    QStringList mastrLinks = emptyList();       ///< the addresses that the Auto run walks
+    int mlngANLinkIndex = 0;                    ///< survives a stop, so that Go resumes
+    QStringList mastrSavedUrlIds = emptyList(); ///< name, line end, address; same order as cboANSavedUrls
+    QStringList mastrQB = emptyList();          ///< Quick Block texts
+    QString mstrANStartUrl;                     ///< where "Return to start page on finish." leads
+    int mlngAutoCollectState = 0;               ///< 0 to 11
 };

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 [[noreturn]] void refuse(const QString &text)
 {
     throw RuntimeError(ErrorNumber::InvalidProcedureCall, text);
@@ -95,9 +94,7 @@ Arguments parseArguments(const QStringList &words)
             refuse(u"%1 wants a value"_s.arg(name));
         if (!option->hasValue && attached)
             refuse(u"%1 takes no value"_s.arg(name));
-        option->take(arguments, !option->hasValue ? QString()
-                                : attached        ? words[i].section(u'=', 1)
-                                                  : words[++i]);
+        option->take(arguments, !option->hasValue ? QString() : attached ? words[i].section(u'=', 1) : words[++i]);
     }
     if (!arguments.run && !arguments.help)
         refuse(u"one of --auto and --manual is wanted (see --help)"_s);

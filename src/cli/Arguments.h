@@ -15,8 +15,8 @@ struct Arguments
         QString value;
     };
 
-    QString databaseDir;          ///< "" for the stored one; ends in the separator otherwise
-    std::optional<int> browser;   ///< index in cboANWBSelect; nothing for the stored one
+    QString databaseDir;        ///< "" for the stored one; ends in the separator otherwise
+    std::optional<int> browser; ///< index in cboANWBSelect; nothing for the stored one
     bool headless = false;
     QStringList browserArgs;
     QString open;

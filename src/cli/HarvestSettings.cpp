@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto nameKey = "DatabaseName"_L1;
 }
 

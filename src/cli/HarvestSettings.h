@@ -1,5 +1,5 @@
-// The user's settings as a harvest from the terminal sees them: read from the window program's store, with the folder and
-// the browser of the command line in their place. Nothing of the user's options is changed.
+// The user's settings as a harvest from the terminal sees them: read from the window program's store, with the folder
+// and the browser of the command line in their place. Nothing of the user's options is changed.
 #pragma once
 
 #include "app/IniSettings.h"

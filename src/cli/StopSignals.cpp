@@ -5,8 +5,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-namespace
-{
+namespace {
 int sockets[2] = {-1, -1};
 
 // A handler may do next to nothing; one byte wakes the event loop.

@@ -1,5 +1,5 @@
-// The terminal's wish to end (Ctrl+C, the system going down) as an event of the event loop. The only place of this program
-// that speaks to the operating system itself.
+// The terminal's wish to end (Ctrl+C, the system going down) as an event of the event loop. The only place of this
+// program that speaks to the operating system itself.
 #pragma once
 
 #include <QObject>

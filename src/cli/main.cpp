@@ -17,8 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 enum ExitStatus { Finished = 0, OtherEnd = 1, BadArguments = 2 };
 constexpr auto windowProgram = "trawlex"_L1;
 constexpr qint64 openLimit = 60'000;

@@ -4,8 +4,7 @@
 #include <QDir>
 #include <QStandardPaths>
 
-namespace
-{
+namespace {
 QString lockPath(const QString &appName)
 {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr QSize splashSize(360, 160);
 
 QPixmap ground()

@@ -19,8 +19,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 void connectWindow(Program &program, MainWindow &window)
 {
     QObject::connect(&window, &MainWindow::closeRequested, &program.lifeCycle, &LifeCycle::Terminate);
@@ -86,7 +85,8 @@ int main(int argc, char *argv[])
         return 0;
     if (mode.kind == StartMode::Kind::PictureBrowser) {
         splash.close();
-        QtDialogs().tell(u"Trawlex"_s, u"This version has no picture browser yet. Started without a file it harvests."_s);
+        QtDialogs().tell(u"Trawlex"_s,
+                         u"This version has no picture browser yet. Started without a file it harvests."_s);
         return 0;
     }
     return runHarvester(appName, switches, splash);

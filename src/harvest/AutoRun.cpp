@@ -4,8 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr int serversOnlyOption = 0;
 constexpr int returnToStartOption = 2;

@@ -1,6 +1,6 @@
-// The Auto run: takes the result links of a page, or of one saved result page after the other, visits them at the pace of
-// the countdown and screens each page. One synchronous loop; buttons, browser events and the end of the program run inside
-// its waits and reach it through the flags of frmSearch alone. Knows lists.
+// The Auto run: takes the result links of a page, or of one saved result page after the other, visits them at the pace
+// of the countdown and screens each page. One synchronous loop; buttons, browser events and the end of the program run
+// inside its waits and reach it through the flags of frmSearch alone. Knows lists.
 #pragma once
 
 #include "harvest/PageScreening.h"

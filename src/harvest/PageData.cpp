@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 enum SaveType { Html = 0, Text = 1, Links = 2 };
 

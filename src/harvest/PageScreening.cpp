@@ -8,8 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr int urlIfNoData = 7;
 constexpr QStringView errorPageTexts[] = {u"not found",          u"404",        u"page missing",
@@ -47,7 +46,8 @@ template <class Decide> bool runTest(const TextTest &test, PageReading &page, De
             if (firstOf(items).isEmpty())
                 items.clear();
         }
-        decision = decide(page.html(), items, demand, test.caseSensitive.isOn() ? Qt::CaseSensitive : Qt::CaseInsensitive);
+        decision =
+            decide(page.html(), items, demand, test.caseSensitive.isOn() ? Qt::CaseSensitive : Qt::CaseInsensitive);
         if (demand != Demand::Select && decision.decidedBy >= 0)
             test.list.setSelected(static_cast<int>(decision.decidedBy), true);
     }
@@ -82,7 +82,8 @@ void PageScreening::PageNotFound(PageReading &page)
             return;
         const bool isErrorPage =
             std::any_of(std::begin(errorPageTexts), std::end(errorPageTexts), [&](QStringView text) {
-                return cUtility::holdsIgnoringCase(page.html(), text) || cUtility::holdsIgnoringCase(page.title(), text);
+                return cUtility::holdsIgnoringCase(page.html(), text) ||
+                       cUtility::holdsIgnoringCase(page.title(), text);
             });
         if (!isErrorPage)
             return;
@@ -118,12 +119,12 @@ bool PageScreening::IsMNCGo(PageReading &page)
 void PageScreening::CollectData(PageReading &page)
 {
     guarded(mLog, {module, "Sub CollectData"_L1}, [&] {
-        const bool wantPage = mForm.chkSavePages.isOn() &&
-                              (mForm.chkSaveToFile.value() == 1 || mForm.chkSaveToSS.value() == 1);
+        const bool wantPage =
+            mForm.chkSavePages.isOn() && (mForm.chkSaveToFile.value() == 1 || mForm.chkSaveToSS.value() == 1);
         const qint64 least = mForm.incSMDMinHtmlSize.value();
         if (least > 0 && page.html().size() < least) {
-            for (Label *lamp : {&mForm.lblSummarySaved, &mForm.lblPageSaved, &mForm.lblEmailSaved,
-                                &mForm.lblPhoneSaved, &mForm.lblUrlSaved})
+            for (Label *lamp : {&mForm.lblSummarySaved, &mForm.lblPageSaved, &mForm.lblEmailSaved, &mForm.lblPhoneSaved,
+                                &mForm.lblUrlSaved})
                 lamp->setBackColor(Colours::ButtonFace);
             mStatus.UpDateStatus(u"Insufficient Size"_s);
             return;

@@ -19,8 +19,8 @@ class ResultWriters
     [[nodiscard]] int SaveSummary(PageReading &page);
     /// The page as a file of its own, or at the end of the one file. True if it was written.
     [[nodiscard]] bool SaveFile(PageReading &page);
-    /// The page's address in the PassUrls of the list in force. These three: True if at least one row was added; an error
-    /// on the way is False, whatever was added before it.
+    /// The page's address in the PassUrls of the list in force. These three: True if at least one row was added; an
+    /// error on the way is False, whatever was added before it.
     [[nodiscard]] bool SavePassUrl(PageReading &page);
     [[nodiscard]] bool SaveEmail(PageReading &page);
     [[nodiscard]] bool SavePhone(PageReading &page);

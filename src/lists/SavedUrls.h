@@ -17,14 +17,14 @@ class SavedUrls
     SavedUrls(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, SettingsStore &settings,
               DatabaseHolder &database, BrowserHolder &browser, SiteRecords &records, Navigation &navigation);
 
-    /// Looks into mastrSavedUrlIds: the element at `index`, or with a negative one the element equal to `item`, else the
-    /// one named `name`, else the one of address `url`; "" if there is none.
+    /// Looks into mastrSavedUrlIds: the element at `index`, or with a negative one the element equal to `item`, else
+    /// the one named `name`, else the one of address `url`; "" if there is none.
     [[nodiscard]] QString GetSavedUrl(Answer answer, int index, const QString &item, const QString &name,
                                       const QString &url);
     /// Fills box and array from the table of the list letter in force; a row without a name gets one.
     void LoadSavedUrls(Kind kind);
-    /// A name that the table of that kind has not yet: "PassUrl-100" or "Results-100" and on. `table` replaces the table
-    /// where it is not empty.
+    /// A name that the table of that kind has not yet: "PassUrl-100" or "Results-100" and on. `table` replaces the
+    /// table where it is not empty.
     [[nodiscard]] QString GetNewMaskName(Kind kind, const QString &table = {});
     /// A new name for `url`, or "" if the table holds it already.
     [[nodiscard]] QString ExistsSavedUrl(const QString &url, const QString &table);

@@ -8,8 +8,7 @@
 #include <QRegularExpression>
 #include <cmath>
 
-namespace
-{
+namespace {
 bool isEmptyField(const QStringList &values)
 {
     return firstOf(values).isEmpty();

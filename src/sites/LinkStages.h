@@ -1,5 +1,5 @@
-// The filter chain that tells result links from the rest of a page, one function a stage: links in, links out, in document
-// order. No stage looks at the page. A list that has lost all its links is the empty list.
+// The filter chain that tells result links from the rest of a page, one function a stage: links in, links out, in
+// document order. No stage looks at the page. A list that has lost all its links is the empty list.
 //
 // Values are the filled slots of a record's field; a list whose element 0 is "" means that the field is empty, and the
 // stage gives a copy.
@@ -7,8 +7,7 @@
 
 #include <QStringList>
 
-namespace LinkStages
-{
+namespace LinkStages {
 /// The links between those that hold a begin text and those that hold an end text (ignoring case). Without begin texts
 /// the link with the end text is left out; with them it is the last one taken.
 [[nodiscard]] QStringList startStop(const QStringList &links, const QStringList &begin, const QStringList &end);

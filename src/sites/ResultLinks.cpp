@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr int convertHexOption = 1;
 constexpr int uniqueServersOption = 9;

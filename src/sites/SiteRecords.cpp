@@ -8,8 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr auto valueMarker = "<~Dorv~>"_L1;
 constexpr int slots = 5;
@@ -22,11 +21,11 @@ struct FieldRow
 };
 
 constexpr FieldRow fieldRows[] = {
-    {SiteField::CnvHex, "CnvHex"_L1, false},  {SiteField::UrlLen, "UrlLen"_L1, false},
-    {SiteField::Group, "Group"_L1, false},    {SiteField::Url, "Url"_L1, true},
+    {SiteField::CnvHex, "CnvHex"_L1, false},    {SiteField::UrlLen, "UrlLen"_L1, false},
+    {SiteField::Group, "Group"_L1, false},      {SiteField::Url, "Url"_L1, true},
     {SiteField::BeginUrl, "BeginUrl"_L1, true}, {SiteField::EndUrl, "EndUrl"_L1, true},
-    {SiteField::UrlMC, "UrlMC"_L1, true},     {SiteField::UrlMNC, "UrlMNC"_L1, true},
-    {SiteField::BUrlCol, "BUrlCol"_L1, true}, {SiteField::EUrlCol, "EUrlCol"_L1, true},
+    {SiteField::UrlMC, "UrlMC"_L1, true},       {SiteField::UrlMNC, "UrlMNC"_L1, true},
+    {SiteField::BUrlCol, "BUrlCol"_L1, true},   {SiteField::EUrlCol, "EUrlCol"_L1, true},
 };
 
 QString slotName(QLatin1StringView family, int slot)
@@ -51,7 +50,8 @@ QStringList SiteRecords::GetSearchSiteData(const QString &site, SiteField field)
                                        [&](const FieldRow &candidate) { return candidate.number == field; });
         if (row == std::end(fieldRows))
             return;
-        const Recordset record = mDatabase->GetRecordset("SELECT * FROM SearchSites WHERE SiteName='"_L1 + site + u'\'');
+        const Recordset record =
+            mDatabase->GetRecordset("SELECT * FROM SearchSites WHERE SiteName='"_L1 + site + u'\'');
         if (record.Bof() && record.Eof())
             return;
         QStringList found;
@@ -97,7 +97,8 @@ bool SiteRecords::IsSiteDataSaved()
 QString SiteRecords::GetSiteNameFromUrl(const QString &address)
 {
     return guardedResult(mLog, {module, "Function GetSiteNameFromUrl"_L1}, QString(), [&](QString &name) {
-        const bool proceeds = address.isEmpty() ? IsSiteDataSaved() : cIEText::IsThisEmailOrLink(address, true) == cIEText::TextKind::Link;
+        const bool proceeds = address.isEmpty() ? IsSiteDataSaved()
+                                                : cIEText::IsThisEmailOrLink(address, true) == cIEText::TextKind::Link;
         if (proceeds)
             findServer(address.isEmpty() ? pageServer() : address,
                        [&](const Recordset &record) { name = FixNull(record.Fields()["SiteName"_L1]); });

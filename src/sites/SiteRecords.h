@@ -31,8 +31,8 @@ class SiteRecords
     {
     }
 
-    /// The values of `field` in the record of `site`: the filled slots of a family in slot order, packed. The empty list
-    /// without a record or for a field that cannot be read.
+    /// The values of `field` in the record of `site`: the filled slots of a family in slot order, packed. The empty
+    /// list without a record or for a field that cannot be read.
     [[nodiscard]] QStringList GetSearchSiteData(const QString &site, SiteField field);
     /// The server of the page on show belongs to a record.
     [[nodiscard]] bool IsSiteDataSaved();

@@ -1,5 +1,5 @@
-// The form that lists of texts have everywhere: "empty" is one element holding "", so that element 0 can be read without
-// a test. A list without any element stands for an array that was never dimensioned: reading it is an error.
+// The form that lists of texts have everywhere: "empty" is one element holding "", so that element 0 can be read
+// without a test. A list without any element stands for an array that was never dimensioned: reading it is an error.
 #pragma once
 
 #include "util/Errors.h"

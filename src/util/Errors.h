@@ -6,8 +6,7 @@
 #include <exception>
 
 /// The error numbers that the rules name.
-namespace ErrorNumber
-{
+namespace ErrorNumber {
 constexpr qint64 InvalidProcedureCall = 5;
 constexpr qint64 OutOfMemory = 7;
 constexpr qint64 SubscriptOutOfRange = 9;

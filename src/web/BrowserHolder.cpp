@@ -3,8 +3,7 @@
 cIEObject *BrowserHolder::operator->() const
 {
     if (!mobjIE)
-        throw RuntimeError(ErrorNumber::ObjectNotSet,
-                           QStringLiteral("Object variable or With block variable not set"));
+        throw RuntimeError(ErrorNumber::ObjectNotSet, QStringLiteral("Object variable or With block variable not set"));
     return mobjIE.get();
 }
 

@@ -4,15 +4,15 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto fileProtocol = "file:///"_L1;
 constexpr int internalBrowser = 0;
 
 /// The built-in browser opens what names no protocol of its own as a web address.
 QString forInternalBrowser(const QString &url)
 {
-    const bool named = url.startsWith("http"_L1, Qt::CaseInsensitive) || url.startsWith(fileProtocol, Qt::CaseInsensitive);
+    const bool named =
+        url.startsWith("http"_L1, Qt::CaseInsensitive) || url.startsWith(fileProtocol, Qt::CaseInsensitive);
     return named ? url : "http://"_L1 + url;
 }
 } // namespace

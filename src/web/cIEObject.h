@@ -15,8 +15,8 @@ class cIEObject : public QObject
     cIEObject(ErrorReceiver &log, Desktop &desktop, ClipboardText &clipboard, BrowserFactory &browsers);
     ~cIEObject() override;
 
-    /// Takes `browser`, or the running one if that is nothing. True once a browser has been taken, also when a later call
-    /// finds none; what is then asked of the browser is error 91.
+    /// Takes `browser`, or the running one if that is nothing. True once a browser has been taken, also when a later
+    /// call finds none; what is then asked of the browser is error 91.
     bool InitializeObject(std::shared_ptr<BrowserEngine> browser);
     /// A free-standing window of ours that runs already, or nothing.
     [[nodiscard]] std::shared_ptr<BrowserEngine> GetActiveBrowser();

@@ -1,5 +1,5 @@
-// The life of the program between its start and its end: what is loaded in which order, and how it all ends, also in the
-// middle of a run.
+// The life of the program between its start and its end: what is loaded in which order, and how it all ends, also in
+// the middle of a run.
 #pragma once
 
 #include "app/cTimer.h"

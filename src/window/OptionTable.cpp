@@ -2,8 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr auto change = SettingRow::Saved::AtChange;
 constexpr auto atExit = SettingRow::Saved::AtExit;
 

@@ -23,7 +23,8 @@ struct SwitchRow
     QLatin1StringView off;
 };
 
-/// In the order in which they are loaded; `lastBeforeDirectories` is followed by the directories and the database's name.
+/// In the order in which they are loaded; `lastBeforeDirectories` is followed by the directories and the database's
+/// name.
 inline constexpr QLatin1StringView lastBeforeDirectories{"SearchKeyTxtStopTag Text"};
 [[nodiscard]] std::span<const SettingRow> settingRows();
 /// In the order in which they are written when the program ends.

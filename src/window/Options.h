@@ -1,5 +1,5 @@
-// The options as the user sees them: loaded from the settings store at start, written when they are turned, reported in the
-// status bar.
+// The options as the user sees them: loaded from the settings store at start, written when they are turned, reported in
+// the status bar.
 #pragma once
 
 #include "app/ErrorLog.h"

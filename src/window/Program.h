@@ -1,5 +1,5 @@
-// The wiring: makes the objects that need no toolkit, in the order in which they need one another, and connects them. Both
-// programs hold one Program and bring the ports.
+// The wiring: makes the objects that need no toolkit, in the order in which they need one another, and connects them.
+// Both programs hold one Program and bring the ports.
 #pragma once
 
 #include "app/ErrorLog.h"

@@ -7,7 +7,8 @@
 
 QString dataFolder()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/trawlex");
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/trawlex");
     QDir().mkpath(folder);
     return folder;
 }

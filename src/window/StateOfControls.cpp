@@ -4,8 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr int autoTabIndex = 0;
 constexpr int settingsTabIndex = 2;
 
@@ -17,7 +16,8 @@ constexpr QLatin1StringView untouchedNames[] = {"chkSMA("_L1, "chkSMD("_L1, "chk
 
 template <std::size_t count> bool startsWithOneOf(const QString &name, const QLatin1StringView (&starts)[count])
 {
-    return std::any_of(std::begin(starts), std::end(starts), [&](QLatin1StringView start) { return name.startsWith(start); });
+    return std::any_of(std::begin(starts), std::end(starts),
+                       [&](QLatin1StringView start) { return name.startsWith(start); });
 }
 } // namespace
 
@@ -37,9 +37,9 @@ void StateOfControls::SetStateOfControls()
                 autoTab(plan, facts);
             plan[&mForm.chkSaveEmail] = facts.idle;
             if (mForm.sstSearch.tab() == settingsTabIndex) {
-                for (Control *control : {static_cast<Control *>(&mForm.chkSaveToFile),
-                                         static_cast<Control *>(&mForm.chkSaveToSS),
-                                         static_cast<Control *>(&mForm.txtSBSelAreaCodes)})
+                for (Control *control :
+                     {static_cast<Control *>(&mForm.chkSaveToFile), static_cast<Control *>(&mForm.chkSaveToSS),
+                      static_cast<Control *>(&mForm.txtSBSelAreaCodes)})
                     plan[control] = facts.idle;
                 plan[&mForm.chkPutInOneFile] = facts.idle && mForm.chkSaveToFile.value() == 1;
             }
@@ -55,9 +55,10 @@ StateOfControls::Plan StateOfControls::allOff() const
         if (!startsWithOneOf(control->name(), untouchedPrefixes) && !startsWithOneOf(control->name(), untouchedNames))
             plan[control] = false;
     }
-    for (Control *control : {static_cast<Control *>(&mForm.lblAutoIncrPos), static_cast<Control *>(&mForm.lblAutoPgUrls),
-                             static_cast<Control *>(&mForm.lblAutoCollect), static_cast<Control *>(&mForm.incMNAutoUrl),
-                             static_cast<Control *>(&mForm.incMNStep)})
+    for (Control *control :
+         {static_cast<Control *>(&mForm.lblAutoIncrPos), static_cast<Control *>(&mForm.lblAutoPgUrls),
+          static_cast<Control *>(&mForm.lblAutoCollect), static_cast<Control *>(&mForm.incMNAutoUrl),
+          static_cast<Control *>(&mForm.incMNStep)})
         plan[control] = false;
     return plan;
 }
@@ -65,15 +66,14 @@ StateOfControls::Plan StateOfControls::allOff() const
 void StateOfControls::anyTab(Plan &plan, const Facts &facts)
 {
     Label &timer = mForm.lblTrawlexTimer;
-    timer.setBackColor(facts.autoRun     ? Colours::Red
-                       : facts.manualRun ? Colours::Blue
-                                         : Colours::ButtonFace);
+    timer.setBackColor(facts.autoRun ? Colours::Red : facts.manualRun ? Colours::Blue : Colours::ButtonFace);
     timer.setForeColor(facts.idle ? Colours::WindowText : Colours::White);
     plan[&mForm.cmdANStart] = !facts.manualRun;
     plan[&mForm.cmdMNStart] = !facts.autoRun;
-    for (Control *control : {static_cast<Control *>(&mForm.lblAutoIncrPos), static_cast<Control *>(&mForm.lblAutoPgUrls),
-                             static_cast<Control *>(&mForm.lblAutoCollect), static_cast<Control *>(&mForm.chkSMA(3)),
-                             static_cast<Control *>(&mForm.cboANList)})
+    for (Control *control :
+         {static_cast<Control *>(&mForm.lblAutoIncrPos), static_cast<Control *>(&mForm.lblAutoPgUrls),
+          static_cast<Control *>(&mForm.lblAutoCollect), static_cast<Control *>(&mForm.chkSMA(3)),
+          static_cast<Control *>(&mForm.cboANList)})
         plan[control] = facts.idle;
 }
 
@@ -82,7 +82,8 @@ void StateOfControls::withoutOutput(Plan &plan)
 {
     const CheckBox *outputs[] = {&mForm.chkSaveSummary, &mForm.chkSavePages, &mForm.chkSaveUrl,
                                  &mForm.chkSaveEmail,   &mForm.chkSavePhone, &mForm.chkMCMNCStop};
-    const bool any = std::any_of(std::begin(outputs), std::end(outputs), [](const CheckBox *box) { return box->isOn(); });
+    const bool any =
+        std::any_of(std::begin(outputs), std::end(outputs), [](const CheckBox *box) { return box->isOn(); });
     if (!any) {
         for (CheckBox *box : {&mForm.chkMustContain, &mForm.chkMCCS, &mForm.chkMustNotContain, &mForm.chkMNCCS})
             box->setValue(0);
@@ -130,10 +131,9 @@ void StateOfControls::criteria(Plan &plan)
 
 void StateOfControls::saving(Plan &plan, const Facts &facts)
 {
-    for (Control *control :
-         {static_cast<Control *>(&mForm.chkSavePhone), static_cast<Control *>(&mForm.chkSaveSummary),
-          static_cast<Control *>(&mForm.lblAutoPgUrls), static_cast<Control *>(&mForm.chkSavePages),
-          static_cast<Control *>(&mForm.chkMCMNCStop)})
+    for (Control *control : {static_cast<Control *>(&mForm.chkSavePhone), static_cast<Control *>(&mForm.chkSaveSummary),
+                             static_cast<Control *>(&mForm.lblAutoPgUrls), static_cast<Control *>(&mForm.chkSavePages),
+                             static_cast<Control *>(&mForm.chkMCMNCStop)})
         plan[control] = facts.idle;
     const bool savesPages = facts.idle && mForm.chkSavePages.value() == 1;
     for (Control *control : {static_cast<Control *>(&mForm.txtANStartTag), static_cast<Control *>(&mForm.txtANStopTag),

@@ -1,8 +1,9 @@
-// Decides which controls may be used in which state: named facts, then one row a control, then one loop that applies them.
+// Decides which controls may be used in which state: named facts, then one row a control, then one loop that applies
+// them.
 #pragma once
 
-#include "app/frmSearch.h"
 #include "app/Ports.h"
+#include "app/frmSearch.h"
 #include "util/Errors.h"
 
 #include <QHash>

@@ -2,8 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr int twipsPerPixel = 15;
 
 QString twips(int pixels)

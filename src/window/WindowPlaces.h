@@ -7,6 +7,7 @@
 void SaveFF(SettingsStore &settings, const QString &name, const QRect &place);
 /// The stored place: left and top, and the size of `window` as it is. What lies off the screen comes back to its edge;
 /// without a stored place the window is centred.
-[[nodiscard]] QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &window, const QRect &screen);
+[[nodiscard]] QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &window,
+                            const QRect &screen);
 /// "Window Position": the window stands on top of all others, or not.
 void saveOnTop(SettingsStore &settings, const QString &name, bool onTop);
