@@ -3,9 +3,7 @@
 #include "store/FixNull.h"
 #include "store/Schema.h"
 #include "util/Arrays.h"
-#include "util/Incr.h"
 
-#include <QSet>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -44,30 +42,6 @@ void appendTo(QStringList &array, const QString &element)
         array.clear();
     array.append(element);
 }
-
-/// The names of one table, and the next that is free. Names are told apart without regard to case, as the table does.
-class MaskNames
-{
-  public:
-    MaskNames(cAdoMdb &database, const QString &table, QLatin1StringView start) : mCandidate(start)
-    {
-        Recordset rows = database.GetRecordset("SELECT MaskName FROM "_L1 + table);
-        for (; !rows.Eof(); rows.MoveNext())
-            mTaken.insert(FixNull(rows.Fields()["MaskName"_L1]).toLower());
-    }
-    /// Each call gives another one.
-    [[nodiscard]] QString next()
-    {
-        do {
-            mCandidate = cUtility::Incr(mCandidate, 4, false, 1, u"", u"1", u"", false);
-        } while (mTaken.contains(mCandidate.toLower()));
-        return mCandidate;
-    }
-
-  private:
-    QSet<QString> mTaken;
-    QString mCandidate;
-};
 } // namespace
 
 SavedUrls::SavedUrls(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states,
@@ -105,7 +79,7 @@ QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, co
 QString SavedUrls::GetNewMaskName(Kind kind, const QString &otherTable)
 {
     return guardedResult(mLog, {module, "Function GetNewMaskName"_L1}, QString(), [&](QString &result) {
-        result = MaskNames(*mDatabase, otherTable.isEmpty() ? table(kind) : otherTable, row(kind).firstName).next();
+        result = mNewNames.find(*mDatabase, otherTable.isEmpty() ? table(kind) : otherTable, row(kind).firstName);
     });
 }
 

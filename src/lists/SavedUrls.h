@@ -4,6 +4,7 @@
 
 #include "app/StatusLine.h"
 #include "sites/SiteRecords.h"
+#include "store/MaskNames.h"
 #include "web/Navigation.h"
 
 class SavedUrls
@@ -52,4 +53,5 @@ class SavedUrls
     BrowserHolder &mBrowser;
     SiteRecords &mRecords;
     Navigation &mNavigation;
+    NewMaskNames mNewNames;
 };

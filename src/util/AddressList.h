@@ -23,7 +23,9 @@
 /// `list`, or the empty list where nothing is in it.
 [[nodiscard]] inline QStringList orEmptyList(QStringList list)
 {
-    return list.isEmpty() ? emptyList() : list;
+    if (list.isEmpty())
+        list.append(QString());
+    return list;
 }
 
 /// The highest index. Error 9 for a list that was never dimensioned.
