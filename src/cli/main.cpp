@@ -39,8 +39,11 @@ void applySettings(Program &program, const QList<Arguments::Setting> &settings)
 {
     // While the form is not ready no value changes another, so the order of the arguments does not matter.
     program.form.mbFormReady = false;
-    for (const Arguments::Setting &setting : settings)
+    for (const Arguments::Setting &setting : settings) {
+        if (setting.control == program.form.cboANWBSelect.name())
+            throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"--set cboANWBSelect: use --browser"_s);
         setControl(program.form, setting.control, setting.value);
+    }
     program.form.mbFormReady = true;
     program.states.SetStateOfControls();
 }
