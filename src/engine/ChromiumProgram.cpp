@@ -39,7 +39,7 @@ bool isKnown(const QString &path)
 QString find()
 {
     for (const QString &name : names()) {
-        const QString path = QStandardPaths::findExecutable(name);
+        QString path = QStandardPaths::findExecutable(name);
         if (!path.isEmpty())
             return path;
     }
