@@ -31,11 +31,11 @@ HarvestSettings::HarvestSettings(SettingsStore &store, const QString &databaseDi
     if (!databaseDir.isEmpty()) {
         const QString stored = store.GetSetting(Options::startSection, nameKey);
         const bool isThere = !stored.isEmpty() && QFile::exists(databaseDir + stored);
-        SaveSetting(Options::section, u"SearchKeyTxtSaveLocation Text"_s, databaseDir);
-        SaveSetting(Options::startSection, nameKey, isThere ? stored : newestDatabase(databaseDir));
+        BorrowedSettings::SaveSetting(Options::section, u"SearchKeyTxtSaveLocation Text"_s, databaseDir);
+        BorrowedSettings::SaveSetting(Options::startSection, nameKey, isThere ? stored : newestDatabase(databaseDir));
     }
     if (browser)
-        SaveSetting(Options::section, u"lstDCoTmr"_s, QString::number(*browser));
+        BorrowedSettings::SaveSetting(Options::section, u"lstDCoTmr"_s, QString::number(*browser));
 }
 
 void HarvestSettings::SaveSetting(const QString &section, const QString &key, const QString &value)

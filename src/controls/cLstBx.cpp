@@ -36,7 +36,9 @@ bool cLstBx::DoesItemExist(const ListBox &list, const QString &item)
 
 void cLstBx::PopulateListBox(ListBox &list, const QStringList &values, bool noBlanks, bool clearPrevious)
 {
-    const QStringList wanted = values; // may be the list's own items
+    // The values may be the list's own items, which go away under them.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const QStringList wanted = values;
     if (clearPrevious)
         list.clear();
     QSet<QString> present;

@@ -16,16 +16,16 @@ constexpr int slots = 5;
 struct FieldRow
 {
     SiteField number;
-    QLatin1StringView name;
     bool family;
+    QLatin1StringView name;
 };
 
 constexpr FieldRow fieldRows[] = {
-    {SiteField::CnvHex, "CnvHex"_L1, false},    {SiteField::UrlLen, "UrlLen"_L1, false},
-    {SiteField::Group, "Group"_L1, false},      {SiteField::Url, "Url"_L1, true},
-    {SiteField::BeginUrl, "BeginUrl"_L1, true}, {SiteField::EndUrl, "EndUrl"_L1, true},
-    {SiteField::UrlMC, "UrlMC"_L1, true},       {SiteField::UrlMNC, "UrlMNC"_L1, true},
-    {SiteField::BUrlCol, "BUrlCol"_L1, true},   {SiteField::EUrlCol, "EUrlCol"_L1, true},
+    {SiteField::CnvHex, false, "CnvHex"_L1},    {SiteField::UrlLen, false, "UrlLen"_L1},
+    {SiteField::Group, false, "Group"_L1},      {SiteField::Url, true, "Url"_L1},
+    {SiteField::BeginUrl, true, "BeginUrl"_L1}, {SiteField::EndUrl, true, "EndUrl"_L1},
+    {SiteField::UrlMC, true, "UrlMC"_L1},       {SiteField::UrlMNC, true, "UrlMNC"_L1},
+    {SiteField::BUrlCol, true, "BUrlCol"_L1},   {SiteField::EUrlCol, true, "EUrlCol"_L1},
 };
 
 QString slotName(QLatin1StringView family, int slot)
