@@ -28,7 +28,7 @@ QString DatabaseLoader::databasePath(bool useFileBox)
     const QString name = useFileBox ? mForm.txtSFDBFile.text() : mSettings.GetSetting(Options::startSection, nameKey);
     if (!name.isEmpty() && QFile::exists(folder + name))
         return folder + name;
-    const QString vacant = cUtility::GetVacantFileSpecs(folder + firstDatabaseName);
+    QString vacant = cUtility::GetVacantFileSpecs(folder + firstDatabaseName);
     const QString vacantName = vacant.mid(vacant.lastIndexOf(u'/') + 1);
     mForm.txtSFDBFile.setText(vacantName);
     mSettings.SaveSetting(Options::startSection, nameKey, vacantName);

@@ -111,7 +111,7 @@ void Options::load(Control &control, const QString &value)
 /// A stored folder, or the program's own, which is then stored, where that does not exist.
 QString Options::directory(const QString &key, const QString &byDefault)
 {
-    const QString base = baseFolder();
+    QString base = baseFolder();
     QString folder = mSettings.GetSetting(section, key, byDefault.isEmpty() ? base : byDefault);
     if (folder.isEmpty())
         folder = base;

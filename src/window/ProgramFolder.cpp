@@ -7,7 +7,7 @@
 
 QString dataFolder()
 {
-    const QString folder =
+    QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/trawlex");
     QDir().mkpath(folder);
     return folder;
