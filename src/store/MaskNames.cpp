@@ -32,8 +32,11 @@ QString MaskNames::next()
 
 NewMaskNames::Known NewMaskNames::stateOf(const std::shared_ptr<Connection> &connection, const QString &table)
 {
-    return {connection, connection->requireTable(table)->changes->revision, connection->rollBacks(),
-            connection->outsideVersion(), {}};
+    return {connection,
+            connection->requireTable(table)->changes->revision,
+            connection->rollBacks(),
+            connection->outsideVersion(),
+            {}};
 }
 
 bool NewMaskNames::isTaken(cAdoMdb &database, const QString &table, const QString &name)

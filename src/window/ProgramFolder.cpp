@@ -7,8 +7,7 @@
 
 QString dataFolder()
 {
-    QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/trawlex");
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/trawlex");
     QDir().mkpath(folder);
     return folder;
 }
