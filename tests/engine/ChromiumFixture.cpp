@@ -86,6 +86,7 @@ void ChromiumTest::TearDownTestSuite()
     stage->factory.closeBrowser();
     for (const qint64 process : processes())
         ::kill(pid_t(process), SIGKILL);
+    waitFor([] { return processes().isEmpty(); }); // they would write into the folder that is taken away
     stage.reset();
 }
 
