@@ -10,6 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::chrono::seconds windowCallLimit{5};
+// How often one page is asked for once more, because a process was lost or the old page stood in the way.
+constexpr int repetitionsAtMost = 3;
 
 } // namespace
 
@@ -85,24 +87,26 @@ void ChromiumPage::navigate(const QString &address)
     requireWindow();
     mRequested = address;
     mReplaced = false;
-    mRequestedAgain = false;
+    mRepetitions = 0;
     std::erase_if(mNotices, [](const PageNotice &each) { return each.kind == PageNotice::Kind::LoadingEnded; });
-    breakOffBefore(address);
     request();
 }
 
 // A page that is left needs its scripts no more; one that never ends can be broken off only before the browser begins
-// to put the next document in its place. A move within the page does not leave it.
-void ChromiumPage::breakOffBefore(const QString &address)
+// to put the next document in its place, and one that reloads itself would take that place again. A move within the
+// page does not leave it.
+void ChromiumPage::breakOff()
 {
-    if (address.contains(u'#') && address.section(u'#', 0, 0) == mAddress.section(u'#', 0, 0))
+    if (mRequested.contains(u'#') && mRequested.section(u'#', 0, 0) == mAddress.section(u'#', 0, 0))
         return;
     mDialogs.hurry();
     mConnection->send(mTargets.session(), "Runtime.terminateExecution"_L1);
+    mConnection->send(mTargets.session(), "Page.stopLoading"_L1);
 }
 
 void ChromiumPage::request()
 {
+    breakOff();
     mLostProcess = false;
     const int number = mLoading.begin();
     mWatch.begin(mTargets.session());
@@ -148,7 +152,7 @@ void ChromiumPage::settle(int number)
 // A document that was about to take its place in the lost process is lost with it.
 void ChromiumPage::requestAfterLoss()
 {
-    if (!std::exchange(mRequestedAgain, true))
+    if (mRepetitions++ < repetitionsAtMost)
         request();
     else if (mLoading.cancel())
         loadingEnded();
@@ -269,12 +273,13 @@ void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &p
     mTopFrame = id;
     mAddress = url;
     mUnreachable = frame[u"unreachableUrl"].toString();
-    mLoading.committed(loader);
-    if (!mLoading.isWaitingForDocument()) {
+    const bool stays = mLoading.committed(loader);
+    if (!mLoading.isWaitingForDocument())
         mWatch.end();
-    }
     mDialogs.newPage();
     mReader.documentChanged(id);
+    if (!stays && mRepetitions++ < repetitionsAtMost)
+        request();
 }
 
 void ChromiumPage::onFrameMoved(const QString &session, const QJsonObject &params)

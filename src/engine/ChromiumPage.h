@@ -81,7 +81,7 @@ class ChromiumPage : public QObject
     void answered(int number, const DevToolsConnection::Answer &answer);
     void settle(int number);
     void settleMove();
-    void breakOffBefore(const QString &address);
+    void breakOff();
     void requestAfterLoss();
     void onPageStuck();
     void onWindowReplaced();
@@ -101,11 +101,11 @@ class ChromiumPage : public QObject
     QHash<QString, Document> mDocuments; // by frame
     QString mTopFrame;
     QString mAddress;
-    QString mUnreachable;         // what the error page in place stands for
-    QString mRequested;           // the latest Navigate
-    bool mLostProcess = false;    // since the latest request
-    bool mRequestedAgain = false; // the page's process was lost during the latest Navigate
-    bool mReplaced = false;       // the window has been replaced for the latest Navigate
+    QString mUnreachable;      // what the error page in place stands for
+    QString mRequested;        // the latest Navigate
+    bool mLostProcess = false; // since the latest request
+    int mRepetitions = 0;      // of the latest Navigate
+    bool mReplaced = false;    // the window has been replaced for the latest Navigate
     bool mClosed = false;
     std::deque<PageNotice> mNotices;
 };

@@ -44,11 +44,12 @@ bool PageLoading::settle(int number)
     return number == mNumber && !replaced && !mCommitted && end();
 }
 
-void PageLoading::committed(const QString &loader)
+bool PageLoading::committed(const QString &loader)
 {
     mCurrent = loader;
     if (mLoading && !mOutdated.contains(loader))
         mCommitted = true;
+    return !mLoading || loader != mRequested || mStarted.isEmpty() || mStarted == loader;
 }
 
 // The answer to the request and the word of the move come in either order.

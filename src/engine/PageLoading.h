@@ -48,8 +48,9 @@ class PageLoading
 
     /// A request for a document of the top frame has left the browser.
     void started(const QString &loader) { mStarted = loader; }
-    /// A document has been put in place in the top frame.
-    void committed(const QString &loader);
+    /// A document has been put in place in the top frame. False when it will not stay: the old page has set out for
+    /// another one while ours was on its way, and that will take its place.
+    [[nodiscard]] bool committed(const QString &loader);
 
   private:
     bool end();

@@ -215,6 +215,21 @@ TEST_F(ChromiumRefusals, AScriptThatCannotBeBrokenOffLosesItsProcess)
     expectAllIsWell();
 }
 
+TEST_F(ChromiumRefusals, APageThatReloadsItselfForEverCanBeReadAndLeft)
+{
+    for (const QByteArray script :
+         {"location.reload()", "onload = () => location.reload()", "setTimeout(() => location.reload(), 20)"}) {
+        server().page("/again", "<title>again</title><p>text<script>" + script + "</script>");
+        browser->Navigate(here(u"/again"_s));
+        idle(500);
+        QElapsedTimer clock;
+        clock.start();
+        EXPECT_EQ(str(browser->content().title), "again");
+        EXPECT_LT(clock.elapsed(), 5000);
+        expectAllIsWell();
+    }
+}
+
 TEST_F(ChromiumRefusals, AReadThatTakesLongIsNotBrokenOffForGood)
 {
     show("<title>slow</title><script>setTimeout(() => { const end = Date.now() + 6000; while (Date.now() < end); "

@@ -15,7 +15,7 @@ TEST(PageLoading, EndsWithTheLoadEventOfTheDocumentAskedFor)
     EXPECT_TRUE(page.isLoading());
     EXPECT_TRUE(page.isWaitingForDocument());
     EXPECT_EQ(page.answered(number, u"a"_s, u""_s), Verdict::Wait);
-    page.committed(u"a"_s);
+    (void)page.committed(u"a"_s);
     EXPECT_FALSE(page.isWaitingForDocument());
     EXPECT_TRUE(page.isLoading());
     EXPECT_TRUE(page.documentLoaded(u"a"_s));
@@ -26,7 +26,7 @@ TEST(PageLoading, EndsWithTheLoadEventOfTheDocumentAskedFor)
 TEST(PageLoading, TheOldDocumentsLoadEventDoesNotCount)
 {
     PageLoading page;
-    page.committed(u"old"_s);
+    (void)page.committed(u"old"_s);
     page.begin();
     EXPECT_FALSE(page.documentLoaded(u"old"_s));
     EXPECT_FALSE(page.stopped());
@@ -39,9 +39,9 @@ TEST(PageLoading, ADocumentOfAnEarlierRequestDoesNotCount)
     const int first = page.begin();
     EXPECT_EQ(page.answered(first, u"a"_s, u""_s), Verdict::Wait);
     page.begin();
-    page.committed(u"a"_s);
+    (void)page.committed(u"a"_s);
     EXPECT_FALSE(page.documentLoaded(u"a"_s));
-    page.committed(u"b"_s);
+    (void)page.committed(u"b"_s);
     EXPECT_TRUE(page.documentLoaded(u"b"_s));
 }
 
@@ -51,7 +51,7 @@ TEST(PageLoading, AnAnswerThatComesAfterTheNextRequestOutdatesItsDocument)
     const int first = page.begin();
     page.begin();
     EXPECT_EQ(page.answered(first, u"a"_s, u"net::ERR_ABORTED"_s), Verdict::Outdated);
-    page.committed(u"a"_s);
+    (void)page.committed(u"a"_s);
     EXPECT_FALSE(page.documentLoaded(u"a"_s));
     EXPECT_TRUE(page.isLoading());
 }
@@ -61,7 +61,7 @@ TEST(PageLoading, AnotherDocumentThanTheOneAskedForCounts)
     PageLoading page;
     const int number = page.begin();
     EXPECT_EQ(page.answered(number, u"http"_s, u""_s), Verdict::Wait);
-    page.committed(u"https"_s);
+    (void)page.committed(u"https"_s);
     EXPECT_TRUE(page.documentLoaded(u"https"_s));
 }
 
@@ -69,16 +69,32 @@ TEST(PageLoading, ADocumentThatIsReplacedBeforeItsLoadEventLeavesThePageLoading)
 {
     PageLoading page;
     page.answered(page.begin(), u"a"_s, u""_s);
-    page.committed(u"a"_s);
-    page.committed(u"b"_s);
+    (void)page.committed(u"a"_s);
+    (void)page.committed(u"b"_s);
     EXPECT_FALSE(page.documentLoaded(u"a"_s));
     EXPECT_TRUE(page.documentLoaded(u"b"_s));
+}
+
+TEST(PageLoading, ADocumentWillNotStayWhenTheOldPageHasSetOutForAnother)
+{
+    PageLoading page;
+    const int number = page.begin();
+    page.started(u"a"_s);
+    page.answered(number, u"a"_s, u""_s);
+    page.started(u"reload"_s);
+    EXPECT_FALSE(page.committed(u"a"_s));
+
+    page.answered(page.begin(), u"b"_s, u""_s);
+    page.started(u"b"_s);
+    EXPECT_TRUE(page.committed(u"b"_s));
+    page.started(u"c"_s);
+    EXPECT_TRUE(page.committed(u"c"_s)) << "where the page itself goes on to";
 }
 
 TEST(PageLoading, ARequestThatComesToNothingEndsWhenItHasSettled)
 {
     PageLoading page;
-    page.committed(u"old"_s);
+    (void)page.committed(u"old"_s);
     const int number = page.begin();
     page.started(u"a"_s);
     EXPECT_EQ(page.answered(number, u"a"_s, u"net::ERR_ABORTED"_s), Verdict::Aborted);
@@ -96,7 +112,7 @@ TEST(PageLoading, ARequestThatAnotherHasReplacedGoesOnWithThat)
     EXPECT_EQ(page.answered(number, u"a"_s, u"net::ERR_ABORTED"_s), Verdict::Aborted);
     page.started(u"b"_s);
     EXPECT_FALSE(page.settle(number));
-    page.committed(u"b"_s);
+    (void)page.committed(u"b"_s);
     EXPECT_TRUE(page.documentLoaded(u"b"_s));
 }
 
@@ -125,7 +141,7 @@ TEST(PageLoading, AReplacementThatComesToNothingEndsWhenTheBrowserStops)
 TEST(PageLoading, AMoveWithinThePageEndsWithTheWordOfIt)
 {
     PageLoading page;
-    page.committed(u"a"_s);
+    (void)page.committed(u"a"_s);
     EXPECT_FALSE(page.movedWithinPage()) << "nothing was asked for";
     EXPECT_EQ(page.answered(page.begin(), u""_s, u""_s), Verdict::Wait);
     EXPECT_TRUE(page.movedWithinPage());
@@ -154,7 +170,7 @@ TEST(PageLoading, AnErrorPageIsWaitedFor)
     PageLoading page;
     EXPECT_EQ(page.answered(page.begin(), u"a"_s, u"net::ERR_CONNECTION_REFUSED"_s), Verdict::Wait);
     EXPECT_TRUE(page.isLoading());
-    page.committed(u"a"_s);
+    (void)page.committed(u"a"_s);
     EXPECT_TRUE(page.documentLoaded(u"a"_s));
 }
 
@@ -170,7 +186,7 @@ TEST(PageLoading, ALoadThatIsBrokenOffHalfWayEndsWhenTheBrowserStops)
     PageLoading page;
     page.answered(page.begin(), u"a"_s, u""_s);
     EXPECT_FALSE(page.stopped()) << "the old document's end of loading";
-    page.committed(u"a"_s);
+    (void)page.committed(u"a"_s);
     EXPECT_TRUE(page.stopped());
 }
 
@@ -182,7 +198,7 @@ TEST(PageLoading, ALostProcessEndsThePageButNotARequest)
     EXPECT_FALSE(page.isDocumentComing()) << "the browser may still find another process for it";
     page.answered(number, u"a"_s, u""_s);
     EXPECT_TRUE(page.isDocumentComing());
-    page.committed(u"a"_s);
+    (void)page.committed(u"a"_s);
     EXPECT_FALSE(page.isDocumentComing());
     EXPECT_TRUE(page.processLost());
     EXPECT_FALSE(page.processLost());
