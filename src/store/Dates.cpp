@@ -5,24 +5,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// Every record has a date, so it is written digit by digit.
-QString isoDate(QDate date)
-{
-    QString text = u"0000-00-00"_s;
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    date.getDate(&year, &month, &day);
-    const auto put = [&text](qsizetype last, int number) {
-        for (qsizetype place = last; number > 0; --place, number /= 10)
-            text[place] = QChar(u'0' + char16_t(number % 10));
-    };
-    put(3, year);
-    put(6, month);
-    put(9, day);
-    return text;
-}
-
 // A number of the match, 0 where the group took no part.
 int number(const QRegularExpressionMatch &match, QStringView group)
 {
@@ -44,13 +26,20 @@ int hourOf(const QRegularExpressionMatch &match)
 
 QString dateText(const QDateTime &moment)
 {
-    const QString date = isoDate(moment.date());
+    const QString date = moment.date().toString(Qt::ISODate);
     return moment.time() == QTime(0, 0) ? date : date + u'T' + moment.time().toString(Qt::ISODate);
 }
 
 QString todayText()
 {
-    return isoDate(QDate::currentDate());
+    // Every row asks, and each look at the local date asks the time zone's file: once a second is enough.
+    thread_local qint64 second = -1;
+    thread_local QString text;
+    if (const qint64 now = QDateTime::currentSecsSinceEpoch(); now != second) {
+        text = QDate::currentDate().toString(Qt::ISODate);
+        second = now;
+    }
+    return text;
 }
 
 std::optional<QDateTime> parseDate(const QString &text)
