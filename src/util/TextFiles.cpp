@@ -19,7 +19,8 @@ constexpr QStringView LineEnd = u"\r\n";
 QString decoded(const QByteArray &bytes)
 {
     const std::optional<QStringConverter::Encoding> marked = QStringConverter::encodingForData(bytes);
-    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
+    // Stateless: an unfinished character at the end is an error, not the beginning of a next piece.
+    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8), QStringConverter::Flag::Stateless);
     QString text = decoder(bytes);
     return decoder.hasError() && !marked ? Ansi::decode(bytes) : text;
 }

@@ -45,6 +45,16 @@ TEST_F(TextFiles, ReadsItsEncodingFromTheFile)
     EXPECT_EQ(cUtility::LoadTextFile(write(u"zero"_s, QByteArray("a\0b", 3))), QString(u"a\0b"_s));
 }
 
+TEST_F(TextFiles, AnAccentAtTheVeryEndIsKept)
+{
+    EXPECT_EQ(cUtility::LoadTextFile(write(u"ansi"_s, "caf\xE9")), u"caf\u00E9"_s);
+    EXPECT_EQ(cUtility::LoadTextFile(write(u"lead"_s, "caf\xC3")), u"caf\u00C3"_s);
+    EXPECT_EQ(cUtility::LoadTextFile(write(u"cut"_s, "\xEF\xBB\xBF"
+                                                     "caf\xE9")),
+              u"caf\uFFFD"_s);
+    EXPECT_EQ(cUtility::LoadTextFile(write(u"pair"_s, "\xF0\x9F\x98\x80")), u"\U0001F600"_s);
+}
+
 TEST_F(TextFiles, FieldsWithoutEmptyOnes)
 {
     const QString file = write(u"list.txt"_s, "a\r\n\r\nb\r\n c \r\n");
