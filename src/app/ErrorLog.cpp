@@ -66,6 +66,8 @@ void ErrorLog::show(const QString &record)
     const auto answer = mDialogs.askAboutError(u"An error occurred!"_s, record, prompt);
     if (answer == UserDialogs::Answer::Yes)
         mDesktop.open(filePath());
-    else if (answer == UserDialogs::Answer::Cancel)
-        Q_EMIT endRequested();
+    if (answer != UserDialogs::Answer::Cancel)
+        return;
+    mShow = false; // what fails while the program ends asks nobody any more
+    Q_EMIT endRequested();
 }

@@ -28,7 +28,7 @@ class ErrorLog : public QObject, public ErrorReceiver
     [[nodiscard]] static QString filePath();
 
   Q_SIGNALS:
-    /// The user has asked to end the program on the spot.
+    /// The user has asked to end the program on the spot; from then on errors pass in silence.
     void endRequested();
     /// The log itself failed: what was disabled is to be made usable again.
     void failed();

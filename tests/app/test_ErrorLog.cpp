@@ -76,6 +76,23 @@ TEST_F(ErrorLogTest, RecordsFollowOneAnother)
     EXPECT_EQ(lines().size(), 2);
 }
 
+TEST_F(ErrorLogTest, ThousandsOfRecordsStandOneBelowTheOther)
+{
+    constexpr int count = 3000;
+    log.ToggleErrMsg(true);
+    for (int number = 0; number < count; ++number)
+        raise(u"caf\u00E9 %1 "_s.arg(number) +
+              QString(1 + number * 7, u'x')); // the last ones are longer than any buffer
+    const QStringList written = lines();
+    ASSERT_EQ(written.size(), count);
+    for (int number = 0; number < count; ++number)
+        ASSERT_TRUE(written[number].contains(u": ErrDesc=caf\u00E9 %1 x"_s.arg(number)) &&
+                    written[number].endsWith(u": Err#=13"_s))
+            << number;
+    EXPECT_EQ(dialogs.errors.size(), count);
+    EXPECT_EQ(failures, 0);
+}
+
 TEST_F(ErrorLogTest, ARecordIsOneLineWhateverTheDescriptionHolds)
 {
     log.ToggleErrMsg(true);
@@ -109,12 +126,16 @@ TEST_F(ErrorLogTest, YesOpensTheLogNoDoesNothing)
     EXPECT_EQ(ends, 0);
 }
 
-TEST_F(ErrorLogTest, CancelAsksForTheEndOfTheProgram)
+TEST_F(ErrorLogTest, CancelAsksForTheEndOfTheProgramAndForNothingMore)
 {
     log.ToggleErrMsg(true);
     dialogs.errorAnswer = UserDialogs::Answer::Cancel;
     raise();
     EXPECT_EQ(ends, 1);
+    raise(); // as the run unwinds
+    EXPECT_EQ(ends, 1);
+    EXPECT_EQ(dialogs.errors.size(), 1);
+    EXPECT_EQ(lines().size(), 1);
 }
 
 TEST_F(ErrorLogTest, AnErrorWhileABoxIsOpenIsLoggedWithoutASecondBox)
@@ -138,4 +159,21 @@ TEST_F(ErrorLogTest, AFileThatCannotBeWrittenIsItsOwnFailureAndShowsNoBox)
     raise();
     EXPECT_EQ(failures, 1);
     EXPECT_TRUE(dialogs.errors.isEmpty());
+}
+
+TEST_F(ErrorLogTest, AFullDiskIsTheLogsOwnFailureAndItGoesOnWhenThereIsRoomAgain)
+{
+    if (!QFile::exists(u"/dev/full"_s))
+        GTEST_SKIP() << "no full device";
+    const QString path = folder.filePath(u"ErrorLog.txt"_s);
+    ASSERT_TRUE(QFile::link(u"/dev/full"_s, path));
+    log.ToggleErrMsg(true);
+    raise();
+    EXPECT_EQ(failures, 1);
+    EXPECT_TRUE(dialogs.errors.isEmpty());
+    ASSERT_TRUE(QFile::remove(path));
+    raise();
+    EXPECT_EQ(failures, 1);
+    EXPECT_EQ(lines().size(), 1);
+    EXPECT_EQ(dialogs.errors.size(), 1);
 }
