@@ -14,13 +14,13 @@ const QString tail(40, u'.');
 TEST(AreaCodes, TheTableHas52RowsAnd313Codes)
 {
     EXPECT_EQ(cAreaCode::AreaCode_Count(), 51);
-    qsizetype codes = 0;
-    for (qint64 row = 0; row <= 51; ++row)
-        codes += cAreaCode::AreaCode_ListItem(cAreaCode::AreaCode_ListItem({}, row), -1).split(u',').size();
-    EXPECT_EQ(codes, 313);
-    EXPECT_EQ(cAreaCode::AreaCode_ListItem({}, 0), u"Alabama"_s);
-    EXPECT_EQ(cAreaCode::AreaCode_ListItem(u"Alaska", 48), u"Washington Dc"_s);
-    EXPECT_EQ(cAreaCode::AreaCode_ListItem({}, 51), u"Wyoming"_s);
+    ASSERT_EQ(plain::areaCodes().size(), 52);
+    for (qint64 row = 0; row <= 51; ++row) {
+        const auto &[state, codes] = plain::areaCodes()[row];
+        EXPECT_EQ(cAreaCode::AreaCode_ListItem(u"Alaska", row), state) << row;
+        EXPECT_EQ(cAreaCode::AreaCode_ListItem(state, -1), codes) << row;
+    }
+    EXPECT_EQ(plain::areaCodeList({}).size(), 313);
 }
 
 TEST(AreaCodes, ANameInAnyCaseWithBlanksFindsItsRow)
@@ -73,6 +73,21 @@ TEST(PhoneNumbers, FaxOnlyLooksBeforeTheNumberOrFromItOn)
     EXPECT_EQ(FindPhoneNumbers(u"fax 205-555-1234"_s + tail, u"205", true), none);
     EXPECT_EQ(FindPhoneNumbers(filler + u"fax"_s + QString(18, u' ') + u"205-555-1234"_s + tail, u"205", true), none);
     EXPECT_EQ(FindPhoneNumbers(filler + u"fax 205-555-1234...."_s, u"205", true), none);
+}
+
+TEST(PhoneNumbers, FaxOnlyTurnsToTheTextBeforeAtPosition28)
+{
+    const QString number = u"205-555-1234"_s;
+    const QString behind = number + u" fax"_s + tail;
+    const QString before = u"fax"_s + QString(17, u' ') + number + tail;
+    EXPECT_EQ(FindPhoneNumbers(QString(26, u'x') + behind, u"205", true), QStringList{u"2055551234"_s});
+    EXPECT_EQ(FindPhoneNumbers(QString(27, u'x') + behind, u"205", true), none);
+    EXPECT_EQ(FindPhoneNumbers(QString(6, u'x') + before, u"205", true), none);
+    EXPECT_EQ(FindPhoneNumbers(QString(7, u'x') + before, u"205", true), QStringList{u"2055551234"_s});
+    // The last unit of the 27 from the number on, and the last that the number needs behind it.
+    EXPECT_EQ(FindPhoneNumbers(number + QString(12, u'.') + u"fax."_s, u"205", true), QStringList{u"2055551234"_s});
+    EXPECT_EQ(FindPhoneNumbers(number + QString(12, u'.') + u"fax"_s, u"205", true), none);
+    EXPECT_EQ(FindPhoneNumbers(number + QString(13, u'.') + u"fax."_s, u"205", true), none);
 }
 
 TEST(PhoneNumbers, ComeInTheOrderOfTheCodesAndThenOfTheText)

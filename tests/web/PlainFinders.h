@@ -4,7 +4,6 @@
 
 #include "PlainTables.h"
 #include "util/PlainUtility.h"
-#include "web/PhoneFinder.h"
 
 namespace plain {
 inline QString countOfNumbers(const QString &text)
@@ -292,8 +291,8 @@ inline QStringList areaCodeList(const QString &areaCodes)
         return InStr(1, areaCodes, QStringLiteral(",")) == 0 ? QStringList{areaCodes}
                                                              : Split(areaCodes, QStringLiteral(","));
     QStringList codes;
-    for (qint64 row = 0; row <= cAreaCode::AreaCode_Count(); ++row)
-        codes += Split(cAreaCode::AreaCode_ListItem(cAreaCode::AreaCode_ListItem({}, row), -1), QStringLiteral(","));
+    for (const auto &[state, codesOfState] : plain::areaCodes())
+        codes += Split(codesOfState, QStringLiteral(","));
     return codes;
 }
 
