@@ -82,8 +82,8 @@ QString written(QStringView format, const DateItems &items)
     constexpr std::array<QStringView, 5> tokens{u"yyyy", u"yy", u"y", u"mm", u"dd"};
     QString text;
     while (!format.isEmpty()) {
-        const auto token =
-            std::find_if(tokens.begin(), tokens.end(), [&](QStringView t) { return format.startsWith(t); });
+        const auto token = std::find_if(tokens.begin(), tokens.end(),
+                                        [&](QStringView t) { return cUtility::startsWithIgnoringCase(format, t); });
         if (token == tokens.end()) {
             text += format.front();
             format = format.sliced(1);
@@ -119,7 +119,7 @@ cUtility::DateText cUtility::CnvDateString(QStringView date, QStringView inputFo
         items[order[place].front().unicode()] = part;
     }
     items[u'y'] = widenedYear(items[u'y'], today);
-    return {written(lowered(outputFormat), items), {}};
+    return {written(outputFormat, items), {}};
 }
 
 bool cUtility::IsDateHoliday(QDate date)

@@ -17,6 +17,11 @@ TEST(DateTexts, ItemsChangeTheirOrder)
     EXPECT_EQ(CnvDateString(u"1999-1-2", u"yyyymmdd", u"mmddyy", {}, today).text, u"010299"_s);
 }
 
+TEST(DateTexts, FormatsAreReadInAnyCaseAndTheRestOfTheOutputStandsAsItIs)
+{
+    EXPECT_EQ(CnvDateString(u"31.12.1999", u"DDMMYYYY", u"YYYY-MM-DD T", u".", today).text, u"1999-12-31 T"_s);
+}
+
 TEST(DateTexts, YearsOfTwoDigitsTurnAt51)
 {
     EXPECT_EQ(CnvDateString(u"1/2/50", u"mmddyy", u"yyyy", u"/", today).text, u"2050"_s);
