@@ -1,6 +1,7 @@
 #include "web/EmailFinder.h"
 
 #include "PlainFinders.h"
+#include "Records.h"
 #include "util/QtPrint.h"
 #include "util/RandomText.h"
 
@@ -10,20 +11,7 @@ using cIEText::TextKind;
 namespace {
 const QStringList none{QString()};
 
-/// Counts the records of one kind and refuses any other.
-class Records : public ErrorReceiver
-{
-  public:
-    void ErrorLogger(qint64 number, const QString &description, const QString &module, const QString &location) override
-    {
-        EXPECT_EQ(number, 5);
-        EXPECT_EQ(description, u"Invalid procedure call or argument"_s);
-        EXPECT_EQ(module, u"cIEObject"_s);
-        EXPECT_EQ(location, u"Function CheckForInvalidEmailChar"_s);
-        ++count;
-    }
-    int count = 0;
-};
+constexpr auto location = "Function CheckForInvalidEmailChar"_L1;
 
 QStringList collect(const QString &text)
 {
@@ -93,7 +81,7 @@ TEST(CollectEmail, AtMostAThousandPasses)
 
 TEST(CollectEmail, LooksBehindTheEndAreRecordedOnce)
 {
-    Records records;
+    Records records(location);
     EXPECT_EQ(cIEText::CollectEmail(u"@", u"@", &records), none);
     EXPECT_EQ(records.count, plain::CollectEmail(u"@"_s, u"@"_s).errors);
     EXPECT_EQ(records.count, 15);
@@ -123,7 +111,7 @@ TEST(CollectEmail, EqualsThePlainVersionOnRandomInput)
             text += u' ';
         const QString searched = random.oneIn(40) ? random.text(rough, 1) : u"@"_s;
         const plain::Emails expected = plain::CollectEmail(text, searched);
-        Records records;
+        Records records(location);
         ASSERT_EQ(cIEText::CollectEmail(text, searched, &records), expected.list) << shown(text) << shown(searched);
         ASSERT_EQ(records.count, expected.errors) << shown(text) << shown(searched);
     }
@@ -142,7 +130,7 @@ TEST(EmailCharacters, EveryUnitAsThePlainVersionSays)
 
 TEST(EmailCharacters, AnEmptyOneIsAnErrorAndNotRefused)
 {
-    Records records;
+    Records records(location);
     EXPECT_FALSE(cIEText::CheckForInvalidEmailChar(u"", &records));
     EXPECT_EQ(records.count, 1);
     EXPECT_FALSE(cIEText::CheckForInvalidEmailChar(u"", nullptr));

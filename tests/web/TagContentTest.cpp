@@ -1,6 +1,7 @@
 #include "web/TagContent.h"
 
 #include "PlainFinders.h"
+#include "Records.h"
 #include "util/QtPrint.h"
 #include "util/RandomText.h"
 
@@ -10,19 +11,7 @@ using cIEText::Get_HtmlTag_Content;
 namespace {
 const QStringList none{QString()};
 
-class Records : public ErrorReceiver
-{
-  public:
-    void ErrorLogger(qint64 number, const QString &description, const QString &module, const QString &location) override
-    {
-        EXPECT_EQ(number, 5);
-        EXPECT_EQ(description, u"Invalid procedure call or argument"_s);
-        EXPECT_EQ(module, u"cIEObject"_s);
-        EXPECT_EQ(location, u"Get_HtmlTag_Content"_s);
-        ++count;
-    }
-    int count = 0;
-};
+constexpr auto location = "Get_HtmlTag_Content"_L1;
 
 TEST(TagContent, KeepsTheCaseOfTheMarkupAndBeginsAtElementZero)
 {
@@ -64,7 +53,7 @@ TEST(TagContent, TenThousandContentsAreTheLimit)
 
 TEST(TagContent, AnEndDirectlyBehindTheTagEndsTheWalkWithOneRecord)
 {
-    Records records;
+    Records records(location);
     EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", u"<b>x</b><b</b><b>y</b>", &records), QStringList{u"x"_s});
     EXPECT_EQ(records.count, 1);
 }
@@ -82,7 +71,7 @@ TEST(TagContent, EqualsThePlainVersionOnRandomInput)
         if (!random.oneIn(1000))
             markup += endTag; // an open tag uses up all steps
         const plain::Contents expected = plain::Get_HtmlTag_Content(tag, endTag, markup);
-        Records records;
+        Records records(location);
         ASSERT_EQ(Get_HtmlTag_Content(tag, endTag, markup, &records), expected.list)
             << shown(tag) << shown(endTag) << shown(markup);
         ASSERT_EQ(records.count, expected.errors) << shown(tag) << shown(endTag) << shown(markup);
