@@ -295,12 +295,12 @@ void Connection::begin()
     // The engine would begin and find out at the first row.
     if (mReadOnly)
         throw RuntimeError(AdoError::Engine, u"The database is read-only."_s);
-    if (mDepth == 0)
+    if (mDepth == 0) {
         static_cast<void>(prepare("BEGIN IMMEDIATE").run());
-    else
+        mOutsideVersion = -1;
+    } else {
         static_cast<void>(prepare("SAVEPOINT inner_work").run());
-    if (mDepth == 0)
-        static_cast<void>(outsideVersion());
+    }
     ++mDepth;
 }
 

@@ -137,6 +137,11 @@ TEST_F(SummaryIndexTest, WhatAnotherProgramWritesIsSeen)
     }
     sqlite3_exec(other, "DELETE FROM SiteSummary", nullptr, nullptr, nullptr);
     EXPECT_EQ(find(u"z.de"_s), -1);
+    sqlite3_exec(other, "INSERT INTO SiteSummary(Url) VALUES('http://n.de/')", nullptr, nullptr, nullptr);
+    {
+        const Transaction page(*mDatabase);
+        EXPECT_EQ(find(u"n.de"_s), 2) << "what was written before a transaction is seen inside it";
+    }
     sqlite3_close(other);
 }
 
