@@ -7,6 +7,7 @@
 #include "store/cAdoMdb.h"
 
 #include <QMap>
+#include <QRegularExpression>
 
 namespace SystemStatements {
 /// The statements with `value` in their place, queries first. A statement that removes rows may remove those whose
@@ -104,20 +105,34 @@ inline void fillAll(cAdoMdb &database)
     static_cast<void>(transaction.commit());
 }
 
-/// What `run` of a statement must leave of `before`: everything, but for the rows that it may remove.
+/// The rows of its table that a statement removes: those whose field equals the value.
+inline QList<qint64> removedBy(const Statement &statement, const Picture &before, const QString &value,
+                               const QStringList &fields)
+{
+    using namespace Qt::StringLiterals;
+    QList<qint64> removed;
+    if (!statement.removes || (!statement.numeric && value.contains(u'\'')))
+        return removed;
+    const qsizetype place = fields.indexOf(statement.field);
+    // The only blanks and forms of a number that the language knows.
+    static const QRegularExpression number(uR"(^[ \t\r\n]*([-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?)[ \t\r\n]*$)"_s);
+    const auto wanted = number.match(value);
+    const QMap<qint64, QString> rows = before.value(statement.table);
+    for (auto row = rows.begin(); row != rows.end(); ++row) {
+        const QString held = row.value().split(QChar(1)).value(place - 1);
+        if (statement.numeric ? wanted.hasMatch() && held.toDouble() == wanted.captured(1).toDouble()
+                              : held.compare(value, Qt::CaseInsensitive) == 0)
+            removed.append(row.key());
+    }
+    return removed;
+}
+
+/// What `run` of a statement must leave of `before`: everything, but for the rows that it removes.
 inline Picture expectedAfter(Picture before, const Statement &statement, const QString &value,
                              const QStringList &fields)
 {
-    using namespace Qt::StringLiterals;
-    if (!statement.removes || (!statement.numeric && value.contains(u'\'')))
-        return before;
-    const qsizetype place = fields.indexOf(statement.field);
-    before[statement.table].removeIf([&](const QMap<qint64, QString>::iterator &row) {
-        const QString held = row.value().split(QChar(1)).value(place - 1);
-        bool number = false;
-        const double wanted = value.trimmed().toDouble(&number);
-        return statement.numeric ? number && held.toDouble() == wanted : held.compare(value, Qt::CaseInsensitive) == 0;
-    });
+    for (const qint64 row : removedBy(statement, before, value, fields))
+        before[statement.table].remove(row);
     return before;
 }
 } // namespace SystemStatements
