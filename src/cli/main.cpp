@@ -9,6 +9,7 @@
 #include "cli/StopSignals.h"
 #include "engine/BrowserSwitches.h"
 #include "engine/WebEngineSetup.h"
+#include "util/Memory.h"
 #include "window/ProgramFolder.h"
 
 #include <QApplication>
@@ -94,6 +95,7 @@ QStringList wordsOf(int argc, char *argv[])
 
 int main(int argc, char *argv[])
 {
+    keepFreedMemory();
     Arguments arguments;
     try {
         arguments = parseArguments(wordsOf(argc, argv));

@@ -10,6 +10,7 @@
 #include "ui/QtClipboard.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtDialogs.h"
+#include "util/Memory.h"
 #include "window/Program.h"
 #include "window/ProgramFolder.h"
 #include "window/StartMode.h"
@@ -66,6 +67,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
 
 int main(int argc, char *argv[])
 {
+    keepFreedMemory();
     const QStringList switches = BrowserSwitches::ofUser({});
     prepareWebEngine(switches);
     const QApplication application(argc, argv);

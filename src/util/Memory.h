@@ -1,0 +1,7 @@
+// How the program's memory is handled.
+#pragma once
+
+/// Keeps freed blocks of up to 16 MB for the next use instead of giving each back to the system. Every page makes and
+/// drops texts of some hundred kilobytes, and fetching the memory anew cost as much as writing them to the database.
+/// To be called once, at the start of a program.
+void keepFreedMemory();
