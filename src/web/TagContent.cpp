@@ -47,7 +47,7 @@ Walk walkOnce(const Texts &lower, QStringView original)
             walk.end = WalkEnd::NoEndOfTag;
             return walk;
         }
-        const QStringView untilEndTag = QStringView(lower.markup).first(endTagAt + lower.tag.size() - 1);
+        const QStringView untilEndTag = QStringView(lower.markup).left(endTagAt + lower.tag.size() - 1);
         const qsizetype nextTagAt = indexIn(untilEndTag, lower.tag, behindTag);
         const qsizetype end = nextTagAt < 0 ? endTagAt : nextTagAt;
         const qsizetype begin = behindTag + 1;

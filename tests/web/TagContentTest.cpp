@@ -30,6 +30,12 @@ TEST(TagContent, ANearerNextTagEndsTheContentAndIsPassedOver)
     EXPECT_EQ(Get_HtmlTag_Content(u"<p>", u"</p>", u"<p>a<p>b</p><p>c</p>", nullptr), (QStringList{u"a"_s, u"c"_s}));
 }
 
+TEST(TagContent, ATagMayBeLongerThanWhatIsLeftOfTheMarkup)
+{
+    EXPECT_EQ(Get_HtmlTag_Content(u"<a href=", u"<", u"<a href=x><a h", nullptr), QStringList{u">"_s});
+    EXPECT_EQ(Get_HtmlTag_Content(u"<a href=", u">", u"<a href=\"x<a h>", nullptr), QStringList{u"x<a h"_s});
+}
+
 TEST(TagContent, WithoutTagsOrArgumentsThereIsNone)
 {
     EXPECT_EQ(Get_HtmlTag_Content(u"<p>", u"</p>", u"text", nullptr), none);
