@@ -1,49 +1,14 @@
 // Other databases: this system's own files, and real files of other programs where they lie beside the project.
-#include "StoreFixture.h"
+#include "ForeignFixture.h"
 #include "store/AdoErrors.h"
 #include "store/FixNull.h"
 #include "store/TextForms.h"
 
 #include <QDir>
-#include <QFile>
 #include <random>
 
 using namespace Qt::StringLiterals;
 using List = cAdoMdb::ExternalList;
-
-namespace {
-class ForeignTest : public StoreTest
-{
-  protected:
-    // A real file, or nothing where the samples are not there.
-    [[nodiscard]] static QString sample(const QString &name)
-    {
-        const QString path = QStringLiteral(TRAWLEX_SOURCE_DIR "/../shared/mdb/") + name;
-        return QFile::exists(path) ? path : QString();
-    }
-    // All rows of a query as text: fields parted by "|", rows by line feeds.
-    [[nodiscard]] QString rowsOf(const QString &file, const QString &statement)
-    {
-        Recordset rows = mDatabase.GetRecordSetFromExternalDB(file, statement);
-        return rows.isNothing() ? u"Nothing"_s : rows.GetString(u"|"_s, u"\n"_s, u"NULL"_s);
-    }
-    [[nodiscard]] QList<int> kindsOf(const QString &file, const QString &statement)
-    {
-        Recordset rows = mDatabase.GetRecordSetFromExternalDB(file, statement);
-        QList<int> kinds;
-        for (int column = 0; column < rows.Fields().Count(); ++column)
-            kinds.append(rows.Fields()[column].Type());
-        return kinds;
-    }
-
-    cAdoMdb mDatabase{mLog};
-};
-
-#define SAMPLE(variable, name)                                                                                         \
-    const QString variable = sample(name);                                                                             \
-    if (variable.isEmpty())                                                                                            \
-    GTEST_SKIP() << "the sample file is not here"
-} // namespace
 
 TEST_F(ForeignTest, AFileOfThisSystemListsItsTablesAndFields)
 {
@@ -178,23 +143,18 @@ TEST_F(ForeignTest, ADamagedFileIsAnErrorOrItsRowsAndNeverACrash)
     std::mt19937 random(17);
     int errors = 0;
     for (int round = 0; round < 60; ++round) {
-        QFile source(folder.filePath(names[round % names.size()]));
-        ASSERT_TRUE(source.open(QIODevice::ReadOnly));
-        QByteArray bytes = source.readAll();
+        QByteArray bytes = contentOf(folder.filePath(names[round % names.size()]));
         if (round % 3 == 0)
             bytes.truncate(static_cast<qsizetype>(random() % unsigned(bytes.size())));
         for (int hit = 0; hit < 400 && round % 3 != 0; ++hit)
             bytes[static_cast<qsizetype>((round % 3 == 1 ? 4096U : 0U) + random() % unsigned(bytes.size() - 4096))] =
                 static_cast<char>(random());
-        QFile damaged(pathOf(u"damaged.mdb"_s));
-        ASSERT_TRUE(damaged.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        damaged.write(bytes);
-        damaged.close();
+        const QString damaged = written(bytes);
         mLog.entries.clear();
-        QStringList tables = mDatabase.GetExternalTablesFields(damaged.fileName(), List::Tables, u""_s);
+        QStringList tables = mDatabase.GetExternalTablesFields(damaged, List::Tables, u""_s);
         tables.removeAll(u""_s);
         for (const QString &table : tables.mid(0, 5))
-            static_cast<void>(rowsOf(damaged.fileName(), u"SELECT * FROM ["_s + table + u"]"_s));
+            static_cast<void>(rowsOf(damaged, u"SELECT * FROM ["_s + table + u"]"_s));
         errors += mLog.entries.isEmpty() ? 0 : 1;
     }
     EXPECT_GT(errors, 10) << "the damage was met";
@@ -205,14 +165,11 @@ TEST_F(ForeignTest, AFileOfNoKnownKindIsAnError)
     for (const QByteArray &content :
          {QByteArray(), QByteArray("text"), QByteArray(100'000, '\0'), QByteArray("\0\1\0\0Standard Jet DB\0", 20),
           QByteArray("SQLite format 3\0xyz", 19)}) {
-        QFile file(pathOf(u"bad.mdb"_s));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(content);
-        file.close();
+        const QString path = written(content);
         mLog.entries.clear();
-        EXPECT_EQ(mDatabase.GetExternalTablesFields(file.fileName(), List::Tables, u""_s), QStringList{u""_s});
+        EXPECT_EQ(mDatabase.GetExternalTablesFields(path, List::Tables, u""_s), QStringList{u""_s});
         EXPECT_TRUE(mLog.holds(AdoError::Engine, "Function GetExternalTablesFields"_L1)) << mLog.text();
-        EXPECT_EQ(rowsOf(file.fileName(), u"SELECT * FROM Table1"_s), u"Nothing"_s);
+        EXPECT_EQ(rowsOf(path, u"SELECT * FROM Table1"_s), u"Nothing"_s);
         EXPECT_TRUE(mLog.holds(AdoError::Engine, "Function GetRecordSetFromExternalDB"_L1)) << mLog.text();
     }
 }

@@ -2,6 +2,7 @@
 
 #ifdef __unix__
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace {
 void bound(__rlimit_resource resource, rlim_t most)
@@ -22,6 +23,17 @@ void limitThisProcess()
     bound(RLIMIT_AS, memory);
 #endif
 }
+
+std::FILE *takeStandardOutput()
+{
+    std::FILE *const output = fdopen(dup(STDOUT_FILENO), "wb");
+    return output != nullptr && dup2(STDERR_FILENO, STDOUT_FILENO) >= 0 ? output : stdout;
+}
 #else
 void limitThisProcess() {}
+
+std::FILE *takeStandardOutput()
+{
+    return stdout;
+}
 #endif

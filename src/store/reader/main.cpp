@@ -79,5 +79,6 @@ int main(int count, char **arguments)
         return 2;
     }
     limitThisProcess();
+    beginFrames();
     return answer(catalog, count, arguments);
 }
