@@ -114,14 +114,16 @@ inline QList<qint64> removedBy(const Statement &statement, const Picture &before
     if (!statement.removes || (!statement.numeric && value.contains(u'\'')))
         return removed;
     const qsizetype place = fields.indexOf(statement.field);
-    // The only blanks and forms of a number that the language knows.
-    static const QRegularExpression number(uR"(^[ \t\r\n]*([-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?)[ \t\r\n]*$)"_s);
+    // A number stands there bare, with the blanks that the language knows, or in quotes, with those of the engine.
+    static const QString form = uR"(([-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?))"_s;
+    static const QRegularExpression number(uR"(^[ \t\r\n]*(?:%1|'[ \t-\r]*%1[ \t-\r]*')[ \t\r\n]*$)"_s.arg(form));
     const auto wanted = number.match(value);
     const QMap<qint64, QString> rows = before.value(statement.table);
     for (auto row = rows.begin(); row != rows.end(); ++row) {
         const QString held = row.value().split(QChar(1)).value(place - 1);
-        if (statement.numeric ? wanted.hasMatch() && held.toDouble() == wanted.captured(1).toDouble()
-                              : held.compare(value, Qt::CaseInsensitive) == 0)
+        if (statement.numeric
+                ? wanted.hasMatch() && held.toDouble() == wanted.captured(wanted.lastCapturedIndex()).toDouble()
+                : held.compare(value, Qt::CaseInsensitive) == 0)
             removed.append(row.key());
     }
     return removed;

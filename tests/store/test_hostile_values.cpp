@@ -49,8 +49,9 @@ INSTANTIATE_TEST_SUITE_P(Values, HostileValues,
                                          u"1; DROP TABLE MC"_s, u"1 UNION SELECT 1"_s, u"(SELECT 1)"_s, u"rowid"_s,
                                          u"Index"_s, u"NULL"_s, u"%"_s, u"_"_s, u"[Url]"_s, u"\""_s, u"`"_s, u"--"_s,
                                          u"/*"_s, u"*/"_s, u"?1"_s, u":a"_s, u"@a"_s, u"$a"_s, u"x'00'"_s, u"\\'"_s,
-                                         u"1e999"_s, u"-1"_s, u" 2 "_s, u"\r\n2.e0\t"_s, u"2\v"_s, u"2\u00A0"_s,
-                                         u"inf"_s, u"0x1"_s, u"ä'ö"_s, u"\u2019 OR 1=1"_s, u"\uFF07"_s, u"a\r\nb"_s,
+                                         u"1e999"_s, u"-1"_s, u" 2 "_s, u"\r\n2.e0\t"_s, u"2\v"_s, u"'2'"_s,
+                                         u" '\v1. '\n"_s, u"2\u00A0"_s, u"inf"_s, u"0x1"_s, u"ä'ö"_s,
+                                         u"\u2019 OR 1=1"_s, u"\uFF07"_s, u"a\r\nb"_s,
                                          u"a"_s + QChar(u'\0') + u"' OR 1=1"_s, QString(QChar(0xD800)),
                                          QString(100'000, u'x'), QString(60'000, u'%')));
 
