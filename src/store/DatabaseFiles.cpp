@@ -29,6 +29,15 @@ void replaceFile(const QString &from, const QString &to)
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         throw AdoError::error(ErrorNumber::PathAccessError);
 }
+// A name beside the file. The engine makes the file there, with the rights that any new file of the user's gets: those
+// of a temporary file would stay.
+QString vacantName(const QString &path)
+{
+    QTemporaryFile place(path + ".XXXXXX"_L1);
+    if (!place.open())
+        throw AdoError::error(ErrorNumber::PathAccessError);
+    return place.fileName();
+}
 } // namespace
 
 bool DatabaseFiles::isFileOrCanBeOne(const QString &path)
@@ -55,16 +64,13 @@ bool DatabaseFiles::isSqlite(const QString &path)
 
 void DatabaseFiles::build(const QString &path, const std::function<void(Connection &)> &fill)
 {
-    QTemporaryFile place(path + ".XXXXXX"_L1);
-    if (!place.open())
-        throw AdoError::error(ErrorNumber::PathAccessError);
-    place.close();
-    // The new file gets the rights that any new file of the user's gets, not those of a temporary one.
-    place.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    const auto tidy = qScopeGuard([name = place.fileName()] { removeCompanions(name); });
-    fill(*Connection::open(place.fileName(), Connection::Access::Create));
-    replaceFile(place.fileName(), path);
-    place.setAutoRemove(false);
+    const QString place = vacantName(path);
+    const auto tidy = qScopeGuard([&] {
+        QFile::remove(place);
+        removeCompanions(place);
+    });
+    fill(*Connection::open(place, Connection::Access::Create));
+    replaceFile(place, path);
 }
 
 void DatabaseFiles::create(const QString &path, const TableFieldMatrix &matrix)
