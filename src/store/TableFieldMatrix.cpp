@@ -106,10 +106,9 @@ bool TableFieldMatrix::addTable(const QString &tableName)
     if (tableCount() + 1 > maxTables)
         throw limitExceeded(AdoError::TooManyTables, "Tables"_L1, maxTables);
     const QString name = LetterAndNumbersOnly(tableName, true);
-    const bool taken = std::any_of(mRows.begin(), mRows.end(), [&](const auto &row) {
-        return !row.front().isEmpty() && sameName(row.front(), name);
-    });
-    if (taken)
+    const bool taken =
+        std::any_of(mRows.begin(), mRows.end(), [&](const auto &row) { return sameName(row.front(), name); });
+    if (taken || name.isEmpty())
         return false;
     place(tableCount(), 0) = name;
     return true;
@@ -164,11 +163,14 @@ QString TableFieldMatrix::fieldItem(int index, const QString &fieldName, int tab
 
 bool TableFieldMatrix::removeTable(const QString &tableName)
 {
-    const QString row = tableName.isEmpty() ? QString() : tableItem(0, tableName);
-    if (row.isEmpty())
+    const auto found =
+        std::find_if(mRows.begin(), mRows.end(), [&](const auto &row) { return sameName(row.front(), tableName); });
+    if (tableName.isEmpty() || found == mRows.end())
         return false;
-    mRows.resize(static_cast<std::size_t>(row.toInt()));
-    mRows.emplace_back(maxFields + 1);
+    mRows.erase(found + 1, mRows.end());
+    mRows.back().clear();
+    for (auto &row : mRows)
+        row.resize(maxFields + 1);
     return true;
 }
 

@@ -33,7 +33,8 @@ class TableFieldMatrix
     /// at; with a blank one the index must be that of a row in use.
     [[nodiscard]] int rowOf(int tableIndex, const QString &tableName) const;
 
-    /// True if the table was added; False if its name is there already. Error AdoError::TooManyTables behind the 50th.
+    /// True if the table was added; False if its name is there already or has nothing that is kept. Error
+    /// AdoError::TooManyTables behind the 50th.
     bool addTable(const QString &tableName);
 
     /// With an empty name, the name in row `index`, or "". With a name, its row as decimal text, or "".

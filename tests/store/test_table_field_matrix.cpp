@@ -69,6 +69,8 @@ TEST_F(MatrixTest, NamesKeepLettersDigitsHyphensAndUnderlinesOnly)
     EXPECT_EQ(mDatabase.Fields_ListItem(2, u""_s, 0, u""_s), u"rl-1_x"_s);
     EXPECT_EQ(LetterAndNumbersOnly(u"a b#c"_s, false), u"a bc"_s);
     EXPECT_FALSE(mDatabase.Tables_AddItem(u"mytable1"_s));
+    EXPECT_FALSE(mDatabase.Tables_AddItem(u"#!"_s)) << "nothing of the name is kept";
+    EXPECT_FALSE(mDatabase.Tables_AddItem(u""_s));
     EXPECT_EQ(mDatabase.Tables_Count(), 1);
 }
 
@@ -99,6 +101,27 @@ TEST_F(MatrixTest, ATableThatIsTakenOutTakesThoseBehindItAlong)
     EXPECT_EQ(matrix.tableCount(), 2);
     EXPECT_TRUE(matrix.addTable(u"C"_s));
     EXPECT_THROW(matrix.addTable(u"D"_s), RuntimeError) << "the matrix has shrunk";
+}
+
+TEST_F(MatrixTest, OfTablesOfOneNameTheFirstIsTakenOutWithAllBehindIt)
+{
+    TableFieldMatrix matrix;
+    matrix.replace({{u"A"_s, u"x"_s}, {u"B"_s}, {u"C"_s}, {u"b"_s}});
+    EXPECT_TRUE(matrix.removeTable(u"b"_s));
+    EXPECT_EQ(matrix.tableCount(), 1);
+    EXPECT_EQ(matrix.fieldsOf(0), QStringList{u"x"_s});
+    matrix.addField(u"y"_s, 0, u""_s);
+    EXPECT_EQ(matrix.fieldsOf(0), (QStringList{u"x"_s, u"Index"_s, u"y"_s})) << "the rows are wide again";
+}
+
+TEST_F(MatrixTest, AMatrixFromAFileIsAsWideAsItsWidestTable)
+{
+    TableFieldMatrix matrix;
+    matrix.replace({{u"A"_s, u"Index"_s, u"x"_s}, {u"B"_s, u"Index"_s}});
+    matrix.addField(u"y"_s, 1, u""_s);
+    EXPECT_EQ(matrix.fieldCount(1, u""_s), 2);
+    EXPECT_THROW(matrix.addField(u"y"_s, 0, u""_s), RuntimeError);
+    EXPECT_THROW(matrix.addTable(u"C"_s), RuntimeError);
 }
 
 TEST_F(MatrixTest, AClearedMatrixIsEmptyAndUsable)
@@ -171,4 +194,16 @@ TEST_F(MatrixTest, AMissingTableListFileEmptiesTheMatrix)
     mDatabase.LoadTableFieldListFile(pathOf(u"none.txt"_s));
     EXPECT_EQ(mDatabase.Tables_Count(), 0);
     EXPECT_TRUE(mLog.entries.isEmpty());
+}
+
+TEST_F(MatrixTest, ATableListFileWithABracketThatIsNeverClosedIsAnError)
+{
+    QFile file(pathOf(u"list.txt"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[A]\r\nx\r\n[B\r\ny\r\n");
+    file.close();
+    mDatabase.Tables_AddItem(u"Old"_s);
+    mDatabase.LoadTableFieldListFile(file.fileName());
+    EXPECT_EQ(mDatabase.Tables_Count(), 0);
+    EXPECT_TRUE(mLog.holds(5, "Sub LoadTableFieldListFile"_L1)) << mLog.text();
 }
