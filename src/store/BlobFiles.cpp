@@ -21,16 +21,9 @@ QByteArray fileToBlob(const QString &fileName)
         throw AdoError::error(ErrorNumber::FileNotFound);
     if (!file.open(QIODevice::ReadOnly))
         throw AdoError::error(ErrorNumber::PathAccessError);
-    if (file.size() <= blobThreshold)
-        return file.readAll();
-    QByteArray bytes;
-    bytes.reserve(file.size());
-    while (!file.atEnd()) {
-        const QByteArray piece = file.read(blobChunk);
-        if (piece.isEmpty())
-            throw AdoError::error(ErrorNumber::PathAccessError);
-        bytes += piece;
-    }
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFile::NoError)
+        throw AdoError::error(ErrorNumber::PathAccessError);
     return bytes;
 }
 

@@ -1,4 +1,5 @@
-// Pictures go from files into fields and back, large ones in pieces.
+// Pictures go from files into fields and back. A field's value is whole in memory in any case; what is written from a
+// large one is taken in pieces.
 #pragma once
 
 #include <QByteArray>
@@ -6,7 +7,7 @@
 
 class Field;
 
-/// Up to this length a file goes in one piece.
+/// Up to this length a value is written in one piece.
 constexpr qint64 blobThreshold = 1'048'576;
 constexpr qint64 blobChunk = 16'384;
 

@@ -29,7 +29,7 @@ void Field::setValue(const QVariant &value) const
 
 void Field::AppendChunk(const QVariant &chunk) const
 {
-    const QVariant held = mState->value(mColumn);
+    const QVariant held = mState->pendingValue(mColumn);
     const bool bytes = chunk.typeId() == QMetaType::QByteArray;
     mState->setValue(mColumn, bytes ? QVariant(held.toByteArray() + chunk.toByteArray())
                                     : QVariant(held.toString() + chunk.toString()));

@@ -34,7 +34,8 @@ class Field
     /// column that the engine fills.
     void setValue(const QVariant &value) const;
 
-    /// Puts bytes, or text for a text column, behind what the row under edit holds.
+    /// Puts bytes, or text for a text column, behind what the edit has set; the first piece replaces what the row
+    /// holds.
     void AppendChunk(const QVariant &chunk) const;
     /// The next `size` bytes or characters, fewer at the end, Null behind it. Each field handle starts at the
     /// beginning.
@@ -106,7 +107,8 @@ class Recordset
     /// Stores the pending edit. Does nothing without one.
     void Update();
     void CancelUpdate();
-    /// Removes the current row; there is no current row then until the next move.
+    /// Removes the current row; there is no current row then until the next move. Error 3219 while a row is being
+    /// added.
     void Delete();
 
     /// The same rows with a current row of its own, at the first row. Closing one does not close the other.
@@ -120,7 +122,7 @@ class Recordset
     [[nodiscard]] std::vector<QVariantList> GetRows(qint64 rows = -1);
 
     /// Writes all rows to a file, which is replaced only once it is complete. The current row stays.
-    /// Errors: 75 or 76 for a place that cannot be written, -2147467259 for a full disk.
+    /// Errors: 75 for a place that cannot be written, 75 or -2147467259 for a full disk.
     void Save(const QString &filePath, SaveFormat format) const;
 
     /// Closes the set. Error 3219 with an edit pending. Closing twice is error 3704.

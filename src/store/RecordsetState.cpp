@@ -263,6 +263,12 @@ QVariant RecordsetState::value(int column)
     return row()[static_cast<std::size_t>(column)];
 }
 
+QVariant RecordsetState::pendingValue(int column) const
+{
+    requireOpen();
+    return mEdit ? mEdit->value(query().columns[static_cast<std::size_t>(column)]) : QVariant();
+}
+
 void RecordsetState::setValue(int column, const QVariant &value)
 {
     requireWritable();
@@ -301,6 +307,8 @@ void RecordsetState::update()
 void RecordsetState::remove()
 {
     requireWritable();
+    if (mEdit && mAdding)
+        throw AdoError::error(AdoError::NotAllowed);
     requireRow();
     const Query &from = query();
     from.connection->requireLiveTransaction();

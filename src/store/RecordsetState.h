@@ -85,6 +85,8 @@ class RecordsetState
     [[nodiscard]] qint64 recordCount();
 
     [[nodiscard]] QVariant value(int column);
+    /// What the edit under way has set; Null where it has set nothing.
+    [[nodiscard]] QVariant pendingValue(int column) const;
     void setValue(int column, const QVariant &value);
 
     void addNew();
@@ -92,7 +94,6 @@ class RecordsetState
     void cancelUpdate() { mEdit.reset(); }
     void remove();
     void close();
-    [[nodiscard]] bool isEditing() const { return mEdit.has_value(); }
 
     /// The current row's values in the order of the columns. Error 3021 without a row.
     [[nodiscard]] const std::vector<QVariant> &row();

@@ -99,11 +99,6 @@ int Statement::run()
     return engineStep([&] { return mStatement->exec(); });
 }
 
-int Statement::columnCount() const
-{
-    return mStatement->getColumnCount();
-}
-
 qint64 Statement::integer(int column) const
 {
     return engineStep([&] { return mStatement->getColumn(column).getInt64(); });

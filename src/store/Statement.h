@@ -57,7 +57,6 @@ class Statement
     /// Runs a statement that has no rows, and gives the number of rows that it changed.
     int run();
 
-    [[nodiscard]] int columnCount() const;
     /// The columns of the row, from 0.
     [[nodiscard]] qint64 integer(int column) const;
     [[nodiscard]] QString text(int column) const;

@@ -172,9 +172,10 @@ bool cAdoMdb::LoadDatabase(const QString &sNewDatabasePath)
 QString cAdoMdb::CompactDatabase()
 {
     return guardedResult(mLog, place("CompactDatabase"_L1), QString(), [&](QString &report) {
-        report = u"%1 original size %2\r\n"_s.arg(DatabasePath()).arg(QFileInfo(DatabasePath()).size());
+        const qint64 before = QFileInfo(DatabasePath()).size();
         DatabaseFiles::compact(DatabasePath());
-        report += u"Compact size %1"_s.arg(QFileInfo(DatabasePath()).size());
+        const qint64 after = QFileInfo(DatabasePath()).size();
+        report = DatabasePath() + u" original size %1\r\nCompact size %2"_s.arg(before).arg(after);
     });
 }
 

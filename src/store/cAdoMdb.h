@@ -60,7 +60,7 @@ class cAdoMdb : public QObject
     [[nodiscard]] bool TestDatabase(bool bOpenConnection);
     /// Opens a file, whatever it holds, and reads its names into the matrix. An empty path takes `DatabasePath`.
     [[nodiscard]] bool LoadDatabase(const QString &sNewDatabasePath);
-    /// Gives unused space back. The report tells the size in bytes before and after.
+    /// Gives unused space back. The report tells the size in bytes before and after; "" for an error.
     [[nodiscard]] QString CompactDatabase();
 
     /// Appends a record. Each element is a field's name, the delimiter and its value; see RecordWriter for what becomes

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -31,10 +32,26 @@ TEST_F(StoreTest, AUrlIsCutAt255CharactersAndAPageIsKeptWhole)
     EXPECT_EQ(first(*database, u"SELECT FullPage FROM SiteSummary"_s).toString().size(), 300'000);
 }
 
+TEST_F(StoreTest, OnlyAPageIsKeptWholeThoughOtherColumnsAreLong)
+{
+    cAdoMdb database(mLog);
+    database.setDatabasePath(pathOf(u"t.mdb"_s));
+    database.Tables_AddItem(u"T"_s);
+    for (const QString &field : {u"Memo"_s, u"date"_s})
+        database.Fields_AddItem(field, 0, u""_s);
+    ASSERT_TRUE(database.CreateDatabase(false)) << mLog.text();
+    EXPECT_TRUE(add(database, u"T"_s, {{"Memo"_L1, QString(300, u'm')}, {"Date"_L1, u"no date"_s}}));
+    EXPECT_EQ(first(database, u"SELECT Memo FROM T"_s).toString().size(), 255);
+    EXPECT_EQ(database.GetRecordset(u"SELECT * FROM T"_s).Fields()["Memo"_L1].Type(), 203);
+    EXPECT_EQ(first(database, u"SELECT date FROM T"_s), QVariant(u"no date"_s)) << "a text column of that name";
+}
+
 TEST_F(StoreTest, AnEmptyValueOfANumberIsStoredAsZero)
 {
     auto database = created();
-    ASSERT_TRUE(add(*database, u"EmailAddress"_s, {{"SSIndex"_L1, u""_s}, {"Address"_L1, u"a@b.de"_s}}));
+    // The number before it shows that the empty value is not just passed over.
+    ASSERT_TRUE(add(*database, u"EmailAddress"_s,
+                    {{"SSIndex"_L1, u"7"_s}, {"SSIndex"_L1, u""_s}, {"Address"_L1, u"a@b.de"_s}}));
     EXPECT_EQ(first(*database, u"SELECT SSIndex FROM EmailAddress"_s), QVariant(0LL));
 }
 
@@ -64,6 +81,22 @@ TEST_F(StoreTest, AValueThatHoldsTheMarkerIsStoredWithItsTail)
     EXPECT_TRUE(database->AddRecord({element}, -1, u"SiteSummary"_s, rowMarker));
     EXPECT_EQ(first(*database, u"SELECT Title FROM SiteSummary"_s).toString(),
               QString(rowMarker).mid(1) + u"left"_s + rowMarker + u"right"_s);
+}
+
+TEST_F(StoreTest, DelimitersAreCountedWithRegardToCaseAndThenFoundWithout)
+{
+    auto database = created();
+    const auto stored = [&](const QString &element) {
+        EXPECT_TRUE(database->AddRecord({element}, -1, u"SiteSummary"_s, u"-ab"_s)) << mLog.text();
+        Recordset rows = database->GetRecordset(u"SELECT Title FROM SiteSummary"_s);
+        rows.MoveLast();
+        return rows.Fields()[0].Value().toString();
+    };
+    EXPECT_EQ(stored(u"Title-abone-ABtwo"_s), u"one-ABtwo"_s) << "one delimiter: the split is exact";
+    EXPECT_EQ(stored(u"Title-abone-abtwo"_s), u"abone-abtwo"_s);
+    EXPECT_EQ(stored(u"Title-ABone-abtwo-abthree"_s), u"ABone-abtwo-abthree"_s);
+    EXPECT_TRUE(database->AddRecord({u"Title==="_s}, -1, u"SiteSummary"_s, u"=="_s));
+    EXPECT_EQ(count(*database, u"SELECT * FROM SiteSummary WHERE Title='=='"_s), 1) << "they may overlap";
 }
 
 TEST_F(StoreTest, DeletingWithoutCriteriaEmptiesTheTable)
@@ -288,6 +321,28 @@ TEST_F(StoreTest, CompactingGivesRoomBackAndTellsIt)
     EXPECT_EQ(report, u"%1 original size %2\r\nCompact size %3"_s.arg(database->DatabasePath()).arg(before).arg(after));
     EXPECT_TRUE(database->TestDatabase(true)) << mLog.text();
     EXPECT_EQ(database->GetFieldData(u"UrlsContent"_s, u"Block"_s), QStringList{u"kept"_s});
+}
+
+TEST_F(StoreTest, AFileThatCannotBeCompactedGivesNoReport)
+{
+    auto database = declared(u"none.mdb"_s);
+    EXPECT_EQ(database->CompactDatabase(), u""_s);
+    EXPECT_TRUE(mLog.holds(53, "CompactDatabase"_L1)) << mLog.text();
+}
+
+TEST_F(StoreTest, ANewFileHasTheRightsThatTheUserGivesNewFiles)
+{
+    for (const mode_t mask : {mode_t(077), mode_t(022)}) {
+        const mode_t before = umask(mask);
+        created()->CloseConnection();
+        umask(before);
+        struct stat status
+        {
+        };
+        ASSERT_EQ(stat(QFile::encodeName(pathOf(u"Trawlex-0.mdb"_s)).constData(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777U, 0644U & ~mask);
+        QFile::remove(pathOf(u"Trawlex-0.mdb"_s));
+    }
 }
 
 TEST_F(StoreTest, AQueryThatFailsLeavesItToItsReader)

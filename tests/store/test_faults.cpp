@@ -141,7 +141,7 @@ TEST_F(FaultTest, ADamagedFileNeverTakesTheProgramDown)
         static_cast<void>(add(*database, u"Block"_s, {{"UrlsContent"_L1, u"x"_s}}));
         database->DeleteRecords(u"Block"_s, u""_s, u""_s, false);
     }
-    SUCCEED();
+    EXPECT_FALSE(mLog.entries.isEmpty()) << "the damage was never met";
 }
 
 TEST_F(FaultTest, AReadOnlyFileIsReadAndEveryWriteIsAnError)
@@ -224,6 +224,34 @@ TEST_F(FaultTest, ADatabaseThatCannotBeMadeOnAFullDiskLeavesNothing)
     EXPECT_TRUE(mLog.holds(AdoError::Engine, "CreateDatabase"_L1)) << mLog.text();
     EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files), QStringList());
     EXPECT_TRUE(database->CreateDatabase(false));
+}
+
+TEST_F(FaultTest, ASetThatCannotBeSavedLeavesTheOldFile)
+{
+    auto database = created();
+    add(*database, u"SiteSummary"_s, {{"FullPage"_L1, QString(300'000, u'x')}});
+    const Recordset set = database->GetRecordset(u"SELECT * FROM SiteSummary"_s);
+    const auto errorOfSave = [&](const QString &path, Recordset::SaveFormat format) {
+        try {
+            set.Save(path, format);
+        } catch (const RuntimeError &error) {
+            return error.number();
+        }
+        return qint64(0);
+    };
+    const QString path = pathOf(u"old.dat"_s);
+    write(path, "old");
+    const QStringList before = QDir(mFolder.path()).entryList(QDir::Files);
+    for (const auto &[format, full] : {std::pair{Recordset::SaveFormat::Binary, AdoError::Engine},
+                                       std::pair{Recordset::SaveFormat::Xml, ErrorNumber::PathAccessError}}) {
+        EXPECT_EQ(errorOfSave(pathOf(u"no/folder.dat"_s), format), 75);
+        {
+            const FullDisk disk(100'000);
+            EXPECT_EQ(errorOfSave(path, format), full);
+        }
+        EXPECT_EQ(read(path), "old");
+        EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files), before) << "something half made is left";
+    }
 }
 
 TEST_F(FaultTest, AFolderThatVanishesIsALoggedError)

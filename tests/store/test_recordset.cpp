@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +22,13 @@ template <class Body> qint64 errorOf(Body &&body)
         return error.number();
     }
     return 0;
+}
+
+// What the process holds in memory now.
+qint64 residentBytes()
+{
+    QFile file(u"/proc/self/statm"_s);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE) : 0;
 }
 
 class RecordsetTest : public StoreTest
@@ -192,6 +200,10 @@ TEST_F(RecordsetTest, ANewRowIsTheCurrentOneAndStandsAtTheEnd)
     set.AddNew();
     set.Update();
     EXPECT_EQ(set.RecordCount(), 22) << "a row without any value";
+    set.AddNew();
+    EXPECT_EQ(errorOf([&] { set.Delete(); }), 3219) << "the row that is being added is not there yet";
+    set.CancelUpdate();
+    EXPECT_EQ(set.RecordCount(), 22);
 }
 
 TEST_F(RecordsetTest, ARemovedRowIsPassedOver)
@@ -327,6 +339,11 @@ TEST_F(RecordsetTest, ChunksMakeAndTakeAValueInPieces)
     EXPECT_EQ(picture.GetChunk(4), QVariant(QByteArray("de")));
     EXPECT_EQ(picture.GetChunk(4), QVariant());
     EXPECT_EQ(errorOf([&] { static_cast<void>(picture.GetChunk(-1)); }), 5);
+    set.Fields()["FullPage"_L1].AppendChunk(u"new"_s);
+    set.Fields()["FullPage"_L1].AppendChunk(u"er"_s);
+    set.Update();
+    EXPECT_EQ(first(*mDatabase, u"SELECT FullPage FROM SiteSummary"_s), QVariant(u"newer"_s))
+        << "the first piece replaces what was there";
 }
 
 TEST_F(RecordsetTest, APictureGoesFromItsFileIntoTheFieldAndBack)
@@ -406,11 +423,35 @@ TEST_F(RecordsetTest, AFileThatIsNoSavedSetIsRefused)
     }
 }
 
-TEST_F(RecordsetTest, ASetThatCannotBeSavedLeavesTheOldFile)
+TEST_F(RecordsetTest, AWalkAndASaveHoldOneRowAtATime)
 {
-    Recordset set = open(u"SELECT * FROM Block"_s);
-    EXPECT_NE(errorOf([&] { set.Save(pathOf(u"no/folder.dat"_s), Recordset::SaveFormat::Binary); }), 0);
-    EXPECT_NE(errorOf([&] { set.Save(pathOf(u"no/folder.xml"_s), Recordset::SaveFormat::Xml); }), 0);
+    constexpr int rows = 500;
+    constexpr int page = 100'000;
+    {
+        Transaction transaction(*mDatabase);
+        for (int number = 0; number < rows; ++number)
+            add(*mDatabase, u"SiteSummary"_s, {{"FullPage"_L1, QString(page, u'x')}});
+        ASSERT_TRUE(transaction.commit());
+    }
+    const qint64 before = residentBytes();
+    const auto expectSmall = [&](const char *what) {
+        EXPECT_LT(residentBytes() - before, qint64(rows) * page / 2) << what;
+    };
+    int met = 0;
+    Recordset set = open(u"SELECT * FROM SiteSummary"_s);
+    for (; !set.Eof(); set.MoveNext(), ++met) {
+        ASSERT_EQ(set.Fields()["FullPage"_L1].Value().toString().size(), page);
+        if (met % 50 == 0)
+            expectSmall("a walk");
+    }
+    EXPECT_EQ(met, rows);
+    for (const auto format : {Recordset::SaveFormat::Binary, Recordset::SaveFormat::Xml}) {
+        set.Save(pathOf(u"large.dat"_s), format);
+        expectSmall("a save");
+        Recordset again = Recordset::open(pathOf(u"large.dat"_s));
+        EXPECT_EQ(again.RecordCount(), rows);
+        expectSmall("a saved set");
+    }
 }
 
 TEST(Dates, AreReadInTheirForms)

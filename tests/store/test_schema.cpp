@@ -42,28 +42,66 @@ class SchemaTest : public StoreTest
 };
 } // namespace
 
-TEST_F(SchemaTest, TheTablesStandInTheirOrder)
+TEST_F(SchemaTest, TheTablesAndTheirFieldsStandInTheirOrder)
 {
     const QList<QStringList> names = LoadTblFldNames();
     ASSERT_EQ(names.size(), 31);
-    QStringList tables;
-    for (const QStringList &row : names) {
-        EXPECT_EQ(row.size(), 44);
-        EXPECT_EQ(row[1], u"Index"_s);
-        tables.append(row[0]);
+    const auto numbered = [](const QString &name, int last) {
+        QString fields;
+        for (int number = 1; number <= last; ++number)
+            fields += u' ' + name + QString::number(number);
+        return fields;
+    };
+    const QString savedUrls = u"Date MaskName Url"_s;
+    const QString foundUrls = u"Date SSIndex MaskName Url"_s;
+    const QString series = u"Date Url StartNumber IncrNum IncrStep"_s;
+    const QString criteria = u"Date MaskName"_s + numbered(u"Item-"_s, 40);
+    const QString sites = u"Date SiteName CnvHex UrlLen Group"_s + numbered(u"Url-"_s, 5) +
+                          numbered(u"BeginUrl-"_s, 5) + numbered(u"EndUrl-"_s, 5) + numbered(u"UrlMC-"_s, 5) +
+                          numbered(u"UrlMNC-"_s, 5) + numbered(u"BUrlCol-"_s, 5) + numbered(u"EUrlCol-"_s, 5);
+    const QList<std::pair<QString, QString>> expected{
+        {u"RPgUrlsA"_s, savedUrls},
+        {u"RPgUrlsB"_s, savedUrls},
+        {u"RPgUrlsC"_s, savedUrls},
+        {u"RPgUrlsD"_s, savedUrls},
+        {u"RPgUrlsE"_s, savedUrls},
+        {u"SiteSummary"_s, u"Date Title Url FullPage Picture"_s},
+        {u"EmailAddress"_s, u"Date SSIndex Address Url"_s},
+        {u"ANSelectUrls"_s, u"Date Url Note"_s},
+        {u"MC"_s, criteria},
+        {u"MNC"_s, criteria},
+        {u"Block"_s, u"UrlsContent EmailContent"_s},
+        {u"MNUrlsA"_s, u"Url LastUrl"_s},
+        {u"MNUrlsB"_s, u"Url LastUrl"_s},
+        {u"MNUrlsC"_s, u"Url LastUrl"_s},
+        {u"MNUrlsD"_s, u"Url LastUrl"_s},
+        {u"MNUrlsE"_s, u"Url LastUrl"_s},
+        {u"MNSelectUrls"_s, u"Date Url Note"_s},
+        {u"UrlsCache"_s, foundUrls},
+        {u"MNUrlFilters"_s, u"Date FilterOne FilterTwo MCMNCIndex ServerOne ServerTwo"_s},
+        {u"PhoneNumber"_s, u"Date SSIndex Number Type Url"_s},
+        {u"SearchSites"_s, sites},
+        {u"PassUrlsA"_s, foundUrls},
+        {u"PassUrlsB"_s, foundUrls},
+        {u"PassUrlsC"_s, foundUrls},
+        {u"PassUrlsD"_s, foundUrls},
+        {u"PassUrlsE"_s, foundUrls},
+        {u"AutoTextA"_s, series},
+        {u"AutoTextB"_s, series},
+        {u"AutoTextC"_s, series},
+        {u"AutoTextD"_s, series},
+        {u"AutoTextE"_s, series}};
+    auto database = created();
+    for (qsizetype table = 0; table < names.size(); ++table) {
+        const auto &[name, fields] = expected[table];
+        QStringList row = QStringList{name, u"Index"_s} + fields.split(u' ');
+        Recordset rows = database->GetRecordset(u"SELECT * FROM "_s + name);
+        ASSERT_EQ(rows.Fields().Count(), row.size() - 1);
+        for (int column = 0; column < rows.Fields().Count(); ++column)
+            EXPECT_EQ(rows.Fields()[column].Name(), row[column + 1]);
+        row.resize(44);
+        EXPECT_EQ(names[table], row);
     }
-    EXPECT_EQ(tables.join(u' '),
-              u"RPgUrlsA RPgUrlsB RPgUrlsC RPgUrlsD RPgUrlsE SiteSummary EmailAddress ANSelectUrls MC MNC Block "
-              "MNUrlsA MNUrlsB MNUrlsC MNUrlsD MNUrlsE MNSelectUrls UrlsCache MNUrlFilters PhoneNumber SearchSites "
-              "PassUrlsA PassUrlsB PassUrlsC PassUrlsD PassUrlsE AutoTextA AutoTextB AutoTextC AutoTextD AutoTextE"_s);
-    EXPECT_EQ(names[8].mid(0, 5), (QStringList{u"MC"_s, u"Index"_s, u"Date"_s, u"MaskName"_s, u"Item-1"_s}));
-    EXPECT_EQ(names[9][43], u"Item-40"_s);
-    EXPECT_EQ(names[20][7], u"Url-1"_s);
-    EXPECT_EQ(names[20][12], u"BeginUrl-1"_s);
-    EXPECT_EQ(names[20][41], u"EUrlCol-5"_s);
-    EXPECT_EQ(names[20][42], u""_s);
-    EXPECT_EQ(names[10].mid(0, 5), (QStringList{u"Block"_s, u"Index"_s, u"UrlsContent"_s, u"EmailContent"_s, u""_s}));
-    EXPECT_EQ(names[11].mid(0, 5), (QStringList{u"MNUrlsA"_s, u"Index"_s, u"Url"_s, u"LastUrl"_s, u""_s}));
     EXPECT_EQ(QString(rowMarker).size(), 15);
     EXPECT_EQ(recordElement("Url"_L1, u"x"_s), u"Url<~+-Trawlex-+~>x"_s);
 }

@@ -19,7 +19,6 @@ class ValueReader
 
   private:
     void writeValue(MdbColumn &column, const MdbField &field);
-    void writeText(const std::string &bytes);
     [[nodiscard]] std::string codePageText(MdbColumn &column, const MdbField &field) const;
     [[nodiscard]] std::string fieldBytes(const MdbField &field) const;
     [[nodiscard]] std::string longBytes(MdbColumn &column, const MdbField &field);
