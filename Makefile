@@ -24,6 +24,7 @@ bench: deps
 fuzz: deps
 	cmake --preset fuzz
 	cmake --build --preset fuzz -j $(JOBS)
+	@FUZZ_SECONDS=$(FUZZ_SECONDS) JOBS=$(JOBS) tools/fuzz.sh build/fuzz
 
 # Format, forbidden includes and words, static analysis, tests: what CI runs and what a commit should pass.
 check: build
