@@ -4,7 +4,7 @@
 #include <QVarLengthArray>
 
 namespace cUtility {
-/// Mostly one or two; a few units have three.
+/// Mostly one or two; a few units have three, none has more.
 using CaseVariants = QVarLengthArray<char16_t, 4>;
 
 /// All units whose lower-case unit is that of `unit`, itself included.

@@ -105,7 +105,7 @@ QString cUtility::OutPutFileName(const QString &path)
     QString candidate;
     do {
         number = Incr(number, 4, false, 1, {}, u"1", {}, false);
-        while (number.size() > 1 && number.startsWith(u'0'))
+        while (number.startsWith(u'0'))
             number.remove(0, 1);
         candidate = stem + u'_' + number + extension;
     } while (taken.contains(lowered(candidate)));

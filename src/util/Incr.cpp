@@ -109,11 +109,10 @@ std::optional<QString> stepped(QStringView number, int mode, QStringView strStep
     if (mode == SubtractStep)
         step->isNegative = !step->isNegative;
     const WholeNumber result = sum({false, withoutLeadingZeros(number)}, *step);
-    const bool isZero = result.digits == u"0"_s;
-    if (mode == SubtractStep && (isZero || result.isNegative))
+    if (mode == SubtractStep && (result.isNegative || result.digits == u"0"_s))
         return QString(number.size(), u'9');
     const QString digits = isPadded ? cUtility::PaddDigits(result.digits, number.size()) : result.digits;
-    return result.isNegative && !isZero ? u'-' + digits : digits;
+    return result.isNegative ? u'-' + digits : digits;
 }
 
 /// The runs joined again, with `changed` in the place of run `index` and `separator` at its touching ends.

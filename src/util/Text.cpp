@@ -5,7 +5,6 @@
 #include <QStringList>
 #include <algorithm>
 #include <array>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -41,12 +40,11 @@ void lowerAsciiBlock(const char16_t *units, char16_t *result)
 /// All units that stand for one unit when case is ignored, repeated where there are fewer.
 using Variants = std::array<char16_t, 3>;
 
-std::optional<Variants> variantsOf(QChar unit)
+Variants variantsOf(QChar unit)
 {
     const cUtility::CaseVariants all = cUtility::caseVariants(unit.unicode());
-    if (size_t(all.size()) > Variants().size())
-        return std::nullopt;
     Variants variants;
+    Q_ASSERT(size_t(all.size()) <= variants.size());
     variants.fill(all.front());
     std::copy(all.begin(), all.end(), variants.begin());
     return variants;
@@ -71,8 +69,8 @@ bool holdsBothEnds(const char16_t *begins, const char16_t *ends, const Variants 
 /// over.
 qsizetype indexFolded(QStringView text, QStringView find, qsizetype from)
 {
-    const std::optional<Variants> first = variantsOf(find.front());
-    const std::optional<Variants> last = variantsOf(find.back());
+    const Variants first = variantsOf(find.front());
+    const Variants last = variantsOf(find.back());
     const qsizetype reach = find.size() - 1;
     const auto search = [&](qsizetype begin, qsizetype end) -> qsizetype {
         const auto stop = text.begin() + end;
@@ -80,8 +78,8 @@ qsizetype indexFolded(QStringView text, QStringView find, qsizetype from)
         return found == stop ? -1 : found - text.begin();
     };
     qsizetype at = from;
-    for (; first && last && at + blockSize + reach <= text.size(); at += blockSize)
-        if (holdsBothEnds(text.utf16() + at, text.utf16() + at + reach, *first, *last))
+    for (; at + blockSize + reach <= text.size(); at += blockSize)
+        if (holdsBothEnds(text.utf16() + at, text.utf16() + at + reach, first, last))
             if (const qsizetype found = search(at, at + blockSize + reach); found >= 0)
                 return found;
     return search(at, text.size());
