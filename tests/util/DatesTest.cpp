@@ -38,7 +38,7 @@ TEST(DateTexts, BadFormatsAreRefusedWithTheirMessage)
 {
     const QString message = u"InPut format string must be mmddy, mmddyy, mmddyyyy, only item (mm, dd, yy) position can "
                             "vary not count."_s;
-    for (const QStringView format : {u"mmdd", u"mmddyyy", u"mdyy", u"mmddyymm", u"", u"mm/dd/yy"})
+    for (const QStringView format : {u"mmdd", u"mmddyyy", u"mdyy", u"mmddyymm", u"mmmmyy", u"ddyydd", u"", u"mm/dd/yy"})
         EXPECT_EQ(CnvDateString(u"1/2/99", format, u"yyyy", u"/", today), (cUtility::DateText{{}, message}))
             << shown(format.toString());
 }
@@ -54,6 +54,7 @@ TEST(DateTexts, ADateWithoutDelimiterIsRefusedWithItsMessage)
 TEST(DateTexts, ADateWithOtherItemsHasNeitherTextNorMessage)
 {
     EXPECT_EQ(CnvDateString(u"12/31", u"mmddyy", u"yyyy", u"/", today), cUtility::DateText{});
+    EXPECT_EQ(CnvDateString(u"12//99", u"mmddyy", u"yyyy", u"/", today), cUtility::DateText{});
     EXPECT_EQ(CnvDateString(u"12/x/99", u"mmddyy", u"yyyy", u"/", today), cUtility::DateText{});
 }
 

@@ -136,6 +136,20 @@ TEST_F(FreeNames, OutputNamesCountBehindTheUnderscore)
     EXPECT_EQ(cUtility::OutPutFileName(path(u"a_b.txt"_s)), path(u"a_b_1.txt"_s));
 }
 
+TEST_F(FreeNames, OutputNamesNeedNeitherExtensionNorFolder)
+{
+    make(u"out"_s);
+    EXPECT_EQ(cUtility::OutPutFileName(path(u"out"_s)), path(u"out_1"_s));
+    make(u"out_.txt"_s);
+    EXPECT_EQ(cUtility::OutPutFileName(path(u"out_.txt"_s)), path(u"out__1.txt"_s));
+    make(u"out_1x.txt"_s);
+    EXPECT_EQ(cUtility::OutPutFileName(path(u"out_1x.txt"_s)), path(u"out_1x_1.txt"_s));
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+    EXPECT_EQ(cUtility::OutPutFileName(u"out"_s), u"out_1"_s);
+    ASSERT_TRUE(QDir::setCurrent(before));
+}
+
 TEST_F(FreeNames, OutputNamesAreTakenInAnyCase)
 {
     make(u"OUT.txt"_s);

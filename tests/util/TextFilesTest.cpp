@@ -74,6 +74,7 @@ TEST_F(TextFiles, RowsAndColumns)
     const QString file = write(u"rows"_s, " a|b \r\n\r\n   \r\nc|\r\n");
     EXPECT_EQ(cUtility::LoadDelimitedFileAs2DArray(file, u"|"_s),
               (QList<QStringList>{{u"a"_s, u"b"_s}, {u"c"_s, u""_s}}));
+    EXPECT_EQ(cUtility::LoadDelimitedFileAs2DArray(file, u""_s), (QList<QStringList>{{u"a|b"_s}, {u"c|"_s}}));
     EXPECT_TRUE(cUtility::LoadDelimitedFileAs2DArray(path(u"none"_s), u"|"_s).isEmpty());
 }
 
@@ -109,6 +110,8 @@ TEST_F(TextFiles, CollectsByExtensionInAnyCaseHiddenOnesToo)
               (QStringList{path(u".c.jpg"_s), path(u"A.JPG"_s), path(u"b.jpg"_s)}));
     EXPECT_EQ(cUtility::CollectFiles(folder.path(), u"bmp"_s), QStringList{u""_s});
     EXPECT_EQ(cUtility::CollectFiles(path(u"none"_s), u"jpg"_s), QStringList{u""_s});
+    EXPECT_EQ(cUtility::CollectFiles(folder.path(), u""_s), QStringList{u""_s});
+    EXPECT_EQ(cUtility::CollectFiles(u""_s, u"jpg"_s), QStringList{u""_s});
 }
 
 TEST_F(TextFiles, TheActiveDriveIsTheFirstThatCanBeWritten)

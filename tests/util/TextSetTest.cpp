@@ -68,11 +68,13 @@ TEST(TextSet, HoldsManyTextsAndRepeats)
     for (int index = 0; index < 3000; ++index)
         texts += u"item"_s + QString::number(index) + u";"_s;
     texts += texts.first(10);
+    texts += QString(); // stands in every page but the empty one
     const TextSet set(texts, ignored);
     EXPECT_EQ(set.firstFound(u"... ITEM2999; ... item1500; ..."), 1500);
-    EXPECT_EQ(set.firstFound(u"item3000;"), -1);
+    EXPECT_EQ(set.firstFound(u"item3000;"), texts.size() - 1);
+    EXPECT_EQ(set.firstFound(u""), -1);
     EXPECT_EQ(set.firstMissing(texts.join(u' ')), -1);
-    EXPECT_EQ(set.firstMissing(texts.sliced(1, texts.size() - 11).join(u' ')), 0);
+    EXPECT_EQ(set.firstMissing(texts.sliced(1, texts.size() - 12).join(u' ')), 0);
 }
 
 TEST(TextSet, BothEnginesEqualThePlainVersionOnRandomInput)
@@ -99,6 +101,32 @@ TEST(TextSet, BothEnginesEqualThePlainVersionOnRandomInput)
         scannedPages += scanned ? 1 : 0;
     }
     EXPECT_GT(scannedPages, LiteralScanner::isSupported() ? randomRounds() * 9 / 10 : -1);
+}
+
+TEST(TextSet, APageFullOfThePartsOfItsTextsIsReadInAnotherWay)
+{
+    // Runs of a unit that is rare elsewhere: the scanner comes upon each text's window at nearly every place.
+    RandomText random(9);
+    const QStringList pieces{u"zzz"_s, u"Z"_s, u"zq"_s, u"e"_s};
+    for (int round = std::max(randomRounds() / 2000, 20); round > 0; --round) {
+        QStringList texts{QString(200, u'z') + u'e'};
+        for (int more = random.number(0, 90); more > 0; --more)
+            texts += QString(random.number(20, 150), u'z') + random.text(pieces, 3);
+        std::shuffle(texts.begin(), texts.end(), std::mt19937(unsigned(round)));
+        QString page;
+        for (int parts = random.number(1, 6); parts > 0; --parts)
+            page += QString(random.number(100, 400), u'z') + random.text(pieces, 3);
+        page += QString(3000, u'z');
+        const bool minded = random.oneIn(2);
+        const auto sensitivity = minded ? Qt::CaseSensitive : ignored;
+        const TextSet set(texts, sensitivity);
+        ASSERT_EQ(set.firstFound(page), plainLook(texts, page, Wanted::FirstFound, minded)) << shown(texts);
+        ASSERT_EQ(set.firstMissing(page), plainLook(texts, page, Wanted::FirstMissing, minded)) << shown(texts);
+        ASSERT_EQ(set.anyIn(page), plainLook(texts, page, Wanted::FirstFound, minded) >= 0) << shown(texts);
+    }
+    const QStringList hard{QString(200, u'z') + u'e'};
+    EXPECT_FALSE(lookByScanner(hard, QString(5000, u'z'), Wanted::FirstFound, ignored).has_value());
+    EXPECT_EQ(TextSet(hard, ignored).firstFound(QString(5000, u'z') + u'E'), 0);
 }
 
 TEST(TextSet, CostsNoMoreThanReadingThePageOnAnyPage)
