@@ -66,14 +66,13 @@ class EmailWalk
 
     [[nodiscard]] char16_t unitAt(qsizetype position) const { return mText[position - 1].unicode(); }
 
-    /// The first hit at or behind the resume position; 0 for none. A place that is known is not looked for again.
+    /// The first hit at or behind the resume position; 0 for none. That position never goes back, so a place that is
+    /// known is not looked for again.
     qsizetype nextHit()
     {
-        if (mResume < mSearchedFrom || (mNextHit != 0 && mResume > mNextHit) || mSearchedFrom == 0) {
+        if (!mNextHit || (*mNextHit != 0 && *mNextHit < mResume))
             mNextHit = cUtility::InStr(mResume, mText, mSearchText);
-            mSearchedFrom = mResume;
-        }
-        return mNextHit;
+        return *mNextHit;
     }
 
     void reportLooksBehindTheEnd(qsizetype hit)
@@ -139,8 +138,7 @@ class EmailWalk
     qsizetype mStart = 0;
     qsizetype mEnd = 0;
     // What is known of the text, so that no part of it is read twice.
-    qsizetype mNextHit = 0;
-    qsizetype mSearchedFrom = 0;
+    std::optional<qsizetype> mNextHit;
     qsizetype mRunBefore = 0;
     qsizetype mRunBehind = 0;
     std::optional<bool> mTextEndsInType;

@@ -10,7 +10,6 @@ using cIEText::TextKind;
 
 namespace {
 const QStringList none{QString()};
-
 constexpr auto location = "Function CheckForInvalidEmailChar"_L1;
 
 QStringList collect(const QString &text)
@@ -35,6 +34,14 @@ TEST(CollectEmail, ATextThatBeginsWithTheHitMovesOn)
     // The first pass works from position 16, inside the second address.
     EXPECT_EQ(collect(u"@one.com  me@two.com "_s), QStringList{u"me@two.com"_s});
     EXPECT_EQ(collect(u"@one.com me@two.com  "_s), QStringList{u"me@two.com"_s});
+}
+
+TEST(CollectEmail, AHitMovedBehindTheEndLeavesTheResumePositionAtSix)
+{
+    EXPECT_EQ(collect(u"@x.com"_s), none); // nothing stands behind the end, so the text's own end is not met either
+    EXPECT_EQ(collect(u"@234@x.com y"_s), none);
+    EXPECT_EQ(collect(u"@2345@x.com y"_s), none); // at 6 the hit moves on again
+    EXPECT_EQ(collect(u"@23456@x.com y"_s), QStringList{u"@23456@x.com"_s});
 }
 
 TEST(CollectEmail, AnAddressAtTheVeryEndIsTaken)
@@ -103,13 +110,17 @@ TEST(CollectEmail, EqualsThePlainVersionOnRandomInput)
                            u".co"_s,          u" "_s,     u"me@x.de "_s, u"<"_s,  u"-"_s, u"_9"_s,   u">"_s,
                            u"aaaaaaaaaaaa"_s, u"\u212A"_s};
     const QStringList rough = tidy + QStringList{u"@"_s, u"@"_s, u"@@"_s};
+    const QStringList searches = rough + QStringList{QString()};
     for (int round = randomRounds(); round > 0; --round) {
         // A hit at the end of its run, or a run that reaches the end of the text, uses up all 1000 passes: some do.
         const bool isRough = random.oneIn(10);
         QString text = random.text(isRough ? rough : tidy, 14);
         if (!isRough || random.oneIn(2))
             text += u' ';
-        const QString searched = random.oneIn(40) ? random.text(rough, 1) : u"@"_s;
+        // Other searched texts may be no part of an address, and stand at the beginning more often than by chance.
+        const QString searched = random.oneIn(40) ? random.oneOf(searches) : u"@"_s;
+        if (random.oneIn(20))
+            text.prepend(searched);
         const plain::Emails expected = plain::CollectEmail(text, searched);
         Records records(location);
         ASSERT_EQ(cIEText::CollectEmail(text, searched, &records), expected.list) << shown(text) << shown(searched);

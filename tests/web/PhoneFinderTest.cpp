@@ -112,6 +112,8 @@ TEST(PhoneNumbers, EntriesAreTakenAsTheyStand)
     EXPECT_EQ(FindPhoneNumbers(page, u" 205", false), QStringList{u"2055550001"_s});
     EXPECT_EQ(FindPhoneNumbers(page, u"(205", false), none);
     EXPECT_EQ(FindPhoneNumbers(page, u"205-555-0001", false), QStringList{u"2055550001"_s});
+    EXPECT_EQ(FindPhoneNumbers(page, page.sliced(2), false), QStringList{u"2055550001"_s});
+    EXPECT_EQ(FindPhoneNumbers(page, page.sliced(2) + u'.', false), none);
 }
 
 TEST(PhoneNumbers, EqualThePlainVersionOnRandomInput)
@@ -143,6 +145,7 @@ TEST(AreaCodeBox, OneCommaGoesAtEitherEnd)
 {
     EXPECT_EQ(cAreaCode::normalizedAreaCodes(u",205,251,"_s), u"205,251"_s);
     EXPECT_EQ(cAreaCode::normalizedAreaCodes(u",,205"_s), u",205"_s);
+    EXPECT_EQ(cAreaCode::normalizedAreaCodes(u"205,,"_s), u"205,"_s);
     EXPECT_EQ(cAreaCode::normalizedAreaCodes(u"205,,251,320"_s), u"205,,251,320"_s);
 }
 

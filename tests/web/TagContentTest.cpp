@@ -20,6 +20,11 @@ TEST(TagContent, KeepsTheCaseOfTheMarkupAndBeginsAtElementZero)
     EXPECT_EQ(Get_HtmlTag_Content(u"<b", u"</b>", u"<b>One</b>", nullptr), QStringList{u"One"_s});
 }
 
+TEST(TagContent, AnEmptyContentCountsToo)
+{
+    EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", u"<b></b><b>x</b>", nullptr), (QStringList{u""_s, u"x"_s}));
+}
+
 TEST(TagContent, ATagWithAttributesBeginsInsideThem)
 {
     EXPECT_EQ(Get_HtmlTag_Content(u"<a>", u"</a>", u"<a href=x>t</a>", nullptr), QStringList{u"href=x>t"_s});
@@ -61,6 +66,15 @@ TEST(TagContent, AnEndDirectlyBehindTheTagEndsTheWalkWithOneRecord)
 {
     Records records(location);
     EXPECT_EQ(Get_HtmlTag_Content(u"<b>", u"</b>", u"<b>x</b><b</b><b>y</b>", &records), QStringList{u"x"_s});
+    EXPECT_EQ(records.count, 1);
+}
+
+TEST(TagContent, ATagOfNothingButItsBracketHasNoContent)
+{
+    Records records(location);
+    EXPECT_EQ(Get_HtmlTag_Content(u">", u"x", u"abc", &records), none);
+    EXPECT_EQ(records.count, 0);
+    EXPECT_EQ(Get_HtmlTag_Content(u">", u"b", u"abc", &records), none);
     EXPECT_EQ(records.count, 1);
 }
 
