@@ -101,7 +101,7 @@ void TargetWatch::attached(const QString &parent, const QJsonObject &params)
     } else if (mReplacing && !info.contains(u"openerId") && info[u"url"].toString() == "about:blank"_L1) {
         takeReplacement(session, target);
     } else if (mFamily.contains(info[u"openerId"].toString())) {
-        decideOnWindow(session, target, params[u"waitingForDebugger"].toBool());
+        decideOnWindow(session, info, params[u"waitingForDebugger"].toBool());
     } else {
         run(session);
         mConnection.send({}, "Target.detachFromTarget"_L1, {{u"sessionId"_s, session}});
@@ -180,25 +180,40 @@ void TargetWatch::guard(const QString &session)
                      {{u"source"_s, script}, {u"worldName"_s, u"trawlex"_s}, {u"runImmediately"_s, true}});
 }
 
-// A refused window is closed before it runs and then let run: a window that is closed while it is held leaves the
-// process of its opener held for ever.
-void TargetWatch::decideOnWindow(const QString &session, const QString &target, bool isNew)
+void TargetWatch::decideOnWindow(const QString &session, const QJsonObject &info, bool isNew)
 {
+    const QPointer<TargetWatch> self(this);
     bool cancel = false;
     if (isNew)
         Q_EMIT windowWanted(&cancel);
-    if (cancel) {
-        mConnection.send(session, "Page.close"_L1);
-    } else {
-        mFamily.insert(target);
-        guard(session);
-    }
-    run(session);
+    if (!self)
+        return;
+    mFamily.insert(info[u"targetId"].toString());
+    guard(session);
+    if (cancel)
+        refuse(session, info);
+    else
+        run(session);
 }
 
-void TargetWatch::run(const QString &session)
+// A window that its opener can reach holds the process of both; closed while it is held, it would leave that process
+// held for ever. So it is let run, with all that it asks of the network unanswered, and closed when it does.
+void TargetWatch::refuse(const QString &session, const QJsonObject &info)
 {
-    mConnection.send(session, "Runtime.runIfWaitingForDebugger"_L1);
+    const QPointer<TargetWatch> self(this);
+    const auto close = [self, target = info[u"targetId"]](const DevToolsConnection::Answer &) {
+        if (self)
+            self->mConnection.send({}, "Target.closeTarget"_L1, {{u"targetId"_s, target}});
+    };
+    if (!info[u"canAccessOpener"].toBool())
+        return close({});
+    mConnection.send(session, "Fetch.enable"_L1);
+    run(session, close);
+}
+
+void TargetWatch::run(const QString &session, DevToolsConnection::Then then)
+{
+    mConnection.send(session, "Runtime.runIfWaitingForDebugger"_L1, {}, std::move(then));
 }
 
 void TargetWatch::detached(const QJsonObject &params)

@@ -139,13 +139,19 @@ std::shared_ptr<BrowserEngine> ChromiumTest::connect()
     return found;
 }
 
-std::shared_ptr<DevToolsConnection> ChromiumTest::backDoor()
+QUrl ChromiumTest::endpoint()
 {
     QFile file(dataFolder() + (windowless() ? u"/browser-headless"_s : u"/browser"_s) + u"/DevToolsActivePort"_s);
     if (!file.open(QIODevice::ReadOnly))
-        return nullptr;
+        return {};
     const QStringList lines = QString::fromLatin1(file.readAll()).split(u'\n');
-    return DevToolsConnection::open(QUrl(u"ws://127.0.0.1:%1%2"_s.arg(lines.value(0), lines.value(1))), 2s);
+    return QUrl(u"ws://127.0.0.1:%1%2"_s.arg(lines.value(0), lines.value(1)));
+}
+
+std::shared_ptr<DevToolsConnection> ChromiumTest::backDoor()
+{
+    const QUrl address = endpoint();
+    return address.isEmpty() ? nullptr : DevToolsConnection::open(address, 2s);
 }
 
 QHash<QString, QString> ChromiumTest::windows()

@@ -1,5 +1,8 @@
 // The windows of the free-standing browser: those that pages open, those of the user, and the loss of ours.
 #include "ChromiumFixture.h"
+#include "SlowLine.h"
+#include "engine/ChromiumBrowser.h"
+#include "engine/ChromiumPage.h"
 
 #include <QJsonDocument>
 #include <QTimer>
@@ -72,6 +75,8 @@ INSTANTIATE_TEST_SUITE_P(All, ChromiumOpenings,
                                                  "<a id=a target=_blank href=/pop></a><script>a.click()</script>"},
                                          Opening{"form", "<form id=f target=_blank action=/pop></form><script>"
                                                          "f.submit()</script>"},
+                                         Opening{"related", "<form id=f target=_blank rel=opener action=/pop></form>"
+                                                            "<script>f.submit()</script>"},
                                          Opening{"blank", "<script>open('about:blank')</script>"}),
                          [](const auto &each) { return std::string(each.param.name); });
 
@@ -115,6 +120,32 @@ TEST_F(ChromiumWindows, AWindowIsRefusedInTheMiddleOfARead)
     EXPECT_TRUE(inside);
     EXPECT_EQ(asked, 1);
     EXPECT_TRUE(waitForTitle(u"b"_s)) << "the page goes on";
+}
+
+TEST_F(ChromiumWindows, APageGoesOnAfterARefusalHoweverSlowlyItIsTold)
+{
+    browser.reset();
+    SlowLine line(endpoint(), 30ms);
+    const auto connection = DevToolsConnection::open(line.address(), 2s);
+    ASSERT_TRUE(connection);
+    take(std::make_shared<ChromiumBrowser>(std::make_shared<ChromiumPage>(connection)));
+    QObject::connect(browser.get(), &BrowserEngine::NewWindow2, browser.get(), [](bool *cancel) { *cancel = true; });
+    const int before = popped();
+    show("<p id=mail>none</p><script>open('/pop'); mail.textContent = 'a@b.test'</script>");
+    EXPECT_EQ(str(text()), "a@b.test");
+    EXPECT_TRUE(waitFor([&] { return windows().size() == 1; }));
+    EXPECT_EQ(popped(), before);
+    browser.reset();
+}
+
+TEST_F(ChromiumWindows, ARefusedWindowCanNeitherAskNorOpenAnother)
+{
+    show("<script>const w = open(''); w.document.write('<script>alert(1); open(\"/pop\")<\\/script>');"
+         "document.title = 'on'</script>");
+    EXPECT_TRUE(waitForTitle(u"on"_s));
+    EXPECT_TRUE(waitFor([&] { return windows().size() == 1; }));
+    idle(300);
+    EXPECT_EQ(windows().size(), 1);
 }
 
 TEST_F(ChromiumWindows, BoxesOfAllowedWindowsAreAnsweredAndTheirWindowsAreAskedFor)
@@ -305,6 +336,17 @@ TEST_F(ChromiumWindows, TheEngineMayGoInsideEachOfItsSignals)
     browser->Navigate(here(u"/page"_s));
     EXPECT_TRUE(waitFor([&] { return !browser; }));
     take(connect());
+}
+
+TEST_F(ChromiumWindows, TheEngineMayGoWhileAWindowIsAskedFor)
+{
+    QObject::connect(browser.get(), &BrowserEngine::NewWindow2, browser.get(), [this] { browser.reset(); });
+    server().page("/opens", "<script>open('/pop')</script>");
+    browser->Navigate(here(u"/opens"_s));
+    EXPECT_TRUE(waitFor([&] { return !browser; }));
+    take(connect());
+    show("<title>well</title>");
+    EXPECT_EQ(str(browser->LocationName()), "well");
 }
 
 TEST_F(ChromiumWindows, TheEngineMayGoInTheMiddleOfItsOwnRead)
