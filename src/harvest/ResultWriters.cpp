@@ -4,6 +4,7 @@
 #include "store/Schema.h"
 #include "util/Arrays.h"
 #include "util/Incr.h"
+#include "util/Text.h"
 #include "web/Addresses.h"
 #include "web/EmailFinder.h"
 #include "web/PhoneFinder.h"
@@ -79,11 +80,11 @@ int ResultWriters::SaveSummary(PageReading &page)
 
 bool ResultWriters::SaveFile(PageReading &page)
 {
-    return guardedResult(mLog, {module, "Function SaveFile"_L1}, false, [&](bool &saved) {
+    return guardedResult(mLog, {module, "Sub SaveFile"_L1}, false, [&](bool &saved) {
         const QString data = mData.GetPageData(page, PageData::Target::File);
         if (data.isEmpty())
             return;
-        QString name = mForm.txtSFMNDir.text().trimmed() + "Page-1"_L1 +
+        QString name = cUtility::Trim(mForm.txtSFMNDir.text()).toString() + "Page-1"_L1 +
                        (mForm.cboANSaveType.listIndex() == 0 ? ".htm"_L1 : ".txt"_L1);
         if (mForm.chkPutInOneFile.value() == 0) {
             while (QFile::exists(name))
@@ -154,7 +155,8 @@ bool ResultWriters::SavePhone(PageReading &page)
     return guardedResult(mLog, {module, "Sub SavePhone"_L1}, false, [&](bool &saved) {
         const QString url = mForm.chkSMD(saveUrlWithPhone).value() == 1 ? page.url() : QString();
         const bool fax = mForm.chkSMD(faxOnly).isOn();
-        QStringList numbers = cAreaCode::FindPhoneNumbers(page.html(), mForm.txtSBSelAreaCodes.text().trimmed(), fax);
+        QStringList numbers =
+            cAreaCode::FindPhoneNumbers(page.html(), cUtility::Trim(mForm.txtSBSelAreaCodes.text()), fax);
         if (firstOf(numbers).isEmpty())
             return;
         numbers = cUtility::RemoveRepeatsFromArray(numbers);

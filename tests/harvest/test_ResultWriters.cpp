@@ -1,4 +1,5 @@
 // Rows and files of an accepted page, each new thing once.
+#include "store/Connection.h"
 #include "support/ProgramFixture.h"
 
 #include <QDir>
@@ -90,6 +91,32 @@ TEST_F(WritersTest, WithPagesSavedToTheTableThePageIsInTheRow)
     EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{u"<body>a page of no interest</body>"_s});
 }
 
+TEST_F(WritersTest, WithPagesSavedToFilesAloneTheRowHasNone)
+{
+    savePagesToFile();
+    form().chkSaveToSS.setValue(0);
+    EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
+    EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{QString()});
+}
+
+TEST_F(WritersTest, ARowThatIsNotWrittenIsNotReported)
+{
+    show(u"http://www.site1.com/"_s,
+         u"<body>Call us at 212-555-0100 or write to ann@tea.com, whenever you like to</body>"_s);
+    database().connection()->refuseWrites();
+    EXPECT_EQ(saveSummary(), ResultWriters::NothingSaved);
+    EXPECT_FALSE(savePassUrl());
+    EXPECT_FALSE(saveEmail());
+    EXPECT_FALSE(savePhone());
+    EXPECT_TRUE(program->writers.takeAdded().isEmpty());
+    database().connection()->allowWrites();
+    EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
+    EXPECT_TRUE(savePassUrl() && saveEmail() && savePhone());
+    EXPECT_EQ(program->writers.takeAdded(),
+              (QMap<QString, int>{
+                  {u"SiteSummary"_s, 1}, {u"PassUrlsA"_s, 1}, {u"EmailAddress"_s, 1}, {u"PhoneNumber"_s, 1}}));
+}
+
 TEST_F(WritersTest, AnAddressThatStandsThereIsNotAddedAgain)
 {
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
@@ -169,6 +196,17 @@ TEST_F(WritersTest, DigitsInTheFoldersNameDoNotClimb)
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(QFile::exists(sub + u"Page-2.htm"_s));
+}
+
+TEST_F(WritersTest, BlanksAroundTheFolderDoNotCountAndOtherCharactersDo)
+{
+    savePagesToFile();
+    form().txtSFMNDir.setText(u"  "_s + folder.path() + u"/ "_s);
+    EXPECT_TRUE(saveFile());
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"Page-1.htm"_s)));
+    form().txtSFMNDir.setText(folder.path() + u"/\t"_s);
+    EXPECT_TRUE(saveFile());
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"\tPage-1.htm"_s)));
 }
 
 TEST_F(WritersTest, InOneFilePagesFollowOneAnotherDividedByTheLineEnd)
@@ -276,6 +314,32 @@ TEST_F(WritersTest, AddressesAreStoredOnceAcrossAllPages)
               (QStringList{u"http://www.site1.com/"_s, u"http://www.site1.com/"_s, u"http://www.site2.com/"_s}));
 }
 
+TEST_F(WritersTest, AddressesThatDifferInCaseAreOne)
+{
+    show(u"http://www.site1.com/"_s, u"<body> Ann@tea.com ann@TEA.com, and that is all there is of it</body>"_s);
+    EXPECT_TRUE(saveEmail());
+    EXPECT_EQ(rows(u"EmailAddress"_s, u"Address"_s), QStringList{u"Ann@tea.com"_s});
+}
+
+TEST_F(WritersTest, AnAddressWithAQuoteEndsItsWriterAndTheOthersGoOn)
+{
+    form().mbANRunning = true;
+    for (CheckBox *box : {&form().chkSaveEmail, &form().chkSaveSummary, &form().chkSaveUrl})
+        box->setValue(1);
+    form().chkSMD(7).setValue(0);
+    // What stands at the very beginning of a page is taken into an address whatever it is.
+    show(u"http://www.site1.com/"_s, u"'ann@tea.com and bob@tea.com are what is to be found here"_s);
+    PageReading reading = page();
+    program->screening.CollectData(reading);
+    EXPECT_TRUE(rows(u"EmailAddress"_s, u"Address"_s).isEmpty());
+    EXPECT_EQ(form().lblEmailSaved.backColor(), Colours::Red);
+    EXPECT_EQ(rows(u"SiteSummary"_s).size(), 1);
+    EXPECT_EQ(rows(u"PassUrlsA"_s).size(), 1);
+    show(u"http://www.site2.com/"_s, u" ann@tea.com and bob@tea.com are what is to be found here"_s);
+    EXPECT_TRUE(saveEmail()) << "without the quote both are taken";
+    EXPECT_EQ(rows(u"EmailAddress"_s, u"Address"_s).size(), 2);
+}
+
 TEST_F(WritersTest, APageWithoutAddressesSavesNone)
 {
     EXPECT_FALSE(saveEmail());
@@ -362,6 +426,19 @@ TEST_F(WritersTest, FaxNumbersOnly)
     EXPECT_EQ(rows(u"PhoneNumber"_s, u"Number"_s), QStringList{u"2125550101"_s});
     EXPECT_EQ(rows(u"PhoneNumber"_s, u"Type"_s), QStringList{u"Fax"_s});
     EXPECT_EQ(rows(u"PhoneNumber"_s), QStringList{QString()});
+}
+
+TEST_F(WritersTest, NumbersCarryTheIndexOfTheirPagesSummary)
+{
+    form().chkSaveSummary.setValue(1);
+    addRow(database(), u"SiteSummary"_s, {{u"Url"_s, u"http://www.other.com/"_s}});
+    show(u"http://www.site1.com/"_s, u"<body>Call us at 212-555-0100, whenever you like to call us</body>"_s);
+    EXPECT_TRUE(savePhone());
+    EXPECT_EQ(rows(u"PhoneNumber"_s, u"SSIndex"_s), QStringList{u"-1"_s});
+    saveSummary();
+    show(u"http://www.site1.com/"_s, u"<body>Call us at 212-555-0101, whenever you like to call us</body>"_s);
+    EXPECT_TRUE(savePhone());
+    EXPECT_EQ(rows(u"PhoneNumber"_s, u"SSIndex"_s).constLast(), rows(u"SiteSummary"_s, u"Index"_s).constLast());
 }
 
 TEST_F(WritersTest, OnlyTheChosenAreaCodesCount)
