@@ -62,6 +62,18 @@ TEST(TextSet, FindsEachTextAtEveryPlaceOfAPage)
     }
 }
 
+TEST(TextSet, SeveralScannersShareTheTextsBetweenThem)
+{
+    QStringList texts;
+    for (int index = 0; index < 3 * int(LiteralScanner::mostTexts); ++index)
+        texts += u"item"_s + QString::number(index) + u";"_s;
+    const TextSet set(texts, ignored);
+    for (qsizetype index = 0; index < texts.size(); ++index)
+        ASSERT_EQ(set.firstFound(u"... "_s + texts[index] + texts.last()), index);
+    EXPECT_EQ(set.firstMissing(texts.first(50).join(u' ') + texts.sliced(51).join(u' ')), 50);
+    EXPECT_EQ(set.firstMissing(texts.join(u' ')), -1);
+}
+
 TEST(TextSet, HoldsManyTextsAndRepeats)
 {
     QStringList texts;
