@@ -290,6 +290,12 @@ TEST_F(StoreTest, TablesAreAddedAndRemoved)
     EXPECT_TRUE(database->RemoveTable(u"More"_s));
     EXPECT_EQ(database->Tables_Count(), 31);
     EXPECT_TRUE(database->TestDatabase(false)) << mLog.text();
+    database->CloseConnection();
+    EXPECT_FALSE(database->RemoveTable(u"AutoTextE"_s));
+    EXPECT_TRUE(mLog.holds(3709, "RemoveTable"_L1)) << mLog.text();
+    EXPECT_FALSE(database->AddTable(u"AutoTextE"_s));
+    EXPECT_TRUE(mLog.holds(3709, "AddTable"_L1)) << mLog.text();
+    EXPECT_EQ(database->Tables_Count(), 31) << "a table that was not removed stays in the matrix";
 }
 
 TEST_F(StoreTest, LoadDatabaseReadsTheNamesOfAFile)
@@ -297,7 +303,8 @@ TEST_F(StoreTest, LoadDatabaseReadsTheNamesOfAFile)
     created()->CloseConnection();
     cAdoMdb database(mLog);
     EXPECT_FALSE(database.LoadDatabase(pathOf(u"none.mdb"_s)));
-    EXPECT_TRUE(database.LoadDatabase(pathOf(u"Trawlex-0.mdb"_s)));
+    EXPECT_TRUE(database.LoadDatabase(u" "_s + pathOf(u"Trawlex-0.mdb"_s) + u" "_s));
+    EXPECT_EQ(database.DatabasePath(), pathOf(u"Trawlex-0.mdb"_s));
     EXPECT_EQ(database.Tables_Count(), 31);
     EXPECT_EQ(database.Tables_ListItem(5, u""_s), u"SiteSummary"_s);
     EXPECT_EQ(database.Fields_Count(-1, u"SearchSites"_s), 41);

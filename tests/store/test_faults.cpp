@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QScopeGuard>
 #include <csignal>
+#include <sqlite3.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -142,6 +143,35 @@ TEST_F(FaultTest, ADamagedFileNeverTakesTheProgramDown)
         database->DeleteRecords(u"Block"_s, u""_s, u""_s, false);
     }
     EXPECT_FALSE(mLog.entries.isEmpty()) << "the damage was never met";
+}
+
+TEST_F(FaultTest, ADamagedTableIsALoggedErrorAndNothing)
+{
+    const QString path = filled(3);
+    sqlite3 *handle = nullptr;
+    sqlite3_stmt *root = nullptr;
+    ASSERT_EQ(sqlite3_open(path.toUtf8().constData(), &handle), SQLITE_OK);
+    sqlite3_prepare_v2(handle, "SELECT rootpage FROM sqlite_schema WHERE name='Block'", -1, &root, nullptr);
+    ASSERT_EQ(sqlite3_step(root), SQLITE_ROW);
+    const int page = sqlite3_column_int(root, 0);
+    sqlite3_finalize(root);
+    sqlite3_close(handle);
+    constexpr qsizetype pageSize = 4096;
+    QByteArray bytes = read(path);
+    write(path, bytes.replace((page - 1) * pageSize, pageSize, QByteArray(pageSize, '\xEE')));
+    auto database = declared(u"Trawlex-0.mdb"_s);
+    ASSERT_TRUE(database->TestDatabase(true)) << "names alone are tested";
+    EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
+    EXPECT_TRUE(database->GetRecordset(u"SELECT * FROM Block"_s).isNothing());
+    EXPECT_TRUE(mLog.holds(AdoError::Engine, "Function GetRecordset"_L1)) << mLog.text();
+    mLog.entries.clear();
+    database->DeleteRecords(u"Block"_s, u"UrlsContent"_s, u"x"_s, false);
+    EXPECT_TRUE(mLog.holds(AdoError::Engine, "Function GetRecordset"_L1)) << mLog.text();
+    EXPECT_EQ(database->GetFieldData(u"UrlsContent"_s, u"Block"_s), QStringList{u""_s});
+    EXPECT_TRUE(mLog.holds(91, "Function GetFieldData"_L1)) << mLog.text();
+    EXPECT_FALSE(add(*database, u"Block"_s, {{"UrlsContent"_L1, u"x"_s}}));
+    EXPECT_TRUE(mLog.holds(AdoError::Engine, "Function AddRecord"_L1)) << mLog.text();
+    EXPECT_TRUE(add(*database, u"SiteSummary"_s, {{"Url"_L1, u"x"_s}})) << "the other tables are whole";
 }
 
 TEST_F(FaultTest, AReadOnlyFileIsReadAndEveryWriteIsAnError)
