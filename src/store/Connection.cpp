@@ -56,6 +56,19 @@ std::unique_ptr<SQLite::Database> openForReading(const QString &path)
     return openFile(address.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
 }
 
+// A file that is only to be read is opened to write too where it may be: the last one who can write clears away what
+// the engine keeps beside the file.
+std::unique_ptr<SQLite::Database> openExisting(const QString &path)
+{
+    try {
+        return openFile(path.toStdString(), SQLite::OPEN_READWRITE);
+    } catch (const SQLite::Exception &error) {
+        if ((error.getErrorCode() & 0xFF) != SQLITE_CANTOPEN && (error.getErrorCode() & 0xFF) != SQLITE_READONLY)
+            throw;
+    }
+    return openForReading(path);
+}
+
 std::unique_ptr<SQLite::Database> openAs(const QString &path, Connection::Access access)
 {
     switch (access) {
@@ -64,17 +77,10 @@ std::unique_ptr<SQLite::Database> openAs(const QString &path, Connection::Access
     case Connection::Access::Temporary:
         return openFile(std::string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     case Connection::Access::Read:
-        return openForReading(path);
     case Connection::Access::Write:
         break;
     }
-    try {
-        return openFile(path.toStdString(), SQLite::OPEN_READWRITE);
-    } catch (const SQLite::Exception &error) {
-        if ((error.getErrorCode() & 0xFF) != SQLITE_CANTOPEN && (error.getErrorCode() & 0xFF) != SQLITE_READONLY)
-            throw;
-    }
-    return openForReading(path);
+    return openExisting(path);
 }
 } // namespace
 
@@ -117,7 +123,7 @@ std::shared_ptr<Connection> Connection::open(const QString &path, Access access)
 
 Connection::Connection(std::unique_ptr<SQLite::Database> database, Access access) : mDatabase(std::move(database))
 {
-    mReadOnly = sqlite3_db_readonly(mDatabase->getHandle(), "main") == 1;
+    mReadOnly = access == Access::Read || sqlite3_db_readonly(mDatabase->getHandle(), "main") == 1;
     configure(access);
 }
 
@@ -135,6 +141,8 @@ void Connection::configure(Access access)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_set_authorizer(handle, &Connection::authorize, this);
+    if (access == Access::Read)
+        administer("PRAGMA query_only=ON");
     // A private store is never read again after a fault, so nothing is spent on surviving one.
     if (access == Access::Temporary)
         administer("PRAGMA synchronous=OFF; PRAGMA journal_mode=OFF");

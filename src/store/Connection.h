@@ -56,7 +56,7 @@ class Connection
     enum class Access {
         /// An existing file, to read and write. A file that may not be written is opened to read.
         Write,
-        /// An existing file, to read only. Nothing is left beside it.
+        /// An existing file, to read only. Where the user may write it nothing is left beside it.
         Read,
         /// A file that is made now.
         Create,

@@ -1,10 +1,13 @@
 // Other databases: this system's own files, and real files of other programs where they lie beside the project.
 #include "ForeignFixture.h"
 #include "store/AdoErrors.h"
+#include "store/Connection.h"
 #include "store/FixNull.h"
 #include "store/TextForms.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +54,31 @@ TEST_F(ForeignTest, AFileOfThisSystemIsReadAndNotWritten)
     EXPECT_EQ(rowsOf(pathOf(u"none"_s), u"SELECT * FROM Block"_s), u"Nothing"_s);
     EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
     EXPECT_EQ(count(*writer, u"SELECT * FROM Block"_s), 2);
+}
+
+TEST_F(ForeignTest, NothingIsLeftBesideAFileThatWasRead)
+{
+    auto writer = created();
+    add(*writer, u"Block"_s, {{"UrlsContent"_L1, u"a"_s}});
+    const QString path = writer->DatabasePath();
+    writer.reset();
+    const QByteArray before = contentOf(path);
+    const QDateTime changed = QFileInfo(path).lastModified();
+    EXPECT_EQ(mDatabase.GetExternalTablesFields(path).size(), 32);
+    EXPECT_EQ(rowsOf(path, u"SELECT UrlsContent FROM Block"_s), u"a\n"_s);
+    EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files), QStringList{u"Trawlex-0.mdb"_s});
+    EXPECT_EQ(contentOf(path), before);
+    EXPECT_EQ(QFileInfo(path).lastModified(), changed);
+}
+
+TEST_F(ForeignTest, ConnectionsToReadRefuseEveryWrite)
+{
+    created()->CloseConnection();
+    const auto connection = Connection::open(pathOf(u"Trawlex-0.mdb"_s), Connection::Access::Read);
+    EXPECT_TRUE(connection->isReadOnly());
+    EXPECT_THROW(connection->begin(), RuntimeError);
+    EXPECT_THROW({ connection->prepare("DELETE FROM Block").run(); }, RuntimeError);
+    EXPECT_THROW(connection->administer("DROP TABLE Block"), RuntimeError);
 }
 
 TEST_F(ForeignTest, TextsNumbersDatesFlagsAndAmounts)
