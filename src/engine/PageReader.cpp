@@ -101,8 +101,9 @@ int PageReader::world(QDeadlineTimer deadline)
 QStringList PageReader::read(QLatin1StringView what, int index)
 {
     const QDeadlineTimer deadline(BrowserEngine::readLimit);
+    // Kept under a symbol: a name could be that of an element, which would stand in its place.
     const QString expression =
-        u"(globalThis.trawlexReader ||= %1).read('%2', %3)"_s.arg(readerScript(), what, QString::number(index));
+        u"(globalThis[Symbol.for('reader')] ||= %1).read('%2', %3)"_s.arg(readerScript(), what, QString::number(index));
     const QJsonObject answer = evaluate(expression, deadline).toObject();
     if (answer.contains(u"error"))
         throw RuntimeError(answer[u"number"].toInt() ? answer[u"number"].toInt() : EngineError::CannotRead,
@@ -121,7 +122,8 @@ QStringList PageReader::fetchPieces(const QJsonObject &answer, QDeadlineTimer de
     QString joined;
     for (;;) {
         const QString expression =
-            u"globalThis.trawlexReader?.piece(%1, %2) ?? null"_s.arg(answer[u"ticket"].toInt()).arg(joined.size());
+            u"globalThis[Symbol.for('reader')]?.piece(%1, %2) ?? null"_s.arg(answer[u"ticket"].toInt())
+                .arg(joined.size());
         const QJsonValue piece = evaluate(expression, deadline);
         if (!piece.isString() || mDocument != document)
             throw RuntimeError(EngineError::CannotRead, u"The page changed while it was read."_s);

@@ -22,7 +22,8 @@ namespace {
 constexpr auto world = QWebEngineScript::ApplicationWorld;
 constexpr auto probeInterval = 250ms;
 
-// The reader is put into each document with the first question to it, and stays there.
+// The reader is put into each document with the first question to it, and stays there, under a symbol: a name could be
+// that of an element, which would stand in its place.
 const QString &readerScript()
 {
     static const QString script = [] {
@@ -30,7 +31,7 @@ const QString &readerScript()
         QFile file(QStringLiteral(":/engine/js/reader.js"));
         if (!file.open(QIODevice::ReadOnly))
             qFatal("The page reader is missing.");
-        return QStringLiteral("(globalThis.trawlexReader ||= ") + QString::fromUtf8(file.readAll()) +
+        return QStringLiteral("(globalThis[Symbol.for('reader')] ||= ") + QString::fromUtf8(file.readAll()) +
                QStringLiteral("\n)");
     }();
     return script;
