@@ -95,9 +95,11 @@ QPalette Theme::palette(Mode mode)
 bool Theme::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();
+    // A key that is a shortcut comes only as the question whether somebody else wants it.
+    const bool key = type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
     if (auto *const widget = qobject_cast<QWidget *>(watched)) {
-        if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress)
-            noteInput(*widget, type == QEvent::KeyPress ? Input::Keyboard : Input::Mouse);
+        if (type == QEvent::MouseButtonPress || key)
+            noteInput(*widget, key ? Input::Keyboard : Input::Mouse);
     }
     if (type == QEvent::KeyPress || type == QEvent::KeyRelease) {
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
