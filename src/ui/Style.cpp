@@ -120,6 +120,14 @@ void drawComboBox(const QStyleOptionComplex &option, QPainter &painter, const QW
                      Drawing::Points::Down);
 }
 
+/// A text that is too long for its box loses its middle, as it does in the list below.
+QStyleOptionComboBox elided(const QStyleOptionComboBox &combo, int room)
+{
+    QStyleOptionComboBox result = combo;
+    result.currentText = combo.fontMetrics.elidedText(combo.currentText, Qt::ElideMiddle, room);
+    return result;
+}
+
 void drawScrollBar(const QStyleOptionComplex &option, QPainter &painter, const QRect &slider)
 {
     const auto *const bar = qstyleoption_cast<const QStyleOptionSlider *>(&option);
@@ -197,6 +205,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                         const QWidget *widget) const
 {
+    if (const auto *const combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+        combo != nullptr && element == CE_ComboBoxLabel) {
+        const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2;
+        const QStyleOptionComboBox shown = elided(*combo, room);
+        return QProxyStyle::drawControl(element, &shown, painter, widget);
+    }
     const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option);
     const bool ownInk = element == CE_PushButtonLabel && button != nullptr && widget != nullptr;
     if (!ownInk || !has(*option, State_Enabled))
