@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+constexpr int inputWidth = 336;
+
 QWidget *windowInUse()
 {
     if (QWidget *const active = QApplication::activeWindow())
@@ -61,6 +64,9 @@ QString QtDialogs::input(const QString &prompt, const QString &title, const QStr
     prepare(dialog, title);
     dialog.setLabelText(prompt);
     dialog.setTextValue(proposal);
+    // The dialog takes its size from what is in it.
+    if (auto *const line = dialog.findChild<QLineEdit *>())
+        line->setMinimumWidth(inputWidth);
     return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 

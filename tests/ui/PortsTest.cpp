@@ -85,6 +85,7 @@ TEST_F(Dialogs, ALineOfTextIsAskedFor)
 {
     whenShown<QInputDialog>([](QInputDialog &dialog) {
         EXPECT_EQ(dialog.textValue(), u"Criteria-0"_s);
+        EXPECT_GE(dialog.width(), 300) << "room for a longer text, whatever the question";
         dialog.setTextValue(u"mine"_s);
         dialog.accept();
     });
