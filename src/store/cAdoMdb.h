@@ -88,7 +88,7 @@ class cAdoMdb : public QObject
     /// are not the user's are empty elements. A blank name or a missing file give one empty element.
     [[nodiscard]] QStringList GetExternalTablesFields(const QString &sFileName, ExternalList eReturnType,
                                                       const QString &sTableNameOfFields);
-    /// All tables of another file: in each row the table's name followed by its fields.
+    /// All tables of another file: in each row the table's name followed by its fields. No row for a missing file.
     [[nodiscard]] QList<QStringList> GetExternalTablesFields(const QString &sFileName);
     /// Runs a query on another file, to read. Nothing for a missing file, an empty statement and any error.
     [[nodiscard]] Recordset GetRecordSetFromExternalDB(const QString &sDatabaseNameWithPath, const QString &sSQLString);

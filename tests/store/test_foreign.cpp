@@ -29,8 +29,11 @@ TEST_F(ForeignTest, AFileOfThisSystemListsItsTablesAndFields)
     const QList<QStringList> all = mDatabase.GetExternalTablesFields(path);
     EXPECT_EQ(all.size(), 32);
     EXPECT_TRUE(all.contains(QStringList{u"Block"_s, u"Index"_s, u"UrlsContent"_s, u"EmailContent"_s}));
-    for (const QString &missing : {u""_s, u"  "_s, pathOf(u"none.mdb"_s), mFolder.path()})
+    for (const QString &missing : {u""_s, u"  "_s, pathOf(u"none.mdb"_s), mFolder.path()}) {
         EXPECT_EQ(mDatabase.GetExternalTablesFields(missing, List::Tables, u""_s), QStringList{u""_s});
+        EXPECT_EQ(mDatabase.GetExternalTablesFields(missing, List::FieldsOfTable, u"T"_s), QStringList{u""_s});
+        EXPECT_TRUE(mDatabase.GetExternalTablesFields(missing).isEmpty());
+    }
     EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
 }
 

@@ -2,6 +2,7 @@
 #include "StoreFixture.h"
 #include "store/AdoErrors.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -194,6 +195,19 @@ TEST_F(MatrixTest, AMissingTableListFileEmptiesTheMatrix)
     mDatabase.LoadTableFieldListFile(pathOf(u"none.txt"_s));
     EXPECT_EQ(mDatabase.Tables_Count(), 0);
     EXPECT_TRUE(mLog.entries.isEmpty());
+}
+
+TEST_F(MatrixTest, TheTableListFileHasAUsualName)
+{
+    QFile file(pathOf(u"TableFld.txt"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[A]\r\nx\r\n");
+    file.close();
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(mFolder.path()));
+    mDatabase.LoadTableFieldListFile();
+    QDir::setCurrent(before);
+    EXPECT_EQ(mDatabase.Tables_ListItem(0, u""_s), u"A"_s);
 }
 
 TEST_F(MatrixTest, ATableListFileWithABracketThatIsNeverClosedIsAnError)
