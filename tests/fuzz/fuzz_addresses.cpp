@@ -11,6 +11,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QString address = input.text(120);
     demandEqual(cIEText::GetServerFromUrl(address, {type, www, protocol}),
                 plain::GetServerFromUrl(address, type, www, protocol), "GetServerFromUrl");
+    for (const int mode : {0, 1})
+        demandEqual(cIEText::GetProtocol(address, mode), plain::GetProtocol(address, mode), "GetProtocol");
+    demandEqual(cIEText::IsUrlNumeric(address), plain::IsUrlNumeric(address), "IsUrlNumeric");
     demandEqual(cIEText::DoesThisEndInAUrl(address), plain::DoesThisEndInAUrl(address), "DoesThisEndInAUrl");
     const QStringList list = address.split(u'|');
     demandEqual(cIEText::GetUniqueServers(list), plain::GetUniqueServers(list), "GetUniqueServers");

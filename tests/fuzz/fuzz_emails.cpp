@@ -2,21 +2,12 @@
 #include "web/EmailFinder.h"
 #include "web/PlainFinders.h"
 
-namespace {
-class Counter : public ErrorReceiver
-{
-  public:
-    void ErrorLogger(qint64, const QString &, const QString &, const QString &) override { ++count; }
-    int count = 0;
-};
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     FuzzInput input(data, size);
     const QString searched = input.flag() ? QStringLiteral("@") : input.text(2);
     const QString text = input.text(200);
-    Counter counter;
+    RecordCounter counter;
     const plain::Emails expected = plain::CollectEmail(text, searched);
     demandEqual(cIEText::CollectEmail(text, searched, &counter), expected.list, "CollectEmail");
     demandEqual(counter.count, expected.errors, "CollectEmail (records)");
