@@ -194,8 +194,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     case PE_FrameFocusRect:
         if (qobject_cast<const QCheckBox *>(widget) != nullptr && showsFocus(*option, widget))
-            Drawing::box(*painter, QRectF(option->rect).adjusted(-3, -1, 3, 1), Qt::transparent,
-                         Shades::of(option->palette).accent, 1.5);
+            Drawing::focusRing(*painter, option->rect.adjusted(-3, -1, 3, 1) & widget->rect(),
+                               Shades::of(option->palette));
         return;
     default:
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
