@@ -46,6 +46,7 @@ constexpr std::array featuresOff{
     Switch{"Translate"_L1, "no offer over the page"_L1},
     Switch{"MediaRouter"_L1, "no search for television sets, and no question about it"_L1},
     Switch{"OptimizationHints"_L1, "nothing is fetched that our user has not asked for"_L1},
+    Switch{"NetworkTimeServiceQuerying"_L1, "the same: no question what time it is"_L1},
 };
 
 QString listOfFeaturesOff()
