@@ -5,12 +5,16 @@
 #include "engine/EngineErrors.h"
 #include "engine/Platform.h"
 
+#include <QThread>
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr std::chrono::seconds connectLimit{2};
 constexpr std::chrono::seconds closeLimit{5};
+constexpr unsigned long betweenLooks = 50; // milliseconds
 // The window that is found may be closing; the next one may not.
 constexpr int attemptsAtMost = 3;
 
@@ -69,11 +73,17 @@ void ChromiumFactory::closeBrowser()
 {
     if (mStarted == 0 && !mSettings.headless)
         return;
-    mStarted = 0;
+    const qint64 started = std::exchange(mStarted, 0);
+    const QDeadlineTimer deadline(closeLimit);
+    // A browser that has just been started does not say yet where it can be reached.
+    while (started != 0 && !profile().endpoint().isValid() && !deadline.hasExpired())
+        QThread::msleep(betweenLooks);
     const QUrl endpoint = profile().endpoint();
     const auto connection = endpoint.isValid() ? DevToolsConnection::open(endpoint, connectLimit) : nullptr;
-    if (!connection)
-        return;
-    connection->send({}, "Browser.close"_L1);
-    connection->waitUntil([&] { return !connection->isOpen(); }, QDeadlineTimer(closeLimit));
+    if (connection) {
+        connection->send({}, "Browser.close"_L1);
+        connection->waitUntil([&] { return !connection->isOpen(); }, QDeadlineTimer(closeLimit));
+    }
+    if (!endpoint.isValid() || (connection && connection->isOpen()))
+        Platform::endProcess(started);
 }

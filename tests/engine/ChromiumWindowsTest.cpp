@@ -4,6 +4,7 @@
 #include "engine/ChromiumBrowser.h"
 #include "engine/ChromiumPage.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QTimer>
 #include <csignal>
@@ -316,6 +317,30 @@ TEST_F(ChromiumWindows, AWindowThatHangsIsFoundAgain)
     EXPECT_LT(clock.elapsed(), 8000);
     show("<title>well</title>");
     EXPECT_EQ(str(browser->LocationName()), "well");
+}
+
+TEST_F(ChromiumWindows, ABrowserThatIsStillStartingIsClosedToo)
+{
+    ChromiumFactory second({.dataFolder = dataFolder() + u"/second"_s, .userSwitches = {}, .headless = true});
+    second.start(second.defaultProgram());
+    second.closeBrowser();
+    EXPECT_TRUE(waitFor([] { return processes("/second/").isEmpty(); }));
+}
+
+TEST_F(ChromiumWindows, ABrowserThatNeverAnswersIsNotLeftBehind)
+{
+    const QString folder = dataFolder() + u"/stuck"_s;
+    ChromiumFactory stuck({.dataFolder = folder, .userSwitches = {}, .headless = true});
+    EXPECT_EQ(stuck.runningBrowser(), nullptr);
+    QFile program(folder + u"/chromium"_s);
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\nwhile sleep 1; do :; done\n");
+    program.close();
+    program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    stuck.start(program.fileName());
+    ASSERT_TRUE(waitFor([] { return !processes("/stuck/").isEmpty(); }));
+    stuck.closeBrowser();
+    EXPECT_TRUE(waitFor([] { return processes("/stuck/").isEmpty(); }, 2000));
 }
 
 TEST_F(ChromiumWindows, TheEngineMayGoInsideEachOfItsSignals)
