@@ -38,9 +38,10 @@ std::shared_ptr<DevToolsConnection> DevToolsConnection::open(const QUrl &endpoin
                      connection.get(), [&failed] { failed = true; });
     connection->mSocket.open(endpoint);
     QEventLoop loop;
-    QTimer alarm;
-    alarm.start(limit);
     const QDeadlineTimer deadline(limit);
+    QTimer alarm; // a coarse one may come before the deadline, and then only after another such time
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.start(limit);
     while (!connection->mOpen && !failed && !deadline.hasExpired())
         loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     QObject::disconnect(&connection->mSocket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error), nullptr,
