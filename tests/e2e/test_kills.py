@@ -1,11 +1,15 @@
 """Browser, page process and program are killed in the middle of runs."""
+import contextlib
 import os
 import pathlib
+import random
 import re
+import shutil
 import signal
 import sqlite3
 import time
 import unittest
+import urllib.parse
 
 import trawlex
 
@@ -32,6 +36,10 @@ def page_processes(ancestor):
     pages = [pid for pid in forks if list(parents(pid))[1] in forks]
     pages += [pid for pid, _ in trawlex.processes("--type=renderer")]
     return [pid for pid in pages if ancestor in parents(pid)]
+
+
+# Each round is a harvest with a browser; a long row of them is for when somebody asks.
+MOMENTS = int(os.environ.get("TRAWLEX_KILLS", "5"))
 
 
 class Kills(trawlex.Case):
@@ -77,6 +85,40 @@ class Kills(trawlex.Case):
         done = self.harvest("iexplore")
         self.assertEqual(done.returncode, 0, done.stderr)
         self.assertEqual(trawlex.rows(path, "SiteSummary", ["Title", "Url"]), trawlex.expected_rows("SiteSummary"))
+
+    def assert_whole_pages(self, path, at_least):
+        """The file is sound and holds the first so many pages of the harvest, all rows of each; gives how many."""
+        with contextlib.closing(sqlite3.connect(path)) as database:
+            self.assertEqual(database.execute("PRAGMA integrity_check").fetchone()[0], "ok")
+        pages = [url for _, _, url in trawlex.rows(path, "PassUrlsA", trawlex.TABLES["PassUrlsA"])]
+        self.assertGreaterEqual(len(pages), at_least, f"a page that was reported is lost, stored are {pages}")
+        # A summary's address is that of the server; those of links are kept without quotes.
+        stored = set(pages) | {urllib.parse.urlsplit(page).netloc for page in pages}
+        for table in trawlex.TABLES:
+            wanted = [row for row in trawlex.expected_rows(table) if row[-1].replace("'", "") in stored]
+            self.assertEqual(trawlex.rows(path, table, trawlex.TABLES[table]), wanted, table)
+        return len(pages)
+
+    def test_killed_at_any_moment_it_loses_no_page_that_it_reported(self):
+        path = self.make_database()
+        shutil.copy(path, self.folder + "/fresh")
+        whole = []
+        for _ in range(MOMENTS):
+            page = random.randint(1, len(trawlex.EXPECTED["links"]))
+            seconds = random.uniform(0, 0.4)
+            for tail in ("-wal", "-shm"):
+                pathlib.Path(path + tail).unlink(missing_ok=True)
+            shutil.copy(self.folder + "/fresh", path)
+            with self.subTest(page=page, seconds=seconds):
+                run = self.start_harvest("iexplore")
+                trawlex.wait_for(lambda: len(self.visited(run)) >= page, 120, f"page {page}")
+                time.sleep(seconds)
+                run.kill()
+                run.wait(timeout=10)
+                # The line of a page stands there before its rows, those of all pages before it are on the disk.
+                whole.append(self.assert_whole_pages(path, len(self.visited(run)) - 1))
+            self.end_processes()
+        print(f"killed {len(whole)} times, with {min(whole)} to {max(whole)} pages stored")
 
     def test_a_wish_to_end_stops_the_run_in_the_middle_of_a_wait(self):
         path = self.make_database()

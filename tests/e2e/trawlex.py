@@ -1,4 +1,5 @@
 """What the end-to-end tests share: a demo server, a folder of its own for each test, and ways to run the programs."""
+import contextlib
 import json
 import os
 import pathlib
@@ -40,12 +41,12 @@ def wait_for(condition, seconds, what):
 
 def rows(path, table, columns):
     names = ", ".join(f'"{column}"' for column in columns)
-    with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
+    with contextlib.closing(sqlite3.connect(f"file:{path}?mode=ro", uri=True)) as database:
         return database.execute(f'SELECT {names} FROM "{table}" ORDER BY rowid').fetchall()
 
 
 def count(path, table):
-    with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
+    with contextlib.closing(sqlite3.connect(f"file:{path}?mode=ro", uri=True)) as database:
         return database.execute(f'SELECT count(*) FROM "{table}"').fetchone()[0]
 
 
@@ -82,12 +83,16 @@ class Case(unittest.TestCase):
     def clean_up(self):
         self.demo.shutdown()
         self.demo.server_close()
+        self.end_processes()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def end_processes(self):
+        """Ends the programs and browsers of this test that still run."""
         for pid, _ in processes(self.folder):
             try:
                 os.kill(pid, signal.SIGKILL)
             except ProcessLookupError:
                 pass
-        shutil.rmtree(self.folder, ignore_errors=True)
 
     def make_database(self, browser="iexplore"):
         return demo_harvest.make_database(HARVESTER, self.folder, self.demo.port, browser, self.env)
