@@ -5,7 +5,7 @@
 #include "engine/EngineErrors.h"
 #include "engine/Platform.h"
 
-#include <QThread>
+#include <thread>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::chrono::seconds connectLimit{2};
 constexpr std::chrono::seconds closeLimit{5};
-constexpr unsigned long betweenLooks = 50; // milliseconds
+constexpr std::chrono::milliseconds betweenLooks{50};
 // The window that is found may be closing; the next one may not.
 constexpr int attemptsAtMost = 3;
 
@@ -74,16 +74,19 @@ void ChromiumFactory::closeBrowser()
     if (mStarted == 0 && !mSettings.headless)
         return;
     const qint64 started = std::exchange(mStarted, 0);
-    const QDeadlineTimer deadline(closeLimit);
     // A browser that has just been started does not say yet where it can be reached.
-    while (started != 0 && !profile().endpoint().isValid() && !deadline.hasExpired())
-        QThread::msleep(betweenLooks);
+    const QDeadlineTimer starting(closeLimit);
+    while (Platform::isRunning(started) && !profile().endpoint().isValid() && !starting.hasExpired())
+        std::this_thread::sleep_for(betweenLooks);
     const QUrl endpoint = profile().endpoint();
+    const QDeadlineTimer answering(connectLimit);
     const auto connection = endpoint.isValid() ? DevToolsConnection::open(endpoint, connectLimit) : nullptr;
     if (connection) {
         connection->send({}, "Browser.close"_L1);
         connection->waitUntil([&] { return !connection->isOpen(); }, QDeadlineTimer(closeLimit));
     }
-    if (!endpoint.isValid() || (connection && connection->isOpen()))
+    // Where nobody listens the browser is gone; one that listens and says nothing hangs.
+    const bool hangs = connection ? connection->isOpen() : !endpoint.isValid() || answering.hasExpired();
+    if (hangs)
         Platform::endProcess(started);
 }

@@ -28,7 +28,7 @@ class ChromiumFactory : public BrowserFactory
     [[nodiscard]] bool isDrivable(const QString &fileName) const override { return ChromiumProgram::isKnown(fileName); }
 
     /// Ends the browser if it is one that nobody else would end: started from here, or without a window. Waits at most
-    /// five seconds for one that is just starting, and five for it to be gone.
+    /// five seconds for one that is just starting, two for its answer, and five for it to be gone.
     void closeBrowser();
     /// True when the browser is started without its sandbox, which cannot be had as root; to be told in the log.
     [[nodiscard]] bool sandboxOff() const;

@@ -15,6 +15,17 @@ namespace {
 
 const QString goneText = u"The browser is no longer there."_s;
 
+// Handles events, but nothing that the user does, until `done` or the deadline.
+void turnLoop(const std::function<bool()> &done, QDeadlineTimer deadline)
+{
+    QEventLoop loop;
+    QTimer alarm; // its only job is to wake the loop
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.start(int(deadline.remainingTime()) + 1);
+    while (!done() && !deadline.hasExpired())
+        loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+}
+
 } // namespace
 
 DevToolsConnection::DevToolsConnection()
@@ -37,13 +48,7 @@ std::shared_ptr<DevToolsConnection> DevToolsConnection::open(const QUrl &endpoin
     QObject::connect(&connection->mSocket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error),
                      connection.get(), [&failed] { failed = true; });
     connection->mSocket.open(endpoint);
-    QEventLoop loop;
-    const QDeadlineTimer deadline(limit);
-    QTimer alarm; // a coarse one may come before the deadline, and then only after another such time
-    alarm.setTimerType(Qt::PreciseTimer);
-    alarm.start(limit);
-    while (!connection->mOpen && !failed && !deadline.hasExpired())
-        loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    turnLoop([&] { return connection->mOpen || failed; }, QDeadlineTimer(limit));
     QObject::disconnect(&connection->mSocket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error), nullptr,
                         nullptr);
     return connection->mOpen ? connection : nullptr;
@@ -90,12 +95,7 @@ bool DevToolsConnection::waitUntil(const std::function<bool()> &done, QDeadlineT
         if (--mWaits == 0)
             Q_EMIT idle();
     });
-    QEventLoop loop;
-    QTimer alarm; // its only job is to wake the loop
-    alarm.setTimerType(Qt::PreciseTimer);
-    alarm.start(int(deadline.remainingTime()) + 1);
-    while (!done() && mOpen && !deadline.hasExpired())
-        loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    turnLoop([&] { return done() || !mOpen; }, deadline);
     return done();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 // The linker keeps the files of a static library only when this is called, outside of any namespace.
 static void keepResources()
 {
@@ -15,4 +17,11 @@ QByteArray engineResource(const QString &name)
     if (!file.open(QIODevice::ReadOnly))
         qFatal("No resource %s", qPrintable(name)); // a fault of the build
     return file.readAll();
+}
+
+const QString &pageReader()
+{
+    static const QString expression =
+        "(globalThis[Symbol.for('reader')] ||= "_L1 + QString::fromUtf8(engineResource(u"js/reader.js"_s)) + "\n)"_L1;
+    return expression;
 }

@@ -15,12 +15,6 @@ namespace {
 // Between two attempts to get a world while the browser is changing documents.
 constexpr std::chrono::milliseconds askAgainAfter{10};
 
-const QString &readerScript()
-{
-    static const QString script = QString::fromUtf8(engineResource(u"js/reader.js"_s));
-    return script;
-}
-
 // The document, and with it the world, went away between our knowing it and the browser's getting to our command.
 bool isLostWorld(const QString &error)
 {
@@ -101,10 +95,8 @@ int PageReader::world(QDeadlineTimer deadline)
 QStringList PageReader::read(QLatin1StringView what, int index)
 {
     const QDeadlineTimer deadline(BrowserEngine::readLimit);
-    // Kept under a symbol: a name could be that of an element, which would stand in its place.
-    const QString expression =
-        u"(globalThis[Symbol.for('reader')] ||= %1).read('%2', %3)"_s.arg(readerScript(), what, QString::number(index));
-    const QJsonObject answer = evaluate(expression, deadline).toObject();
+    const QString call = u".read('%1', %2)"_s.arg(what, QString::number(index));
+    const QJsonObject answer = evaluate(pageReader() + call, deadline).toObject();
     if (answer.contains(u"error"))
         throw RuntimeError(answer[u"number"].toInt() ? answer[u"number"].toInt() : EngineError::CannotRead,
                            answer[u"error"].toString());
@@ -121,10 +113,8 @@ QStringList PageReader::fetchPieces(const QJsonObject &answer, QDeadlineTimer de
     const int document = mDocument;
     QString joined;
     for (;;) {
-        const QString expression =
-            u"globalThis[Symbol.for('reader')]?.piece(%1, %2) ?? null"_s.arg(answer[u"ticket"].toInt())
-                .arg(joined.size());
-        const QJsonValue piece = evaluate(expression, deadline);
+        const QString call = u".piece(%1, %2)"_s.arg(answer[u"ticket"].toInt()).arg(joined.size());
+        const QJsonValue piece = evaluate(pageReader() + call, deadline);
         if (!piece.isString() || mDocument != document)
             throw RuntimeError(EngineError::CannotRead, u"The page changed while it was read."_s);
         if (piece.toString().isEmpty())

@@ -5,6 +5,7 @@
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #else
+#include <cerrno>
 #include <csignal>
 #include <unistd.h>
 #endif
@@ -29,9 +30,32 @@ bool hasGraphicsProcessor()
 #endif
 }
 
+namespace {
+// 0 and negative numbers mean groups of processes, 1 is the first of all.
+bool isProcess(qint64 pid)
+{
+    return pid > 1;
+}
+} // namespace
+
+bool isRunning(qint64 pid)
+{
+    if (!isProcess(pid))
+        return false;
+#ifdef Q_OS_WIN
+    HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, DWORD(pid));
+    const bool running = process != nullptr && WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+    if (process != nullptr)
+        CloseHandle(process);
+    return running;
+#else
+    return ::kill(pid_t(pid), 0) == 0 || errno == EPERM;
+#endif
+}
+
 void endProcess(qint64 pid)
 {
-    if (pid <= 1) // 0 and negative numbers mean groups of processes
+    if (!isProcess(pid))
         return;
 #ifdef Q_OS_WIN
     if (HANDLE process = OpenProcess(PROCESS_TERMINATE, FALSE, DWORD(pid))) {

@@ -196,19 +196,28 @@ void TargetWatch::decideOnWindow(const QString &session, const QJsonObject &info
         run(session);
 }
 
-// A window that its opener can reach holds the process of both; closed while it is held, it would leave that process
-// held for ever. So it is let run, with all that it asks of the network unanswered, and closed when it does.
+// A window that its opener can reach shares that one's process, and holds it: closed while it is held, it would leave
+// the process held for ever. So it is let run, without a network, and closed as soon as
+// it runs. Any other window is closed while it is held.
 void TargetWatch::refuse(const QString &session, const QJsonObject &info)
 {
     const QPointer<TargetWatch> self(this);
-    const auto close = [self, target = info[u"targetId"]](const DevToolsConnection::Answer &) {
+    const auto closeWindow = [self, target = info[u"targetId"]](const DevToolsConnection::Answer &) {
         if (self)
             self->mConnection.send({}, "Target.closeTarget"_L1, {{u"targetId"_s, target}});
     };
     if (!info[u"canAccessOpener"].toBool())
-        return close({});
-    mConnection.send(session, "Fetch.enable"_L1);
-    run(session, close);
+        return closeWindow({});
+    // Offline: requests that are only held would be sent when the window closes. Only the answer tells that the network
+    // knows.
+    static const QJsonObject offline{
+        {u"offline"_s, true}, {u"latency"_s, 0}, {u"downloadThroughput"_s, 0}, {u"uploadThroughput"_s, 0}};
+    mConnection.send(session, "Network.enable"_L1);
+    mConnection.send(session, "Network.emulateNetworkConditions"_L1, offline,
+                     [self, session, closeWindow](const DevToolsConnection::Answer &) {
+                         if (self)
+                             self->run(session, closeWindow);
+                     });
 }
 
 void TargetWatch::run(const QString &session, DevToolsConnection::Then then)

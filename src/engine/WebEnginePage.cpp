@@ -1,8 +1,8 @@
 #include "engine/WebEnginePage.h"
+#include "engine/EngineResources.h"
 
 #include <QAuthenticator>
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUuid>
@@ -16,12 +16,6 @@
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
-
-// Stands outside any namespace, as the macro demands.
-static void initResources()
-{
-    Q_INIT_RESOURCE(webengine);
-}
 
 namespace {
 
@@ -48,11 +42,8 @@ constexpr Setting settingRows[] = {
 
 QString framesScript(const QString &token)
 {
-    initResources();
-    QFile file(QStringLiteral(":/engine/js/webengine-frames.js"));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("The script for frames is missing.");
-    return QString::fromUtf8(file.readAll()).replace(QStringLiteral("\"TOKEN\""), u'"' + token + u'"');
+    return QString::fromUtf8(engineResource(QStringLiteral("js/webengine-frames.js")))
+        .replace(QStringLiteral("\"TOKEN\""), u'"' + token + u'"');
 }
 
 } // namespace

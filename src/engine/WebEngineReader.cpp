@@ -1,8 +1,8 @@
 #include "engine/WebEngineReader.h"
 #include "engine/EngineErrors.h"
+#include "engine/EngineResources.h"
 
 #include <QEventLoop>
-#include <QFile>
 #include <QPointer>
 #include <QTimer>
 #include <QVariant>
@@ -12,30 +12,10 @@
 using namespace std::chrono_literals;
 
 // Stands outside any namespace, as the macro demands.
-static void initResources()
-{
-    Q_INIT_RESOURCE(engine);
-}
-
 namespace {
 
 constexpr auto world = QWebEngineScript::ApplicationWorld;
 constexpr auto probeInterval = 250ms;
-
-// The reader is put into each document with the first question to it, and stays there, under a symbol: a name could be
-// that of an element, which would stand in its place.
-const QString &readerScript()
-{
-    static const QString script = [] {
-        initResources();
-        QFile file(QStringLiteral(":/engine/js/reader.js"));
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("The page reader is missing.");
-        return QStringLiteral("(globalThis[Symbol.for('reader')] ||= ") + QString::fromUtf8(file.readAll()) +
-               QStringLiteral("\n)");
-    }();
-    return script;
-}
 
 qint64 numberOf(const QVariantMap &failedAnswer)
 {
@@ -96,7 +76,7 @@ QStringList WebEngineReader::read(QLatin1StringView what, int frame)
     const QDeadlineTimer deadline(mLimit);
     const QString call = QStringLiteral(".read('%1', %2)").arg(what, QString::number(frame));
     while (true) {
-        const QVariantMap answer = ask(readerScript() + call, deadline).toMap();
+        const QVariantMap answer = ask(pageReader() + call, deadline).toMap();
         if (const auto error = answer.constFind(QStringLiteral("error")); error != answer.constEnd())
             throw RuntimeError(numberOf(answer), error->toString());
         if (const auto texts = answer.constFind(QStringLiteral("texts")); texts != answer.constEnd())
@@ -117,7 +97,7 @@ std::unique_ptr<QStringList> WebEngineReader::fetch(const QVariantMap &announced
     while (joined.size() < total) {
         const QString call = QStringLiteral(".piece(%1, %2)")
                                  .arg(announced[QStringLiteral("ticket")].toString(), QString::number(joined.size()));
-        const QVariantList answer = ask(u'[' + readerScript() + call + u']', deadline).toList();
+        const QVariantList answer = ask(u'[' + pageReader() + call + u']', deadline).toList();
         const QString piece = answer.isEmpty() ? QString() : answer.constFirst().toString();
         if (piece.isEmpty())
             return nullptr;

@@ -117,6 +117,7 @@ TEST_F(ChromiumProfileTest, AnEndpointThatNobodyAnswersAtCostsLittle)
     EXPECT_EQ(factory.runningBrowser(), nullptr);
     EXPECT_LT(clock.elapsed(), 500) << "refused";
     ASSERT_TRUE(gone.listen(QHostAddress::LocalHost, port.toUShort()));
+    clock.restart();
     EXPECT_EQ(factory.runningBrowser(), nullptr);
     EXPECT_LT(clock.elapsed(), 3500) << "another program listens there and says nothing";
 }

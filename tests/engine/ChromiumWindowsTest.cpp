@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QJsonDocument>
+#include <QTcpServer>
 #include <QTimer>
 #include <csignal>
 
@@ -123,7 +124,7 @@ TEST_F(ChromiumWindows, AWindowIsRefusedInTheMiddleOfARead)
     EXPECT_TRUE(waitForTitle(u"b"_s)) << "the page goes on";
 }
 
-TEST_F(ChromiumWindows, APageGoesOnAfterARefusalHoweverSlowlyItIsTold)
+TEST_P(ChromiumOpenings, AreRefusedAndThePageGoesOnHoweverSlowlyItIsTold)
 {
     browser.reset();
     SlowLine line(endpoint(), 30ms);
@@ -132,8 +133,8 @@ TEST_F(ChromiumWindows, APageGoesOnAfterARefusalHoweverSlowlyItIsTold)
     take(std::make_shared<ChromiumBrowser>(std::make_shared<ChromiumPage>(connection)));
     QObject::connect(browser.get(), &BrowserEngine::NewWindow2, browser.get(), [](bool *cancel) { *cancel = true; });
     const int before = popped();
-    show("<p id=mail>none</p><script>open('/pop'); mail.textContent = 'a@b.test'</script>");
-    EXPECT_EQ(str(text()), "a@b.test");
+    show(QByteArray("<title>page</title>") + GetParam().html + "<script>document.title = 'on'</script>");
+    EXPECT_TRUE(waitForTitle(u"on"_s));
     EXPECT_TRUE(waitFor([&] { return windows().size() == 1; }));
     EXPECT_EQ(popped(), before);
     browser.reset();
@@ -327,20 +328,42 @@ TEST_F(ChromiumWindows, ABrowserThatIsStillStartingIsClosedToo)
     EXPECT_TRUE(waitFor([] { return processes("/second/").isEmpty(); }));
 }
 
+// In the browser's place: runs `first` in `folder`, and then does nothing for ever.
+static void startScript(ChromiumFactory &factory, const QString &folder, const QByteArray &first)
+{
+    QFile program(folder + u"/chromium"_s);
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\ncd '" + folder.toUtf8() + "'; " + first + "\nwhile sleep 1; do :; done\n");
+    program.close();
+    program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    factory.start(program.fileName());
+}
+
 TEST_F(ChromiumWindows, ABrowserThatNeverAnswersIsNotLeftBehind)
 {
     const QString folder = dataFolder() + u"/stuck"_s;
     ChromiumFactory stuck({.dataFolder = folder, .userSwitches = {}, .headless = true});
     EXPECT_EQ(stuck.runningBrowser(), nullptr);
-    QFile program(folder + u"/chromium"_s);
-    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
-    program.write("#!/bin/sh\nwhile sleep 1; do :; done\n");
-    program.close();
-    program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-    stuck.start(program.fileName());
+    startScript(stuck, folder, ":");
     ASSERT_TRUE(waitFor([] { return !processes("/stuck/").isEmpty(); }));
     stuck.closeBrowser();
     EXPECT_TRUE(waitFor([] { return processes("/stuck/").isEmpty(); }, 2000));
+}
+
+TEST_F(ChromiumWindows, ABrowserThatListensAndNeverAnswersIsNotLeftBehind)
+{
+    QTcpServer silent;
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    const QString folder = dataFolder() + u"/silent"_s;
+    ChromiumFactory factory({.dataFolder = folder, .userSwitches = {}, .headless = true});
+    EXPECT_EQ(factory.runningBrowser(), nullptr);
+    startScript(
+        factory, folder,
+        "echo " + QByteArray::number(silent.serverPort()) +
+            " > browser-headless/DevToolsActivePort; echo /devtools/browser/x >> browser-headless/DevToolsActivePort");
+    ASSERT_TRUE(waitFor([] { return !processes("/silent/").isEmpty(); }));
+    factory.closeBrowser();
+    EXPECT_TRUE(waitFor([] { return processes("/silent/").isEmpty(); }, 2000));
 }
 
 TEST_F(ChromiumWindows, TheEngineMayGoInsideEachOfItsSignals)
