@@ -3,6 +3,7 @@
 #include "store/FixNull.h"
 #include "store/Schema.h"
 #include "util/Arrays.h"
+#include "util/Text.h"
 
 #include <optional>
 
@@ -156,7 +157,8 @@ void SavedUrls::RemoveSavedUrl()
     guarded(mLog, {module, "Sub RemoveSavedUrl"_L1}, [&] {
         if (index < 0)
             return;
-        mDatabase->DeleteRecords(table(kind), u"MaskName"_s, mForm.cboANSavedUrls.text().trimmed(), false);
+        mDatabase->DeleteRecords(table(kind), u"MaskName"_s, cUtility::Trim(mForm.cboANSavedUrls.text()).toString(),
+                                 false);
         if (index > upperBound(mForm.mastrSavedUrlIds))
             throw RuntimeError(ErrorNumber::SubscriptOutOfRange, u"Subscript out of range"_s);
         mForm.mastrSavedUrlIds[index].clear();

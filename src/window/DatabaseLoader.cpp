@@ -3,6 +3,7 @@
 #include "store/Schema.h"
 #include "util/FileNames.h"
 #include "util/Incr.h"
+#include "util/Text.h"
 #include "window/Options.h"
 
 #include <QFile>
@@ -43,7 +44,7 @@ void DatabaseLoader::fatal(const QString &path, const QString &text)
 /// The database object refuses a path that cannot be written, and keeps another file's; that one is not meant.
 bool DatabaseLoader::isPathTaken(const QString &path) const
 {
-    return mDatabase->DatabasePath() == path.trimmed();
+    return mDatabase->DatabasePath() == cUtility::Trim(path);
 }
 
 bool DatabaseLoader::testExisting(const QString &path, bool useFileBox)

@@ -21,7 +21,7 @@ QString stored(const Control &control)
     if (const auto *list = qobject_cast<const ListControl *>(&control))
         return QString::number(list->listIndex());
     if (const auto *number = qobject_cast<const NumberBox *>(&control))
-        return number->text().trimmed();
+        return cUtility::Trim(number->text()).toString();
     if (const auto *text = qobject_cast<const TextBox *>(&control))
         return text->text();
     return {};
