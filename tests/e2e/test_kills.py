@@ -118,7 +118,7 @@ class Kills(trawlex.Case):
                 # The line of a page stands there before its rows, those of all pages before it are on the disk.
                 whole.append(self.assert_whole_pages(path, len(self.visited(run)) - 1))
             self.end_processes()
-        print(f"killed {len(whole)} times, with {min(whole)} to {max(whole)} pages stored")
+        print(f"killed {MOMENTS} times, with {min(whole, default=0)} to {max(whole, default=0)} pages stored")
 
     def test_a_wish_to_end_stops_the_run_in_the_middle_of_a_wait(self):
         path = self.make_database()

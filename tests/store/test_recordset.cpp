@@ -425,6 +425,11 @@ TEST_F(RecordsetTest, AFileThatIsNoSavedSetIsRefused)
 
 TEST_F(RecordsetTest, AWalkAndASaveHoldOneRowAtATime)
 {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "freed memory stays in the sanitizer's hands";
+#endif
+    if (residentBytes() == 0)
+        GTEST_SKIP() << "the system does not tell how much memory is in use";
     constexpr int rows = 500;
     constexpr int page = 100'000;
     {
