@@ -278,5 +278,7 @@ int main(int argc, char *argv[])
 {
     keepFreedMemory(); // as the programs do
     benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
     benchmark::RunSpecifiedBenchmarks();
 }

@@ -17,7 +17,7 @@ fuzz_one() {
   local name status=0
   name=$(basename "$1")
   mkdir -p "$work/$name"
-  { time "$1" -max_total_time="$seconds" -max_len=512 -timeout=10 -print_final_stats=1 -artifact_prefix="$work/$name-" \
+  { time "$1" -max_total_time="$seconds" -max_len=512 -timeout=120 -print_final_stats=1 -artifact_prefix="$work/$name-" \
       "$work/$name" >"$work/$name.log" 2>&1; } 2>"$work/$name.time" || status=$?
   printf '%-24s %10s inputs in %8s s of processor time  %s\n' "$name" \
     "$(sed -n 's/^stat::number_of_executed_units: *//p' "$work/$name.log")" "$(cat "$work/$name.time")" \
@@ -26,4 +26,4 @@ fuzz_one() {
 }
 export -f fuzz_one
 
-printf '%s\0' "${targets[@]}" | xargs -0 -n 1 -P "${JOBS:-$(nproc)}" bash -c 'fuzz_one "$1" || exit 1' _
+printf '%s\0' "${targets[@]}" | xargs -0 -n 1 -P "${JOBS:-$(nproc)}" bash -c 'fuzz_one "$1"' _ || exit 1

@@ -64,10 +64,10 @@ void ErrorLog::show(const QString &record)
     const QScopedValueRollback<bool> asking(mAsking, true);
     const QString prompt = u"\r\nError was logged in "_s + fileName + u"\r\nOpen Error LOG?"_s;
     const auto answer = mDialogs.askAboutError(u"An error occurred!"_s, record, prompt);
-    if (answer == UserDialogs::Answer::Yes)
+    if (answer == UserDialogs::Answer::Yes) {
         mDesktop.open(filePath());
-    if (answer != UserDialogs::Answer::Cancel)
-        return;
-    mShow = false; // what fails while the program ends asks nobody any more
-    Q_EMIT endRequested();
+    } else if (answer == UserDialogs::Answer::Cancel) {
+        mShow = false; // what fails while the program ends asks nobody any more
+        Q_EMIT endRequested();
+    }
 }

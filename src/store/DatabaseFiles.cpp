@@ -29,6 +29,7 @@ void replaceFile(const QString &from, const QString &to)
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         throw AdoError::error(ErrorNumber::PathAccessError);
 }
+
 // A name beside the file. The engine makes the file there, with the rights that any new file of the user's gets: those
 // of a temporary file would stay.
 QString vacantName(const QString &path)

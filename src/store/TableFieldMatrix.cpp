@@ -70,8 +70,7 @@ QString &TableFieldMatrix::place(int row, int column)
 
 int TableFieldMatrix::tableCount() const
 {
-    const auto unused =
-        std::find_if(mRows.begin(), mRows.end(), [](const auto &row) { return row.empty() || row.front().isEmpty(); });
+    const auto unused = std::find_if(mRows.begin(), mRows.end(), [](const auto &row) { return row.front().isEmpty(); });
     return static_cast<int>(unused - mRows.begin());
 }
 

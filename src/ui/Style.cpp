@@ -207,7 +207,7 @@ void Style::drawControl(ControlElement element, const QStyleOption *option, QPai
 {
     if (const auto *const combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
         combo != nullptr && element == CE_ComboBoxLabel) {
-        const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2;
+        const int room = proxy()->subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2;
         const QStyleOptionComboBox shown = elided(*combo, room);
         return QProxyStyle::drawControl(element, &shown, painter, widget);
     }

@@ -66,8 +66,8 @@ class EmailWalk
 
     [[nodiscard]] char16_t unitAt(qsizetype position) const { return mText[position - 1].unicode(); }
 
-    /// The first hit at or behind the resume position; 0 for none. That position never goes back, so a place that is
-    /// known is not looked for again.
+    /// The first hit at or behind the resume position; 0 for none. From one look to the next that position never
+    /// goes back, so a place that is known is not looked for again.
     qsizetype nextHit()
     {
         if (!mNextHit || (*mNextHit != 0 && *mNextHit < mResume))
