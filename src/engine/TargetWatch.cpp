@@ -197,8 +197,8 @@ void TargetWatch::decideOnWindow(const QString &session, const QJsonObject &info
 }
 
 // A window that its opener can reach shares that one's process, and holds it: closed while it is held, it would leave
-// the process held for ever. So it is let run, without a network, and closed as soon as
-// it runs. Any other window is closed while it is held.
+// the process held for ever. So it is let run, without a network, and closed as soon as it runs. Any other window is
+// closed while it is held.
 void TargetWatch::refuse(const QString &session, const QJsonObject &info)
 {
     const QPointer<TargetWatch> self(this);

@@ -11,7 +11,6 @@
 
 using namespace std::chrono_literals;
 
-// Stands outside any namespace, as the macro demands.
 namespace {
 
 constexpr auto world = QWebEngineScript::ApplicationWorld;
