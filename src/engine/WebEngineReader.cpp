@@ -138,6 +138,7 @@ void WebEngineReader::wait(const std::shared_ptr<Question> &question, const QDea
     question->loop = &loop;
     QTimer limit;
     limit.setSingleShot(true);
+    limit.setTimerType(Qt::PreciseTimer); // a coarse one may come before the limit
     connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
     limit.start(int(std::max<qint64>(0, deadline.remainingTime())));
     QTimer again;
