@@ -3,15 +3,15 @@
 // million. The other figures: opening a file of 1 GB, the first look for a summary row, counting and walking a million
 // rows.
 #include "BarePages.h"
-#include "store/Dates.h"
+#include "pages/Addresses.h"
 #include "store/FixNull.h"
 #include "store/MaskNames.h"
 #include "store/Schema.h"
 #include "store/SiteSummaryIndex.h"
 #include "store/Transaction.h"
 #include "store/cAdoMdb.h"
+#include "store/rows/StoredDates.h"
 #include "util/Memory.h"
-#include "web/Addresses.h"
 
 #include <QFile>
 #include <QTemporaryDir>

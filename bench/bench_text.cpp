@@ -1,14 +1,14 @@
 // The text core, measured against two marks of the same run and the same pages: S, one search for a character that does
 // not occur, and L, one lower-casing. Prints a table of the ratios behind the benchmarks' own lines.
 #include "TextCorpus.h"
+#include "pages/Addresses.h"
+#include "pages/AreaCodes.h"
+#include "pages/EmailFinder.h"
+#include "pages/PageTexts.h"
+#include "pages/PhoneFinder.h"
+#include "pages/TagContent.h"
 #include "util/Arrays.h"
 #include "util/Incr.h"
-#include "util/PageTexts.h"
-#include "web/Addresses.h"
-#include "web/AreaCodes.h"
-#include "web/EmailFinder.h"
-#include "web/PhoneFinder.h"
-#include "web/TagContent.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

@@ -19,9 +19,15 @@ endif()
 # The one precompiled set of Qt headers, shared by all folders.
 set(TRAWLEX_PCH <QObject> <QString> <QStringList> <QHash> <QVariant> <memory> <functional> <vector> <optional>)
 
-# trawlex_library(util Qt6::Core ...): all sources of the folder as one static library.
+# trawlex_library(util Qt6::Core ...): all sources of the folder and its sub-folders as one static
+# library. A sub-folder that is built by itself has a CMakeLists.txt of its own.
 function(trawlex_library name)
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h *.ui *.qrc)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h *.ui *.qrc)
+  file(GLOB own_builds CONFIGURE_DEPENDS */CMakeLists.txt)
+  foreach(own_build ${own_builds})
+    cmake_path(GET own_build PARENT_PATH folder)
+    list(FILTER sources EXCLUDE REGEX "^${folder}/")
+  endforeach()
   add_library(trawlex_${name} STATIC ${sources})
   set_target_properties(trawlex_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(trawlex_${name} PUBLIC trawlex_options ${ARGN})

@@ -1,9 +1,9 @@
 // The browsers as a program without a window has them: the built-in one works on a stage that is never shown.
 #pragma once
 
-#include "engine/ChromiumFactory.h"
-#include "engine/WebEngineBrowser.h"
-#include "engine/WebEngineStage.h"
+#include "engine/chromium/ChromiumFactory.h"
+#include "engine/webengine/WebEngineBrowser.h"
+#include "engine/webengine/WebEngineStage.h"
 
 class ConsoleBrowsers : public ChromiumFactory
 {

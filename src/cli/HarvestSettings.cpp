@@ -1,7 +1,7 @@
 #include "cli/HarvestSettings.h"
 
 #include "util/Incr.h"
-#include "window/Options.h"
+#include "window/options/Options.h"
 
 #include <QDir>
 

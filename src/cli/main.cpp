@@ -8,7 +8,7 @@
 #include "cli/Outcome.h"
 #include "cli/StopSignals.h"
 #include "engine/BrowserSwitches.h"
-#include "engine/WebEngineSetup.h"
+#include "engine/webengine/WebEngineSetup.h"
 #include "util/Memory.h"
 #include "window/ProgramFolder.h"
 

@@ -1,8 +1,9 @@
 // The browsers as the window program has them: the built-in one stands in a window of its own.
 #pragma once
 
-#include "engine/ChromiumFactory.h"
-#include "ui/BareBrowserWindow.h"
+#include "engine/chromium/ChromiumFactory.h"
+#include "engine/webengine/WebEngineBrowser.h"
+#include "ui/windows/BareBrowserWindow.h"
 
 #include <QPointer>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/Ports.h"
-#include "ui/MainWindow.h"
+#include "ui/windows/MainWindow.h"
 
 #include <QScreen>
 

@@ -1,6 +1,6 @@
 #include "harvest/AutoRun.h"
 
-#include "web/Addresses.h"
+#include "pages/Addresses.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #include "harvest/PageData.h"
 
-#include "util/PageTexts.h"
+#include "pages/PageTexts.h"
 #include "util/Text.h"
 
 using namespace Qt::StringLiterals;

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/frmSearch.h"
+#include "driver/PageReading.h"
 #include "util/Errors.h"
-#include "web/PageReading.h"
 
 class PageData
 {

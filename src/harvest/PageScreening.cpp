@@ -1,10 +1,10 @@
 #include "harvest/PageScreening.h"
 
 #include "controls/cLstBx.h"
+#include "pages/Addresses.h"
+#include "pages/PageTexts.h"
 #include "store/Transaction.h"
-#include "util/PageTexts.h"
 #include "util/Text.h"
-#include "web/Addresses.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "app/cTimer.h"
+#include "driver/Navigation.h"
 #include "harvest/ResultWriters.h"
-#include "web/Navigation.h"
 
 class PageScreening : public QObject
 {

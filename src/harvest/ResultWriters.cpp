@@ -1,13 +1,13 @@
 #include "harvest/ResultWriters.h"
 
 #include "controls/cLstBx.h"
+#include "pages/Addresses.h"
+#include "pages/EmailFinder.h"
+#include "pages/PhoneFinder.h"
 #include "store/Schema.h"
 #include "util/Arrays.h"
 #include "util/Incr.h"
 #include "util/Text.h"
-#include "web/Addresses.h"
-#include "web/EmailFinder.h"
-#include "web/PhoneFinder.h"
 
 #include <QFile>
 

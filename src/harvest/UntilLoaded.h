@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/cTimer.h"
-#include "web/BrowserHolder.h"
+#include "driver/BrowserHolder.h"
 
 class UntilLoaded : public QObject
 {

@@ -2,10 +2,10 @@
 
 #include "controls/cLstBx.h"
 #include "lists/ChosenItem.h"
+#include "pages/Addresses.h"
 #include "store/FixNull.h"
 #include "store/Schema.h"
 #include "util/AddressList.h"
-#include "web/Addresses.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,8 +4,8 @@
 
 #include "app/Ports.h"
 #include "app/StatusLine.h"
+#include "driver/BrowserHolder.h"
 #include "store/DatabaseHolder.h"
-#include "web/BrowserHolder.h"
 
 class Blocking
 {

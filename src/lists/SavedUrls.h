@@ -3,9 +3,9 @@
 #pragma once
 
 #include "app/StatusLine.h"
+#include "driver/Navigation.h"
 #include "sites/SiteRecords.h"
 #include "store/MaskNames.h"
-#include "web/Navigation.h"
 
 class SavedUrls
 {

@@ -1,9 +1,9 @@
 #include "sites/ResultLinks.h"
 
 #include "controls/cLstBx.h"
-#include "sites/LinkStages.h"
+#include "pages/Addresses.h"
+#include "pages/LinkStages.h"
 #include "util/Arrays.h"
-#include "web/Addresses.h"
 
 using namespace Qt::StringLiterals;
 

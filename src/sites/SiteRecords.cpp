@@ -1,16 +1,15 @@
 #include "sites/SiteRecords.h"
 
+#include "pages/Addresses.h"
+#include "pages/EmailFinder.h"
 #include "store/FixNull.h"
 #include "util/AddressList.h"
 #include "util/Text.h"
-#include "web/Addresses.h"
-#include "web/EmailFinder.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr auto valueMarker = "<~Dorv~>"_L1;
 constexpr int slots = 5;
 
 struct FieldRow
@@ -33,14 +32,6 @@ QString slotName(QLatin1StringView family, int slot)
     return u"%1-%2"_s.arg(family).arg(slot);
 }
 } // namespace
-
-QString SeparateSD(int part, const QString &value)
-{
-    if (!value.contains(valueMarker))
-        return value;
-    const QStringList parts = value.split(valueMarker);
-    return part > 1 || part < 0 || parts[0].isEmpty() ? QString() : parts[part];
-}
 
 QStringList SiteRecords::GetSearchSiteData(const QString &site, SiteField field)
 {

@@ -1,8 +1,8 @@
 // Search-site records: how the result pages of one web site are read. Knows the store.
 #pragma once
 
+#include "driver/BrowserHolder.h"
 #include "store/DatabaseHolder.h"
-#include "web/BrowserHolder.h"
 
 /// The fields of a record by the numbers that address them.
 enum class SiteField {
@@ -18,10 +18,6 @@ enum class SiteField {
     BUrlCol = 10,
     EUrlCol = 11
 };
-
-/// Takes a value of two parts apart at its marker. A value without the marker comes back whole, whichever part is asked
-/// for; an empty first part gives "" for both; a part above 1 is "". Part 1 ends at a second marker.
-[[nodiscard]] QString SeparateSD(int part, const QString &value);
 
 class SiteRecords
 {

@@ -1,6 +1,6 @@
 // The procedures of the database object that read other databases.
-#include "store/ForeignDatabase.h"
 #include "store/cAdoMdb.h"
+#include "store/foreign/ForeignDatabase.h"
 #include "util/Text.h"
 
 #include <QFileInfo>

@@ -1,5 +1,5 @@
 #include "store/FixNull.h"
-#include "store/ColumnKinds.h"
+#include "store/rows/ColumnKinds.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 #include "store/MaskNames.h"
 
 #include "store/AdoErrors.h"
-#include "store/Connection.h"
 #include "store/FixNull.h"
 #include "store/cAdoMdb.h"
+#include "store/sqlite/Connection.h"
 #include "util/Incr.h"
 
 using namespace Qt::StringLiterals;

@@ -1,8 +1,8 @@
 #include "store/Recordset.h"
 #include "store/AdoErrors.h"
-#include "store/ColumnKinds.h"
-#include "store/RecordsetState.h"
-#include "store/SavedRecordset.h"
+#include "store/rows/ColumnKinds.h"
+#include "store/rows/RecordsetState.h"
+#include "store/rows/SavedRecordset.h"
 
 QString Field::Name() const
 {

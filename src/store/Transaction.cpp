@@ -1,7 +1,7 @@
 #include "store/Transaction.h"
 #include "store/AdoErrors.h"
-#include "store/Connection.h"
 #include "store/cAdoMdb.h"
+#include "store/sqlite/Connection.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,11 @@
 #include "store/cAdoMdb.h"
 #include "store/AdoErrors.h"
-#include "store/Catalog.h"
-#include "store/ColumnKinds.h"
-#include "store/DatabaseFiles.h"
-#include "store/RecordWriter.h"
-#include "store/RecordsetState.h"
 #include "store/TableListFile.h"
+#include "store/rows/Catalog.h"
+#include "store/rows/ColumnKinds.h"
+#include "store/rows/RecordWriter.h"
+#include "store/rows/RecordsetState.h"
+#include "store/sqlite/DatabaseFiles.h"
 #include "util/Text.h"
 
 #include <QFile>

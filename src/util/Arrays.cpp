@@ -1,7 +1,7 @@
 #include "util/Arrays.h"
 
 #include "util/AddressList.h"
-#include "util/TextSet.h"
+#include "util/search/TextSet.h"
 
 #include <QSet>
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "util/Text.h"
 
-#include "util/CaseVariants.h"
+#include "util/search/CaseVariants.h"
 
 #include <QStringList>
 #include <algorithm>

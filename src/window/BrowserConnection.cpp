@@ -1,7 +1,7 @@
 #include "window/BrowserConnection.h"
 
 #include "util/Text.h"
-#include "window/Options.h"
+#include "window/options/Options.h"
 
 #include <QFileInfo>
 

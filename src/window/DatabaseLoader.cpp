@@ -4,7 +4,7 @@
 #include "util/FileNames.h"
 #include "util/Incr.h"
 #include "util/Text.h"
-#include "window/Options.h"
+#include "window/options/Options.h"
 
 #include <QFile>
 

@@ -5,7 +5,7 @@
 #include "app/cTimer.h"
 #include "window/BrowserConnection.h"
 #include "window/DatabaseLoader.h"
-#include "window/Options.h"
+#include "window/options/Options.h"
 
 class LifeCycle : public QObject
 {

@@ -6,10 +6,10 @@
 #include "app/cTimer.h"
 #include "harvest/AutoRun.h"
 #include "harvest/UntilLoaded.h"
-#include "window/AutoTab.h"
-#include "window/CriteriaPanel.h"
 #include "window/LifeCycle.h"
-#include "window/StateOfControls.h"
+#include "window/commands/AutoTab.h"
+#include "window/commands/CriteriaPanel.h"
+#include "window/states/StateOfControls.h"
 
 struct Program
 {

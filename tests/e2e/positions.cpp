@@ -1,7 +1,7 @@
 // Prints where the widgets of the main window stand, as JSON of objectName to centre in the window's pixels. The
 // end-to-end tests click there; both programs lay the window out the same way on the same display.
 #include "app/frmSearch.h"
-#include "ui/MainWindow.h"
+#include "ui/windows/MainWindow.h"
 
 #include <QApplication>
 #include <QJsonArray>

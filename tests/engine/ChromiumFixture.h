@@ -2,9 +2,9 @@
 #pragma once
 
 #include "TestServer.h"
-#include "engine/ChromiumFactory.h"
-#include "engine/DevToolsConnection.h"
-#include "engine/EngineErrors.h"
+#include "engine/BrowserErrors.h"
+#include "engine/chromium/ChromiumFactory.h"
+#include "engine/chromium/DevToolsConnection.h"
 
 #include <QElapsedTimer>
 #include <QStringList>

@@ -1,6 +1,6 @@
 // The free-standing browser's program, its command line and its profile folder; no browser runs here.
-#include "engine/ChromiumFactory.h"
-#include "engine/ChromiumProgram.h"
+#include "engine/chromium/ChromiumFactory.h"
+#include "engine/chromium/ChromiumProgram.h"
 
 #include <QDir>
 #include <QElapsedTimer>

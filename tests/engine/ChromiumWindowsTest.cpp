@@ -1,8 +1,8 @@
 // The windows of the free-standing browser: those that pages open, those of the user, and the loss of ours.
 #include "ChromiumFixture.h"
 #include "SlowLine.h"
-#include "engine/ChromiumBrowser.h"
-#include "engine/ChromiumPage.h"
+#include "engine/chromium/ChromiumBrowser.h"
+#include "engine/chromium/ChromiumPage.h"
 
 #include <QFile>
 #include <QJsonDocument>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "TestServer.h"
-#include "engine/WebEngineBrowser.h"
+#include "engine/webengine/WebEngineBrowser.h"
 #include "util/QtPrint.h"
 
 #include <QStringList>

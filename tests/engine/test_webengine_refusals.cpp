@@ -1,7 +1,7 @@
 // Nothing on a page stops the built-in browser: each of these ends in a page that can be read, or in an error.
 #include "WebEngineFixture.h"
 #include "engine/Platform.h"
-#include "engine/WebEngineStage.h"
+#include "engine/webengine/WebEngineStage.h"
 
 #include <QApplication>
 #include <QDesktopServices>

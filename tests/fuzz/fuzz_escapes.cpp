@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
-#include "web/Addresses.h"
-#include "web/PlainFinders.h"
+#include "pages/Addresses.h"
+#include "pages/PlainFinders.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
-#include "web/PhoneFinder.h"
-#include "web/PlainFinders.h"
+#include "pages/PhoneFinder.h"
+#include "pages/PlainFinders.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -1,5 +1,5 @@
 #include "FuzzInput.h"
-#include "util/PageTexts.h"
+#include "pages/PageTexts.h"
 #include "util/PlainUtility.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

@@ -1,7 +1,7 @@
 // Builds every statement of the system around one hostile value, runs them all on a database with rows in every table,
 // and holds the rows that the engine changes against those that must go. A difference ends the run.
 #include "SystemStatements.h"
-#include "store/Connection.h"
+#include "store/sqlite/Connection.h"
 
 #include <QTemporaryDir>
 #include <cstdio>

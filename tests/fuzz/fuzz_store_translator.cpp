@@ -1,6 +1,6 @@
 // The translator takes any text: it gives a statement of the system or refuses, and what it gives is in the text.
 #include "store/AdoErrors.h"
-#include "store/SqlTranslator.h"
+#include "store/sql/SqlTranslator.h"
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
-#include "web/PlainFinders.h"
-#include "web/TagContent.h"
+#include "pages/PlainFinders.h"
+#include "pages/TagContent.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

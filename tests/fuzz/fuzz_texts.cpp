@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
+#include "pages/PageTexts.h"
 #include "util/Arrays.h"
-#include "util/PageTexts.h"
 #include "util/PlainUtility.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

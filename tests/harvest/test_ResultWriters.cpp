@@ -1,5 +1,5 @@
 // Rows and files of an accepted page, each new thing once.
-#include "store/Connection.h"
+#include "store/sqlite/Connection.h"
 #include "support/ProgramFixture.h"
 
 #include <QDir>

@@ -2,9 +2,9 @@
 #include "StoreFixture.h"
 #include "store/AdoErrors.h"
 #include "store/DatabaseHolder.h"
-#include "store/Dates.h"
 #include "store/FixNull.h"
 #include "store/Transaction.h"
+#include "store/rows/StoredDates.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,8 +3,8 @@
 #include "OtherProcess.h"
 #include "StoreFixture.h"
 #include "store/AdoErrors.h"
-#include "store/Connection.h"
 #include "store/Transaction.h"
+#include "store/sqlite/Connection.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,9 +1,9 @@
 // Other databases: this system's own files, and real files of other programs where they lie beside the project.
 #include "ForeignFixture.h"
 #include "store/AdoErrors.h"
-#include "store/Connection.h"
 #include "store/FixNull.h"
-#include "store/TextForms.h"
+#include "store/foreign/TextForms.h"
+#include "store/sqlite/Connection.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,7 +1,7 @@
 // What a value can do to the database through the statements that the system builds: nothing but be compared.
 #include "StoreFixture.h"
 #include "SystemStatements.h"
-#include "store/Connection.h"
+#include "store/sqlite/Connection.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 // A writer that is killed at any moment: the file opens, and every page that it reported is there, whole.
 #include "OtherProcess.h"
 #include "StoreFixture.h"
-#include "store/Connection.h"
+#include "store/sqlite/Connection.h"
 
 #include <QThread>
 #include <random>

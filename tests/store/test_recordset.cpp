@@ -1,10 +1,10 @@
 // A set of rows: its moves, its fields, its edits, and what it gives out as text, values and files.
 #include "StoreFixture.h"
 #include "store/AdoErrors.h"
-#include "store/BlobFiles.h"
-#include "store/Dates.h"
 #include "store/FixNull.h"
 #include "store/Transaction.h"
+#include "store/rows/StoredDates.h"
+#include "store/sqlite/BlobFiles.h"
 
 #include <QDir>
 #include <QFile>

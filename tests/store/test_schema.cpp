@@ -1,7 +1,7 @@
 // The schema: its tables in their order, the kinds of their columns, and the test that a file must pass.
 #include "StoreFixture.h"
 #include "store/AdoErrors.h"
-#include "store/ColumnKinds.h"
+#include "store/rows/ColumnKinds.h"
 
 #include <QFile>
 #include <sqlite3.h>

@@ -1,7 +1,7 @@
 // The statements of the system and what is none of them.
 #include "StoreFixture.h"
 #include "store/AdoErrors.h"
-#include "store/SqlTranslator.h"
+#include "store/sql/SqlTranslator.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,8 @@
 // test; until it has arrived the page before it stands there, as in a real browser.
 #pragma once
 
+#include "browser/BrowserEngine.h"
 #include "support/FakePump.h"
-#include "web/BrowserEngine.h"
 
 #include <QHash>
 #include <QPointer>

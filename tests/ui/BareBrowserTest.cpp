@@ -1,5 +1,7 @@
 // The built-in browser's window, with the real engine in it.
-#include "ui/BareBrowserWindow.h"
+#include "ui/windows/BareBrowserWindow.h"
+
+#include "engine/webengine/WebEngineBrowser.h"
 
 #include <QFile>
 #include <QLineEdit>

@@ -1,11 +1,11 @@
 // Each kind of control in both directions: what the logic sets is shown, what the user does is told.
 #include "WindowFixture.h"
-#include "ui/Chip.h"
-#include "ui/DropDown.h"
-#include "ui/Mark.h"
-#include "ui/NumberEdit.h"
-#include "ui/StatusBarLine.h"
-#include "ui/TimerLabel.h"
+#include "ui/widgets/Chip.h"
+#include "ui/widgets/DropDown.h"
+#include "ui/widgets/Mark.h"
+#include "ui/widgets/NumberEdit.h"
+#include "ui/widgets/StatusBarLine.h"
+#include "ui/widgets/TimerLabel.h"
 
 #include <QCheckBox>
 #include <QContextMenuEvent>

@@ -1,5 +1,5 @@
 #include "WindowFixture.h"
-#include "ui/ItemList.h"
+#include "ui/widgets/ItemList.h"
 
 #include <QElapsedTimer>
 

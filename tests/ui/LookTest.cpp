@@ -1,13 +1,13 @@
 // Light and dark, contrast, and that no text is cut at any scale.
 #include "WindowFixture.h"
-#include "ui/DropDown.h"
-#include "ui/ItemList.h"
-#include "ui/Mark.h"
-#include "ui/NumberEdit.h"
-#include "ui/StatusBarLine.h"
-#include "ui/Theme.h"
-#include "ui/TimerLabel.h"
-#include "ui/Tones.h"
+#include "ui/look/Theme.h"
+#include "ui/look/Tones.h"
+#include "ui/widgets/DropDown.h"
+#include "ui/widgets/ItemList.h"
+#include "ui/widgets/Mark.h"
+#include "ui/widgets/NumberEdit.h"
+#include "ui/widgets/StatusBarLine.h"
+#include "ui/widgets/TimerLabel.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // The window itself: no title bar, closing, the keyboard's way through it.
 #include "WindowFixture.h"
-#include "ui/Mark.h"
-#include "ui/StatusBarLine.h"
+#include "ui/widgets/Mark.h"
+#include "ui/widgets/StatusBarLine.h"
 
 #include <QApplication>
 #include <QPushButton>

@@ -1,7 +1,7 @@
 // The small widgets by themselves: number box, status bar.
 #include "WindowFixture.h"
-#include "ui/NumberEdit.h"
-#include "ui/StatusBarLine.h"
+#include "ui/widgets/NumberEdit.h"
+#include "ui/widgets/StatusBarLine.h"
 
 #include <QLineEdit>
 

@@ -1,8 +1,8 @@
 // What the skin brings for the ports: dialogs, desktop, clipboard.
 #include "WindowFixture.h"
-#include "ui/QtClipboard.h"
-#include "ui/QtDesktop.h"
-#include "ui/QtDialogs.h"
+#include "ui/windows/QtClipboard.h"
+#include "ui/windows/QtDesktop.h"
+#include "ui/windows/QtDialogs.h"
 
 #include <QAbstractButton>
 #include <QApplication>

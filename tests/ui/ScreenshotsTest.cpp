@@ -1,7 +1,7 @@
 // Takes the pictures of docs/images. Not a test, so it runs only when asked for:
 //   QT_SCALE_FACTOR=2 test_ui --gtest_also_run_disabled_tests --gtest_filter='*Screenshots*'
 #include "WindowFixture.h"
-#include "ui/Theme.h"
+#include "ui/look/Theme.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 // A main window on controls of its own, shown without a display.
 #pragma once
 
-#include "ui/MainWindow.h"
+#include "ui/windows/MainWindow.h"
 
 #include <QCoreApplication>
 #include <QTest>

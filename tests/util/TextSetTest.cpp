@@ -1,9 +1,9 @@
-#include "util/TextSet.h"
+#include "util/search/TextSet.h"
 
 #include "PlainUtility.h"
 #include "QtPrint.h"
 #include "RandomText.h"
-#include "util/CaseVariants.h"
+#include "util/search/CaseVariants.h"
 
 using namespace Qt::StringLiterals;
 

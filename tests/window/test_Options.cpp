@@ -1,6 +1,6 @@
 // The options: what they start with, what is stored when, and what they report.
 #include "support/ProgramFixture.h"
-#include "window/OptionTable.h"
+#include "window/options/OptionTable.h"
 
 #include <QDir>
 

@@ -1,5 +1,5 @@
 #include "store/reader/ValueReader.h"
-#include "store/TextForms.h"
+#include "store/foreign/TextForms.h"
 #include "store/reader/FrameWriter.h"
 
 #include <algorithm>

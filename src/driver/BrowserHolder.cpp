@@ -1,0 +1,22 @@
+#include "driver/BrowserHolder.h"
+
+cIEObject *BrowserHolder::operator->() const
+{
+    if (!mobjIE)
+        throw RuntimeError(ErrorNumber::ObjectNotSet, QStringLiteral("Object variable or With block variable not set"));
+    return mobjIE.get();
+}
+
+void BrowserHolder::set(std::unique_ptr<cIEObject> driver)
+{
+    mobjIE.reset(driver.release());
+    connect(mobjIE.get(), &cIEObject::DocumentComplete, this, &BrowserHolder::DocumentComplete);
+    connect(mobjIE.get(), &cIEObject::NewWindow2, this, &BrowserHolder::NewWindow2, Qt::DirectConnection);
+    connect(mobjIE.get(), &cIEObject::WindowClosing, this, &BrowserHolder::WindowClosing);
+    connect(mobjIE.get(), &cIEObject::loadingEnded, this, &BrowserHolder::loadingEnded);
+}
+
+void BrowserHolder::release()
+{
+    mobjIE.reset();
+}

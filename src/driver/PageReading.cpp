@@ -1,0 +1,29 @@
+#include "driver/PageReading.h"
+
+const PageContent &PageReading::content()
+{
+    if (!mContent)
+        mContent = mBrowser->GetPage();
+    return *mContent;
+}
+
+const QString &PageReading::text()
+{
+    if (!mText)
+        mText = mBrowser->GetBrowserText();
+    return *mText;
+}
+
+const QStringList &PageReading::links()
+{
+    if (!mLinks)
+        mLinks = mBrowser->GetLinksOnWebPage();
+    return *mLinks;
+}
+
+void PageReading::forget()
+{
+    mContent.reset();
+    mText.reset();
+    mLinks.reset();
+}

@@ -1,0 +1,68 @@
+#include "engine/chromium/NavigationWatch.h"
+
+#include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds betweenLooks{3};
+constexpr std::chrono::seconds limitOfAnswer{2};
+constexpr std::chrono::seconds limitOfDocument{5};
+constexpr int breakOffsAtMost = 1;
+
+} // namespace
+
+NavigationWatch::NavigationWatch(DevToolsConnection &connection) : mConnection(connection)
+{
+    mTimer.setSingleShot(true);
+    QObject::connect(&mTimer, &QTimer::timeout, this, &NavigationWatch::look);
+}
+
+void NavigationWatch::begin(const QString &session)
+{
+    ++mLook;
+    mSession = session;
+    mUnanswered = false;
+    mBrokenOff = 0;
+    mTimer.start(betweenLooks);
+}
+
+void NavigationWatch::documentComing()
+{
+    ++mLook;
+    mUnanswered = true;
+    mBrokenOff = breakOffsAtMost;
+    mTimer.start(limitOfDocument);
+}
+
+void NavigationWatch::end()
+{
+    ++mLook;
+    mTimer.stop();
+}
+
+// A page that answers is not what holds the navigation up: its server is slow, and that is no business of ours.
+void NavigationWatch::look()
+{
+    if (mUnanswered && ++mBrokenOff > breakOffsAtMost) {
+        end();
+        Q_EMIT pageStuck();
+        return;
+    }
+    if (mUnanswered) {
+        mConnection.send(mSession, "Runtime.terminateExecution"_L1);
+        Q_EMIT brokenOff();
+    }
+    mUnanswered = true;
+    mTimer.start(limitOfAnswer);
+    const QPointer<NavigationWatch> self(this);
+    mConnection.send(mSession, "Runtime.evaluate"_L1, {{u"expression"_s, u"0"_s}, {u"silent"_s, true}},
+                     [self, look = ++mLook](const DevToolsConnection::Answer &) {
+                         if (!self || look != self->mLook)
+                             return;
+                         self->mUnanswered = false;
+                         self->mBrokenOff = 0;
+                         self->mTimer.start(betweenLooks);
+                     });
+}

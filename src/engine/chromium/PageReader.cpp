@@ -1,0 +1,214 @@
+#include "engine/chromium/PageReader.h"
+#include "browser/BrowserEngine.h"
+#include "engine/BrowserErrors.h"
+#include "engine/EngineResources.h"
+#include "util/Errors.h"
+
+#include <QJsonArray>
+#include <QPointer>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Between two attempts to get a world while the browser is changing documents.
+constexpr std::chrono::milliseconds askAgainAfter{10};
+
+// The document, and with it the world, went away between our knowing it and the browser's getting to our command.
+bool isLostWorld(const QString &error)
+{
+    static constexpr std::array texts{"Cannot find context"_L1,
+                                      "Cannot find default execution context"_L1,
+                                      "navigated or closed"_L1,
+                                      "context was destroyed"_L1,
+                                      "No frame"_L1,
+                                      "Frame with the given"_L1,
+                                      "Could not create isolated world"_L1};
+    return std::any_of(texts.begin(), texts.end(), [&](QLatin1StringView text) { return error.contains(text); });
+}
+
+bool isBrokenOff(const QString &error, const QJsonObject &exception)
+{
+    return error.contains("terminated"_L1) || exception[u"text"].toString().contains("terminated"_L1);
+}
+
+QString textOf(const QJsonObject &exception)
+{
+    const QString description = exception[u"exception"][u"description"].toString();
+    return description.isEmpty() ? exception[u"text"].toString() : description;
+}
+
+} // namespace
+
+void PageReader::setPage(const QString &session, const QString &frame)
+{
+    mSession = session;
+    mFrame = frame;
+    mLost = false;
+    mWorld = {};
+    ++mDocument;
+}
+
+void PageReader::documentChanged(const QString &frame)
+{
+    mFrame = frame;
+    mLost = false;
+    askForWorld();
+}
+
+void PageReader::processLost()
+{
+    mLost = true;
+    mWorld = {};
+    ++mDocument;
+}
+
+void PageReader::askForWorld()
+{
+    mWorld = {.asked = true, .error = {}};
+    const int document = ++mDocument;
+    const QPointer<PageReader> self(this);
+    mConnection.send(mSession, "Page.createIsolatedWorld"_L1, {{u"frameId"_s, mFrame}, {u"worldName"_s, u"trawlex"_s}},
+                     [self, document](const DevToolsConnection::Answer &answer) {
+                         if (!self || self->mDocument != document)
+                             return;
+                         self->mWorld = {.context = answer.result[u"executionContextId"].toInt(),
+                                         .asked = !answer.failed(),
+                                         .error = answer.error};
+                     });
+}
+
+int PageReader::world(QDeadlineTimer deadline)
+{
+    if (!mWorld.asked)
+        askForWorld();
+    const bool known =
+        waitPatiently([this] { return mLost || mWorld.context != 0 || !mWorld.error.isEmpty(); }, deadline, true);
+    if (!known)
+        raiseNoAnswer();
+    if (mWorld.context == 0 && !mLost && !isLostWorld(mWorld.error))
+        throw RuntimeError(EngineError::CannotRead, mWorld.error);
+    return mWorld.context;
+}
+
+QStringList PageReader::read(QLatin1StringView what, int index)
+{
+    const QDeadlineTimer deadline(BrowserEngine::readLimit);
+    const QString call = u".read('%1', %2)"_s.arg(what, QString::number(index));
+    const QJsonObject answer = evaluate(pageReader() + call, deadline).toObject();
+    if (answer.contains(u"error"))
+        throw RuntimeError(answer[u"number"].toInt() ? answer[u"number"].toInt() : EngineError::CannotRead,
+                           answer[u"error"].toString());
+    if (answer.contains(u"lengths"))
+        return fetchPieces(answer, deadline);
+    QStringList texts;
+    for (const QJsonValue text : answer[u"texts"].toArray())
+        texts.append(text.toString());
+    return texts;
+}
+
+QStringList PageReader::fetchPieces(const QJsonObject &answer, QDeadlineTimer deadline)
+{
+    const int document = mDocument;
+    QString joined;
+    for (;;) {
+        const QString call = u".piece(%1, %2)"_s.arg(answer[u"ticket"].toInt()).arg(joined.size());
+        const QJsonValue piece = evaluate(pageReader() + call, deadline);
+        if (!piece.isString() || mDocument != document)
+            throw RuntimeError(EngineError::CannotRead, u"The page changed while it was read."_s);
+        if (piece.toString().isEmpty())
+            break;
+        joined += piece.toString();
+    }
+    QStringList texts;
+    qsizetype from = 0;
+    for (const QJsonValue length : answer[u"lengths"].toArray()) {
+        texts.append(joined.mid(from, length.toInteger()));
+        from += length.toInteger();
+    }
+    return texts;
+}
+
+QJsonValue PageReader::evaluate(const QString &expression, QDeadlineTimer deadline)
+{
+    bool mayBreakOff = true;
+    QJsonValue value;
+    for (;;) {
+        switch (tryEvaluate(expression, deadline, mayBreakOff, value)) {
+        case Outcome::Value:
+            return value;
+        case Outcome::BrokenOff:
+            mayBreakOff = false; // it was our own read that took long
+            break;
+        case Outcome::Lost:
+            break;
+        }
+        if (deadline.hasExpired())
+            raiseNoAnswer();
+    }
+}
+
+PageReader::Outcome PageReader::tryEvaluate(const QString &expression, QDeadlineTimer deadline, bool mayBreakOff,
+                                            QJsonValue &value)
+{
+    const int context = world(deadline);
+    if (mLost)
+        throw RuntimeError(EngineError::BrowserGone, u"The page's process has ended."_s);
+    if (context == 0) {
+        mConnection.waitUntil([] { return false; }, QDeadlineTimer(askAgainAfter));
+        mWorld = {};
+        return Outcome::Lost;
+    }
+    const int document = mDocument;
+    const auto answer = std::make_shared<std::optional<DevToolsConnection::Answer>>();
+    mConnection.send(
+        mSession, "Runtime.evaluate"_L1,
+        {{u"expression"_s, expression}, {u"contextId"_s, context}, {u"returnByValue"_s, true}, {u"silent"_s, true}},
+        [answer](const DevToolsConnection::Answer &given) { *answer = given; });
+    if (!waitPatiently([&] { return answer->has_value() || mLost || mDocument != document; }, deadline, mayBreakOff))
+        raiseNoAnswer();
+    if (mLost)
+        throw RuntimeError(EngineError::BrowserGone, u"The page's process has ended."_s);
+    if (!answer->has_value())
+        return Outcome::Lost;
+
+    const QJsonObject exception = (*answer)->result[u"exceptionDetails"].toObject();
+    if (isBrokenOff((*answer)->error, exception))
+        return Outcome::BrokenOff;
+    if ((*answer)->failed() && isLostWorld((*answer)->error)) {
+        if (document == mDocument)
+            mWorld = {};
+        return Outcome::Lost;
+    }
+    if ((*answer)->failed())
+        throw RuntimeError(EngineError::CannotRead, (*answer)->error);
+    if (!exception.isEmpty())
+        throw RuntimeError(EngineError::CannotRead, textOf(exception));
+    value = (*answer)->result[u"result"][u"value"];
+    return Outcome::Value;
+}
+
+// Breaking off hits whatever script runs, or the next one: only a page that leaves us waiting deserves it.
+bool PageReader::waitPatiently(const std::function<bool()> &done, QDeadlineTimer deadline, bool mayBreakOff)
+{
+    for (std::chrono::milliseconds step = patience; mayBreakOff; step = patienceAgain) {
+        const QDeadlineTimer stop = std::min(QDeadlineTimer(step), deadline);
+        if (mConnection.waitUntil(done, stop))
+            return true;
+        if (deadline.hasExpired() || !mConnection.isOpen())
+            break;
+        mConnection.send(mSession, "Runtime.terminateExecution"_L1);
+        Q_EMIT brokenOff();
+    }
+    return mConnection.waitUntil(done, deadline);
+}
+
+void PageReader::raiseNoAnswer()
+{
+    if (!mConnection.isOpen())
+        throw RuntimeError(EngineError::BrowserGone, u"The browser is no longer there."_s);
+    mConnection.send(mSession, "Page.crash"_L1);
+    throw RuntimeError(EngineError::NoAnswer,
+                       u"The page did not answer within %1 seconds."_s.arg(BrowserEngine::readLimit.count()));
+}

@@ -1,0 +1,61 @@
+// Reads the document of one page over its DevTools session, in a script world of its own: one round trip for each read
+// while the world is known. A page that does not answer is made to.
+//
+// A script that never ends is broken off after `patience`; what the page had built by then is what is read. A read ends
+// after BrowserEngine::readLimit at the latest, and a page that has not answered at all by then loses its process.
+#pragma once
+
+#include "engine/chromium/DevToolsConnection.h"
+
+#include <QStringList>
+
+class PageReader : public QObject
+{
+    Q_OBJECT
+
+  public:
+    static constexpr std::chrono::seconds patience{4};
+    static constexpr std::chrono::seconds patienceAgain{2};
+
+    /// `connection` must outlive the reader.
+    explicit PageReader(DevToolsConnection &connection) : mConnection(connection) {}
+
+    /// From now on another page is read, the top frame of which is `frame`.
+    void setPage(const QString &session, const QString &frame);
+    /// The document has changed: its world is asked for ahead of the next read.
+    void documentChanged(const QString &frame);
+    /// The page's process is gone; reads raise an error until documentChanged or setPage.
+    void processLost();
+
+    /// Runs `what` of js/reader.js for the document of frame `index` (-1: the top document). Raises a RuntimeError.
+    [[nodiscard]] QStringList read(QLatin1StringView what, int index = -1);
+
+  Q_SIGNALS:
+    /// A script of the page is being broken off.
+    void brokenOff();
+
+  private:
+    struct World
+    {
+        int context = 0; // 0 until the browser has answered
+        bool asked = false;
+        QString error;
+    };
+    enum class Outcome { Value, Lost, BrokenOff };
+
+    void askForWorld();
+    [[nodiscard]] int world(QDeadlineTimer deadline);
+    [[nodiscard]] QJsonValue evaluate(const QString &expression, QDeadlineTimer deadline);
+    [[nodiscard]] Outcome tryEvaluate(const QString &expression, QDeadlineTimer deadline, bool mayBreakOff,
+                                      QJsonValue &value);
+    [[nodiscard]] bool waitPatiently(const std::function<bool()> &done, QDeadlineTimer deadline, bool mayBreakOff);
+    [[nodiscard]] QStringList fetchPieces(const QJsonObject &answer, QDeadlineTimer deadline);
+    [[noreturn]] void raiseNoAnswer();
+
+    DevToolsConnection &mConnection;
+    QString mSession;
+    QString mFrame;
+    World mWorld;
+    int mDocument = 0; // counts documents, so that a late answer is known as one
+    bool mLost = false;
+};

@@ -1,0 +1,115 @@
+// The built-in browser: a page of its own with a profile of its own, with or without a view on it. Knows no widget.
+//
+// A page's process that does not answer within the read limit is ended; reads then raise an error, as after a crash,
+// until the next Navigate() has brought a document. The last reference to the browser may be dropped anywhere, in a
+// handler of one of its own signals too. Reads raise an error inside a handler of NewWindow2, since the page waits for
+// its end.
+#pragma once
+
+#include "browser/EmbeddedBrowser.h"
+
+#include <deque>
+#include <functional>
+
+class QUrl;
+class QWebEngineLoadingInfo;
+class QWebEngineProfile;
+class WebEnginePage;
+class WebEngineReader;
+
+struct WebEngineOptions
+{
+    /// Cookies, cache and storage of pages lie here; "" keeps them in memory. One browser at a time on one folder.
+    QString storageFolder = {};
+    std::chrono::milliseconds readLimit = BrowserEngine::readLimit;
+    /// How long a page that is to be left may hold up the next one.
+    std::chrono::milliseconds leaveLimit = std::chrono::seconds(5);
+};
+
+class WebEngineBrowser : public EmbeddedBrowser
+{
+    Q_OBJECT
+
+  public:
+    /// prepareWebEngine() must have been called before the application object was made.
+    explicit WebEngineBrowser(const WebEngineOptions &options = {});
+    ~WebEngineBrowser() override;
+
+    [[nodiscard]] QWebEnginePage *page() const override;
+
+    /// Raises an error for what is no address. A move within the page has ended when this returns.
+    void Navigate(const QString &address) override;
+    void Stop() override;
+    [[nodiscard]] bool isLoading() const override { return mLoading; }
+
+    // The window sets its own geometry.
+    void setTop(int) override {}
+    void setLeft(int) override {}
+    void setWidth(int) override {}
+    void setHeight(int) override {}
+
+    /// "about:blank" before the first page. Asks no page, so it never fails before windowClosed().
+    [[nodiscard]] QString LocationURL() override;
+    /// The title, or the address where that is empty.
+    [[nodiscard]] QString LocationName() override;
+    [[nodiscard]] QString documentPart(Part part) override;
+    [[nodiscard]] PageContent content() override;
+    [[nodiscard]] QStringList links() override;
+    [[nodiscard]] int frameCount() override;
+    [[nodiscard]] QString framePart(int index, Part part) override;
+    [[nodiscard]] QStringList frameLinks(int index) override;
+
+    /// The selected text goes to the clipboard; nothing happens without a selection.
+    void copySelection() override;
+    /// Emits saveRequested(); raises an error when nobody listens.
+    void saveAs() override;
+
+  public Q_SLOTS:
+    void windowClosed() override;
+
+  private:
+    struct Kernel;
+
+    void makePage();
+    void replacePage();
+    void connectPage();
+    void onLoadingChanged(const QWebEngineLoadingInfo &info);
+    void onUrlChanged(const QUrl &url);
+    void onDocumentCreated(const QString &url, bool topDocument);
+    void onDocumentLoaded(const QString &url, bool topDocument);
+    void askWhetherLoaded();
+    void onReadyState(const QString &state);
+    void onProcessGone();
+    void onWindowRefused();
+    void endLoading(bool withDocument);
+    void issue();
+    void watchLeaving();
+    void onLeaveLimit(bool answered);
+    void endProcess();
+    void keepVisible();
+    [[nodiscard]] QStringList read(QLatin1StringView what, int frame = -1);
+    [[nodiscard]] QString readPart(Part part, int frame);
+    void raiseIfClosed() const;
+    void emitLater(std::function<void()> emission);
+    void emitDue();
+
+    std::unique_ptr<Kernel> mKernel;
+    std::unique_ptr<WebEngineReader> mReader;
+    WebEngineOptions mOptions;
+
+    std::deque<std::function<void()>> mDue; ///< signals that wait for the event loop, in order
+    QString mLocation = QStringLiteral("about:blank");
+    QString mAddress;             ///< of the navigation under way
+    int mNavigation = 0;          ///< counts the calls of Navigate()
+    int mReissued = 0;            ///< the navigation that has been given to a second process
+    int mRefusing = 0;            ///< handlers of NewWindow2 on the stack
+    bool mLoading = false;        ///< see isLoading()
+    bool mStarted = false;        ///< the page has taken up the navigation; what ended before belongs to an earlier one
+    bool mWasBusy = false;        ///< an earlier load was under way: what ends may be that one
+    bool mCommitted = false;      ///< the navigation has come to a document of its own
+    bool mDocumentLoaded = false; ///< that document has told that it has been loaded
+    bool mIssuing = false;        ///< the page is being given its address
+    bool mReissuing = false;      ///< the address is given again, to a new process
+    bool mProcessGone = false;    ///< and with it the document: nothing can be read until another one has come
+    bool mClosed = false;
+};

@@ -1,0 +1,192 @@
+#include "engine/webengine/WebEngineReader.h"
+#include "engine/BrowserErrors.h"
+#include "engine/EngineResources.h"
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QTimer>
+#include <QVariant>
+#include <QWebEnginePage>
+#include <QWebEngineScript>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto world = QWebEngineScript::ApplicationWorld;
+constexpr auto probeInterval = 250ms;
+
+qint64 numberOf(const QVariantMap &failedAnswer)
+{
+    const qint64 number = failedAnswer[QStringLiteral("number")].toLongLong();
+    return number != 0 ? number : EngineError::CannotRead;
+}
+
+RuntimeError gone()
+{
+    return {EngineError::BrowserGone, QStringLiteral("The browser is gone.")};
+}
+
+// Counts one read for as long as it lasts, unless the reader goes first.
+class Reading
+{
+  public:
+    Reading(WebEngineReader &reader, int &count) : mReader(&reader), mCount(count) { ++mCount; }
+    ~Reading()
+    {
+        if (mReader && --mCount == 0)
+            Q_EMIT mReader->finished();
+    }
+    Q_DISABLE_COPY_MOVE(Reading)
+
+  private:
+    QPointer<WebEngineReader> mReader;
+    int &mCount;
+};
+
+} // namespace
+
+struct WebEngineReader::Question
+{
+    QString script;
+    QVariant answer;
+    std::unique_ptr<RuntimeError> failure;
+    QEventLoop *loop = nullptr; ///< the one that waits for the answer, while it does
+    int round = 0;              ///< how often the question has been put
+
+    [[nodiscard]] bool isClosed() const { return answer.isValid() || failure; }
+    void close()
+    {
+        if (loop)
+            loop->quit();
+    }
+};
+
+WebEngineReader::WebEngineReader(QWebEnginePage &page, std::chrono::milliseconds limit) : mPage(&page), mLimit(limit) {}
+
+WebEngineReader::~WebEngineReader()
+{
+    fail(gone());
+}
+
+QStringList WebEngineReader::read(QLatin1StringView what, int frame)
+{
+    const Reading reading(*this, mReading);
+    const QDeadlineTimer deadline(mLimit);
+    const QString call = QStringLiteral(".read('%1', %2)").arg(what, QString::number(frame));
+    while (true) {
+        const QVariantMap answer = ask(pageReader() + call, deadline).toMap();
+        if (const auto error = answer.constFind(QStringLiteral("error")); error != answer.constEnd())
+            throw RuntimeError(numberOf(answer), error->toString());
+        if (const auto texts = answer.constFind(QStringLiteral("texts")); texts != answer.constEnd())
+            return texts->toStringList();
+        if (const auto texts = fetch(answer, deadline))
+            return *texts;
+    }
+}
+
+std::unique_ptr<QStringList> WebEngineReader::fetch(const QVariantMap &announced, const QDeadlineTimer &deadline)
+{
+    const QVariantList lengths = announced[QStringLiteral("lengths")].toList();
+    qsizetype total = 0;
+    for (const QVariant &length : lengths)
+        total += length.toLongLong();
+    QString joined;
+    joined.reserve(total);
+    while (joined.size() < total) {
+        const QString call = QStringLiteral(".piece(%1, %2)")
+                                 .arg(announced[QStringLiteral("ticket")].toString(), QString::number(joined.size()));
+        const QVariantList answer = ask(u'[' + pageReader() + call + u']', deadline).toList();
+        const QString piece = answer.isEmpty() ? QString() : answer.constFirst().toString();
+        if (piece.isEmpty())
+            return nullptr;
+        joined += piece;
+    }
+    auto texts = std::make_unique<QStringList>();
+    qsizetype from = 0;
+    for (const QVariant &length : lengths) {
+        texts->append(joined.mid(from, length.toLongLong()));
+        from += length.toLongLong();
+    }
+    return texts;
+}
+
+QVariant WebEngineReader::ask(const QString &script, const QDeadlineTimer &deadline)
+{
+    const auto question = std::make_shared<Question>();
+    question->script = script;
+    std::erase_if(mOpen, [](const auto &each) { return each.expired(); });
+    mOpen.push_back(question);
+    put(question);
+
+    const QPointer self(this);
+    wait(question, deadline);
+    if (!self)
+        throw gone();
+    if (question->failure)
+        throw *question->failure;
+    if (question->answer.isValid())
+        return question->answer;
+    Q_EMIT unanswered();
+    throw RuntimeError(EngineError::NoAnswer, QStringLiteral("The page did not answer in time."));
+}
+
+// Nothing of the reader is touched once the loop has run: it may be gone by then.
+void WebEngineReader::wait(const std::shared_ptr<Question> &question, const QDeadlineTimer &deadline)
+{
+    QEventLoop loop;
+    question->loop = &loop;
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.setTimerType(Qt::PreciseTimer); // a coarse one may come before the limit
+    connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    limit.start(int(std::max<qint64>(0, deadline.remainingTime())));
+    QTimer again;
+    connect(&again, &QTimer::timeout, this, [this, question] { putAgainIfLost(question); });
+    again.start(probeInterval);
+    if (!question->isClosed())
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    question->loop = nullptr;
+}
+
+void WebEngineReader::put(const std::shared_ptr<Question> &question)
+{
+    ++question->round;
+    mPage->runJavaScript(question->script, world, [weak = std::weak_ptr(question)](const QVariant &answer) {
+        const auto asked = weak.lock();
+        if (!asked || asked->isClosed() || !answer.isValid())
+            return;
+        asked->answer = answer;
+        asked->close();
+    });
+}
+
+// A document answers in the order in which it is asked. When a later question is answered and the earlier one is not,
+// the earlier one went to a document that is no more.
+void WebEngineReader::putAgainIfLost(const std::shared_ptr<Question> &question)
+{
+    const QPointer self(this);
+    mPage->runJavaScript(QStringLiteral("0"), world,
+                         [self, weak = std::weak_ptr(question), round = question->round](const QVariant &answer) {
+                             const auto asked = weak.lock();
+                             if (self && asked && !asked->isClosed() && answer.isValid() && asked->round == round)
+                                 self->put(asked);
+                         });
+}
+
+void WebEngineReader::fail(const RuntimeError &error)
+{
+    for (const auto &open : std::exchange(mOpen, {}))
+        if (const auto question = open.lock(); question && !question->isClosed()) {
+            question->failure = std::make_unique<RuntimeError>(error);
+            question->close();
+        }
+}
+
+void WebEngineReader::probe(const std::shared_ptr<bool> &answered)
+{
+    mPage->runJavaScript(QStringLiteral("0"), world, [answered](const QVariant &answer) {
+        if (answer.isValid())
+            *answered = true;
+    });
+}

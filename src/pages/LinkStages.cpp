@@ -1,0 +1,158 @@
+#include "pages/LinkStages.h"
+
+#include "pages/Addresses.h"
+#include "util/AddressList.h"
+#include "util/Text.h"
+
+#include <QRegularExpression>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr auto valueMarker = "<~Dorv~>"_L1;
+
+bool isEmptyField(const QStringList &values)
+{
+    return firstOf(values).isEmpty();
+}
+
+bool holdsOneOf(const QString &link, const QStringList &values)
+{
+    return std::any_of(values.begin(), values.end(), [&](const QString &value) {
+        return !value.isEmpty() && cUtility::holdsIgnoringCase(link, value);
+    });
+}
+
+/// The whole number that a text spells, as the language converts one; error 13 for anything else.
+qint64 wholeNumber(const QString &text)
+{
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    if (!isNumber || !(number > -1e9 && number < 1e9))
+        throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
+    return static_cast<qint64>(std::nearbyint(number));
+}
+
+/// The number that a text begins with; 0 if it begins with none.
+qint64 leadingNumber(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("^ *([+-]?[0-9]{1,9})"));
+    return pattern.match(text).captured(1).toLongLong();
+}
+
+bool hits(const QString &link, const QString &value)
+{
+    const qint64 count = wholeNumber(SeparateSD(1, value));
+    const qint64 occurrences = cUtility::CountChar(link, SeparateSD(0, value));
+    return count > 0 ? occurrences == count : occurrences > 0;
+}
+
+bool fits(qint64 length, qint64 comparison, qint64 wanted)
+{
+    switch (comparison) {
+    case 0:
+        return length == wanted;
+    case 1:
+        return length > wanted;
+    case 2:
+        return length < wanted;
+    case 3:
+        return length >= wanted;
+    case 4:
+        return length <= wanted;
+    default:
+        return false;
+    }
+}
+} // namespace
+
+QString SeparateSD(int part, const QString &value)
+{
+    if (!value.contains(valueMarker))
+        return value;
+    const QStringList parts = value.split(valueMarker);
+    return part > 1 || part < 0 || parts[0].isEmpty() ? QString() : parts[part];
+}
+
+QStringList LinkStages::startStop(const QStringList &links, const QStringList &begin, const QStringList &end)
+{
+    if (isEmptyField(begin) && isEmptyField(end))
+        return links;
+    const bool hasBegin = !isEmptyField(begin);
+    bool started = !hasBegin;
+    QStringList taken;
+    for (const QString &link : links) {
+        if (!started) {
+            started = holdsOneOf(link, begin);
+            continue;
+        }
+        const bool last = holdsOneOf(link, end);
+        if (!last || hasBegin)
+            taken.append(link);
+        if (last)
+            break;
+    }
+    return orEmptyList(std::move(taken));
+}
+
+QStringList LinkStages::cnvHex(const QStringList &links)
+{
+    QStringList converted;
+    for (const QString &link : links)
+        converted.append(link.contains(u'%') ? cIEText::HexToDec(link) : link);
+    return converted;
+}
+
+QStringList LinkStages::minMax(const QStringList &links, const QString &rule)
+{
+    const qint64 wanted = leadingNumber(SeparateSD(1, rule));
+    if (rule.isEmpty() || wanted <= 0)
+        return links;
+    const qint64 comparison = leadingNumber(SeparateSD(0, rule));
+    QStringList kept;
+    for (const QString &link : links) {
+        if (fits(link.size(), comparison, wanted))
+            kept.append(link);
+    }
+    return orEmptyList(std::move(kept));
+}
+
+void LinkStages::countedTexts(const QStringList &links, const QStringList &values, Wanted wanted, QStringList &result)
+{
+    if (isEmptyField(values)) {
+        result = links;
+        return;
+    }
+    result = emptyList();
+    bool first = true;
+    for (const QString &link : links) {
+        const bool hit = std::any_of(values.begin(), values.end(),
+                                     [&](const QString &value) { return !value.isEmpty() && hits(link, value); });
+        if (hit != (wanted == Wanted::Containing))
+            continue;
+        if (first)
+            result.clear();
+        first = false;
+        result.append(link);
+    }
+}
+
+QStringList LinkStages::beginEndUrl(const QStringList &links, const QStringList &begin, const QStringList &end)
+{
+    if (isEmptyField(begin) && isEmptyField(end))
+        return links;
+    QStringList cut;
+    for (QString link : links) {
+        for (const QString &value : begin) {
+            if (const auto at = cUtility::indexIgnoringCase(link, value); !value.isEmpty() && at >= 0)
+                link = link.mid(at + value.size());
+        }
+        for (const QString &value : end) {
+            if (const auto at = cUtility::indexIgnoringCase(link, value); !value.isEmpty() && at >= 0)
+                link = link.left(at);
+        }
+        cut.append(link);
+    }
+    return orEmptyList(std::move(cut));
+}

@@ -1,0 +1,99 @@
+#include "store/foreign/ReaderProcess.h"
+#include "store/AdoErrors.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QtEndian>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// How long the reader may be silent, and how long it is waited for at a time, in milliseconds.
+constexpr int patience = 10'000;
+constexpr int slice = 100;
+// A damaged file can send the library round in circles, complaining at each turn. No readable file has so many faults.
+constexpr qint64 mostComplaints = 262'144;
+constexpr qsizetype headLength = 5;
+
+// The reader stands beside the program or, installed, in the folder for programs that only programs start.
+QString readerProgram()
+{
+    const QString self = QFileInfo(u"/proc/self/exe"_s).symLinkTarget();
+    const QString folder =
+        QCoreApplication::instance() != nullptr ? QCoreApplication::applicationDirPath() : QFileInfo(self).path();
+    QString program = QStandardPaths::findExecutable(
+        u"trawlex-mdb-reader"_s, {folder, folder + "/../libexec/trawlex"_L1, folder + "/../lib/trawlex"_L1});
+    if (program.isEmpty())
+        throw RuntimeError(ErrorNumber::FileNotFound, u"trawlex-mdb-reader is not installed."_s);
+    return program;
+}
+
+[[noreturn]] void breakOff(const QString &why)
+{
+    throw RuntimeError(AdoError::Engine, why);
+}
+} // namespace
+
+ReaderProcess::ReaderProcess(const QStringList &arguments)
+{
+    // Settings of the library that a user may have must not change what is read.
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (const QString &name : environment.keys()) {
+        if (name.startsWith("MDB"_L1))
+            environment.remove(name);
+    }
+    mProcess.setProcessEnvironment(environment);
+    mProcess.setStandardInputFile(QProcess::nullDevice());
+    mProcess.start(readerProgram(), arguments, QIODevice::ReadOnly);
+    if (!mProcess.waitForStarted(patience))
+        breakOff(u"The reader of other databases cannot be started."_s);
+}
+
+ReaderProcess::~ReaderProcess()
+{
+    mProcess.kill();
+    mProcess.waitForFinished();
+}
+
+void ReaderProcess::fill(qsizetype count)
+{
+    if (mPlace > 0) {
+        mBytes.remove(0, mPlace);
+        mPlace = 0;
+    }
+    QElapsedTimer silence;
+    silence.start();
+    while (mBytes.size() < count) {
+        const bool ended = mProcess.state() == QProcess::NotRunning;
+        if (mProcess.bytesAvailable() == 0 && !ended)
+            mProcess.waitForReadyRead(slice);
+        mComplaints += mProcess.readAllStandardError().size();
+        const QByteArray arrived = mProcess.readAllStandardOutput();
+        if (!arrived.isEmpty())
+            silence.restart();
+        else if (ended || mComplaints > mostComplaints || silence.hasExpired(patience))
+            breakOff(u"The database cannot be read: its reader ended or does not answer."_s);
+        mBytes += arrived;
+    }
+}
+
+std::optional<ReaderProcess::Frame> ReaderProcess::next()
+{
+    if (mBytes.size() - mPlace < headLength)
+        fill(headLength);
+    const char *head = mBytes.constData() + mPlace;
+    const auto length = qFromLittleEndian<quint32>(head + 1);
+    if (length > Frames::maxLength)
+        breakOff(u"The reader's answer is damaged."_s);
+    if (mBytes.size() - mPlace < headLength + qsizetype(length))
+        fill(headLength + qsizetype(length));
+    Frame frame{mBytes.at(mPlace), mBytes.mid(mPlace + headLength, length)};
+    mPlace += headLength + qsizetype(length);
+    if (frame.kind == Frames::Failure)
+        breakOff(QString::fromUtf8(frame.bytes));
+    if (frame.kind == Frames::End)
+        return std::nullopt;
+    return frame;
+}

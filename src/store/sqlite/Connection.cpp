@@ -1,0 +1,342 @@
+#include "store/sqlite/Connection.h"
+#include "store/rows/ColumnKinds.h"
+#include "store/sql/SqlTranslator.h"
+#include "store/sqlite/SqliteErrors.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// How long a step waits for another program that holds the file, in milliseconds.
+constexpr int patience = 3000;
+
+constexpr std::array allowedFunctions{"like", "max", "min", "count"};
+
+bool isEngineName(const char *name)
+{
+    return name != nullptr && sqlite3_strnicmp(name, "sqlite_", 7) == 0;
+}
+
+bool isAllowedFunction(const char *name)
+{
+    return name != nullptr && std::any_of(allowedFunctions.begin(), allowedFunctions.end(),
+                                          [name](const char *allowed) { return sqlite3_stricmp(name, allowed) == 0; });
+}
+
+std::unique_ptr<SQLite::Database> openFile(const std::string &name, int flags)
+{
+    auto database = std::make_unique<SQLite::Database>(name, flags, patience);
+    // The head is read now, so that a file that is no database is refused here.
+    sqlite3_extended_result_codes(database->getHandle(), 1);
+    database->exec("PRAGMA schema_version");
+    return database;
+}
+
+// A file in a folder where nothing can be made is read as it stands, which is right as long as no log lies beside it.
+std::unique_ptr<SQLite::Database> openForReading(const QString &path)
+{
+    try {
+        return openFile(path.toStdString(), SQLite::OPEN_READONLY);
+    } catch (const SQLite::Exception &error) {
+        const int code = error.getErrorCode() & 0xFF;
+        const bool logged = QFileInfo(path + "-wal"_L1).size() > 0 || QFile::exists(path + "-journal"_L1);
+        if ((code != SQLITE_CANTOPEN && code != SQLITE_READONLY) || logged || !QFile::exists(path))
+            throw;
+    }
+    const QByteArray address = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded() + "?immutable=1";
+    return openFile(address.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
+}
+
+// A file that is only to be read is opened to write too where it may be: the last one who can write clears away what
+// the engine keeps beside the file.
+std::unique_ptr<SQLite::Database> openExisting(const QString &path)
+{
+    try {
+        return openFile(path.toStdString(), SQLite::OPEN_READWRITE);
+    } catch (const SQLite::Exception &error) {
+        if ((error.getErrorCode() & 0xFF) != SQLITE_CANTOPEN && (error.getErrorCode() & 0xFF) != SQLITE_READONLY)
+            throw;
+    }
+    return openForReading(path);
+}
+
+std::unique_ptr<SQLite::Database> openAs(const QString &path, Connection::Access access)
+{
+    switch (access) {
+    case Connection::Access::Create:
+        return openFile(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    case Connection::Access::Temporary:
+        return openFile(std::string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    case Connection::Access::Read:
+    case Connection::Access::Write:
+        break;
+    }
+    return openExisting(path);
+}
+} // namespace
+
+int TableInfo::columnOf(QStringView columnName) const
+{
+    // Nearly all names are spelled as the file spells them.
+    auto found = std::find_if(columns.begin(), columns.end(),
+                              [columnName](const ColumnInfo &column) { return columnName == column.name; });
+    if (found == columns.end())
+        found = std::find_if(columns.begin(), columns.end(), [columnName](const ColumnInfo &column) {
+            return columnName.compare(column.name, Qt::CaseInsensitive) == 0;
+        });
+    return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
+}
+
+// While one stands, the store's own statements may do what queries may not.
+class Connection::Privilege
+{
+  public:
+    explicit Privilege(Connection &connection) : mConnection(connection), mBefore(connection.mPrivileged)
+    {
+        mConnection.mPrivileged = true;
+    }
+    ~Privilege() { mConnection.mPrivileged = mBefore; }
+    Privilege(const Privilege &) = delete;
+    Privilege &operator=(const Privilege &) = delete;
+
+  private:
+    Connection &mConnection;
+    bool mBefore;
+};
+
+std::shared_ptr<Connection> Connection::open(const QString &path, Access access)
+{
+    return engineStep([&] {
+        // The constructor is private: nobody makes a connection without the settings that keep it safe.
+        return std::shared_ptr<Connection>(new Connection(openAs(path, access), access));
+    });
+}
+
+Connection::Connection(std::unique_ptr<SQLite::Database> database, Access access) : mDatabase(std::move(database))
+{
+    mReadOnly = access == Access::Read || sqlite3_db_readonly(mDatabase->getHandle(), "main") == 1;
+    configure(access);
+}
+
+Connection::~Connection()
+{
+    mStatements.clear();
+}
+
+void Connection::configure(Access access)
+{
+    sqlite3 *handle = mDatabase->getHandle();
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    // A word in double quotes is a name or nothing; the engine must not take an unknown one for a text.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_set_authorizer(handle, &Connection::authorize, this);
+    if (access == Access::Read)
+        administer("PRAGMA query_only=ON");
+    // A private store is never read again after a fault, so nothing is spent on surviving one.
+    if (access == Access::Temporary)
+        administer("PRAGMA synchronous=OFF; PRAGMA journal_mode=OFF");
+}
+
+void Connection::prepareForWriting()
+{
+    if (mReadOnly)
+        return;
+    // Where another program stands in the way the file keeps the journal that it has, which is as safe.
+    try {
+        administer("PRAGMA journal_mode=WAL");
+    } catch (const RuntimeError &) {
+    }
+    administer("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000");
+}
+
+int Connection::authorize(void *self, int action, const char *first, const char *second, const char *, const char *)
+{
+    if (static_cast<Connection *>(self)->mPrivileged)
+        return SQLITE_OK;
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_TRANSACTION:
+    case SQLITE_SAVEPOINT:
+        return SQLITE_OK;
+    case SQLITE_READ:
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+        return isEngineName(first) ? SQLITE_DENY : SQLITE_OK;
+    case SQLITE_FUNCTION:
+        return isAllowedFunction(second) ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_PRAGMA:
+        return std::strcmp(first, "data_version") == 0 ? SQLITE_OK : SQLITE_DENY;
+    default:
+        return SQLITE_DENY;
+    }
+}
+
+Statement Connection::prepare(const std::string &text)
+{
+    return {mStatements, *mDatabase, text};
+}
+
+void Connection::administer(const std::string &text)
+{
+    const Privilege privilege(*this);
+    mStatements.clear();
+    mTables.clear();
+    engineStep([&] { mDatabase->exec(text); });
+}
+
+QStringList Connection::administerTexts(const std::string &text)
+{
+    const Privilege privilege(*this);
+    Statement rows = prepare(text);
+    QStringList texts;
+    while (rows.step())
+        texts.append(rows.text(0));
+    return texts;
+}
+
+QStringList Connection::tableNames(bool withEngineTables)
+{
+    QStringList names = administerTexts("SELECT name FROM sqlite_schema WHERE type IN ('table','view') ORDER BY rowid");
+    if (!withEngineTables)
+        names.removeIf([](const QString &name) { return isEngineName(name.toUtf8().constData()); });
+    return names;
+}
+
+QStringList Connection::columnNames(const QString &table)
+{
+    const auto info = readTable(table);
+    QStringList names;
+    if (info)
+        std::transform(info->columns.begin(), info->columns.end(), std::back_inserter(names),
+                       [](const ColumnInfo &column) { return column.name; });
+    return names;
+}
+
+std::shared_ptr<const TableInfo> Connection::table(const QString &name)
+{
+    // Each spelling that is in use has an entry of its own.
+    const auto known = mTables.constFind(name);
+    if (known != mTables.constEnd())
+        return *known;
+    if (isEngineName(name.toUtf8().constData()))
+        return {};
+    auto info = readTable(name);
+    if (info)
+        mTables.insert(name, info);
+    return info;
+}
+
+std::shared_ptr<const TableInfo> Connection::requireTable(const QString &name)
+{
+    auto info = table(name);
+    if (!info)
+        throw AdoError::error(AdoError::NoSuchTable);
+    return info;
+}
+
+std::shared_ptr<const TableInfo> Connection::readTable(const QString &name)
+{
+    const Privilege privilege(*this);
+    auto info = std::make_shared<TableInfo>();
+    {
+        Statement row = prepare("SELECT name FROM sqlite_schema WHERE type IN ('table','view') AND name=?1 "
+                                "COLLATE NOCASE");
+        row.bind(1, name);
+        if (!row.step())
+            return {};
+        info->name = row.text(0);
+        info->quoted = bracketed(info->name);
+    }
+    Statement columns = prepare("SELECT name, type, pk FROM pragma_table_info(?1)");
+    columns.bind(1, info->name);
+    while (columns.step()) {
+        const std::string declared = columns.text(1).toStdString();
+        const bool key = columns.integer(2) != 0 && sqlite3_stricmp(declared.c_str(), "INTEGER") == 0;
+        info->columns.push_back({columns.text(0), bracketed(columns.text(0)), kindOfDeclaredType(declared), key});
+    }
+    auto &changes = mChanges[info->name];
+    if (!changes)
+        changes = std::make_shared<TableChanges>();
+    info->changes = changes;
+    for (const char *word : {"rowid", "_rowid_", "oid"}) {
+        info->key = word;
+        if (info->columnOf(QString::fromLatin1(word)) < 0)
+            break;
+    }
+    return info;
+}
+
+qint64 Connection::lastRow() const
+{
+    return mDatabase->getLastInsertRowid();
+}
+
+qint64 Connection::outsideVersion()
+{
+    if (mOutsideVersion < 0 || !inTransaction()) {
+        Statement version = prepare("PRAGMA data_version");
+        mOutsideVersion = version.step() ? version.integer(0) : 0;
+    }
+    return mOutsideVersion;
+}
+
+bool Connection::inTransaction() const
+{
+    return sqlite3_get_autocommit(mDatabase->getHandle()) == 0;
+}
+
+void Connection::begin()
+{
+    requireLiveTransaction();
+    // The engine would begin and find out at the first row.
+    if (mReadOnly)
+        throw RuntimeError(AdoError::Engine, u"The database is read-only."_s);
+    if (mDepth == 0) {
+        static_cast<void>(prepare("BEGIN IMMEDIATE").run());
+        mOutsideVersion = -1;
+    } else {
+        static_cast<void>(prepare("SAVEPOINT inner_work").run());
+    }
+    ++mDepth;
+}
+
+void Connection::commit()
+{
+    requireLiveTransaction();
+    static_cast<void>(prepare(mDepth == 1 ? "COMMIT" : "RELEASE inner_work").run());
+    --mDepth;
+}
+
+void Connection::rollBack() noexcept
+{
+    if (mDepth == 0)
+        return;
+    ++mRollBacks;
+    --mDepth;
+    try {
+        if (inTransaction() && mDepth == 0)
+            static_cast<void>(prepare("ROLLBACK").run());
+        else if (inTransaction())
+            mDatabase->exec("ROLLBACK TO inner_work; RELEASE inner_work");
+    } catch (...) {
+        // The engine rolls back what a failed roll-back leaves, at the latest when the file is closed.
+    }
+}
+
+void Connection::requireLiveTransaction() const
+{
+    if (mRefusals > 0 || (mDepth > 0 && !inTransaction()))
+        throw RuntimeError(AdoError::Engine, u"The transaction could not begin or has been rolled back."_s);
+}

@@ -1,0 +1,258 @@
+#include "ui/binding/Binder.h"
+
+#include "ui/look/Tones.h"
+#include "ui/widgets/Chip.h"
+#include "ui/widgets/DropDown.h"
+#include "ui/widgets/ItemList.h"
+#include "ui/widgets/Mark.h"
+#include "ui/widgets/NumberEdit.h"
+#include "ui/widgets/StatusBarLine.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTabBar>
+
+using namespace Qt::StringLiterals;
+using Bindings::ReturnKey;
+
+namespace {
+/// A longer tip is broken into lines.
+constexpr int longTip = 70;
+/// How strongly a coloured text box is tinted; its text stays the desktop's.
+constexpr double tint = 0.22;
+
+QString withoutMnemonic(QString text)
+{
+    return text.remove(u'&');
+}
+
+QString shownTip(const QString &tip)
+{
+    return tip.size() > longTip ? u"<p>"_s + tip.toHtmlEscaped() + u"</p>"_s : tip;
+}
+
+QPalette toned(const Tone &tone)
+{
+    QPalette palette;
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+        palette.setColor(role, tone.fill);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, tone.ink);
+    return palette;
+}
+} // namespace
+
+Binding::Binding(Control &control, QWidget &widget, Bindings::Bound bound)
+    : QObject(&widget), mControl(control), mWidget(widget), mBound(std::move(bound)),
+      mDesignedName(widget.accessibleName())
+{
+    connect(&control, &Control::changed, this, [this] {
+        if (!std::exchange(mOutdated, true))
+            Q_EMIT outdated(this);
+    });
+    widget.installEventFilter(this);
+    if (auto *const view = qobject_cast<QAbstractItemView *>(&widget))
+        view->viewport()->installEventFilter(this);
+    else
+        widget.setMouseTracking(true);
+}
+
+void Binding::show()
+{
+    mOutdated = false;
+    mBound.show();
+    mWidget.setEnabled(mControl.isEnabled());
+    if (mWidget.isHidden() == mControl.isVisible())
+        mWidget.setVisible(mControl.isVisible());
+    showColours();
+    showWords();
+}
+
+void Binding::showColours()
+{
+    if (qobject_cast<Mark *>(&mWidget) != nullptr)
+        return;
+    const Shades shades = Shades::of(QApplication::palette());
+    auto tone = Tones::of(mControl.backColor(), mControl.foreColor(), shades);
+    if (tone && qobject_cast<QLineEdit *>(&mWidget) != nullptr)
+        tone = Tone{mixed(shades.field, tone->fill, tint), shades.text};
+    const bool coloured = mWidget.testAttribute(Qt::WA_SetPalette);
+    if (!tone && coloured)
+        mWidget.setPalette(QPalette());
+    else if (tone && (!coloured || mWidget.palette() != toned(*tone).resolve(mWidget.palette())))
+        mWidget.setPalette(toned(*tone));
+}
+
+void Binding::showWords()
+{
+    const QString tip = shownTip(mControl.toolTipText());
+    if (mWidget.toolTip() != tip)
+        mWidget.setToolTip(tip);
+    QString name = ownWords();
+    for (const QString &other : {mControl.toolTipText(), mDesignedName}) {
+        if (name.isEmpty())
+            name = other;
+    }
+    name = withoutMnemonic(name);
+    if (mWidget.accessibleName() != name)
+        mWidget.setAccessibleName(name);
+    if (QWidget *const inner = mWidget.focusProxy(); inner != nullptr && inner->accessibleName() != name)
+        inner->setAccessibleName(name);
+}
+
+QString Binding::ownWords() const
+{
+    if (const auto *const status = qobject_cast<StatusBarLine *>(&mWidget))
+        return status->text();
+    if (const auto *const chip = qobject_cast<Chip *>(&mWidget))
+        return chip->text();
+    const auto *const button = qobject_cast<QAbstractButton *>(&mWidget);
+    return mControl.caption().isEmpty() && button != nullptr ? button->text() : mControl.caption();
+}
+
+bool Binding::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!mControl.isEnabled() || !mWidget.isEnabled())
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return mousePressed(*event);
+    case QEvent::MouseMove:
+        mControl.mouseMove();
+        return false;
+    case QEvent::KeyPress:
+        return keyPressed(*event);
+    case QEvent::ContextMenu:
+        if (static_cast<QContextMenuEvent *>(event)->reason() != QContextMenuEvent::Keyboard)
+            return false;
+        mControl.mouseDown(MouseButton::Right);
+        return qobject_cast<QLineEdit *>(&mWidget) == nullptr;
+    case QEvent::FocusOut: {
+        const auto reason = static_cast<QFocusEvent *>(event)->reason();
+        auto *const box = qobject_cast<TextBox *>(&mControl);
+        if (box != nullptr && reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            box->validate();
+        return false;
+    }
+    default:
+        return false;
+    }
+}
+
+bool Binding::mousePressed(const QEvent &event)
+{
+    const auto button = static_cast<const QMouseEvent &>(event).button();
+    const QPointer<QWidget> alive(&mWidget);
+    Control &control = mControl;
+    const bool second = event.type() == QEvent::MouseButtonDblClick;
+    // The second press of two quick ones is a press of its own on a label, which steps through choices.
+    if (!second || qobject_cast<Label *>(&control) != nullptr) {
+        if (button == Qt::LeftButton)
+            control.mouseDown(MouseButton::Left);
+        else if (button == Qt::RightButton)
+            control.mouseDown(MouseButton::Right);
+    }
+    if (second && button == Qt::LeftButton)
+        control.doubleClick();
+    // A press may end the program: nothing is left then that could take the event.
+    return alive.isNull();
+}
+
+bool Binding::keyPressed(const QEvent &event)
+{
+    const auto &key = static_cast<const QKeyEvent &>(event);
+    const bool wanted = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (mBound.returnKey == ReturnKey::PressesLeft && (wanted || key.key() == Qt::Key_Space)) {
+        mControl.mouseDown(MouseButton::Left);
+        return true;
+    }
+    if (mBound.returnKey == ReturnKey::DoubleClicks && wanted) {
+        mControl.doubleClick();
+        return true;
+    }
+    return false;
+}
+
+QString Binder::widgetName(const QString &controlName)
+{
+    QString name = controlName;
+    return name.replace(u'(', u'_').remove(u')');
+}
+
+template <class SomeControl, class SomeWidget> bool Binder::tryBind(Control &control, QWidget &widget)
+{
+    auto *const someControl = qobject_cast<SomeControl *>(&control);
+    auto *const someWidget = qobject_cast<SomeWidget *>(&widget);
+    if (someControl == nullptr || someWidget == nullptr)
+        return false;
+    take(control, widget, Bindings::bind(*someControl, *someWidget));
+    return true;
+}
+
+void Binder::bindAll(const QObject &form, QWidget &root)
+{
+    for (Control *const control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly)) {
+        auto *const widget = root.findChild<QWidget *>(widgetName(control->name()));
+        if (widget == nullptr)
+            continue;
+        const bool done =
+            tryBind<CheckBox, QAbstractButton>(*control, *widget) ||
+            tryBind<Button, QAbstractButton>(*control, *widget) || tryBind<ComboBox, DropDown>(*control, *widget) ||
+            tryBind<ListBox, ItemList>(*control, *widget) || tryBind<TextBox, QLineEdit>(*control, *widget) ||
+            tryBind<NumberBox, NumberEdit>(*control, *widget) || tryBind<Label, Mark>(*control, *widget) ||
+            tryBind<Label, Chip>(*control, *widget) || tryBind<Label, QLabel>(*control, *widget) ||
+            tryBind<PictureBox, StatusBarLine>(*control, *widget) || tryBind<PictureBox, Mark>(*control, *widget) ||
+            tryBind<TabControl, QTabBar>(*control, *widget);
+        if (!done)
+            qWarning("%s: no binding for a widget of class %s", qUtf8Printable(control->name()),
+                     widget->metaObject()->className());
+    }
+}
+
+void Binder::take(Control &control, QWidget &widget, Bindings::Bound bound)
+{
+    auto *const binding = new Binding(control, widget, std::move(bound));
+    connect(binding, &Binding::outdated, this, &Binder::noteOutdated);
+    mBindings.emplace_back(binding);
+    binding->show();
+}
+
+void Binder::noteOutdated(Binding *binding)
+{
+    mOutdated.emplace_back(binding);
+    if (mOutdated.size() == 1)
+        QMetaObject::invokeMethod(this, &Binder::flush, Qt::QueuedConnection);
+}
+
+void Binder::flush()
+{
+    const auto outdated = std::exchange(mOutdated, {});
+    for (const QPointer<Binding> &binding : outdated) {
+        if (binding)
+            binding->show();
+    }
+}
+
+void Binder::showAll()
+{
+    for (const QPointer<Binding> &binding : mBindings) {
+        if (binding)
+            binding->show();
+    }
+}
+
+QStringList Binder::boundControls() const
+{
+    QStringList names;
+    for (const QPointer<Binding> &binding : mBindings) {
+        if (binding)
+            names.append(binding->control().name());
+    }
+    return names;
+}

@@ -1,0 +1,82 @@
+#include "ui/widgets/StatusBarLine.h"
+
+#include "ui/look/Drawing.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int inset = 12;
+constexpr int barHeight = 3;
+} // namespace
+
+StatusBarLine::StatusBarLine(QWidget *parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::ClickFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void StatusBarLine::setText(const QString &text)
+{
+    if (mText == text)
+        return;
+    mText = text;
+    update();
+}
+
+void StatusBarLine::setProgress(int done, int total)
+{
+    mTotal = qMax(0, total);
+    mDone = qBound(0, done, mTotal);
+    setAccessibleDescription(mTotal > 0 ? u"%1 of %2"_s.arg(mDone).arg(mTotal) : QString());
+    update();
+}
+
+QString StatusBarLine::fitted(const QString &text, const QFontMetrics &metrics, int width)
+{
+    if (metrics.horizontalAdvance(text) <= width)
+        return text;
+    static const QRegularExpression address(u"\\S+://\\S+"_s);
+    const auto match = address.match(text);
+    if (!match.hasMatch())
+        return metrics.elidedText(text, Qt::ElideRight, width);
+    // The dots behind an address are the status line's own.
+    QString found = match.captured();
+    while (found.endsWith(u'.'))
+        found.chop(1);
+    const QString before = text.left(match.capturedStart());
+    const QString after = text.mid(match.capturedStart() + found.size());
+    const int room = width - metrics.horizontalAdvance(before) - metrics.horizontalAdvance(after);
+    const QString shortened = before + metrics.elidedText(found, Qt::ElideMiddle, qMax(0, room)) + after;
+    return metrics.elidedText(shortened, Qt::ElideRight, width);
+}
+
+QSize StatusBarLine::sizeHint() const
+{
+    return {200, qMax(32, fontMetrics().height() + 12)};
+}
+
+QSize StatusBarLine::minimumSizeHint() const
+{
+    return {80, sizeHint().height()};
+}
+
+void StatusBarLine::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const Shades shades = Shades::of(palette());
+    const bool coloured = testAttribute(Qt::WA_SetPalette);
+    painter.fillRect(rect(), coloured ? palette().color(QPalette::Active, QPalette::Base) : shades.strip);
+    painter.fillRect(QRect(0, 0, width(), 1), shades.line);
+    painter.setPen(coloured ? palette().color(QPalette::Active, QPalette::WindowText) : shades.text);
+    const QRect line = rect().adjusted(inset, 1, -inset, 0);
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     fitted(mText, fontMetrics(), line.width()));
+    if (mTotal > 0) {
+        painter.fillRect(QRect(0, 0, width(), barHeight), shades.edge);
+        painter.fillRect(QRectF(0, 0, double(width()) * mDone / mTotal, barHeight), shades.accent);
+    }
+    if (Drawing::showsFocus(*this))
+        Drawing::focusRing(painter, rect().adjusted(1, 1, -1, -1), shades);
+}

@@ -1,0 +1,128 @@
+#include "ui/windows/BareBrowserWindow.h"
+
+#include "ui/look/Icons.h"
+#include "ui_BareBrowserWindow.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QScreen>
+#include <QWebEngineHistory>
+#include <QWebEnginePage>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr QSize usualSize(1024, 768);
+constexpr QSize leastSize(480, 360);
+constexpr QSize usualFrame(8, 40);
+
+QString withProtocol(const QString &url)
+{
+    const bool has =
+        url.startsWith("http"_L1, Qt::CaseInsensitive) || url.startsWith("file:///"_L1, Qt::CaseInsensitive);
+    return has ? url : u"http://"_s + url;
+}
+} // namespace
+
+BareBrowserWindow::BareBrowserWindow(std::shared_ptr<EmbeddedBrowser> browser, QString home)
+    : mUi(std::make_unique<Ui::BareBrowserWindow>()), mBrowser(std::move(browser)), mHome(std::move(home))
+{
+    mUi->setupUi(this);
+    setObjectName(u"frmWBare"_s);
+    setWindowIcon(Icons::application());
+    mUi->cmdGo_0->setIcon(Icons::inked(u"back"_s));
+    mUi->cmdGo_1->setIcon(Icons::inked(u"go"_s));
+    mUi->WBOne->setPage(mBrowser->page());
+    setMinimumSize(leastSize);
+    resize(usualSize);
+    tmrAutoRefresh.setInterval(autoRefreshInterval);
+
+    connect(mUi->cmdGo_0, &QPushButton::clicked, mUi->WBOne, &QWebEngineView::back);
+    connect(mUi->cmdGo_1, &QPushButton::clicked, this, &BareBrowserWindow::goToAddress);
+    connect(mUi->txtAddressBar, &QLineEdit::returnPressed, this,
+            [this] { issue(QUrl::fromUserInput(mUi->txtAddressBar->text()).toString()); });
+    connect(&tmrAutoRefresh, &QTimer::timeout, mUi->WBOne, &QWebEngineView::reload);
+    connect(mBrowser.get(), &BrowserEngine::DocumentComplete, this,
+            [this](const QString &, bool topDocument) { showLocation(topDocument); });
+    connect(mBrowser.get(), &EmbeddedBrowser::saveRequested, this, &BareBrowserWindow::savePage);
+}
+
+BareBrowserWindow::~BareBrowserWindow() = default;
+
+void BareBrowserWindow::NavigateToUrl(const QString &url)
+{
+    issue(withProtocol(url));
+}
+
+void BareBrowserWindow::AutoRefreshTimer(bool on)
+{
+    if (on)
+        tmrAutoRefresh.start();
+    else
+        tmrAutoRefresh.stop();
+}
+
+void BareBrowserWindow::placeBeside(const QWidget &main)
+{
+    const QRect screen = main.screen()->availableGeometry();
+    const QRect beside = main.frameGeometry();
+    const int room = screen.right() - beside.right();
+    // The place is that of the frame, so that the title bar stays on the screen; what is resized is within the frame,
+    // whose width is a guess until the window is shown.
+    const QSize frame = isVisible() ? frameGeometry().size() - size() : usualFrame;
+    const QSize least = leastSize + frame;
+    const QSize whole(qMin(usualSize.width(), qMax(room, least.width())), qMin(usualSize.height(), screen.height()));
+    resize(whole - frame);
+    const int left = qMin(beside.right() + 1, screen.right() + 1 - whole.width());
+    const int top = qMin(beside.top(), screen.bottom() + 1 - whole.height());
+    move(qMax(screen.left(), left), qMax(screen.top(), top));
+}
+
+void BareBrowserWindow::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    tmrAutoRefresh.stop();
+    disconnect(mBrowser.get(), nullptr, this, nullptr);
+    mUi->WBOne->setPage(nullptr);
+    mBrowser->windowClosed();
+}
+
+void BareBrowserWindow::showLocation(bool topDocument)
+{
+    if (!topDocument)
+        return;
+    mUi->txtAddressBar->setText(mBrowser->LocationURL());
+    // The page's own title, as the view has it: nothing is read from the page here.
+    setWindowTitle(mUi->WBOne->title());
+}
+
+void BareBrowserWindow::goToAddress()
+{
+    const QString address = mUi->txtAddressBar->text().trimmed();
+    if (address.isEmpty())
+        issue(mHome);
+    else
+        NavigateToUrl(address);
+}
+
+void BareBrowserWindow::issue(const QString &address)
+{
+    try {
+        mBrowser->Navigate(address);
+    } catch (const RuntimeError &error) {
+        // What is no address stays in the bar, marked, for the user to mend.
+        mUi->txtAddressBar->setToolTip(error.description());
+        mUi->txtAddressBar->setFocus();
+        mUi->txtAddressBar->selectAll();
+    }
+}
+
+void BareBrowserWindow::savePage()
+{
+    const QString path = QFileDialog::getSaveFileName(this, u"Save page"_s, windowTitle() + u".html"_s,
+                                                      u"Page in one file (*.mhtml);;Page (*.html)"_s);
+    if (!path.isEmpty())
+        mBrowser->page()->save(path, path.endsWith(".mhtml"_L1, Qt::CaseInsensitive)
+                                         ? QWebEngineDownloadRequest::MimeHtmlSaveFormat
+                                         : QWebEngineDownloadRequest::CompleteHtmlSaveFormat);
+}

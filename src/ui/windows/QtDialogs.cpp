@@ -1,0 +1,92 @@
+#include "ui/windows/QtDialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int inputWidth = 336;
+
+QWidget *windowInUse()
+{
+    if (QWidget *const active = QApplication::activeWindow())
+        return active;
+    for (QWidget *const window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() == Qt::Window)
+            return window;
+    }
+    return nullptr;
+}
+
+void prepare(QDialog &dialog, const QString &title)
+{
+    dialog.setWindowTitle(title);
+    dialog.setWindowModality(Qt::WindowModal);
+}
+
+UserDialogs::Answer answerTo(QMessageBox::Icon icon, const QString &title, const QString &text,
+                             QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(icon, title, text, buttons, windowInUse());
+    box.setTextFormat(Qt::PlainText);
+    prepare(box, title);
+    const int pressed = box.exec();
+    if (pressed == QMessageBox::Yes)
+        return UserDialogs::Answer::Yes;
+    return pressed == QMessageBox::Cancel ? UserDialogs::Answer::Cancel : UserDialogs::Answer::No;
+}
+} // namespace
+
+void QtDialogs::tell(const QString &title, const QString &text)
+{
+    answerTo(QMessageBox::Critical, title, text, QMessageBox::Ok);
+}
+
+UserDialogs::Answer QtDialogs::ask(const QString &title, const QString &text, Icon icon, Answer)
+{
+    return answerTo(icon == Icon::Critical ? QMessageBox::Critical : QMessageBox::Question, title, text,
+                    QMessageBox::Yes | QMessageBox::No);
+}
+
+UserDialogs::Answer QtDialogs::askAboutError(const QString &title, const QString &record, const QString &prompt)
+{
+    return answerTo(QMessageBox::Critical, title, record + u"\n\n"_s + prompt,
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+}
+
+QString QtDialogs::input(const QString &prompt, const QString &title, const QString &proposal)
+{
+    QInputDialog dialog(windowInUse());
+    prepare(dialog, title);
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(proposal);
+    // The dialog takes its size from what is in it.
+    if (auto *const line = dialog.findChild<QLineEdit *>())
+        line->setMinimumWidth(inputWidth);
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+QString QtDialogs::chooseFile(const QString &directory, const QString &filter, const QString &title)
+{
+    QFileDialog dialog(windowInUse(), title, directory, qtFilter(filter));
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString QtDialogs::qtFilter(const QString &filter)
+{
+    QStringList filters;
+    const QStringList parts = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts.at(i).section(u" ("_s, 0, 0);
+        const QString pattern = parts.at(i + 1) == "*.*"_L1 ? u"*"_s : parts.at(i + 1);
+        if (!pattern.isEmpty())
+            filters.append(u"%1 (%2)"_s.arg(name, QString(pattern).replace(u';', u' ')));
+    }
+    return filters.join(u";;"_s);
+}

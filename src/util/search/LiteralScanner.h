@@ -1,0 +1,72 @@
+// Looks for a handful of texts in a page 32 units at a time: each text is known by up to eight of its rarest
+// neighbouring units, all texts' units are tested at once by table look-ups within the vector unit, and only the places
+// that pass are compared. Ignoring case costs nothing: the tables hold all cases of a unit. Knows nobody.
+#pragma once
+
+#include "util/search/OpenTexts.h"
+
+#include <QStringList>
+#include <array>
+
+class LiteralScanner
+{
+  public:
+    static constexpr qsizetype mostTexts = 40;
+
+    /// False on processors without the instructions that it needs.
+    [[nodiscard]] static bool isSupported();
+
+    /// At most `mostTexts`; with case ignored they are lower-cased already. Empty texts are left out.
+    /// `firstIndex` is the index that the first of them has in the look.
+    LiteralScanner(const QStringList &texts, Qt::CaseSensitivity sensitivity, qsizetype firstIndex = 0);
+
+    /// Reads `page` and closes each open text that it comes upon, until the look is decided. False when the page has so
+    /// many places to compare that another method is better; the texts closed until then are right.
+    [[nodiscard]] bool scan(QStringView page, OpenTexts &open) const;
+
+    static constexpr int windowSize = 8;
+    static constexpr int bucketCount = 8;
+
+    /// The look-up tables: for each place of the window the buckets (bits) that hold a nibble, twice for the two lanes.
+    struct Tables
+    {
+        alignas(32) std::array<std::array<quint8, 32>, windowSize> low{};
+        alignas(32) std::array<std::array<quint8, 32>, windowSize> high{};
+    };
+
+  private:
+    struct Literal
+    {
+        QString text;
+        qsizetype index;       // in the look
+        qsizetype windowBegin; // the place in the text of the units that the tables know
+        qsizetype windowUnits;
+    };
+
+    /// The tables for some of the literals, and which of them are in which bucket.
+    struct Plan
+    {
+        Tables tables;
+        std::array<quint8, mostTexts> order;          // places in mLiterals
+        std::array<quint8, bucketCount + 1> bounds{}; // of the buckets in `order`
+    };
+
+    struct Progress
+    {
+        qsizetype at = 0;    // where the next block begins
+        qsizetype steps = 0; // units compared
+    };
+
+    enum class Pause { AtEnd, Closed, TooManySteps };
+
+    [[nodiscard]] Plan planFor(const OpenTexts *open) const;
+    void enter(Tables &tables, quint8 bucket, const Literal &literal) const;
+    [[nodiscard]] bool standsAt(QStringView page, qsizetype begin, const Literal &literal, qsizetype &steps) const;
+    bool closeFoundAt(QStringView page, qsizetype windowEnd, quint8 buckets, const Plan &plan, OpenTexts &open,
+                      qsizetype &steps) const;
+    [[nodiscard]] Pause scanWith(const Plan &plan, QStringView page, OpenTexts &open, Progress &progress) const;
+
+    bool mFolds;
+    std::vector<Literal> mLiterals;
+    Plan mWholePlan;
+};
