@@ -85,7 +85,7 @@ BarePage barePage(int number, int rows)
     for (std::size_t place = 0; place < page.numbers.size(); ++place)
         page.numbers[place] = "(0" + std::to_string(place) + "0) 555-" + text;
     page.mask = "PassUrl-" + std::to_string(100 + rows + number);
-    page.date = todayText().toStdString();
+    page.date = StoredDates::today().toStdString();
     return page;
 }
 
@@ -143,11 +143,7 @@ class PageWriter
     }
 
   private:
-    bool isNew(const QString &statement)
-    {
-        const Recordset rows = mDatabase.GetRecordset(statement);
-        return rows.Bof() && rows.Eof();
-    }
+    bool isNew(const QString &statement) { return mDatabase.GetRecordset(statement).isEmpty(); }
 
     void write(const QString &table, const QStringList &elements)
     {

@@ -41,9 +41,7 @@ NewMaskNames::Known NewMaskNames::stateOf(const std::shared_ptr<Connection> &con
 
 bool NewMaskNames::isTaken(cAdoMdb &database, const QString &table, const QString &name)
 {
-    const Recordset rows =
-        database.GetRecordset("SELECT MaskName FROM "_L1 + table + " WHERE MaskName='"_L1 + name + u'\'');
-    return !(rows.Bof() && rows.Eof());
+    return !database.GetRecordset("SELECT MaskName FROM "_L1 + table + " WHERE MaskName='"_L1 + name + u'\'').isEmpty();
 }
 
 QString NewMaskNames::find(cAdoMdb &database, const QString &table, const QString &start)

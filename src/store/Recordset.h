@@ -87,6 +87,8 @@ class Recordset
     /// that is not open.
     [[nodiscard]] bool Bof() const;
     [[nodiscard]] bool Eof() const;
+    /// Both BOF and EOF: the statement gave no row. Costs no count.
+    [[nodiscard]] bool isEmpty() const { return Bof() && Eof(); }
 
     /// Moves; a pending edit is stored first. Error 3021 where there is nothing to move to.
     void MoveFirst();

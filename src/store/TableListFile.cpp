@@ -40,8 +40,8 @@ std::vector<QStringList> readTableListFile(const QString &fileName)
         // The character right behind the bracket belongs to the line end and is not looked at.
         const qsizetype start = std::min(next < 0 ? close + 1 : close + 2, text.size());
         const qsizetype end = next < 0 ? text.size() : std::max(next, start);
-        tables.push_back(QStringList{text.mid(open + 1, close - open - 1)} +
-                         linesOf(QStringView(text).sliced(start, end - start)));
+        if (const QString name = text.mid(open + 1, close - open - 1); !name.isEmpty())
+            tables.push_back(QStringList{name} + linesOf(QStringView(text).sliced(start, end - start)));
         open = next;
     }
     return tables;

@@ -9,15 +9,16 @@ namespace {
 constexpr Place place{"cAdoMdb"_L1, "Transaction"_L1};
 }
 
-Transaction::Transaction(cAdoMdb &database) : mConnection(database.connection()), mLog(database.log())
+Transaction::Transaction(cAdoMdb &database, int patience) : mConnection(database.connection()), mLog(database.log())
 {
     guarded(mLog, place, [&] {
         if (!mConnection)
             throw AdoError::error(AdoError::ConnectionClosed);
         try {
-            mConnection->begin();
+            mConnection->begin(patience);
             mActive = true;
         } catch (...) {
+            mFault = mConnection->fault();
             mConnection->refuseWrites();
             throw;
         }
@@ -37,6 +38,8 @@ bool Transaction::commit()
     if (!mActive)
         return false;
     const bool kept = guarded(mLog, place, [&] { mConnection->commit(); });
+    if (!kept)
+        mFault = mConnection->fault();
     mActive = !kept;
     mCommitted = kept;
     return kept;

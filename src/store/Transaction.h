@@ -2,7 +2,7 @@
 // kept together or not at all.
 #pragma once
 
-#include "util/Errors.h"
+#include "store/StoreFault.h"
 
 #include <memory>
 
@@ -16,21 +16,30 @@ class Transaction
     /// one. Where it cannot begin (no open connection, a file that cannot be locked or written) the error goes to the
     /// database object's log, and `commit` will be False; until the Transaction is gone nothing can be written through
     /// the database object, so that no row is written outside it.
-    explicit Transaction(cAdoMdb &database);
+    /// A file that another program writes to is waited for as many milliseconds as `patience` says.
+    explicit Transaction(cAdoMdb &database, int patience = usualPatience);
     /// Undoes what was not committed.
     ~Transaction();
     Transaction(const Transaction &) = delete;
     Transaction &operator=(const Transaction &) = delete;
 
-    /// True when the rows are on the disk (an inner one: when they belong to the outer one). False, with the error in
-    /// the log, when they are not: nothing of it may be reported as saved. A second call is False.
+    /// True when the rows are on the disk, in the file at the database's path (an inner one: when they belong to the
+    /// outer one). False, with the error in the log, when they are not: nothing of it may be reported as saved. False
+    /// too, and nothing is kept, when the file refused a row on the way: what is kept is whole. A second call is False.
     [[nodiscard]] bool commit();
+
+    /// What befell the file, when the transaction could not begin or `commit` was False; None while all is well. What
+    /// is wrong with a statement alone is no fault of the file.
+    [[nodiscard]] StoreFault fault() const { return mFault; }
+
+    static constexpr int usualPatience = 3000;
 
     [[nodiscard]] bool isActive() const { return mActive; }
 
   private:
     std::shared_ptr<Connection> mConnection;
     ErrorReceiver &mLog;
+    StoreFault mFault = StoreFault::None;
     bool mActive = false;
     bool mCommitted = false;
 };

@@ -26,6 +26,18 @@ constexpr std::array leftToTheReader{AdoError::BadSql, AdoError::NoSuchTable, Ad
 
 } // namespace
 
+// A procedure's work, of which is remembered what the file did to it.
+template <class Work> void cAdoMdb::watched(Work &&work)
+{
+    mFault = StoreFault::None;
+    try {
+        work();
+    } catch (const StoreError &error) {
+        mFault = error.fault();
+        throw;
+    }
+}
+
 cAdoMdb::cAdoMdb(ErrorReceiver &log, AskYesNo ask) : mLog(log), mAsk(std::move(ask)) {}
 
 cAdoMdb::~cAdoMdb() = default;
@@ -39,10 +51,16 @@ QString cAdoMdb::DatabasePath()
 
 void cAdoMdb::setDatabasePath(const QString &sNewDatabasePathValue)
 {
+    const QString path = cUtility::Trim(sNewDatabasePathValue).toString();
+    if (path.isEmpty())
+        return;
     guarded(mLog, place("Let DatabasePath"_L1), [&] {
-        const QString path = cUtility::Trim(sNewDatabasePathValue).toString();
-        if (path.isEmpty() || !DatabaseFiles::isFileOrCanBeOne(path))
+        bool possible = false;
+        watched([&] { possible = DatabaseFiles::isFileOrCanBeOne(path); });
+        if (!possible) {
+            mFault = StoreFault::Gone;
             return;
+        }
         mDatabasePath = path;
         Q_EMIT DatabasePathChanged(path);
     });
@@ -127,24 +145,27 @@ bool cAdoMdb::CreateDatabase(bool bOverWriteExisting)
     return guardedResult(mLog, place("CreateDatabase"_L1), false, [&](bool &made) {
         if (!mayReplaceFile(bOverWriteExisting))
             return;
-        DatabaseFiles::create(DatabasePath(), mMatrix);
-        made = true;
-        mobjAdoConn = Connection::open(DatabasePath(), Connection::Access::Write);
-        mobjAdoConn->prepareForWriting();
+        watched([&] {
+            DatabaseFiles::create(DatabasePath(), mMatrix);
+            made = true;
+            openToWrite();
+        });
     });
 }
 
 bool cAdoMdb::TestDatabase(bool bOpenConnection)
 {
     return guardedResult(mLog, place("TestDatabase"_L1), false, [&](bool &passed) {
-        const auto connection = Connection::open(DatabasePath(), Connection::Access::Write);
-        if (!Catalog::matches(*connection, mMatrix))
-            return;
-        if (bOpenConnection) {
-            connection->prepareForWriting();
-            mobjAdoConn = connection;
-        }
-        passed = true;
+        watched([&] {
+            const auto connection = Connection::open(DatabasePath(), Connection::Access::Write);
+            if (!Catalog::matches(*connection, mMatrix))
+                return;
+            if (bOpenConnection) {
+                connection->prepareForWriting();
+                mobjAdoConn = connection;
+            }
+            passed = true;
+        });
     });
 }
 
@@ -158,8 +179,7 @@ bool cAdoMdb::LoadDatabase(const QString &sNewDatabasePath)
             setDatabasePath(path);
         Tables_Clear();
         mobjAdoConn.reset();
-        mobjAdoConn = Connection::open(DatabasePath(), Connection::Access::Write);
-        mobjAdoConn->prepareForWriting();
+        watched([&] { openToWrite(); });
         for (const QString &table : Catalog::userTables(*mobjAdoConn)) {
             Tables_AddItem(table);
             for (const QString &column : mobjAdoConn->columnNames(table))
@@ -177,6 +197,17 @@ QString cAdoMdb::CompactDatabase()
         const qint64 after = QFileInfo(DatabasePath()).size();
         report = DatabasePath() + u" original size %1\r\nCompact size %2"_s.arg(before).arg(after);
     });
+}
+
+void cAdoMdb::openToWrite()
+{
+    mobjAdoConn = Connection::open(DatabasePath(), Connection::Access::Write);
+    mobjAdoConn->prepareForWriting();
+}
+
+QStringList cAdoMdb::lockHolders()
+{
+    return DatabaseFiles::lockHolders(DatabasePath());
 }
 
 Connection &cAdoMdb::openConnection() const
@@ -199,14 +230,16 @@ bool cAdoMdb::AddRecord(const QStringList &sNewFieldData, int nTableIndex, const
                         const QString &sDelimiter)
 {
     return guardedResult(mLog, place("Function AddRecord"_L1), false, [&](bool &written) {
-        const QString table = tableName(nTableIndex, sTableName);
-        const int row = mMatrix.rowOf(-1, table);
-        RecordWriter record(openConnection(), table, row < 0 ? QStringList() : mMatrix.fieldsOf(row));
-        const RecordDelimiter delimiter(sDelimiter);
-        for (const QString &element : sNewFieldData)
-            record.take(element, delimiter);
-        record.write();
-        written = true;
+        watched([&] {
+            const QString table = tableName(nTableIndex, sTableName);
+            const int row = mMatrix.rowOf(-1, table);
+            RecordWriter record(openConnection(), table, row < 0 ? QStringList() : mMatrix.fieldsOf(row));
+            const RecordDelimiter delimiter(sDelimiter);
+            for (const QString &element : sNewFieldData)
+                record.take(element, delimiter);
+            record.write();
+            written = true;
+        });
     });
 }
 
@@ -266,7 +299,7 @@ Recordset cAdoMdb::GetRecordset(const QString &sSQLString)
 {
     return guardedResult(mLog, place("Function GetRecordset"_L1), Recordset(), [&](Recordset &set) {
         try {
-            set = run(sSQLString);
+            watched([&] { set = run(sSQLString); });
         } catch (const RuntimeError &error) {
             if (std::find(leftToTheReader.begin(), leftToTheReader.end(), error.number()) == leftToTheReader.end())
                 throw;
@@ -281,7 +314,7 @@ QStringList cAdoMdb::GetFieldData(const QString &sField, const QString &sTable)
         if (sField.isEmpty())
             return;
         Recordset rows = GetRecordset("SELECT "_L1 + sField + " FROM "_L1 + sTable);
-        for (; !rows.Bof() && !rows.Eof(); rows.MoveNext()) {
+        for (; !rows.Eof(); rows.MoveNext()) {
             const QString value = valueText(rows.Fields()[0].Value());
             if (!value.isEmpty())
                 found.append(value);

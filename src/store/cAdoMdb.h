@@ -6,6 +6,7 @@
 #pragma once
 
 #include "store/Recordset.h"
+#include "store/StoreFault.h"
 #include "store/TableFieldMatrix.h"
 #include "util/Errors.h"
 
@@ -96,6 +97,13 @@ class cAdoMdb : public QObject
     /// Closes the connection. Sets that are open keep what they need of it. Without an open one, error 3704 is logged.
     void CloseConnection();
 
+    /// What the file did to the last procedure that made, tested, opened, read or wrote it; None where it went well,
+    /// and where something else was wrong (TestDatabase: tables that are not those of the matrix). Inside a Transaction
+    /// ask that: it knows of every step.
+    [[nodiscard]] StoreFault fault() const { return mFault; }
+    /// The programs that hold the file for writing, each as "name (process number)", as far as the system tells.
+    [[nodiscard]] QStringList lockHolders();
+
     // For the store's own use.
     [[nodiscard]] const std::shared_ptr<Connection> &connection() const { return mobjAdoConn; }
     [[nodiscard]] ErrorReceiver &log() const { return mLog; }
@@ -105,6 +113,8 @@ class cAdoMdb : public QObject
     void DatabasePathChanged(const QString &sNewDatabasePath);
 
   private:
+    template <class Work> void watched(Work &&work);
+    void openToWrite();
     [[nodiscard]] Connection &openConnection() const;
     [[nodiscard]] bool mayReplaceFile(bool bOverWriteExisting);
     [[nodiscard]] QString tableName(int nTableIndex, const QString &sTableName) const;
@@ -115,5 +125,6 @@ class cAdoMdb : public QObject
     TableFieldMatrix mMatrix;
     std::shared_ptr<Connection> mobjAdoConn;
     QString mDatabasePath;
+    StoreFault mFault = StoreFault::None;
     int mConnectionType = 0;
 };

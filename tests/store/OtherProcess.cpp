@@ -3,6 +3,7 @@
 #include "store/Transaction.h"
 
 #include <QCoreApplication>
+#include <QThread>
 #include <cstdio>
 #include <sqlite3.h>
 
@@ -36,7 +37,7 @@ int writePages(const QString &file)
     }
 }
 
-int holdLock(const QString &file, const char *statement)
+int holdLock(const QString &file, const char *statement, unsigned long seconds = 0)
 {
     sqlite3 *handle = nullptr;
     if (sqlite3_open(file.toUtf8().constData(), &handle) != SQLITE_OK ||
@@ -44,7 +45,10 @@ int holdLock(const QString &file, const char *statement)
         return 1;
     std::puts("held");
     std::fflush(stdout);
-    static_cast<void>(std::getchar());
+    if (seconds > 0)
+        QThread::sleep(seconds);
+    else
+        static_cast<void>(std::getchar());
     sqlite3_close(handle);
     return 0;
 }
@@ -61,6 +65,8 @@ std::optional<int> runAsOtherProcess(const QStringList &arguments)
         return writePages(file);
     if (name == "hold-lock"_L1)
         return holdLock(file, "BEGIN IMMEDIATE");
+    if (name == "hold-two-seconds"_L1)
+        return holdLock(file, "BEGIN IMMEDIATE", 2);
     if (name == "hold-file"_L1)
         return holdLock(file, "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=DELETE; BEGIN EXCLUSIVE");
     return 2;

@@ -11,5 +11,5 @@
 
 /// Starts this program again in a part: "write-pages" FILE (prints the number of each page once it is committed),
 /// "hold-lock" FILE (prints "held", and keeps a write lock), "hold-file" FILE (the same, and keeps readers out too).
-/// Both keep the lock until their input is closed.
+/// Both keep the lock until their input is closed. "hold-two-seconds" FILE is the first for so long.
 [[nodiscard]] std::unique_ptr<QProcess> startOtherProcess(const QString &part, const QString &file);

@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -69,7 +68,7 @@ TEST_F(StoreTest, ADateThatIsNoDateBecomesToday)
     EXPECT_TRUE(add(*database, u"SiteSummary"_s, {{"Date"_L1, u"no date"_s}}));
     EXPECT_TRUE(add(*database, u"SiteSummary"_s, {{"Date"_L1, u"2001-02-03"_s}}));
     Recordset rows = database->GetRecordset(u"SELECT Date FROM SiteSummary"_s);
-    EXPECT_EQ(FixNull(rows.Fields()["Date"_L1]), todayText());
+    EXPECT_EQ(FixNull(rows.Fields()["Date"_L1]), StoredDates::today());
     rows.MoveNext();
     EXPECT_EQ(FixNull(rows.Fields()["date"_L1]), u"2001-02-03"_s);
 }
@@ -245,7 +244,7 @@ TEST_F(StoreTest, DefaultsFillTextsAndDatesOnly)
     auto database = created();
     EXPECT_TRUE(database->AddRecord({}, -1, u"SiteSummary"_s, rowMarker));
     Recordset row = database->GetRecordset(u"SELECT * FROM SiteSummary"_s);
-    EXPECT_EQ(row.GetString(u"|"_s, u""_s, u"null"_s), u"1|"_s + todayText() + u"||||null"_s);
+    EXPECT_EQ(row.GetString(u"|"_s, u""_s, u"null"_s), u"1|"_s + StoredDates::today() + u"||||null"_s);
     EXPECT_TRUE(database->AddRecord({}, -1, u"EmailAddress"_s, rowMarker));
     EXPECT_EQ(first(*database, u"SELECT SSIndex FROM EmailAddress"_s), QVariant(0LL));
 }
@@ -335,21 +334,6 @@ TEST_F(StoreTest, AFileThatCannotBeCompactedGivesNoReport)
     auto database = declared(u"none.mdb"_s);
     EXPECT_EQ(database->CompactDatabase(), u""_s);
     EXPECT_TRUE(mLog.holds(53, "CompactDatabase"_L1)) << mLog.text();
-}
-
-TEST_F(StoreTest, ANewFileHasTheRightsThatTheUserGivesNewFiles)
-{
-    for (const mode_t mask : {mode_t(077), mode_t(022)}) {
-        const mode_t before = umask(mask);
-        created()->CloseConnection();
-        umask(before);
-        struct stat status
-        {
-        };
-        ASSERT_EQ(stat(QFile::encodeName(pathOf(u"Trawlex-0.mdb"_s)).constData(), &status), 0);
-        EXPECT_EQ(status.st_mode & 0777U, 0644U & ~mask);
-        QFile::remove(pathOf(u"Trawlex-0.mdb"_s));
-    }
 }
 
 TEST_F(StoreTest, AQueryThatFailsLeavesItToItsReader)

@@ -1,96 +1,14 @@
 // What can befall a file: it is no database, it is cut off, it cannot be written, the disk is full, its folder goes, it
 // is locked. Each ends in a logged error; the program lives, and what was reported as written is there.
+#include "FaultFixture.h"
 #include "OtherProcess.h"
-#include "StoreFixture.h"
-#include "store/AdoErrors.h"
-#include "store/Transaction.h"
 #include "store/sqlite/Connection.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QScopeGuard>
 #include <algorithm>
-#include <csignal>
 #include <sqlite3.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-class FaultTest : public StoreTest
-{
-  protected:
-    void write(const QString &path, const QByteArray &bytes)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        ASSERT_EQ(file.write(bytes), bytes.size());
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-    // A closed database with that many rows in Block.
-    [[nodiscard]] QString filled(int rows)
-    {
-        auto database = created();
-        Transaction transaction(*database);
-        for (int row = 0; row < rows; ++row)
-            add(*database, u"Block"_s, {{"UrlsContent"_L1, QString(200, u'x')}});
-        EXPECT_TRUE(transaction.commit());
-        return database->DatabasePath();
-    }
-    // The file fails its test, with an error in the log, and is not changed.
-    void expectRefused(const QString &name)
-    {
-        const QByteArray before = read(pathOf(name));
-        auto database = declared(name);
-        mLog.entries.clear();
-        EXPECT_FALSE(database->TestDatabase(true));
-        EXPECT_TRUE(mLog.holds(AdoError::Engine, "TestDatabase"_L1)) << mLog.text();
-        EXPECT_FALSE(add(*database, u"Block"_s, {{"UrlsContent"_L1, u"x"_s}}));
-        EXPECT_FALSE(database->GetRecordset(u"SELECT * FROM Block"_s).isOpen());
-        EXPECT_EQ(read(pathOf(name)), before);
-    }
-    // Stands for a user whom the rights of files concern; the superuser passes over them.
-    [[nodiscard]] static auto asAnotherUser()
-    {
-        constexpr uid_t nobody = 65534;
-        const uid_t before = geteuid();
-        EXPECT_EQ(seteuid(before == 0 ? nobody : before), 0);
-        return qScopeGuard([before] { EXPECT_EQ(seteuid(before), 0); });
-    }
-    void openToAll() const
-    {
-        QFile::setPermissions(mFolder.path(), QFile::Permissions(0x7777));
-        for (const QString &name : QDir(mFolder.path()).entryList(QDir::Files))
-            QFile::setPermissions(pathOf(name), QFile::Permissions(0x6666));
-    }
-};
-
-// No file may grow beyond `bytes` while it stands, as on a full disk.
-class FullDisk
-{
-  public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &mBefore);
-        const rlimit limit{bytes, mBefore.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &mBefore); }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-  private:
-    rlimit mBefore{};
-};
-} // namespace
 
 TEST_F(FaultTest, AFileThatIsNoDatabaseIsRefusedAndLeftAlone)
 {

@@ -61,6 +61,7 @@ TEST_F(RecordsetTest, NothingRaises91AndAnUnopenedSet3704)
         EXPECT_FALSE(set.isNothing());
         EXPECT_FALSE(set.isOpen());
         EXPECT_EQ(errorOf([&] { static_cast<void>(set.Bof()); }), 3704);
+        EXPECT_EQ(errorOf([&] { static_cast<void>(set.isEmpty()); }), 3704);
         EXPECT_EQ(errorOf([&] { static_cast<void>(set.Eof()); }), 3704);
         EXPECT_EQ(errorOf([&] { static_cast<void>(set.Fields()); }), 3704);
         EXPECT_EQ(errorOf([&] { set.Close(); }), 3704);
@@ -72,6 +73,7 @@ TEST_F(RecordsetTest, AnEmptySetStandsAtBothEndsAndCannotMove)
 {
     Recordset set = open(u"SELECT * FROM Block"_s);
     EXPECT_TRUE(set.Bof() && set.Eof());
+    EXPECT_TRUE(set.isEmpty());
     EXPECT_EQ(set.RecordCount(), 0);
     EXPECT_EQ(set.AbsolutePosition(), -1);
     EXPECT_EQ(errorOf([&] { set.MoveFirst(); }), 3021);
@@ -90,6 +92,7 @@ TEST_F(RecordsetTest, MovesWalkTheRowsInTableOrder)
         ASSERT_EQ(set.Fields()[0].Value().toInt(), number);
     EXPECT_TRUE(set.Eof());
     EXPECT_FALSE(set.Bof());
+    EXPECT_FALSE(set.isEmpty()) << "the end of rows is not a set without rows";
     EXPECT_EQ(errorOf([&] { set.MoveNext(); }), 3021);
     set.MovePrevious();
     EXPECT_EQ(set.Fields()[0].Value().toInt(), 5000);
@@ -461,13 +464,13 @@ TEST_F(RecordsetTest, AWalkAndASaveHoldOneRowAtATime)
 
 TEST(Dates, AreReadInTheirForms)
 {
-    EXPECT_EQ(dateText(*parseDate(u"2024-02-29"_s)), u"2024-02-29"_s);
-    EXPECT_EQ(dateText(*parseDate(u" 2024-2-9 1:02 "_s)), u"2024-02-09T01:02:00"_s);
-    EXPECT_EQ(dateText(*parseDate(u"2024-02-29T23:59:58.7Z"_s)), u"2024-02-29T23:59:58"_s);
-    EXPECT_EQ(dateText(*parseDate(u"12/31/1999"_s)), u"1999-12-31"_s);
-    EXPECT_EQ(dateText(*parseDate(u"12/31/1999 12:00:00 AM"_s)), u"1999-12-31"_s);
-    EXPECT_EQ(dateText(*parseDate(u"12/31/1999 12:30 pm"_s)), u"1999-12-31T12:30:00"_s);
+    EXPECT_EQ(StoredDates::text(*StoredDates::parse(u"2024-02-29"_s)), u"2024-02-29"_s);
+    EXPECT_EQ(StoredDates::text(*StoredDates::parse(u" 2024-2-9 1:02 "_s)), u"2024-02-09T01:02:00"_s);
+    EXPECT_EQ(StoredDates::text(*StoredDates::parse(u"2024-02-29T23:59:58.7Z"_s)), u"2024-02-29T23:59:58"_s);
+    EXPECT_EQ(StoredDates::text(*StoredDates::parse(u"12/31/1999"_s)), u"1999-12-31"_s);
+    EXPECT_EQ(StoredDates::text(*StoredDates::parse(u"12/31/1999 12:00:00 AM"_s)), u"1999-12-31"_s);
+    EXPECT_EQ(StoredDates::text(*StoredDates::parse(u"12/31/1999 12:30 pm"_s)), u"1999-12-31T12:30:00"_s);
     for (const QString &text : {u""_s, u"2023-02-29"_s, u"13/1/2000"_s, u"2024-01-01T24:00"_s, u"2024-01-01 13:00 PM"_s,
                                 u"2024"_s, u"1.2.2024"_s, u"x2024-01-01"_s})
-        EXPECT_FALSE(parseDate(text).has_value()) << text.toStdString();
+        EXPECT_FALSE(StoredDates::parse(text).has_value()) << text.toStdString();
 }

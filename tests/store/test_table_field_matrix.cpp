@@ -185,6 +185,11 @@ INSTANTIATE_TEST_SUITE_P(
         ListFileCase{"blankLinesAndTextInFront", "junk\r\n[A]\r\n\r\n   \r\nx\r\n", {{u"A"_s, u"x"_s}}},
         ListFileCase{"loneLineFeeds", "[A]\nx\ny\n[B]\nz", {{u"A"_s, u"x"_s, u"y"_s}, {u"B"_s, u"z"_s}}},
         ListFileCase{"loneCarriageReturns", "[A]\rx\ry\r", {{u"A"_s, u"x"_s, u"y"_s}}},
+        ListFileCase{"aTableWithoutNameFirst", "[]\r\nx\r\n[B]\r\nz\r\n", {{u"B"_s, u"z"_s}}},
+        ListFileCase{
+            "aTableWithoutNameBetween", "[A]\r\nx\r\n[]\r\ny\r\n[C]\r\nz\r\n", {{u"A"_s, u"x"_s}, {u"C"_s, u"z"_s}}},
+        ListFileCase{"onlyATableWithoutName", "[]\r\nx\r\n", {}},
+        ListFileCase{"aNameOfBlanks", "[ ]\r\nx\r\n[B]\r\nz\r\n", {{u" "_s, u"x"_s}, {u"B"_s, u"z"_s}}},
         ListFileCase{"noBracket", "A\r\nx\r\n", {}}, ListFileCase{"neverClosed", "]A[\r\nx", {}},
         ListFileCase{"empty", "", {}}),
     [](const auto &row) { return std::string(row.param.what); });

@@ -89,13 +89,13 @@ QVariant integerFor(const IntegerRange &range, const QVariant &value)
 QVariant dateFor(const QVariant &value)
 {
     if (value.typeId() == QMetaType::QDate)
-        return dateText(value.toDate().startOfDay(Qt::UTC));
+        return StoredDates::text(value.toDate().startOfDay(Qt::UTC));
     if (value.typeId() == QMetaType::QDateTime)
-        return dateText(value.toDateTime());
-    const auto moment = value.typeId() == QMetaType::QString ? parseDate(value.toString()) : std::nullopt;
+        return StoredDates::text(value.toDateTime());
+    const auto moment = value.typeId() == QMetaType::QString ? StoredDates::parse(value.toString()) : std::nullopt;
     if (!moment)
         throw AdoError::error(AdoError::TypeMismatch);
-    return dateText(*moment);
+    return StoredDates::text(*moment);
 }
 
 QVariant textFor(int kind, const QVariant &value)
@@ -204,9 +204,9 @@ QString valueText(const QVariant &value)
     case QMetaType::QByteArray:
         return QString::fromLatin1(value.toByteArray());
     case QMetaType::QDate:
-        return dateText(value.toDate().startOfDay(Qt::UTC));
+        return StoredDates::text(value.toDate().startOfDay(Qt::UTC));
     case QMetaType::QDateTime:
-        return dateText(value.toDateTime());
+        return StoredDates::text(value.toDateTime());
     default:
         return value.toString();
     }

@@ -54,7 +54,7 @@ void RecordWriter::setDefaults(const QStringList &fields)
             continue;
         const int kind = mRow.table().columns[static_cast<std::size_t>(column)].kind;
         if (kind == ColumnKind::Date)
-            mRow.setStored(column, todayText());
+            mRow.setStored(column, StoredDates::today());
         else if (startsAsEmptyText(kind))
             mRow.setStored(column, u""_s);
     }
@@ -86,7 +86,7 @@ void RecordWriter::setValue(const QString &field, const QString &value)
 QVariant RecordWriter::valueFor(int kind, const QString &field, const QString &value) const
 {
     if (field == "Date"_L1)
-        return kind == ColumnKind::Date && !parseDate(value) ? todayText() : value;
+        return kind == ColumnKind::Date && !StoredDates::parse(value) ? StoredDates::today() : value;
     if (field == "Picture"_L1)
         return fileToBlob(value);
     if (field == "FullPage"_L1)

@@ -52,14 +52,13 @@ Query prepareQuery(std::shared_ptr<Connection> connection, const SqlStatement &s
 
 void runDelete(const Query &query)
 {
-    query.connection->requireLiveTransaction();
     const std::string head = "DELETE FROM " + query.table->quoted;
     Statement statement =
         query.connection->prepare(query.condition.empty() ? head : head + " WHERE 1" + query.condition);
     if (!query.condition.empty())
         statement.bind(1, query.value);
     ++query.table->changes->revision;
-    statement.run();
+    query.connection->change(statement);
 }
 
 KeySet::KeySet(Query query) : mQuery(std::move(query)) {}
@@ -311,12 +310,11 @@ void RecordsetState::remove()
         throw AdoError::error(AdoError::NotAllowed);
     requireRow();
     const Query &from = query();
-    from.connection->requireLiveTransaction();
     Statement statement =
         from.connection->prepare("DELETE FROM " + from.table->quoted + " WHERE " + from.table->key + "=?1");
     statement.bind(1, mKeys->key(mPlace));
     ++from.table->changes->revision;
-    statement.run();
+    from.connection->change(statement);
     mEdit.reset();
     mKeys->markDeleted(mPlace);
     mOnDeleted = true;

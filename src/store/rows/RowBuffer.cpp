@@ -30,7 +30,6 @@ bool RowBuffer::isEmpty() const
 
 qint64 RowBuffer::insert()
 {
-    mConnection.requireLiveTransaction();
     std::string names;
     std::string places;
     for (std::size_t column = 0; column < mSet.size(); ++column) {
@@ -47,7 +46,7 @@ qint64 RowBuffer::insert()
         if (mSet[column])
             statement.bind(++place, mValues[column]);
     }
-    statement.run();
+    mConnection.change(statement);
     ++mTable->changes->additions;
     return mConnection.lastRow();
 }
@@ -56,7 +55,6 @@ void RowBuffer::update(qint64 key)
 {
     if (isEmpty())
         return;
-    mConnection.requireLiveTransaction();
     std::string changes;
     for (std::size_t column = 0; column < mSet.size(); ++column) {
         if (mSet[column])
@@ -71,6 +69,6 @@ void RowBuffer::update(qint64 key)
     }
     statement.bind(++place, key);
     ++mTable->changes->revision;
-    if (statement.run() == 0)
+    if (mConnection.change(statement) == 0)
         throw AdoError::error(AdoError::RowDeleted);
 }

@@ -55,7 +55,7 @@ void SavedRecordset::saveBinary(const std::shared_ptr<KeySet> &rows, const QStri
 void SavedRecordset::saveXml(const std::shared_ptr<KeySet> &rows, const QString &filePath)
 {
     QSaveFile file(filePath);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
         throw AdoError::error(ErrorNumber::PathAccessError);
     RecordsetXmlWriter xml(file, columnsOf(rows->query()));
     forEachRow(rows, [&](const std::vector<QVariant> &row) { xml.addRow(row); });

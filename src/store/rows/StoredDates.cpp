@@ -24,13 +24,13 @@ int hourOf(const QRegularExpressionMatch &match)
 }
 } // namespace
 
-QString dateText(const QDateTime &moment)
+QString StoredDates::text(const QDateTime &moment)
 {
     const QString date = moment.date().toString(Qt::ISODate);
     return moment.time() == QTime(0, 0) ? date : date + u'T' + moment.time().toString(Qt::ISODate);
 }
 
-QString todayText()
+QString StoredDates::today()
 {
     // Every row asks, and each look at the local date asks the time zone's file: once a second is enough.
     thread_local qint64 second = -1;
@@ -42,7 +42,7 @@ QString todayText()
     return text;
 }
 
-std::optional<QDateTime> parseDate(const QString &text)
+std::optional<QDateTime> StoredDates::parse(const QString &text)
 {
     static const QRegularExpression form(
         uR"(^ *(?:(?<year>\d{4})-(?<month>\d{1,2})-(?<day>\d{1,2})|(?<month2>\d{1,2})/(?<day2>\d{1,2})/(?<year2>\d{4})))"

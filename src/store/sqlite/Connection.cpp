@@ -1,10 +1,10 @@
 #include "store/sqlite/Connection.h"
 #include "store/rows/ColumnKinds.h"
 #include "store/sql/SqlTranslator.h"
-#include "store/sqlite/SqliteErrors.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QUrl>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -16,8 +16,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// How long a step waits for another program that holds the file, in milliseconds.
-constexpr int patience = 3000;
+// The file itself and what SQLite keeps beside it while it is open.
+constexpr std::array filesOfADatabase{""_L1, "-wal"_L1, "-shm"_L1};
 
 constexpr std::array allowedFunctions{"like", "max", "min", "count"};
 
@@ -34,7 +34,7 @@ bool isAllowedFunction(const char *name)
 
 std::unique_ptr<SQLite::Database> openFile(const std::string &name, int flags)
 {
-    auto database = std::make_unique<SQLite::Database>(name, flags, patience);
+    auto database = std::make_unique<SQLite::Database>(name, flags, Connection::usualPatience);
     // The head is read now, so that a file that is no database is refused here.
     sqlite3_extended_result_codes(database->getHandle(), 1);
     database->exec("PRAGMA schema_version");
@@ -115,13 +115,15 @@ class Connection::Privilege
 
 std::shared_ptr<Connection> Connection::open(const QString &path, Access access)
 {
-    return engineStep([&] {
+    const QString place = path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
+    return openingStep(place, [&] {
         // The constructor is private: nobody makes a connection without the settings that keep it safe.
-        return std::shared_ptr<Connection>(new Connection(openAs(path, access), access));
+        return std::shared_ptr<Connection>(new Connection(openAs(path, access), place, access));
     });
 }
 
-Connection::Connection(std::unique_ptr<SQLite::Database> database, Access access) : mDatabase(std::move(database))
+Connection::Connection(std::unique_ptr<SQLite::Database> database, const QString &path, Access access)
+    : mDatabase(std::move(database)), mSteps(mDatabase->getHandle(), path)
 {
     mReadOnly = access == Access::Read || sqlite3_db_readonly(mDatabase->getHandle(), "main") == 1;
     configure(access);
@@ -157,7 +159,14 @@ void Connection::prepareForWriting()
         administer("PRAGMA journal_mode=WAL");
     } catch (const RuntimeError &) {
     }
-    administer("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000");
+    administer("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000; PRAGMA schema_version");
+    mSteps.forgetFaults();
+    mPlace.clear();
+    for (const auto &ending : filesOfADatabase) {
+        const QString file = mSteps.path() + ending;
+        if (const auto identity = PlatformFiles::identityOf(file))
+            mPlace.emplace_back(file, *identity);
+    }
 }
 
 int Connection::authorize(void *self, int action, const char *first, const char *second, const char *, const char *)
@@ -185,7 +194,7 @@ int Connection::authorize(void *self, int action, const char *first, const char 
 
 Statement Connection::prepare(const std::string &text)
 {
-    return {mStatements, *mDatabase, text};
+    return {mStatements, mSteps, *mDatabase, text};
 }
 
 void Connection::administer(const std::string &text)
@@ -193,7 +202,7 @@ void Connection::administer(const std::string &text)
     const Privilege privilege(*this);
     mStatements.clear();
     mTables.clear();
-    engineStep([&] { mDatabase->exec(text); });
+    mSteps.run([&] { mDatabase->exec(text); });
 }
 
 QStringList Connection::administerTexts(const std::string &text)
@@ -297,26 +306,50 @@ bool Connection::inTransaction() const
     return sqlite3_get_autocommit(mDatabase->getHandle()) == 0;
 }
 
-void Connection::begin()
+void Connection::begin(int patience)
 {
+    if (mDepth == 0 && mRefusals == 0)
+        mSteps.forgetFaults();
     requireLiveTransaction();
+    if (mDepth == 0)
+        beginOutermost(patience);
+    else
+        static_cast<void>(prepare("SAVEPOINT inner_work").run());
+    ++mDepth;
+}
+
+void Connection::beginOutermost(int patience)
+{
     // The engine would begin and find out at the first row.
     if (mReadOnly)
-        throw RuntimeError(AdoError::Engine, u"The database is read-only."_s);
-    if (mDepth == 0) {
-        static_cast<void>(prepare("BEGIN IMMEDIATE").run());
-        mOutsideVersion = -1;
-    } else {
-        static_cast<void>(prepare("SAVEPOINT inner_work").run());
-    }
-    ++mDepth;
+        fail(StoreFault::ReadOnly, u"The database is read-only."_s);
+    requireInPlace();
+    sqlite3_busy_timeout(mDatabase->getHandle(), patience);
+    const auto restore = qScopeGuard([&] { sqlite3_busy_timeout(mDatabase->getHandle(), usualPatience); });
+    static_cast<void>(prepare("BEGIN IMMEDIATE").run());
+    mOutsideVersion = -1;
 }
 
 void Connection::commit()
 {
     requireLiveTransaction();
-    static_cast<void>(prepare(mDepth == 1 ? "COMMIT" : "RELEASE inner_work").run());
+    if (mDepth == 1)
+        commitOutermost();
+    else
+        static_cast<void>(prepare("RELEASE inner_work").run());
     --mDepth;
+    // The engine holds the file that it has opened, wherever that is by now, and writes to it without complaint.
+    if (mDepth == 0)
+        requireInPlace();
+}
+
+void Connection::commitOutermost()
+{
+    // A row that the file refused is missing: what is left must not pass for the whole.
+    if (fault() != StoreFault::None)
+        fail(fault(), u"A part of the transaction could not be written."_s);
+    requireInPlace();
+    static_cast<void>(prepare("COMMIT").run());
 }
 
 void Connection::rollBack() noexcept
@@ -335,8 +368,34 @@ void Connection::rollBack() noexcept
     }
 }
 
+int Connection::change(Statement &statement)
+{
+    requireLiveTransaction();
+    if (mDepth > 0)
+        return statement.run();
+    requireInPlace();
+    const int rows = statement.run();
+    requireInPlace();
+    return rows;
+}
+
 void Connection::requireLiveTransaction() const
 {
     if (mRefusals > 0 || (mDepth > 0 && !inTransaction()))
-        throw RuntimeError(AdoError::Engine, u"The transaction could not begin or has been rolled back."_s);
+        throw StoreError(fault(), AdoError::Engine, u"The transaction could not begin or has been rolled back."_s);
+}
+
+void Connection::fail(StoreFault fault, const QString &words)
+{
+    mSteps.note(fault);
+    throw StoreError(fault, AdoError::Engine, words);
+}
+
+void Connection::requireInPlace()
+{
+    const bool inPlace = std::all_of(mPlace.begin(), mPlace.end(), [](const auto &file) {
+        return PlatformFiles::identityOf(file.first) == file.second;
+    });
+    if (!inPlace)
+        fail(StoreFault::Gone, u"The database has been moved, replaced or deleted."_s);
 }

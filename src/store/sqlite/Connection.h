@@ -3,6 +3,8 @@
 // Inside store/ only: the engine's own types stop here.
 #pragma once
 
+#include "store/sqlite/PlatformFiles.h"
+#include "store/sqlite/SqliteErrors.h"
 #include "store/sqlite/Statement.h"
 
 #include <QHash>
@@ -70,8 +72,8 @@ class Connection
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
 
-    /// Makes the file the one that this program writes to: readers are not held up by a writer, and what is committed
-    /// is on the disk. A file that cannot be written stays as it is.
+    /// Makes the file the one that this program writes to: readers are not held up by a writer, what is committed is on
+    /// the disk, and from now on the file must stay where it is. A file that cannot be written stays as it is.
     void prepareForWriting();
 
     /// A statement out of the cache. It must not outlive the connection.
@@ -102,28 +104,46 @@ class Connection
     [[nodiscard]] qint64 outsideVersion();
 
     // Transactions, one inside another. Used by Transaction only.
-    /// Error AdoError::Engine where the file cannot be locked for writing.
-    void begin();
+    /// Waits that many milliseconds for another program that writes. Error AdoError::Engine where the file cannot be
+    /// locked for writing.
+    void begin(int patience = usualPatience);
+    /// Error AdoError::Engine where the rows are not in the file at its place, or where a row of the transaction met a
+    /// fault of the file; then nothing is kept.
     void commit();
     /// Does nothing where nothing is open.
     void rollBack() noexcept;
     /// Between these two every write is refused: for as long as a transaction stands that could not begin.
     void refuseWrites() { ++mRefusals; }
     void allowWrites() { --mRefusals; }
-    /// To be called before every write. Error AdoError::Engine where the engine itself has ended the transaction that
-    /// is open, or where writes are refused: what follows would be written outside the transaction it belongs to.
-    void requireLiveTransaction() const;
+    /// Runs a statement that changes rows, and gives their number. Error AdoError::Engine where the engine itself has
+    /// ended the transaction that is open, or where writes are refused: it would be written outside the transaction it
+    /// belongs to. Outside a transaction the file must be at its place before and after it.
+    int change(Statement &statement);
+
+    /// The first fault since the outermost transaction began.
+    [[nodiscard]] StoreFault fault() const { return mSteps.firstFault(); }
+
+    /// How long a step waits for another program that holds the file, in milliseconds.
+    static constexpr int usualPatience = 3000;
 
   private:
     class Privilege;
-    explicit Connection(std::unique_ptr<SQLite::Database> database, Access access);
+    explicit Connection(std::unique_ptr<SQLite::Database> database, const QString &path, Access access);
     void configure(Access access);
     [[nodiscard]] std::shared_ptr<const TableInfo> readTable(const QString &name);
     [[nodiscard]] bool inTransaction() const;
+    void beginOutermost(int patience);
+    void commitOutermost();
+    void requireLiveTransaction() const;
+    [[noreturn]] void fail(StoreFault fault, const QString &words);
+    void requireInPlace();
     static int authorize(void *self, int action, const char *first, const char *second, const char *database,
                          const char *trigger);
 
     std::unique_ptr<SQLite::Database> mDatabase;
+    EngineSteps mSteps;
+    // Each file that belongs to the database, as it was when this program began to write to it.
+    std::vector<std::pair<QString, PlatformFiles::Identity>> mPlace;
     StatementCache mStatements;
     QHash<QString, std::shared_ptr<const TableInfo>> mTables;
     QHash<QString, std::shared_ptr<TableChanges>> mChanges;

@@ -22,22 +22,30 @@ void removeCompanions(const QString &path)
         QFile::remove(path + ending);
 }
 
+[[noreturn]] void refusePlace(const QString &path)
+{
+    const StoreFault folder = StoreFaults::ofFolder(QFileInfo(path).absolutePath());
+    const RuntimeError error = AdoError::error(ErrorNumber::PathAccessError);
+    throw StoreError(folder == StoreFault::None ? StoreFault::Failed : folder, error.number(), error.description());
+}
+
 // Puts `from` at `to` in one step; whoever looks sees the old file or the new one.
 void replaceFile(const QString &from, const QString &to)
 {
     removeCompanions(to);
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
-        throw AdoError::error(ErrorNumber::PathAccessError);
+        refusePlace(to);
 }
 
-// A name beside the file. The engine makes the file there, with the rights that any new file of the user's gets: those
-// of a temporary file would stay.
-QString vacantName(const QString &path)
+// An empty file beside the place, for this user alone: the engine fills it as it stands, and gives what it keeps beside
+// it the same rights.
+QString makePrivateFile(const QString &path)
 {
-    QTemporaryFile place(path + ".XXXXXX"_L1);
-    if (!place.open())
-        throw AdoError::error(ErrorNumber::PathAccessError);
-    return place.fileName();
+    QTemporaryFile file(path + ".XXXXXX"_L1);
+    if (!file.open())
+        refusePlace(path);
+    file.setAutoRemove(false);
+    return file.fileName();
 }
 } // namespace
 
@@ -50,7 +58,7 @@ bool DatabaseFiles::isFileOrCanBeOne(const QString &path)
         return false;
     QFile trial(path);
     if (!trial.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        throw AdoError::error(ErrorNumber::PathAccessError);
+        refusePlace(path);
     trial.close();
     trial.remove();
     return true;
@@ -63,9 +71,17 @@ bool DatabaseFiles::isSqlite(const QString &path)
     return file.open(QIODevice::ReadOnly) && file.read(head.size()) == head;
 }
 
+QStringList DatabaseFiles::lockHolders(const QString &path)
+{
+    QStringList files{path};
+    for (const auto &ending : companions)
+        files.append(path + ending);
+    return PlatformFiles::lockHolders(files);
+}
+
 void DatabaseFiles::build(const QString &path, const std::function<void(Connection &)> &fill)
 {
-    const QString place = vacantName(path);
+    const QString place = makePrivateFile(path);
     const auto tidy = qScopeGuard([&] {
         QFile::remove(place);
         removeCompanions(place);

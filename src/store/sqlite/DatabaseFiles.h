@@ -14,8 +14,11 @@ namespace DatabaseFiles {
 /// True if the file begins as the engine's files do.
 [[nodiscard]] bool isSqlite(const QString &path);
 
-/// Has `fill` build a file beside the place, and moves it there when it is complete. A file that is there already goes,
-/// with its logs. Errors leave the old file, and nothing half made.
+/// The other programs that hold the file for writing; see PlatformFiles.
+[[nodiscard]] QStringList lockHolders(const QString &path);
+
+/// Has `fill` build a file beside the place, for this user alone to read and write, and moves it there when it is
+/// complete. A file that is there already goes, with its logs. Errors leave the old file, and nothing half made.
 void build(const QString &path, const std::function<void(Connection &)> &fill);
 
 /// Makes a database with the tables of the matrix in this way.

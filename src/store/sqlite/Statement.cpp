@@ -29,12 +29,13 @@ void StatementCache::clear() noexcept
     mSlots.clear();
 }
 
-Statement::Statement(StatementCache &cache, SQLite::Database &database, const std::string &text)
-    : mCache(cache), mSlot(&cache.slotOf(text)), mGeneration(cache.generation()), mStatement(std::move(*mSlot))
+Statement::Statement(StatementCache &cache, EngineSteps &steps, SQLite::Database &database, const std::string &text)
+    : mCache(cache), mSteps(steps), mSlot(&cache.slotOf(text)), mGeneration(cache.generation()),
+      mStatement(std::move(*mSlot))
 {
     // The slot is empty for a new text, and while the same statement is in use further out.
     if (!mStatement)
-        mStatement = engineStep([&] { return std::make_unique<SQLite::Statement>(database, text); });
+        mStatement = mSteps.run([&] { return std::make_unique<SQLite::Statement>(database, text); });
 }
 
 Statement::~Statement()
@@ -58,14 +59,14 @@ Statement &Statement::bind(int place, const QVariant &value)
         return bind(place, value.toString());
     case QMetaType::QByteArray: {
         const QByteArray bytes = value.toByteArray();
-        engineStep([&] { mStatement->bind(place, bytes.constData(), static_cast<int>(bytes.size())); });
+        mSteps.run([&] { mStatement->bind(place, bytes.constData(), static_cast<int>(bytes.size())); });
         return *this;
     }
     case QMetaType::Double:
-        engineStep([&] { mStatement->bind(place, value.toDouble()); });
+        mSteps.run([&] { mStatement->bind(place, value.toDouble()); });
         return *this;
     case QMetaType::UnknownType:
-        engineStep([&] { mStatement->bind(place); });
+        mSteps.run([&] { mStatement->bind(place); });
         return *this;
     default:
         return bind(place, value.toLongLong());
@@ -74,7 +75,7 @@ Statement &Statement::bind(int place, const QVariant &value)
 
 Statement &Statement::bind(int place, qint64 value)
 {
-    engineStep([&] { mStatement->bind(place, static_cast<int64_t>(value)); });
+    mSteps.run([&] { mStatement->bind(place, static_cast<int64_t>(value)); });
     return *this;
 }
 
@@ -83,30 +84,30 @@ Statement &Statement::bind(int place, const QString &value)
     // The text is read where it lies; one with a zero in it needs its length told, which takes another copy.
     const QByteArray &text = mTexts.emplace_back(value.toUtf8());
     if (text.contains('\0'))
-        engineStep([&] { mStatement->bind(place, text.toStdString()); });
+        mSteps.run([&] { mStatement->bind(place, text.toStdString()); });
     else
-        engineStep([&] { mStatement->bindNoCopy(place, text.constData()); });
+        mSteps.run([&] { mStatement->bindNoCopy(place, text.constData()); });
     return *this;
 }
 
 bool Statement::step()
 {
-    return engineStep([&] { return mStatement->executeStep(); });
+    return mSteps.run([&] { return mStatement->executeStep(); });
 }
 
 int Statement::run()
 {
-    return engineStep([&] { return mStatement->exec(); });
+    return mSteps.run([&] { return mStatement->exec(); });
 }
 
 qint64 Statement::integer(int column) const
 {
-    return engineStep([&] { return mStatement->getColumn(column).getInt64(); });
+    return mSteps.run([&] { return mStatement->getColumn(column).getInt64(); });
 }
 
 QString Statement::text(int column) const
 {
-    return engineStep([&] {
+    return mSteps.run([&] {
         const auto cell = mStatement->getColumn(column);
         const char *bytes = cell.getText();
         return QString::fromUtf8(bytes, cell.getBytes());
@@ -115,7 +116,7 @@ QString Statement::text(int column) const
 
 QVariant Statement::value(int column) const
 {
-    return engineStep([&]() -> QVariant {
+    return mSteps.run([&]() -> QVariant {
         const auto cell = mStatement->getColumn(column);
         switch (cell.getType()) {
         case SQLITE_INTEGER:

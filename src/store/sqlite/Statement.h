@@ -10,6 +10,7 @@
 #include <string>
 #include <unordered_map>
 
+class EngineSteps;
 namespace SQLite {
 class Database;
 class Statement;
@@ -41,8 +42,8 @@ class StatementCache
 class Statement
 {
   public:
-    /// Cache and database outlive the statement.
-    Statement(StatementCache &cache, SQLite::Database &database, const std::string &text);
+    /// All outlive the statement.
+    Statement(StatementCache &cache, EngineSteps &steps, SQLite::Database &database, const std::string &text);
     ~Statement();
     Statement(const Statement &) = delete;
     Statement &operator=(const Statement &) = delete;
@@ -65,6 +66,7 @@ class Statement
 
   private:
     StatementCache &mCache;
+    EngineSteps &mSteps;
     // Where the statement came from and goes back to, unless the cache has been cleared since.
     StatementCache::Slot *mSlot;
     quint64 mGeneration;
