@@ -41,7 +41,7 @@ void applySettings(Program &program, const QList<Arguments::Setting> &settings)
     // While the form is not ready no value changes another, so the order of the arguments does not matter.
     program.form.mbFormReady = false;
     for (const Arguments::Setting &setting : settings) {
-        if (setting.control == program.form.cboANWBSelect.name())
+        if (setting.control == program.form.browser.cboANWBSelect.name())
             throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"--set cboANWBSelect: use --browser"_s);
         setControl(program.form, setting.control, setting.value);
     }
@@ -59,7 +59,7 @@ void harvest(Program &program, EventPump &pump, const Arguments &arguments)
             return;
         waitUntilLoaded(program, pump);
     }
-    if (!program.lifeCycle.isEnding() && program.form.mbInitialized)
+    if (!program.lifeCycle.isEnding() && program.form.browser.mbInitialized)
         program.autoRun.cmdANStart_Click();
 }
 

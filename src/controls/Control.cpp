@@ -1,6 +1,6 @@
 #include "controls/Control.h"
 
-Control::Control(const QString &name, QObject *parent) : QObject(parent)
+Control::Control(const QString &name, QObject *parent, const QString &caption) : QObject(parent), mCaption(caption)
 {
     setObjectName(name);
 }

@@ -17,7 +17,7 @@ class Control : public QObject
 
   public:
     /// `name` is the control's name; a member of a control array is written "chkSMA(9)".
-    Control(const QString &name, QObject *parent);
+    Control(const QString &name, QObject *parent, const QString &caption = {});
 
     [[nodiscard]] QString name() const { return objectName(); }
 

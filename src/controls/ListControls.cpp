@@ -9,7 +9,8 @@ namespace {
 constexpr qint64 textIsReadOnly = 383;
 }
 
-ListControl::ListControl(const QString &name, QObject *parent) : Control(name, parent)
+ListControl::ListControl(const QString &name, QObject *parent, const QStringList &items)
+    : Control(name, parent), mItems(items), mListIndex(items.isEmpty() ? -1 : 0)
 {
     setBackColor(Colours::Window);
     setForeColor(Colours::WindowText);
@@ -64,7 +65,10 @@ void ListControl::clear()
     Q_EMIT changed();
 }
 
-ComboBox::ComboBox(const QString &name, Style style, QObject *parent) : ListControl(name, parent), mStyle(style) {}
+ComboBox::ComboBox(const QString &name, Style style, QObject *parent, const QStringList &items)
+    : ListControl(name, parent, items), mStyle(style), mText(list(listIndex()))
+{
+}
 
 QString ComboBox::text() const
 {

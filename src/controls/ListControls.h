@@ -13,7 +13,8 @@ class ListControl : public Control
     Q_OBJECT
 
   public:
-    ListControl(const QString &name, QObject *parent);
+    /// With `items` the first one is chosen.
+    ListControl(const QString &name, QObject *parent, const QStringList &items = {});
 
     [[nodiscard]] int listCount() const { return static_cast<int>(mItems.size()); }
     [[nodiscard]] const QStringList &items() const { return mItems; }
@@ -48,7 +49,10 @@ class ComboBox : public ListControl
 
   public:
     enum class Style { DropDownList, DropDownCombo };
-    ComboBox(const QString &name, Style style, QObject *parent);
+    /// An editable one without items.
+    ComboBox(const QString &name, QObject *parent) : ComboBox(name, Style::DropDownCombo, parent) {}
+    /// With `items` the first one is chosen.
+    ComboBox(const QString &name, Style style, QObject *parent, const QStringList &items = {});
 
     [[nodiscard]] Style style() const { return mStyle; }
     [[nodiscard]] QString text() const;
@@ -77,7 +81,7 @@ class ListBox : public ListControl
     Q_OBJECT
 
   public:
-    using ListControl::ListControl;
+    ListBox(const QString &name, QObject *parent) : ListControl(name, parent) {}
 
     [[nodiscard]] bool isSelected(int index) const;
     /// Error 380 outside the list. A changed selection raises Click.

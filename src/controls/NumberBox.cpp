@@ -9,7 +9,7 @@ bool isDigits(const QString &text)
 }
 } // namespace
 
-NumberBox::NumberBox(const QString &name, QObject *parent) : Control(name, parent)
+NumberBox::NumberBox(const QString &name, QObject *parent, int digits) : Control(name, parent), mDigits(digits)
 {
     setBackColor(Colours::Window);
     setForeColor(Colours::WindowText);

@@ -10,8 +10,8 @@ class NumberBox : public Control
   public:
     static constexpr int MaxDigits = 11;
 
-    /// Three digits, step 1, value 0.
-    NumberBox(const QString &name, QObject *parent);
+    /// Step 1, value 0.
+    NumberBox(const QString &name, QObject *parent, int digits = 3);
 
     [[nodiscard]] int digits() const { return mDigits; }
     /// 2 to 11 digits, and the value 0; any other number is ignored.

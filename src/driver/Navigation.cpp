@@ -25,7 +25,7 @@ bool Navigation::OpenSite(const QString &url)
             mStatus.UpDateStatus("Invalid url "_L1 + url);
             return;
         }
-        const bool internal = mForm.cboANWBSelect.listIndex() == internalBrowser;
+        const bool internal = mForm.browser.cboANWBSelect.listIndex() == internalBrowser;
         mBrowser->NavigateToUrl(internal ? forInternalBrowser(url) : url);
         issued = true;
     });

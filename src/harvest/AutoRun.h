@@ -55,7 +55,7 @@ class AutoRun : public QObject
     [[nodiscard]] Next visit(const Walk &walk, int index);
     [[nodiscard]] QString end(const Walk &walk);
     void readLinks(const Walk &walk);
-    [[nodiscard]] bool mayGoOn() const { return !mForm.mbANCancel && mForm.mbInitialized; }
+    [[nodiscard]] bool mayGoOn() const { return !mForm.runs.mbANCancel && mForm.browser.mbInitialized; }
     [[nodiscard]] QString savedUrl(int row);
 
     ErrorReceiver &mLog;

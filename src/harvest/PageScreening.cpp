@@ -71,13 +71,13 @@ PageScreening::PageScreening(ErrorReceiver &log, frmSearch &form, StatusLine &st
 bool PageScreening::NotQB(const QString &url)
 {
     return guardedResult(mLog, {module, "Function NotQB"_L1}, false,
-                         [&](bool &mayOpen) { mayOpen = ::NotQB(url, mForm.mastrQB); });
+                         [&](bool &mayOpen) { mayOpen = ::NotQB(url, mForm.blocking.mastrQB); });
 }
 
 void PageScreening::PageNotFound(PageReading &page)
 {
     guarded(mLog, {module, "sub PageNotFound"_L1}, [&] {
-        const qint64 least = mForm.incNotFoundMinSize.value();
+        const qint64 least = mForm.limits.incNotFoundMinSize.value();
         if (least != 0 && page.html().size() > least)
             return;
         const bool isErrorPage =
@@ -92,14 +92,16 @@ void PageScreening::PageNotFound(PageReading &page)
         mStatus.UpDateStatus(u"404 - Opening Server"_s);
         page.forget();
         mNavigation.OpenSite(server);
-        mTimer.TimeIt(mForm.incANTiming.value());
+        mTimer.TimeIt(mForm.autoRun.incANTiming.value());
     });
 }
 
 bool PageScreening::IsMCGo(PageReading &page)
 {
     return guardedResult(mLog, {module, "Function IsMCGo"_L1}, false, [&](bool &go) {
-        const TextTest test{mForm.chkMustContain, mForm.chkMCCS, mForm.lstANMCAllAny, mForm.lstANMC, mForm.lblMCColor};
+        const TextTest test{mForm.criteria.mustContain.on, mForm.criteria.mustContain.caseSensitive,
+                            mForm.criteria.mustContain.demand, mForm.criteria.mustContain.items,
+                            mForm.criteria.mustContain.lamp};
         go = runTest(test, page, mustContain);
     });
 }
@@ -107,8 +109,9 @@ bool PageScreening::IsMCGo(PageReading &page)
 bool PageScreening::IsMNCGo(PageReading &page)
 {
     return guardedResult(mLog, {module, "Function IsMNCGo"_L1}, false, [&](bool &go) {
-        const TextTest test{mForm.chkMustNotContain, mForm.chkMNCCS, mForm.lstANMNCAllAny, mForm.lstANMNC,
-                            mForm.lblMNCColor};
+        const TextTest test{mForm.criteria.mustNotContain.on, mForm.criteria.mustNotContain.caseSensitive,
+                            mForm.criteria.mustNotContain.demand, mForm.criteria.mustNotContain.items,
+                            mForm.criteria.mustNotContain.lamp};
         go = runTest(test, page,
                      [](QStringView html, const QStringList &items, Demand, Qt::CaseSensitivity sensitivity) {
                          return mustNotContain(html, items, sensitivity);
@@ -119,22 +122,23 @@ bool PageScreening::IsMNCGo(PageReading &page)
 void PageScreening::CollectData(PageReading &page)
 {
     guarded(mLog, {module, "Sub CollectData"_L1}, [&] {
-        const bool wantPage =
-            mForm.chkSavePages.isOn() && (mForm.chkSaveToFile.value() == 1 || mForm.chkSaveToSS.value() == 1);
-        const qint64 least = mForm.incSMDMinHtmlSize.value();
+        const bool wantPage = mForm.outputs.chkSavePages.isOn() &&
+                              (mForm.outputs.chkSaveToFile.value() == 1 || mForm.outputs.chkSaveToSS.value() == 1);
+        const qint64 least = mForm.limits.incSMDMinHtmlSize.value();
         if (least > 0 && page.html().size() < least) {
-            for (Label *lamp : {&mForm.lblSummarySaved, &mForm.lblPageSaved, &mForm.lblEmailSaved, &mForm.lblPhoneSaved,
-                                &mForm.lblUrlSaved})
+            for (Label *lamp : {&mForm.outputs.lblSummarySaved, &mForm.outputs.lblPageSaved,
+                                &mForm.outputs.lblEmailSaved, &mForm.outputs.lblPhoneSaved, &mForm.outputs.lblUrlSaved})
                 lamp->setBackColor(Colours::ButtonFace);
             mStatus.UpDateStatus(u"Insufficient Size"_s);
             return;
         }
         if (!IsMCGo(page) || !IsMNCGo(page)) {
-            mForm.picANEnd.setBackColor(mForm.chkMCMNCStop.isOn() ? Colours::Green : Colours::ButtonFace);
+            mForm.browser.picANEnd.setBackColor(mForm.outputs.chkMCMNCStop.isOn() ? Colours::Green
+                                                                                  : Colours::ButtonFace);
             return;
         }
         const Outcome outcome = write(page, wantPage);
-        mForm.picANEnd.setBackColor(stopOnPass());
+        mForm.browser.picANEnd.setBackColor(stopOnPass());
         showOutcome(outcome);
     });
 }
@@ -146,16 +150,16 @@ PageScreening::Outcome PageScreening::write(PageReading &page, bool wantPage)
     bool committed = false;
     guarded(mLog, {module, "Sub CollectData"_L1}, [&] {
         Transaction transaction(*mDatabase);
-        if (mForm.chkSaveSummary.isOn())
+        if (mForm.outputs.chkSaveSummary.isOn())
             outcome.summary = mWriters.SaveSummary(page);
         if (wantPage)
             outcome.file = mWriters.SaveFile(page);
-        if (mForm.chkSaveEmail.isOn())
+        if (mForm.outputs.chkSaveEmail.isOn())
             outcome.email = mWriters.SaveEmail(page);
-        if (mForm.chkSavePhone.isOn())
+        if (mForm.outputs.chkSavePhone.isOn())
             outcome.phone = mWriters.SavePhone(page);
         const bool noData = outcome.summary % 2 == 0 && !outcome.file && !outcome.email && !outcome.phone;
-        if (mForm.chkSaveUrl.isOn() && (!mForm.chkSMD(urlIfNoData).isOn() || noData))
+        if (mForm.outputs.chkSaveUrl.isOn() && (!mForm.options.chkSMD(urlIfNoData).isOn() || noData))
             outcome.url = mWriters.SavePassUrl(page);
         committed = transaction.commit();
     });
@@ -170,16 +174,16 @@ PageScreening::Outcome PageScreening::write(PageReading &page, bool wantPage)
 
 Colour PageScreening::stopOnPass()
 {
-    if (!mForm.chkMCMNCStop.isOn())
+    if (!mForm.outputs.chkMCMNCStop.isOn())
         return Colours::ButtonFace;
-    if (mForm.mbANRunning) {
-        mForm.mbANMCMNCStopped = true;
-        mForm.mbANCancel = true;
+    if (mForm.runs.mbANRunning) {
+        mForm.runs.mbANMCMNCStopped = true;
+        mForm.runs.mbANCancel = true;
         return Colours::Red;
     }
-    if (mForm.mbMNRunning) {
-        mForm.mbMNMCMNCStopped = true;
-        mForm.mbMNCancel = true;
+    if (mForm.runs.mbMNRunning) {
+        mForm.runs.mbMNMCMNCStopped = true;
+        mForm.runs.mbMNCancel = true;
         return Colours::Blue;
     }
     return Colours::ButtonFace;
@@ -188,9 +192,10 @@ Colour PageScreening::stopOnPass()
 void PageScreening::showOutcome(const Outcome &outcome)
 {
     constexpr Colour bySummary[] = {Colours::Red, Colours::Green, Colours::Yellow, Colours::Green};
-    mForm.lblSummarySaved.setBackColor(mForm.chkSaveSummary.isOn() ? bySummary[outcome.summary] : Colours::ButtonFace);
-    mForm.lblPageSaved.setBackColor(reported(outcome.wantPage, outcome.file));
-    mForm.lblEmailSaved.setBackColor(reported(mForm.chkSaveEmail.isOn(), outcome.email));
-    mForm.lblPhoneSaved.setBackColor(reported(mForm.chkSavePhone.isOn(), outcome.phone));
-    mForm.lblUrlSaved.setBackColor(reported(mForm.chkSaveUrl.isOn(), outcome.url));
+    mForm.outputs.lblSummarySaved.setBackColor(mForm.outputs.chkSaveSummary.isOn() ? bySummary[outcome.summary]
+                                                                                   : Colours::ButtonFace);
+    mForm.outputs.lblPageSaved.setBackColor(reported(outcome.wantPage, outcome.file));
+    mForm.outputs.lblEmailSaved.setBackColor(reported(mForm.outputs.chkSaveEmail.isOn(), outcome.email));
+    mForm.outputs.lblPhoneSaved.setBackColor(reported(mForm.outputs.chkSavePhone.isOn(), outcome.phone));
+    mForm.outputs.lblUrlSaved.setBackColor(reported(mForm.outputs.chkSaveUrl.isOn(), outcome.url));
 }

@@ -59,7 +59,7 @@ int ResultWriters::SaveSummary(PageReading &page)
 {
     return guardedResult(mLog, {module, "Sub SaveSummary"_L1}, int(NothingSaved), [&](int &code) {
         QString url = page.url();
-        if (mForm.chkSMD(uniqueServers).value() == 1)
+        if (mForm.options.chkSMD(uniqueServers).value() == 1)
             url = cIEText::GetServerFromUrl(url, cIEText::hostOnly);
         url = withoutQuotes(url);
         if (url.isEmpty())
@@ -69,7 +69,7 @@ int ResultWriters::SaveSummary(PageReading &page)
             return;
         }
         QString data;
-        if (mForm.chkSavePages.value() == 1 && mForm.chkSaveToSS.value() == 1)
+        if (mForm.outputs.chkSavePages.value() == 1 && mForm.outputs.chkSaveToSS.value() == 1)
             data = mData.GetPageData(page, PageData::Target::SiteSummary);
         const QStringList row{recordElement("Title"_L1, page.title()), recordElement("Url"_L1, url),
                               recordElement("FullPage"_L1, data)};
@@ -84,9 +84,9 @@ bool ResultWriters::SaveFile(PageReading &page)
         const QString data = mData.GetPageData(page, PageData::Target::File);
         if (data.isEmpty())
             return;
-        QString name = cUtility::Trim(mForm.txtSFMNDir.text()).toString() + "Page-1"_L1 +
-                       (mForm.cboANSaveType.listIndex() == 0 ? ".htm"_L1 : ".txt"_L1);
-        if (mForm.chkPutInOneFile.value() == 0) {
+        QString name = cUtility::Trim(mForm.places.txtSFMNDir.text()).toString() + "Page-1"_L1 +
+                       (mForm.outputs.cboANSaveType.listIndex() == 0 ? ".htm"_L1 : ".txt"_L1);
+        if (mForm.outputs.chkPutInOneFile.value() == 0) {
             while (QFile::exists(name))
                 name = cUtility::Incr(name, 4, true, 1, u"", u"1", u"", false);
         }
@@ -103,7 +103,7 @@ bool ResultWriters::SaveFile(PageReading &page)
 
 bool ResultWriters::summaryIndex(PageReading &page, const QString &url, QString &index)
 {
-    if (!mForm.chkSaveSummary.isOn())
+    if (!mForm.outputs.chkSaveSummary.isOn())
         return true;
     index = GetSSIndex(page, url);
     return isNumeric(index);
@@ -131,12 +131,13 @@ bool ResultWriters::SaveEmail(PageReading &page)
         const QString &html = page.html();
         QStringList addresses =
             html.size() < shortestPage ? QStringList() : cIEText::CollectEmail(html, u"@", mLog.ifListening());
-        const QString url = mForm.chkSMD(saveUrlWithEmail).value() == 1 ? page.url() : QString();
+        const QString url = mForm.options.chkSMD(saveUrlWithEmail).value() == 1 ? page.url() : QString();
         if (firstOf(addresses).isEmpty())
             return;
         addresses = cUtility::RemoveRepeatsFromArray(addresses);
-        if (mForm.chkEmailBlocking.isOn())
-            addresses = cUtility::FilterArray(addresses, cLstBx::GetItems(mForm.lstBlockedEmailC, cLstBx::Which::All));
+        if (mForm.blocking.email.on.isOn())
+            addresses =
+                cUtility::FilterArray(addresses, cLstBx::GetItems(mForm.blocking.email.items, cLstBx::Which::All));
         QString index;
         if (firstOf(addresses).isEmpty() || !summaryIndex(page, {}, index))
             return;
@@ -153,10 +154,10 @@ bool ResultWriters::SaveEmail(PageReading &page)
 bool ResultWriters::SavePhone(PageReading &page)
 {
     return guardedResult(mLog, {module, "Sub SavePhone"_L1}, false, [&](bool &saved) {
-        const QString url = mForm.chkSMD(saveUrlWithPhone).value() == 1 ? page.url() : QString();
-        const bool fax = mForm.chkSMD(faxOnly).isOn();
+        const QString url = mForm.options.chkSMD(saveUrlWithPhone).value() == 1 ? page.url() : QString();
+        const bool fax = mForm.options.chkSMD(faxOnly).isOn();
         QStringList numbers =
-            cAreaCode::FindPhoneNumbers(page.html(), cUtility::Trim(mForm.txtSBSelAreaCodes.text()), fax);
+            cAreaCode::FindPhoneNumbers(page.html(), cUtility::Trim(mForm.areaCodes.txtSBSelAreaCodes.text()), fax);
         if (firstOf(numbers).isEmpty())
             return;
         numbers = cUtility::RemoveRepeatsFromArray(numbers);

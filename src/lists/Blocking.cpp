@@ -44,15 +44,15 @@ Blocking::Row Blocking::row(Kind kind) const
     if (kind == Kind::Url)
         return {urlField,
                 emailField,
-                mForm.lstBlockedUrlC,
-                mForm.chkUrlBlocking,
+                mForm.blocking.urls.items,
+                mForm.blocking.urls.on,
                 "Urls Must Not contain"_L1,
                 "Sub AddBlockedUrl"_L1,
                 "Sub RemoveBlockedUrl"_L1};
     return {emailField,
             urlField,
-            mForm.lstBlockedEmailC,
-            mForm.chkEmailBlocking,
+            mForm.blocking.email.items,
+            mForm.blocking.email.on,
             "Emails Must Not contain"_L1,
             "Sub AddBlockedEC"_L1,
             "Sub RemoveBlockedEC"_L1};
@@ -61,8 +61,8 @@ Blocking::Row Blocking::row(Kind kind) const
 void Blocking::LoadBlocked()
 {
     guarded(mLog, {module, "Sub LoadBlocked"_L1}, [&] {
-        mForm.lstBlockedUrlC.clear();
-        mForm.lstBlockedEmailC.clear();
+        mForm.blocking.urls.items.clear();
+        mForm.blocking.email.items.clear();
         Recordset rows = mDatabase->GetRecordset(allRows());
         for (; !rows.Eof(); rows.MoveNext()) {
             for (const Kind kind : {Kind::Url, Kind::Email}) {
@@ -193,7 +193,7 @@ void Blocking::ClearBlockedList(Kind kind)
 void Blocking::addQuickBlock()
 {
     guarded(mLog, {module, "Sub lblAutoCollect_MouseDown"_L1}, [&] {
-        QStringList &blocked = mForm.mastrQB;
+        QStringList &blocked = mForm.blocking.mastrQB;
         const QString server = cIEText::GetServerFromUrl(mBrowser->GetSiteUrl(), nameAlone);
         if (server.isEmpty())
             return mStatus.UpDateStatus(u"Nothing to add"_s);
@@ -208,6 +208,6 @@ void Blocking::addQuickBlock()
 
 void Blocking::clearQuickBlock()
 {
-    mForm.mastrQB = emptyList();
+    mForm.blocking.mastrQB = emptyList();
     mStatus.UpDateStatus(u"Quick Block Cleared"_s);
 }

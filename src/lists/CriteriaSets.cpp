@@ -58,14 +58,14 @@ CriteriaSets::CriteriaSets(ErrorReceiver &log, frmSearch &form, StatusLine &stat
 CriteriaSets::Row CriteriaSets::row(List list) const
 {
     if (list == List::MustContain)
-        return {u"MC"_s, u"Must Contain"_s, mForm.lstANMC, mForm.lstANMCAllAny};
-    return {u"MNC"_s, u"Must Not Contain"_s, mForm.lstANMNC, mForm.lstANMNCAllAny};
+        return {u"MC"_s, u"Must Contain"_s, mForm.criteria.mustContain.items, mForm.criteria.mustContain.demand};
+    return {u"MNC"_s, u"Must Not Contain"_s, mForm.criteria.mustNotContain.items, mForm.criteria.mustNotContain.demand};
 }
 
 Recordset CriteriaSets::openSet(const Row &row)
 {
     return mDatabase->GetRecordset("SELECT * FROM "_L1 + row.table + " WHERE MaskName='"_L1 +
-                                   mForm.cboANMCMNCMask.text() + u'\'');
+                                   mForm.criteria.cboANMCMNCMask.text() + u'\'');
 }
 
 bool CriteriaSets::exists(const QString &name)
@@ -76,12 +76,12 @@ bool CriteriaSets::exists(const QString &name)
 void CriteriaSets::LoadMCMNC()
 {
     guarded(mLog, {module, "Sub LoadMCMNC"_L1}, [&] {
-        mForm.cboANMCMNCMask.clear();
-        mForm.lstANMC.clear();
-        mForm.lstANMNC.clear();
+        mForm.criteria.cboANMCMNCMask.clear();
+        mForm.criteria.mustContain.items.clear();
+        mForm.criteria.mustNotContain.items.clear();
         for (const QString &name : mDatabase->GetFieldData(u"MaskName"_s, u"MC"_s)) {
             if (!name.isEmpty())
-                mForm.cboANMCMNCMask.addItem(name);
+                mForm.criteria.cboANMCMNCMask.addItem(name);
         }
     });
 }
@@ -100,7 +100,7 @@ void CriteriaSets::fill(const Row &row, const QString &name)
 void CriteriaSets::AssignMaskElements(const QString &name)
 {
     guarded(mLog, {module, "Sub AssignMaskElements"_L1}, [&] {
-        const QString chosen = name.isEmpty() ? mForm.cboANMCMNCMask.text() : name;
+        const QString chosen = name.isEmpty() ? mForm.criteria.cboANMCMNCMask.text() : name;
         if (chosen.isEmpty())
             return;
         fill(row(List::MustContain), chosen);
@@ -132,8 +132,8 @@ QString CriteriaSets::AddMCMNCSet()
         if (!mDatabase->AddRecord(record, -1, u"MC"_s, rowMarker) ||
             !mDatabase->AddRecord(record, -1, u"MNC"_s, rowMarker) || !transaction.commit())
             return;
-        mForm.cboANMCMNCMask.addItem(name);
-        mForm.cboANMCMNCMask.setListIndex(mForm.cboANMCMNCMask.listCount() - 1);
+        mForm.criteria.cboANMCMNCMask.addItem(name);
+        mForm.criteria.cboANMCMNCMask.setListIndex(mForm.criteria.cboANMCMNCMask.listCount() - 1);
         status = u"Group Added"_s;
     });
 }
@@ -141,18 +141,18 @@ QString CriteriaSets::AddMCMNCSet()
 QString CriteriaSets::RemoveMCMNCSet()
 {
     return guardedResult(mLog, {module, "Sub RemoveMCMNCSet"_L1}, QString(), [&](QString &status) {
-        const QString name = mForm.cboANMCMNCMask.text();
+        const QString name = mForm.criteria.cboANMCMNCMask.text();
         status = u"Nothing Selected"_s;
         if (name.isEmpty())
             return;
         for (const List list : {List::MustContain, List::MustNotContain})
             static_cast<void>(
                 mDatabase->GetRecordset("DELETE * FROM "_L1 + row(list).table + " WHERE MaskName='"_L1 + name + u'\''));
-        const int index = mForm.cboANMCMNCMask.listIndex();
-        mForm.cboANMCMNCMask.removeItem(index);
-        mForm.lstANMC.clear();
-        mForm.lstANMNC.clear();
-        mForm.cboANMCMNCMask.setListIndex(index - 1);
+        const int index = mForm.criteria.cboANMCMNCMask.listIndex();
+        mForm.criteria.cboANMCMNCMask.removeItem(index);
+        mForm.criteria.mustContain.items.clear();
+        mForm.criteria.mustNotContain.items.clear();
+        mForm.criteria.cboANMCMNCMask.setListIndex(index - 1);
         status = name + " Removed"_L1;
     });
 }
@@ -160,7 +160,7 @@ QString CriteriaSets::RemoveMCMNCSet()
 QString CriteriaSets::AddMC(List list, const QString &item)
 {
     return guardedResult(mLog, {module, "Sub AddMC"_L1}, QString(), [&](QString &status) {
-        if (mForm.cboANMCMNCMask.text().isEmpty())
+        if (mForm.criteria.cboANMCMNCMask.text().isEmpty())
             return;
         const Row target = row(list);
         const QString added =
@@ -191,7 +191,7 @@ QString CriteriaSets::AddMC(List list, const QString &item)
 QString CriteriaSets::RemoveMC(List list, const QString &item)
 {
     return guardedResult(mLog, {module, "Sub RemoveMC"_L1}, QString(), [&](QString &status) {
-        if (mForm.cboANMCMNCMask.text().isEmpty())
+        if (mForm.criteria.cboANMCMNCMask.text().isEmpty())
             return;
         const Row target = row(list);
         const QString removed = item.isEmpty() ? chosenItem(target.list) : item;
@@ -222,7 +222,7 @@ QString CriteriaSets::RemoveMC(List list, const QString &item)
 QString CriteriaSets::ClearMC(List list)
 {
     return guardedResult(mLog, {module, "Sub ClearMC"_L1}, QString(), [&](QString &status) {
-        const QString name = mForm.cboANMCMNCMask.text();
+        const QString name = mForm.criteria.cboANMCMNCMask.text();
         if (name.isEmpty())
             return;
         const Row target = row(list);
@@ -296,7 +296,7 @@ void CriteriaSets::demandChosen(List list)
 
 void CriteriaSets::showTip(List list)
 {
-    if (mForm.chkSMV(0).value() != 1)
+    if (mForm.options.chkSMV(0).value() != 1)
         return;
     const Row target = row(list);
     target.list.setToolTipText(target.list.selCount() == 1

@@ -55,13 +55,13 @@ SavedUrls::SavedUrls(ErrorReceiver &log, frmSearch &form, StatusLine &status, Co
 
 QString SavedUrls::table(Kind kind) const
 {
-    return row(kind).family + mForm.cboANList.list(mForm.cboANList.listIndex());
+    return row(kind).family + mForm.saved.cboANList.list(mForm.saved.cboANList.listIndex());
 }
 
 QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, const QString &name, const QString &url)
 {
     return guardedResult(mLog, {module, "Function GetSavedUrl"_L1}, QString(), [&](QString &result) {
-        const QStringList &array = mForm.mastrSavedUrlIds;
+        const QStringList &array = mForm.saved.mastrSavedUrlIds;
         for (int i = 0; i <= upperBound(array); ++i) {
             const QStringList parts = array[i].split(lineEnd);
             const QString address = parts.value(1);
@@ -87,8 +87,8 @@ QString SavedUrls::GetNewMaskName(Kind kind, const QString &otherTable)
 void SavedUrls::LoadSavedUrls(Kind kind)
 {
     guarded(mLog, {module, "Sub LoadSavedUrls"_L1}, [&] {
-        mForm.cboANSavedUrls.clear();
-        mForm.mastrSavedUrlIds = emptyList();
+        mForm.saved.cboANSavedUrls.clear();
+        mForm.saved.mastrSavedUrlIds = emptyList();
         Recordset rows = mDatabase->GetRecordset("SELECT MaskName,Url FROM "_L1 + table(kind));
         std::optional<MaskNames> names; // read when the first row without a name asks for it
         for (; !rows.Eof(); rows.MoveNext()) {
@@ -100,8 +100,8 @@ void SavedUrls::LoadSavedUrls(Kind kind)
                 rows.Fields()["MaskName"_L1].setValue(name);
                 rows.Update();
             }
-            appendTo(mForm.mastrSavedUrlIds, name + lineEnd + FixNull(rows.Fields()["Url"_L1]));
-            mForm.cboANSavedUrls.addItem(name);
+            appendTo(mForm.saved.mastrSavedUrlIds, name + lineEnd + FixNull(rows.Fields()["Url"_L1]));
+            mForm.saved.cboANSavedUrls.addItem(name);
         }
     });
     mStates.SetStateOfControls();
@@ -119,20 +119,20 @@ QString SavedUrls::ExistsSavedUrl(const QString &url, const QString &name)
 void SavedUrls::AddSavedUrl(bool report, const QString &letter)
 {
     guarded(mLog, {module, "Sub AddSavedUrl"_L1}, [&] {
-        if (mForm.mbPassUrlsLoaded)
+        if (mForm.saved.mbPassUrlsLoaded)
             return mStatus.UpDateStatus(u"Can't Add PassUrls"_s);
         if (!mRecords.IsSiteDataSaved())
             return mStatus.UpDateStatus(u"No data saved for site"_s);
-        const QString onShow = mForm.cboANList.list(mForm.cboANList.listIndex());
+        const QString onShow = mForm.saved.cboANList.list(mForm.saved.cboANList.listIndex());
         const QString target = savedUrls.family + (letter.isEmpty() ? onShow : letter);
         const QString url = mBrowser->GetSiteUrl();
         const QString name = ExistsSavedUrl(url, target);
         if (name.isEmpty())
             return mStatus.UpDateStatus(report ? u"Url Exists (%1)"_s.arg(target) : QString());
         if (letter.isEmpty() || letter == onShow) {
-            appendTo(mForm.mastrSavedUrlIds, name + lineEnd + url);
-            mForm.cboANSavedUrls.addItem(name);
-            mForm.cboANSavedUrls.setListIndex(mForm.cboANSavedUrls.listCount() - 1);
+            appendTo(mForm.saved.mastrSavedUrlIds, name + lineEnd + url);
+            mForm.saved.cboANSavedUrls.addItem(name);
+            mForm.saved.cboANSavedUrls.setListIndex(mForm.saved.cboANSavedUrls.listCount() - 1);
         }
         // What did not reach the table is not told as saved.
         if (mDatabase->AddRecord({recordElement("MaskName"_L1, name), recordElement("Url"_L1, url)}, -1, target,
@@ -143,40 +143,41 @@ void SavedUrls::AddSavedUrl(bool report, const QString &letter)
 
 void SavedUrls::refillBox()
 {
-    mForm.cboANSavedUrls.clear();
-    for (const QString &element : std::as_const(mForm.mastrSavedUrlIds)) {
+    mForm.saved.cboANSavedUrls.clear();
+    for (const QString &element : std::as_const(mForm.saved.mastrSavedUrlIds)) {
         if (!element.isEmpty())
-            mForm.cboANSavedUrls.addItem(element.section(lineEnd, 0, 0));
+            mForm.saved.cboANSavedUrls.addItem(element.section(lineEnd, 0, 0));
     }
 }
 
 void SavedUrls::RemoveSavedUrl()
 {
-    const int index = mForm.cboANSavedUrls.listIndex();
-    const Kind kind = mForm.mbPassUrlsLoaded ? Kind::PassUrl : Kind::SavedUrl;
+    const int index = mForm.saved.cboANSavedUrls.listIndex();
+    const Kind kind = mForm.saved.mbPassUrlsLoaded ? Kind::PassUrl : Kind::SavedUrl;
     guarded(mLog, {module, "Sub RemoveSavedUrl"_L1}, [&] {
         if (index < 0)
             return;
-        mDatabase->DeleteRecords(table(kind), u"MaskName"_s, cUtility::Trim(mForm.cboANSavedUrls.text()).toString(),
-                                 false);
-        if (index > upperBound(mForm.mastrSavedUrlIds))
+        mDatabase->DeleteRecords(table(kind), u"MaskName"_s,
+                                 cUtility::Trim(mForm.saved.cboANSavedUrls.text()).toString(), false);
+        if (index > upperBound(mForm.saved.mastrSavedUrlIds))
             throw RuntimeError(ErrorNumber::SubscriptOutOfRange, u"Subscript out of range"_s);
-        mForm.mastrSavedUrlIds[index].clear();
-        mForm.mastrSavedUrlIds = orEmptyList(cUtility::RemoveEmptyItemsFromArray(mForm.mastrSavedUrlIds));
+        mForm.saved.mastrSavedUrlIds[index].clear();
+        mForm.saved.mastrSavedUrlIds = orEmptyList(cUtility::RemoveEmptyItemsFromArray(mForm.saved.mastrSavedUrlIds));
         refillBox();
-        const int count = mForm.cboANSavedUrls.listCount();
+        const int count = mForm.saved.cboANSavedUrls.listCount();
         if (count > 0) {
-            mForm.cboANSavedUrls.setListIndex(std::min(index, count - 1));
+            mForm.saved.cboANSavedUrls.setListIndex(std::min(index, count - 1));
         } else {
-            if (mForm.mbPassUrlsLoaded) {
-                mForm.mbPassUrlsLoaded = false;
-                mForm.cboANSavedUrls.setToolTipText(mForm.chkSMV(0).value() == 1 ? u"Saved Urls"_s : QString());
+            if (mForm.saved.mbPassUrlsLoaded) {
+                mForm.saved.mbPassUrlsLoaded = false;
+                mForm.saved.cboANSavedUrls.setToolTipText(mForm.options.chkSMV(0).value() == 1 ? u"Saved Urls"_s
+                                                                                               : QString());
                 LoadSavedUrls(Kind::SavedUrl);
             }
-            mForm.chkUseSavedUrls.setValue(0);
+            mForm.saved.chkUseSavedUrls.setValue(0);
         }
         mStatus.UpDateStatus(QString::number(count) + row(kind).label);
-        if (count > 0 && kind == Kind::PassUrl && mForm.chkSMA(openNextOnDelete).value() == 1)
+        if (count > 0 && kind == Kind::PassUrl && mForm.options.chkSMA(openNextOnDelete).value() == 1)
             cmdANSavedGo_Click();
     });
     mStates.SetStateOfControls();
@@ -185,28 +186,28 @@ void SavedUrls::RemoveSavedUrl()
 void SavedUrls::cmdANSavedGo_Click()
 {
     guarded(mLog, {module, "Sub cmdANSavedGo_Click"_L1}, [&] {
-        const int index = mForm.cboANSavedUrls.listIndex();
+        const int index = mForm.saved.cboANSavedUrls.listIndex();
         if (index < 0)
             return;
-        const QString url = GetSavedUrl(Answer::Url, -1, mForm.mastrSavedUrlIds.value(index), {}, {});
+        const QString url = GetSavedUrl(Answer::Url, -1, mForm.saved.mastrSavedUrlIds.value(index), {}, {});
         if (url.isEmpty())
             return;
         mNavigation.OpenSite(url);
-        const int option = mForm.mbPassUrlsLoaded ? incrementPassUrl : incrementSavedUrl;
-        if (mForm.chkSMA(option).value() == 1 && index + 1 < mForm.cboANSavedUrls.listCount())
-            mForm.cboANSavedUrls.setListIndex(index + 1);
+        const int option = mForm.saved.mbPassUrlsLoaded ? incrementPassUrl : incrementSavedUrl;
+        if (mForm.options.chkSMA(option).value() == 1 && index + 1 < mForm.saved.cboANSavedUrls.listCount())
+            mForm.saved.cboANSavedUrls.setListIndex(index + 1);
     });
 }
 
 void SavedUrls::SaveSavedUrlPos()
 {
-    if (const int index = mForm.cboANSavedUrls.listIndex(); index >= 0)
-        mSettings.SaveSetting(section, "ANListIndex"_L1 + mForm.cboANList.text(), QString::number(index));
+    if (const int index = mForm.saved.cboANSavedUrls.listIndex(); index >= 0)
+        mSettings.SaveSetting(section, "ANListIndex"_L1 + mForm.saved.cboANList.text(), QString::number(index));
 }
 
 void SavedUrls::SetSavedUrlPos()
 {
-    const int index = mSettings.GetSetting(section, "ANListIndex"_L1 + mForm.cboANList.text(), u"0"_s).toInt();
-    if (index >= 0 && index < mForm.cboANSavedUrls.listCount())
-        mForm.cboANSavedUrls.setListIndex(index);
+    const int index = mSettings.GetSetting(section, "ANListIndex"_L1 + mForm.saved.cboANList.text(), u"0"_s).toInt();
+    if (index >= 0 && index < mForm.saved.cboANSavedUrls.listCount())
+        mForm.saved.cboANSavedUrls.setListIndex(index);
 }

@@ -32,14 +32,14 @@ void BrowserConnection::InitializeIE()
     const int attempt = ++mAttempt;
     bool connected = false;
     guarded(mLog, {module, "Sub InitializeIE"_L1}, [&] {
-        mForm.mbInternalBrowser = false;
+        mForm.browser.mbInternalBrowser = false;
         mBrowser.release();
         mBrowser.set(std::make_unique<cIEObject>(mLog, mOut.desktop, mOut.clipboard, mOut.browsers));
-        connected = mForm.cboANWBSelect.listIndex() == internalMode ? connectInternal() : connectFreeStanding();
+        connected = mForm.browser.cboANWBSelect.listIndex() == internalMode ? connectInternal() : connectFreeStanding();
     });
     if (attempt != mAttempt)
         return;
-    mForm.mbInitialized = connected;
+    mForm.browser.mbInitialized = connected;
     mStatus.UpDateStatus(connected ? u"Initialized"_s : u"Not initialized"_s);
     mStates.SetStateOfControls();
 }
@@ -47,8 +47,8 @@ void BrowserConnection::InitializeIE()
 bool BrowserConnection::connectInternal()
 {
     std::shared_ptr<BrowserEngine> browser = mOut.browsers.internalBrowser();
-    mForm.mbInternalBrowser = browser && mBrowser->InitializeObject(std::move(browser));
-    return mForm.mbInternalBrowser;
+    mForm.browser.mbInternalBrowser = browser && mBrowser->InitializeObject(std::move(browser));
+    return mForm.browser.mbInternalBrowser;
 }
 
 bool BrowserConnection::connectFreeStanding()
@@ -85,7 +85,7 @@ std::shared_ptr<BrowserEngine> BrowserConnection::startBrowser()
 
 void BrowserConnection::cmdANInitialize_Click()
 {
-    mForm.cmdANInitialize.setEnabled(false);
+    mForm.browser.cmdANInitialize.setEnabled(false);
     mStatus.UpDateStatus(u"Initializing browser"_s);
     const int attempt = mAttempt;
     mOut.pump.doEvents();
@@ -120,13 +120,13 @@ bool BrowserConnection::VerifyIEPath()
 void BrowserConnection::windowClosed()
 {
     guarded(mLog, {module, "Sub mobjIE_WindowClosing"_L1}, [&] {
-        mForm.mbInitialized = false;
-        if (mForm.mbMNRunning) {
-            mForm.mbMNCancel = true;
+        mForm.browser.mbInitialized = false;
+        if (mForm.runs.mbMNRunning) {
+            mForm.runs.mbMNCancel = true;
             mTimer.CancelTimer();
         }
-        if (mForm.mbANRunning) {
-            mForm.mbANCancel = true;
+        if (mForm.runs.mbANRunning) {
+            mForm.runs.mbANCancel = true;
             mTimer.CancelTimer();
         }
         mBrowser.release();
@@ -138,21 +138,21 @@ void BrowserConnection::windowClosed()
 void BrowserConnection::newWindow(bool *cancel)
 {
     // The built-in browser has no second window.
-    if (mForm.mbInternalBrowser || mForm.chkSMV(blockPopUps).isOn())
+    if (mForm.browser.mbInternalBrowser || mForm.options.chkSMV(blockPopUps).isOn())
         *cancel = true;
 }
 
 void BrowserConnection::SetStandardPosition()
 {
     guarded(mLog, {module, "Sub SetStandardPosition"_L1}, [&] {
-        if (!mForm.mbInitialized)
+        if (!mForm.browser.mbInitialized)
             return;
-        const qint64 wantedWidth = mForm.incSMAIEWidth.value();
-        const qint64 wantedHeight = mForm.incSMAIEHeight.value();
+        const qint64 wantedWidth = mForm.limits.incSMAIEWidth.value();
+        const qint64 wantedHeight = mForm.limits.incSMAIEHeight.value();
         QRect window = mOut.place.place();
         window.moveTopLeft(mOut.place.screen().topLeft());
         mOut.place.moveTo(window);
-        if (mForm.mbInternalBrowser)
+        if (mForm.browser.mbInternalBrowser)
             return;
         mBrowser->IETop(0);
         mBrowser->IEWidth(wantedWidth >= smallestSize ? static_cast<int>(wantedWidth) : standardWidth);

@@ -25,13 +25,14 @@ DatabaseLoader::DatabaseLoader(ErrorReceiver &log, frmSearch &form, UserDialogs 
 
 QString DatabaseLoader::databasePath(bool useFileBox)
 {
-    const QString folder = mForm.txtSFDBDir.text();
-    const QString name = useFileBox ? mForm.txtSFDBFile.text() : mSettings.GetSetting(Options::startSection, nameKey);
+    const QString folder = mForm.places.txtSFDBDir.text();
+    const QString name =
+        useFileBox ? mForm.places.txtSFDBFile.text() : mSettings.GetSetting(Options::startSection, nameKey);
     if (!name.isEmpty() && QFile::exists(folder + name))
         return folder + name;
     QString vacant = cUtility::GetVacantFileSpecs(folder + firstDatabaseName);
     const QString vacantName = vacant.mid(vacant.lastIndexOf(u'/') + 1);
-    mForm.txtSFDBFile.setText(vacantName);
+    mForm.places.txtSFDBFile.setText(vacantName);
     mSettings.SaveSetting(Options::startSection, nameKey, vacantName);
     return vacant;
 }
@@ -100,22 +101,22 @@ bool DatabaseLoader::LoadDBData(bool useFileBox)
     guarded(mLog, {module, "Sub LoadDBData"_L1}, [&] {
         mCriteria.LoadMCMNC();
         mBlocking.LoadBlocked();
-        choose(mForm.cboANList, "cboANList"_L1);
+        choose(mForm.saved.cboANList, "cboANList"_L1);
         mSavedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
-        choose(mForm.cboANMCMNCMask, "cboMCMNCMask"_L1);
-        choose(mForm.cboANSavedUrls, "cboSavedUrl"_L1);
+        choose(mForm.criteria.cboANMCMNCMask, "cboMCMNCMask"_L1);
+        choose(mForm.saved.cboANSavedUrls, "cboSavedUrl"_L1);
         const auto stored = [&](QLatin1StringView key) {
             return mSettings.GetSetting(Options::section, key, u"0"_s).toInt();
         };
-        const int useSaved = mForm.cboANSavedUrls.listCount() > 0 ? stored("chkUseSavedUrls"_L1) : 0;
-        if (mForm.chkUseSavedUrls.value() != useSaved)
-            mForm.chkUseSavedUrls.setValue(useSaved);
+        const int useSaved = mForm.saved.cboANSavedUrls.listCount() > 0 ? stored("chkUseSavedUrls"_L1) : 0;
+        if (mForm.saved.chkUseSavedUrls.value() != useSaved)
+            mForm.saved.chkUseSavedUrls.setValue(useSaved);
         else
-            Q_EMIT mForm.chkUseSavedUrls.Click(); // its logic runs in any case
-        mForm.chkMustNotContain.setValue(stored("SearchKeyChkMustNotContain Value"_L1));
-        mForm.chkMustContain.setValue(stored("SearchKeyChkMustContain Value"_L1));
-        restoreBlocking(mForm.chkUrlBlocking, mForm.lstBlockedUrlC, "chkUrlBlocking"_L1);
-        restoreBlocking(mForm.chkEmailBlocking, mForm.lstBlockedEmailC, "chkEmailBlocking"_L1);
+            Q_EMIT mForm.saved.chkUseSavedUrls.Click(); // its logic runs in any case
+        mForm.criteria.mustNotContain.on.setValue(stored("SearchKeyChkMustNotContain Value"_L1));
+        mForm.criteria.mustContain.on.setValue(stored("SearchKeyChkMustContain Value"_L1));
+        restoreBlocking(mForm.blocking.urls.on, mForm.blocking.urls.items, "chkUrlBlocking"_L1);
+        restoreBlocking(mForm.blocking.email.on, mForm.blocking.email.items, "chkEmailBlocking"_L1);
     });
     return true;
 }

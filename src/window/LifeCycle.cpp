@@ -13,17 +13,6 @@ constexpr auto formName = "frmSearch"_L1;
 constexpr auto keepOnTopKey = "mnuANStatusKeepOnTop"_L1;
 constexpr int promptBeforeEnding = 7;
 constexpr int orientAtStart = 4;
-
-struct DigitRow
-{
-    NumberBox frmSearch::*box;
-    int digits;
-};
-
-constexpr DigitRow digitCounts[] = {{&frmSearch::incMNAutoUrl, 10},      {&frmSearch::incSFMinFileSize, 6},
-                                    {&frmSearch::incNotFoundMinSize, 6}, {&frmSearch::incSMAIEWidth, 4},
-                                    {&frmSearch::incSMAIEHeight, 4},     {&frmSearch::incSFMinGraphicSize, 6},
-                                    {&frmSearch::incSMAMAutoTxtElng, 4}, {&frmSearch::incSMDMinHtmlSize, 6}};
 } // namespace
 
 LifeCycle::LifeCycle(const Parts &parts) : m(parts)
@@ -40,8 +29,6 @@ bool LifeCycle::Form_Load()
 {
     bool usable = false;
     guarded(m.log, {module, "Sub Form_Load"_L1}, [&] {
-        for (const DigitRow &row : digitCounts)
-            (m.form.*row.box).DigitCount(row.digits);
         m.options.GetSettings();
         usable = m.loader.LoadDBData(false) && !mEnding;
         if (!usable)
@@ -59,7 +46,7 @@ void LifeCycle::settle()
 {
     guarded(m.log, {module, "Sub Form_Load"_L1}, [&] {
         if (m.settings.GetSetting(Options::section, u"chkSAMoveToTopLeft"_s, u"1"_s) == "1"_L1) {
-            m.form.chkSMV(orientAtStart).setValue(1);
+            m.form.options.chkSMV(orientAtStart).setValue(1);
             m.connection.SetStandardPosition();
         } else {
             m.place.moveTo(AlignFF(m.settings, formName, m.place.place(), m.place.screen()));
@@ -75,7 +62,7 @@ void LifeCycle::settle()
 
 void LifeCycle::Terminate()
 {
-    const bool asks = m.form.chkSMA(promptBeforeEnding).value() == 1;
+    const bool asks = m.form.options.chkSMA(promptBeforeEnding).value() == 1;
     if (asks && m.dialogs.ask(u"Program will terminate"_s, u"Shut down Trawlex?"_s, UserDialogs::Icon::Critical,
                               UserDialogs::Answer::Yes) != UserDialogs::Answer::Yes)
         return;
@@ -85,10 +72,10 @@ void LifeCycle::Terminate()
 void LifeCycle::stopRun()
 {
     guarded(m.log, {module, "Sub Terminate"_L1}, [&] {
-        if (m.form.mbANRunning)
-            m.form.mbANCancel = true;
-        else if (m.form.mbMNRunning)
-            m.form.mbMNCancel = true;
+        if (m.form.runs.mbANRunning)
+            m.form.runs.mbANCancel = true;
+        else if (m.form.runs.mbMNRunning)
+            m.form.runs.mbMNCancel = true;
         else
             return;
         m.timer.CancelTimer();
@@ -103,7 +90,7 @@ void LifeCycle::end()
     m.connection.giveUp();
     stopRun();
     // No object goes away while a run or the connecting of a browser stands on the stack.
-    if (!m.form.mbANRunning && !m.form.mbMNRunning && !mConnecting)
+    if (!m.form.runs.mbANRunning && !m.form.runs.mbMNRunning && !mConnecting)
         Form_Unload();
 }
 

@@ -20,7 +20,6 @@ QString refusal(frmSearch &form, const QString &name, const QString &value)
 TEST(ControlSetter, SetsEachKindOfControl)
 {
     frmSearch form;
-    form.incNotFoundMinSize.DigitCount(6);
     setControl(form, u"chkSaveSummary"_s, u"1"_s);
     setControl(form, u"chkSMA(9)"_s, u"1"_s);
     setControl(form, u"cboANSaveType"_s, u"Links"_s);
@@ -30,14 +29,14 @@ TEST(ControlSetter, SetsEachKindOfControl)
     setControl(form, u"txtANStartTag"_s, u"<b>"_s);
     setControl(form, u"lstANMC"_s, u"tea"_s);
     setControl(form, u"lstANMC"_s, u"coffee"_s);
-    EXPECT_EQ(form.chkSaveSummary.value(), 1);
-    EXPECT_EQ(form.chkSMA(9).value(), 1);
-    EXPECT_EQ(form.cboANSaveType.listIndex(), 2);
-    EXPECT_EQ(form.cboANList.text(), u"D"_s);
-    EXPECT_EQ(form.incANTiming.text(), u"005"_s);
-    EXPECT_EQ(form.incNotFoundMinSize.value(), 5000);
-    EXPECT_EQ(form.txtANStartTag.text(), u"<b>"_s);
-    EXPECT_EQ(form.lstANMC.items(), (QStringList{u"tea"_s, u"coffee"_s}));
+    EXPECT_EQ(form.outputs.chkSaveSummary.value(), 1);
+    EXPECT_EQ(form.options.chkSMA(9).value(), 1);
+    EXPECT_EQ(form.outputs.cboANSaveType.listIndex(), 2);
+    EXPECT_EQ(form.saved.cboANList.text(), u"D"_s);
+    EXPECT_EQ(form.autoRun.incANTiming.text(), u"005"_s);
+    EXPECT_EQ(form.limits.incNotFoundMinSize.value(), 5000);
+    EXPECT_EQ(form.outputs.txtANStartTag.text(), u"<b>"_s);
+    EXPECT_EQ(form.criteria.mustContain.items.items(), (QStringList{u"tea"_s, u"coffee"_s}));
 }
 
 namespace {
@@ -57,9 +56,9 @@ TEST_P(Refused, IsOneClearLineAndChangesNothing)
     frmSearch form;
     EXPECT_EQ(refusal(form, QString::fromLatin1(GetParam().control), QString::fromLatin1(GetParam().value)),
               QString::fromLatin1(GetParam().line));
-    EXPECT_EQ(form.chkSaveSummary.value(), 0);
-    EXPECT_EQ(form.incANTiming.value(), 0);
-    EXPECT_EQ(form.cboANList.listIndex(), 0);
+    EXPECT_EQ(form.outputs.chkSaveSummary.value(), 0);
+    EXPECT_EQ(form.autoRun.incANTiming.value(), 0);
+    EXPECT_EQ(form.saved.cboANList.listIndex(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(

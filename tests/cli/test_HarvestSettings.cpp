@@ -81,7 +81,7 @@ class OutcomeTest : public RunTest
 TEST_F(OutcomeTest, HoldsStatusLinksAndRows)
 {
     const Outcome outcome(*program);
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     showResults(makeSites(2));
     clickStart();
     EXPECT_TRUE(outcome.isFinished());

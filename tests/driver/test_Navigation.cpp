@@ -58,7 +58,7 @@ class Opening : public NavigationTest, public testing::WithParamInterface<OpenCa
 TEST_P(Opening, IsIssuedOrRefusedWithAStatus)
 {
     const OpenCase &row = GetParam();
-    form.cboANWBSelect.setListIndex(row.mode);
+    form.browser.cboANWBSelect.setListIndex(row.mode);
     EXPECT_EQ(navigation.OpenSite(row.url), !row.navigated.isEmpty());
     EXPECT_EQ(browser->navigated, row.navigated.isEmpty() ? QStringList() : QStringList{row.navigated});
     EXPECT_EQ(told, row.navigated.isEmpty() ? QStringList{u"Invalid url "_s + row.url} : QStringList());

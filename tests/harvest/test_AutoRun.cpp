@@ -28,15 +28,15 @@ TEST_F(AutoRunTest, VisitsEveryLinkInOrderAtThePaceOfTheCountdown)
     EXPECT_EQ(pump.seconds() - start, 15);
     EXPECT_EQ(statuses, (QStringList{u"1/3 http://www.site1.com/"_s, u"2/3 http://www.site2.com/"_s,
                                      u"3/3 http://www.site3.com/"_s, u"Stopped (FINISHED)"_s}));
-    EXPECT_EQ(form().mlngANLinkIndex, 0);
-    EXPECT_EQ(form().cmdANStart.caption(), u"Go"_s);
-    EXPECT_FALSE(form().mbANRunning);
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
+    EXPECT_EQ(form().autoRun.cmdANStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form().runs.mbANRunning);
     EXPECT_EQ(runs, 1);
 }
 
 TEST_F(AutoRunTest, SleepsBetweenTheSecondsOfAWait)
 {
-    form().incANTiming.setText(u"030"_s);
+    form().autoRun.incANTiming.setText(u"030"_s);
     showResults(makeSites(1));
     clickStart();
     EXPECT_LE(pump.waits, 40);
@@ -46,12 +46,12 @@ TEST_F(AutoRunTest, TheTimerCountsUpAndKeepsItsLastValue)
 {
     showResults(makeSites(1));
     QStringList shown;
-    QObject::connect(&form().lblTrawlexTimer, &Control::changed, &form(), [&] {
-        if (shown.isEmpty() || shown.constLast() != form().lblTrawlexTimer.caption())
-            shown.append(form().lblTrawlexTimer.caption());
+    QObject::connect(&form().browser.lblTrawlexTimer, &Control::changed, &form(), [&] {
+        if (shown.isEmpty() || shown.constLast() != form().browser.lblTrawlexTimer.caption())
+            shown.append(form().browser.lblTrawlexTimer.caption());
     });
     clickStart();
-    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"5"_s);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"5"_s);
     for (const auto *number : {"1", "2", "3", "4", "5"})
         EXPECT_TRUE(shown.contains(QLatin1StringView(number))) << number;
 }
@@ -63,7 +63,7 @@ TEST_F(AutoRunTest, WithoutARecordOfTheSiteNoRunTakesPlace)
     clickStart();
     EXPECT_EQ(statuses, QStringList{u"No data saved for site"_s});
     EXPECT_EQ(runs, 0);
-    EXPECT_EQ(form().cmdANStart.caption(), u"Go"_s);
+    EXPECT_EQ(form().autoRun.cmdANStart.caption(), u"Go"_s);
     EXPECT_TRUE(browser().navigated.isEmpty());
 }
 
@@ -80,13 +80,13 @@ TEST_F(AutoRunTest, WhileItRunsTheButtonSaysXAndTheTimerIsRed)
     QString caption;
     Colour colour = 0;
     pump.after(second, [&] {
-        caption = form().cmdANStart.caption();
-        colour = form().lblTrawlexTimer.backColor();
+        caption = form().autoRun.cmdANStart.caption();
+        colour = form().browser.lblTrawlexTimer.backColor();
     });
     clickStart();
     EXPECT_EQ(caption, u"X"_s);
     EXPECT_EQ(colour, Colours::Red);
-    EXPECT_EQ(form().lblTrawlexTimer.backColor(), Colours::ButtonFace);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.backColor(), Colours::ButtonFace);
 }
 
 TEST_F(AutoRunTest, XStopsInTheMiddleOfAWaitAndGoOpensTheSameLinkAgain)
@@ -97,8 +97,8 @@ TEST_F(AutoRunTest, XStopsInTheMiddleOfAWaitAndGoOpensTheSameLinkAgain)
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
     EXPECT_EQ(pump.seconds() - start, 7);
-    EXPECT_EQ(form().mlngANLinkIndex, 1);
-    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"0"_s);
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"0"_s);
     browser().navigated.clear();
     clickStart();
     EXPECT_EQ(browser().navigated, site({2, 3, 4}));
@@ -107,8 +107,8 @@ TEST_F(AutoRunTest, XStopsInTheMiddleOfAWaitAndGoOpensTheSameLinkAgain)
 
 TEST_F(AutoRunTest, ThePageThatWasWaitedForWhenXCameIsNotScreened)
 {
-    form().chkSaveSummary.setValue(1);
-    form().chkSMD(1).setValue(0);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().options.chkSMD(1).setValue(0);
     showResults(makeSites(2));
     pump.after(7 * second, [&] { clickStart(); });
     clickStart();
@@ -128,10 +128,10 @@ TEST_F(AutoRunTest, GoAfterFinishedTakesTheLinksOfThePageOnShowAfresh)
 
 TEST_F(AutoRunTest, ALeftClickOnTheTimerScreensThePageAtOnceAndTheRunGoesOn)
 {
-    form().chkSaveSummary.setValue(1);
-    form().chkSMD(1).setValue(0);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().options.chkSMD(1).setValue(0);
     showResults(makeSites(2));
-    pump.after(2 * second, [&] { form().lblTrawlexTimer.mouseDown(MouseButton::Left); });
+    pump.after(2 * second, [&] { form().browser.lblTrawlexTimer.mouseDown(MouseButton::Left); });
     const qint64 start = pump.seconds();
     clickStart();
     EXPECT_EQ(pump.seconds() - start, 2 + 5);
@@ -142,7 +142,7 @@ TEST_F(AutoRunTest, ALeftClickOnTheTimerScreensThePageAtOnceAndTheRunGoesOn)
 TEST_F(AutoRunTest, ARightClickOnTheTimerDoesNotEndTheWait)
 {
     showResults(makeSites(1));
-    pump.after(2 * second, [&] { form().lblTrawlexTimer.mouseDown(MouseButton::Right); });
+    pump.after(2 * second, [&] { form().browser.lblTrawlexTimer.mouseDown(MouseButton::Right); });
     const qint64 start = pump.seconds();
     clickStart();
     EXPECT_EQ(pump.seconds() - start, 5);
@@ -150,9 +150,9 @@ TEST_F(AutoRunTest, ARightClickOnTheTimerDoesNotEndTheWait)
 
 TEST_F(AutoRunTest, ATimeOfZeroReadsThePageThatStandsThereRightAfterTheNavigation)
 {
-    form().incANTiming.setText(u"0"_s);
-    form().chkSaveSummary.setValue(1);
-    form().chkSMD(1).setValue(0);
+    form().autoRun.incANTiming.setText(u"0"_s);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().options.chkSMD(1).setValue(0);
     const QStringList links = makeSites(2);
     for (const QString &link : links)
         browser().pages[link].loadTime = 10 * second;
@@ -166,8 +166,8 @@ TEST_F(AutoRunTest, ATimeOfZeroReadsThePageThatStandsThereRightAfterTheNavigatio
 
 TEST_F(AutoRunTest, APageThatIsSlowerThanTheCountdownIsScreenedAsItStands)
 {
-    form().chkSaveSummary.setValue(1);
-    form().chkSMD(1).setValue(0);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().options.chkSMD(1).setValue(0);
     const QStringList links = makeSites(2);
     browser().pages[links[1]].loadTime = 60 * second;
     showResults(links);
@@ -189,7 +189,7 @@ TEST_F(AutoRunTest, WhatIsNoLinkIsPassedOverWithAStatusAndWithoutAWait)
 
 TEST_F(AutoRunTest, QuickBlockedLinksArePassedOverWithoutStatusAndWait)
 {
-    form().mastrQB = {u"SITE2"_s, u"site3."_s};
+    form().blocking.mastrQB = {u"SITE2"_s, u"site3."_s};
     showResults(makeSites(4));
     const qint64 start = pump.seconds();
     clickStart();
@@ -201,7 +201,7 @@ TEST_F(AutoRunTest, QuickBlockedLinksArePassedOverWithoutStatusAndWait)
 
 TEST_F(AutoRunTest, ServersOnlyOpensTheServersOfTheLinks)
 {
-    form().chkSMA(0).setValue(1);
+    form().options.chkSMA(0).setValue(1);
     showResults({u"http://www.site1.com/deep/page.html"_s, u"http://www.site2.com/x"_s});
     clickStart();
     EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com"_s, u"http://www.site2.com"_s}));
@@ -209,7 +209,7 @@ TEST_F(AutoRunTest, ServersOnlyOpensTheServersOfTheLinks)
 
 TEST_F(AutoRunTest, ReturnsToThePageItBeganOnWhenItHasFinished)
 {
-    form().chkSMA(2).setValue(1);
+    form().options.chkSMA(2).setValue(1);
     showResults(makeSites(1));
     clickStart();
     EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com/"_s, u"http://www.seek.com/?q=tea"_s}));
@@ -218,7 +218,7 @@ TEST_F(AutoRunTest, ReturnsToThePageItBeganOnWhenItHasFinished)
 
 TEST_F(AutoRunTest, DoesNotReturnToTheStartPageWhenTheUserStops)
 {
-    form().chkSMA(2).setValue(1);
+    form().options.chkSMA(2).setValue(1);
     showResults(makeSites(2));
     pump.after(second, [&] { clickStart(); });
     clickStart();
@@ -231,8 +231,8 @@ TEST_F(AutoRunTest, ResetInTheMiddleStopsAndTheNextGoStartsAfresh)
     pump.after(7 * second, [&] { program->autoRun.ResetProcessAN(); });
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().mlngANLinkIndex, 0);
-    EXPECT_EQ(form().mastrLinks, emptyList());
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
+    EXPECT_EQ(form().autoRun.mastrLinks, emptyList());
     browser().show(u"http://www.seek.com/?q=tea"_s);
     browser().navigated.clear();
     clickStart();
@@ -244,10 +244,10 @@ TEST_F(AutoRunTest, ChangingTheListLetterDiscardsAPendingWalk)
     showResults(makeSites(3));
     pump.after(7 * second, [&] { clickStart(); });
     clickStart();
-    ASSERT_EQ(form().mlngANLinkIndex, 1);
-    form().cboANList.setListIndex(1);
-    EXPECT_EQ(form().mlngANLinkIndex, 0);
-    EXPECT_EQ(form().mastrLinks, emptyList());
+    ASSERT_EQ(form().autoRun.mlngANLinkIndex, 1);
+    form().saved.cboANList.setListIndex(1);
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
+    EXPECT_EQ(form().autoRun.mastrLinks, emptyList());
     EXPECT_EQ(lastStatus(), u"0 loaded"_s);
 }
 
@@ -269,7 +269,7 @@ TEST_F(AutoRunTest, AGoClickedBeforeTheStoppedRunHasUnwoundStartsNoSecondRun)
 
 TEST_F(AutoRunTest, TheBrowsersClosingInTheMiddleOfAWaitEndsTheRunOnTheSpot)
 {
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     showResults(makeSites(3));
     FakeBrowser &window = browser();
     pump.after(7 * second, [&] { window.close(); });
@@ -277,12 +277,12 @@ TEST_F(AutoRunTest, TheBrowsersClosingInTheMiddleOfAWaitEndsTheRunOnTheSpot)
     clickStart();
     EXPECT_EQ(pump.seconds() - start, 7);
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().picStatus.printed(), u"Stopped (USER)..."_s);
-    EXPECT_FALSE(form().mbInitialized);
+    EXPECT_EQ(form().frame.picStatus.printed(), u"Stopped (USER)..."_s);
+    EXPECT_FALSE(form().browser.mbInitialized);
     EXPECT_FALSE(program->browser.isSet());
-    EXPECT_EQ(form().mlngANLinkIndex, 1);
-    EXPECT_TRUE(form().cmdANInitialize.isEnabled());
-    EXPECT_FALSE(form().cmdANStart.isEnabled());
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
+    EXPECT_TRUE(form().browser.cmdANInitialize.isEnabled());
+    EXPECT_FALSE(form().autoRun.cmdANStart.isEnabled());
 }
 
 TEST_F(AutoRunTest, AfterTheBrowserIsConnectedAgainGoResumesTheWalk)
@@ -294,8 +294,8 @@ TEST_F(AutoRunTest, AfterTheBrowserIsConnectedAgainGoResumesTheWalk)
     clickStart();
     browsers.running = std::make_shared<FakeBrowser>(pump);
     browser().pages = pages;
-    form().cmdANInitialize.click();
-    ASSERT_TRUE(form().mbInitialized);
+    form().browser.cmdANInitialize.click();
+    ASSERT_TRUE(form().browser.mbInitialized);
     clickStart();
     EXPECT_EQ(browser().navigated, site({2, 3}));
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
@@ -305,21 +305,21 @@ TEST_F(AutoRunTest, ALinkListThatWasNeverDimensionedEndsTheRunWithAnUnknownError
 {
     addSaved(u"Results-100"_s, u"http://www.seek.com/?q=tea"_s);
     program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
-    form().chkUseSavedUrls.setValue(1);
+    form().saved.chkUseSavedUrls.setValue(1);
     // A driver that has never had a browser gives no list at all.
     program->browser.set(std::make_unique<cIEObject>(program->log, desktop, clipboard, browsers));
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (ERROR, UNKNOWN)"_s);
-    EXPECT_EQ(form().cmdANStart.caption(), u"Go"_s);
-    EXPECT_FALSE(form().mbANRunning);
+    EXPECT_EQ(form().autoRun.cmdANStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form().runs.mbANRunning);
 }
 
 TEST_F(AutoRunTest, WithErrorMessagesOnTheStatusComesBeforeTheBox)
 {
-    form().chkSMV(1).setValue(1);
+    form().options.chkSMV(1).setValue(1);
     qputenv("LOGFILES", folder.path().toUtf8());
     form().mbFormReady = false;
-    form().chkUseSavedUrls.setValue(1); // without any Saved Url
+    form().saved.chkUseSavedUrls.setValue(1); // without any Saved Url
     form().mbFormReady = true;
     bool toldBefore = false;
     dialogs.duringError = [&] { toldBefore = statuses.contains(u"Stopped (ERROR, UNKNOWN)"_s); };
@@ -333,8 +333,8 @@ TEST_F(AutoRunTest, WithErrorMessagesOnTheStatusComesBeforeTheBox)
 
 TEST_F(AutoRunTest, APageThatCannotBeReadIsLeftAndTheRunGoesOn)
 {
-    form().chkSaveSummary.setValue(1);
-    form().chkSMD(1).setValue(0);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().options.chkSMD(1).setValue(0);
     const QStringList links = makeSites(2);
     browser().pages[links[0]].readingFails = RuntimeError(50'001, u"took too long"_s);
     showResults(links);
@@ -365,14 +365,14 @@ class McmncStop : public AutoRunTest, public testing::WithParamInterface<McmncCa
 TEST_P(McmncStop, LeavesThePositionAsTold)
 {
     const McmncCase &row = GetParam();
-    form().chkMCMNCStop.setValue(1);
+    form().outputs.chkMCMNCStop.setValue(1);
     wantOnly(u"site %1,"_s.arg(row.stopsOn));
     showResults(makeSites(row.links));
     clickStart();
-    EXPECT_EQ(form().mlngANLinkIndex, row.index);
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, row.index);
     const QString last = u"%1/%2 http://www.site%1.com/"_s.arg(row.stopsOn).arg(row.links);
     EXPECT_EQ(lastStatus(), row.status.isEmpty() ? last : QString(row.status));
-    EXPECT_EQ(form().picANEnd.backColor(), Colours::Red);
+    EXPECT_EQ(form().browser.picANEnd.backColor(), Colours::Red);
     browser().navigated.clear();
     clickStart();
     EXPECT_EQ(browser().navigated.value(0),
@@ -393,9 +393,9 @@ INSTANTIATE_TEST_SUITE_P(AutoRun, McmncStop,
 
 TEST_F(AutoRunTest, TheWritersRunBeforeTheMcmncStop)
 {
-    form().chkMCMNCStop.setValue(1);
-    form().chkSaveSummary.setValue(1);
-    form().chkSMD(1).setValue(0);
+    form().outputs.chkMCMNCStop.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().options.chkSMD(1).setValue(0);
     wantOnly(u"site 1,"_s);
     showResults(makeSites(5));
     clickStart();
@@ -405,7 +405,7 @@ TEST_F(AutoRunTest, TheWritersRunBeforeTheMcmncStop)
 
 TEST_F(AutoRunTest, ANewGoForgetsAnEarlierMcmncStop)
 {
-    form().chkMCMNCStop.setValue(1);
+    form().outputs.chkMCMNCStop.setValue(1);
     wantOnly(u"site 1,"_s);
     showResults(makeSites(6));
     clickStart();

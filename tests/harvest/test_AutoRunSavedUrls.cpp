@@ -19,7 +19,7 @@ class SavedRun : public RunTest
             browser().pages[page(i + 1)].links = linksOfPages[i];
         }
         program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
-        form().chkUseSavedUrls.setValue(1);
+        form().saved.chkUseSavedUrls.setValue(1);
         statuses.clear();
     }
     void loadPassUrls(int count)
@@ -27,9 +27,9 @@ class SavedRun : public RunTest
         const QStringList links = makeSites(count);
         for (int i = 0; i < count; ++i)
             addSaved(u"PassUrl-%1"_s.arg(100 + i), links[i], u"PassUrlsA"_s);
-        form().mbPassUrlsLoaded = true;
+        form().saved.mbPassUrlsLoaded = true;
         program->savedUrls.LoadSavedUrls(SavedUrls::Kind::PassUrl);
-        form().chkUseSavedUrls.setValue(1);
+        form().saved.chkUseSavedUrls.setValue(1);
         statuses.clear();
     }
 };
@@ -45,14 +45,14 @@ TEST_F(SavedRun, OpensEachSavedPageGivesItThePauseAndWalksItsLinks)
     EXPECT_EQ(pump.seconds() - start, 2 + 5 + 5 + 2 + 5);
     EXPECT_EQ(statuses, (QStringList{u"Results-100"_s, u"1/2 http://www.site1.com/"_s, u"2/2 http://www.site2.com/"_s,
                                      u"Results-101"_s, u"1/1 http://www.site3.com/"_s, u"Stopped (FINISHED)"_s}));
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 1);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 1);
 }
 
 TEST_F(SavedRun, BeginsAtTheRowThatTheUserHasChosen)
 {
     const QStringList sites = makeSites(2);
     save({{sites[0]}, {sites[1]}});
-    form().cboANSavedUrls.setListIndex(1);
+    form().saved.cboANSavedUrls.setListIndex(1);
     statuses.clear();
     clickStart();
     EXPECT_EQ(browser().navigated, (QStringList{page(2), sites[1]}));
@@ -60,7 +60,7 @@ TEST_F(SavedRun, BeginsAtTheRowThatTheUserHasChosen)
 
 TEST_F(SavedRun, APauseOfZeroFallsBackToTheTimeOfTheLinks)
 {
-    form().incSmRPPause.setText(u"0"_s);
+    form().limits.incSmRPPause.setText(u"0"_s);
     const QStringList sites = makeSites(1);
     save({sites});
     const qint64 start = pump.seconds();
@@ -75,7 +75,7 @@ TEST_F(SavedRun, XInTheMiddleOfAPageResumesOnThatPageWithoutOpeningItAgain)
     pump.after(9 * second, [&] { clickStart(); }); // 2 of pause, 5 of the first link, 2 of the second
     clickStart();
     ASSERT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    ASSERT_EQ(form().mlngANLinkIndex, 1);
+    ASSERT_EQ(form().autoRun.mlngANLinkIndex, 1);
     browser().navigated.clear();
     clickStart();
     EXPECT_EQ(browser().navigated, (QStringList{sites[1], sites[2], page(2), sites[3]}));
@@ -89,16 +89,16 @@ TEST_F(SavedRun, XInTheMiddleOfAPauseStopsBeforeTheFirstLink)
     clickStart();
     EXPECT_EQ(browser().navigated, QStringList{page(1)});
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().mlngANLinkIndex, 0);
-    EXPECT_EQ(form().mastrLinks, sites);
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
+    EXPECT_EQ(form().autoRun.mastrLinks, sites);
 }
 
 TEST_F(SavedRun, ALeftClickOnTheTimerEndsThePauseAndTheRunGoesOn)
 {
     const QStringList sites = makeSites(1);
-    form().incSmRPPause.setText(u"100"_s);
+    form().limits.incSmRPPause.setText(u"100"_s);
     save({sites});
-    pump.after(3 * second, [&] { form().lblTrawlexTimer.mouseDown(MouseButton::Left); });
+    pump.after(3 * second, [&] { form().browser.lblTrawlexTimer.mouseDown(MouseButton::Left); });
     const qint64 start = pump.seconds();
     clickStart();
     EXPECT_EQ(pump.seconds() - start, 3 + 5);
@@ -112,8 +112,8 @@ TEST_F(SavedRun, TheBrowsersClosingInTheMiddleOfAPauseIsTheUsersStop)
     pump.after(second, [&] { window.close(); });
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_FALSE(form().mbInitialized);
-    EXPECT_EQ(form().mlngANLinkIndex, 0);
+    EXPECT_FALSE(form().browser.mbInitialized);
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
 }
 
 TEST_F(SavedRun, TwoEmptyPagesInARowEndTheRunThoughALaterOneHasLinks)
@@ -151,7 +151,7 @@ TEST_F(SavedRun, NoUrlsIsToldAlsoWhenTheUserHasStopped)
 
 TEST_F(SavedRun, AStopOnTheLastLinkOfAPageIsSeenOnlyInsideTheNextPage)
 {
-    form().chkMCMNCStop.setValue(1);
+    form().outputs.chkMCMNCStop.setValue(1);
     wantOnly(u"site 1,"_s);
     const QStringList sites = makeSites(4);
     save({{sites[0]}, {sites[1], sites[2], sites[3]}});
@@ -160,18 +160,18 @@ TEST_F(SavedRun, AStopOnTheLastLinkOfAPageIsSeenOnlyInsideTheNextPage)
     EXPECT_EQ(browser().navigated, (QStringList{page(1), sites[0], page(2)}));
     EXPECT_EQ(pump.seconds() - start, 2 + 5 + 2);
     EXPECT_EQ(lastStatus(), u"Stopped (MCMNC)"_s);
-    EXPECT_EQ(form().mlngANLinkIndex, 1);
+    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
 }
 
 TEST_F(SavedRun, WithoutAnySavedUrlTheRunEndsWithAnUnknownError)
 {
     form().mbFormReady = false;
-    form().chkUseSavedUrls.setValue(1);
+    form().saved.chkUseSavedUrls.setValue(1);
     form().mbFormReady = true;
     clickStart();
     EXPECT_EQ(statuses.value(0), u"Stopped (ERROR, UNKNOWN)"_s);
     EXPECT_EQ(runs, 1);
-    EXPECT_EQ(form().chkUseSavedUrls.value(), 0); // nothing to use
+    EXPECT_EQ(form().saved.chkUseSavedUrls.value(), 0); // nothing to use
 }
 
 TEST_F(SavedRun, ASavedAddressThatIsNoLinkKeepsTheLinksOfThePageBefore)
@@ -180,7 +180,7 @@ TEST_F(SavedRun, ASavedAddressThatIsNoLinkKeepsTheLinksOfThePageBefore)
     save({sites});
     addSaved(u"Results-101"_s, u"nonsense"_s);
     program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
-    form().chkUseSavedUrls.setValue(1);
+    form().saved.chkUseSavedUrls.setValue(1);
     statuses.clear();
     clickStart();
     EXPECT_EQ(browser().navigated, (QStringList{page(1), sites[0], sites[0]}));
@@ -189,7 +189,7 @@ TEST_F(SavedRun, ASavedAddressThatIsNoLinkKeepsTheLinksOfThePageBefore)
 
 TEST_F(SavedRun, FinishedReturnsToTheLastResultPage)
 {
-    form().chkSMA(2).setValue(1);
+    form().options.chkSMA(2).setValue(1);
     const QStringList sites = makeSites(2);
     save({{sites[0]}, {sites[1]}});
     clickStart();
@@ -198,7 +198,7 @@ TEST_F(SavedRun, FinishedReturnsToTheLastResultPage)
 
 TEST_F(SavedRun, ServersOnlyHoldsForSavedPagesToo)
 {
-    form().chkSMA(0).setValue(1);
+    form().options.chkSMA(0).setValue(1);
     save({{u"http://www.site1.com/deep"_s}});
     clickStart();
     EXPECT_EQ(browser().navigated, (QStringList{page(1), u"http://www.site1.com"_s}));
@@ -206,8 +206,8 @@ TEST_F(SavedRun, ServersOnlyHoldsForSavedPagesToo)
 
 TEST_F(SavedRun, TerminateInTheMiddleOfAPauseEndsWithoutWaitingForTheRest)
 {
-    form().chkSMA(7).setValue(0);
-    form().incSmRPPause.setText(u"100"_s);
+    form().options.chkSMA(7).setValue(0);
+    form().limits.incSmRPPause.setText(u"100"_s);
     save({makeSites(2), {}});
     pump.after(3 * second, [&] { program->lifeCycle.Terminate(); });
     const qint64 start = pump.seconds();
@@ -220,8 +220,8 @@ TEST_F(SavedRun, TerminateInTheMiddleOfAPauseEndsWithoutWaitingForTheRest)
 
 TEST_F(SavedRun, TerminateWhileASavedPageIsAboutToBeOpenedDoesNotWaitForIt)
 {
-    form().chkSMA(7).setValue(0);
-    form().incSmRPPause.setText(u"100"_s);
+    form().options.chkSMA(7).setValue(0);
+    form().limits.incSmRPPause.setText(u"100"_s);
     save({makeSites(2)});
     pump.after(0, [&] { program->lifeCycle.Terminate(); });
     const qint64 start = pump.tickCount();
@@ -241,13 +241,13 @@ TEST_F(SavedRun, APassUrlIsItselfThePageToVisit)
     EXPECT_EQ(pump.seconds() - start, 15);
     EXPECT_EQ(statuses, (QStringList{u"1/1 http://www.site1.com/"_s, u"1/1 http://www.site2.com/"_s,
                                      u"1/1 http://www.site3.com/"_s, u"Stopped (FINISHED)"_s}));
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 2);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 2);
 }
 
 TEST_F(SavedRun, ARunOverPassUrlsReturnsToWhereAnEarlierRunBegan)
 {
-    form().chkSMA(2).setValue(1);
-    form().mstrANStartUrl = u"http://www.seek.com/earlier"_s;
+    form().options.chkSMA(2).setValue(1);
+    form().autoRun.mstrANStartUrl = u"http://www.seek.com/earlier"_s;
     loadPassUrls(1);
     clickStart();
     EXPECT_EQ(browser().navigated.constLast(), u"http://www.seek.com/earlier"_s);
@@ -255,7 +255,7 @@ TEST_F(SavedRun, ARunOverPassUrlsReturnsToWhereAnEarlierRunBegan)
 
 TEST_F(SavedRun, ARunOverPassUrlsWithoutAnEarlierRunTellsOfAnInvalidUrlAndFinishes)
 {
-    form().chkSMA(2).setValue(1);
+    form().options.chkSMA(2).setValue(1);
     loadPassUrls(1);
     clickStart();
     EXPECT_EQ(statuses.mid(1), (QStringList{u"Invalid url "_s, u"Stopped (FINISHED)"_s}));

@@ -16,7 +16,7 @@ class PageDataTest : public RunTest
         page.text = u"One, two\r\nthree\nfour"_s;
         page.links = {u"http://www.a.com/x"_s, u"http://www.b.com/y"_s};
         browser().show(address);
-        form().chkSavePages.setValue(1);
+        form().outputs.chkSavePages.setValue(1);
     }
     QString data(PageData::Target target)
     {
@@ -29,7 +29,7 @@ class PageDataTest : public RunTest
 
 TEST_F(PageDataTest, IsEmptyUnlessPagesAreSaved)
 {
-    form().chkSavePages.setValue(0);
+    form().outputs.chkSavePages.setValue(0);
     EXPECT_EQ(data(PageData::Target::File), QString());
     EXPECT_EQ(data(PageData::Target::SiteSummary), QString());
 }
@@ -48,8 +48,8 @@ class Targets : public PageDataTest, public testing::WithParamInterface<TargetCa
 TEST_P(Targets, FollowTheTwoSwitches)
 {
     const TargetCase &row = GetParam();
-    form().chkSaveToSS.setValue(row.toSummary);
-    form().chkSaveToFile.setValue(row.toFile);
+    form().outputs.chkSaveToSS.setValue(row.toSummary);
+    form().outputs.chkSaveToFile.setValue(row.toFile);
     EXPECT_EQ(!data(PageData::Target::SiteSummary).isEmpty(), row.inSummary);
     EXPECT_EQ(!data(PageData::Target::File).isEmpty(), row.inFile);
 }
@@ -67,31 +67,31 @@ TEST_F(PageDataTest, AsHtmlItIsTheMarkup)
 
 TEST_F(PageDataTest, AsTextItIsOneLineWithoutCommas)
 {
-    form().cboANSaveType.setListIndex(1);
+    form().outputs.cboANSaveType.setListIndex(1);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"One  two three four"_s);
 }
 
 TEST_F(PageDataTest, AsLinksEachOneIsALineAndTheTagsApplyToEach)
 {
-    form().cboANSaveType.setListIndex(2);
+    form().outputs.cboANSaveType.setListIndex(2);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"http://www.a.com/x\r\nhttp://www.b.com/y\r\n"_s);
-    form().txtANStopTag.setText(u".com"_s);
+    form().outputs.txtANStopTag.setText(u".com"_s);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"http://www.a\r\nhttp://www.b\r\n"_s);
 }
 
 TEST_F(PageDataTest, APageWithoutLinksIsOneLineEnd)
 {
     browser().pages[address].links.clear();
-    form().cboANSaveType.setListIndex(2);
+    form().outputs.cboANSaveType.setListIndex(2);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"\r\n"_s);
 }
 
 TEST_F(PageDataTest, ATextShorterThanTheMinimumIsNotStored)
 {
     const auto length = browser().pages[address].html.size();
-    form().incSFMinFileSize.setText(QString::number(length));
+    form().limits.incSFMinFileSize.setText(QString::number(length));
     EXPECT_EQ(data(PageData::Target::SiteSummary).size(), length);
-    form().incSFMinFileSize.setText(QString::number(length + 1));
+    form().limits.incSFMinFileSize.setText(QString::number(length + 1));
     EXPECT_EQ(data(PageData::Target::SiteSummary), QString());
 }
 
@@ -118,13 +118,13 @@ constexpr Colour before = Colours::Blue; ///< what the boxes show from the page 
 TEST_P(Segments, AreCutAndTheBoxesTellWhatWasFound)
 {
     const SegmentCase &row = GetParam();
-    form().txtANStartTag.setText(row.start);
-    form().txtANStopTag.setText(row.stop);
-    form().txtANStartTag.setBackColor(before);
-    form().txtANStopTag.setBackColor(before);
+    form().outputs.txtANStartTag.setText(row.start);
+    form().outputs.txtANStopTag.setText(row.stop);
+    form().outputs.txtANStartTag.setBackColor(before);
+    form().outputs.txtANStopTag.setBackColor(before);
     EXPECT_EQ(program->pageData.GetStringSegment(u"ab[Begin]middle[End]yz"_s), row.result);
-    EXPECT_EQ(form().txtANStartTag.backColor(), row.startColour);
-    EXPECT_EQ(form().txtANStopTag.backColor(), row.stopColour);
+    EXPECT_EQ(form().outputs.txtANStartTag.backColor(), row.startColour);
+    EXPECT_EQ(form().outputs.txtANStopTag.backColor(), row.stopColour);
 }
 
 INSTANTIATE_TEST_SUITE_P(

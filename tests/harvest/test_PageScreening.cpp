@@ -14,7 +14,7 @@ class ScreeningTest : public RunTest
   protected:
     ScreeningTest()
     {
-        form().chkSMD(1).setValue(0);
+        form().options.chkSMD(1).setValue(0);
         page().html = u"<body>Green tea and BLACK coffee, nothing else here</body>"_s;
         page().title = u"A page"_s;
         page().text = u"Green tea and BLACK coffee, nothing else here"_s;
@@ -63,20 +63,20 @@ class ScreeningTest : public RunTest
 
 TEST_F(ScreeningTest, MustContainOffLetsEveryPageGoAndLeavesItsLampNeutral)
 {
-    fill(form().lstANMC, {u"cocoa"_s});
-    form().lblMCColor.setBackColor(Colours::Red);
+    fill(form().criteria.mustContain.items, {u"cocoa"_s});
+    form().criteria.mustContain.lamp.setBackColor(Colours::Red);
     EXPECT_TRUE(mustContain());
-    EXPECT_EQ(form().lblMCColor.backColor(), Colours::ButtonFace);
+    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::ButtonFace);
     EXPECT_EQ(browser().reads, 0);
 }
 
 TEST_F(ScreeningTest, AnEmptyListLetsEveryPageGoWithAGreenLamp)
 {
-    on({&form().chkMCMNCStop, &form().chkMustContain, &form().chkMustNotContain});
+    on({&form().outputs.chkMCMNCStop, &form().criteria.mustContain.on, &form().criteria.mustNotContain.on});
     EXPECT_TRUE(mustContain());
     EXPECT_TRUE(mustNotContain());
-    EXPECT_EQ(form().lblMCColor.backColor(), Colours::Green);
-    EXPECT_EQ(form().lblMNCColor.backColor(), Colours::Green);
+    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::Green);
+    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), Colours::Green);
 }
 
 namespace {
@@ -108,16 +108,16 @@ class MustNotContainTable : public ScreeningTest, public testing::WithParamInter
 TEST_P(MustContainTable, Decides)
 {
     const TextCase &row = GetParam();
-    on({&form().chkMCMNCStop, &form().chkMustContain});
-    form().chkMCCS.setValue(row.caseSensitive ? 1 : 0);
-    fill(form().lstANMC, row.items);
-    form().lstANMCAllAny.setListIndex(row.mode);
-    cLstBx::UnSelect(form().lstANMC);
+    on({&form().outputs.chkMCMNCStop, &form().criteria.mustContain.on});
+    form().criteria.mustContain.caseSensitive.setValue(row.caseSensitive ? 1 : 0);
+    fill(form().criteria.mustContain.items, row.items);
+    form().criteria.mustContain.demand.setListIndex(row.mode);
+    cLstBx::UnSelect(form().criteria.mustContain.items);
     for (const int index : row.userSelection)
-        form().lstANMC.setSelected(index, true);
+        form().criteria.mustContain.items.setSelected(index, true);
     EXPECT_EQ(mustContain(), row.mayGo);
-    EXPECT_EQ(selected(form().lstANMC), row.selectedAfter);
-    EXPECT_EQ(form().lblMCColor.backColor(), row.mayGo ? Colours::Green : Colours::Red);
+    EXPECT_EQ(selected(form().criteria.mustContain.items), row.selectedAfter);
+    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), row.mayGo ? Colours::Green : Colours::Red);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -150,16 +150,16 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_P(MustNotContainTable, Decides)
 {
     const TextCase &row = GetParam();
-    on({&form().chkMCMNCStop, &form().chkMustNotContain});
-    form().chkMNCCS.setValue(row.caseSensitive ? 1 : 0);
-    fill(form().lstANMNC, row.items);
-    form().lstANMNCAllAny.setListIndex(row.mode);
-    cLstBx::UnSelect(form().lstANMNC);
+    on({&form().outputs.chkMCMNCStop, &form().criteria.mustNotContain.on});
+    form().criteria.mustNotContain.caseSensitive.setValue(row.caseSensitive ? 1 : 0);
+    fill(form().criteria.mustNotContain.items, row.items);
+    form().criteria.mustNotContain.demand.setListIndex(row.mode);
+    cLstBx::UnSelect(form().criteria.mustNotContain.items);
     for (const int index : row.userSelection)
-        form().lstANMNC.setSelected(index, true);
+        form().criteria.mustNotContain.items.setSelected(index, true);
     EXPECT_EQ(mustNotContain(), row.mayGo);
-    EXPECT_EQ(selected(form().lstANMNC), row.selectedAfter);
-    EXPECT_EQ(form().lblMNCColor.backColor(), row.mayGo ? Colours::Green : Colours::Red);
+    EXPECT_EQ(selected(form().criteria.mustNotContain.items), row.selectedAfter);
+    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), row.mayGo ? Colours::Green : Colours::Red);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -177,8 +177,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ScreeningTest, AFailingTestRefusesThePage)
 {
-    on({&form().chkSaveSummary, &form().chkMustContain});
-    fill(form().lstANMC, {u"tea"_s});
+    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on});
+    fill(form().criteria.mustContain.items, {u"tea"_s});
     page().readingFails = RuntimeError(50'001, u"took too long"_s);
     screen();
     EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
@@ -188,28 +188,30 @@ TEST_F(ScreeningTest, AFailingTestRefusesThePage)
 
 TEST_F(ScreeningTest, APageBelowTheMinimumIsNeitherTestedNorStored)
 {
-    on({&form().chkSaveSummary, &form().chkSavePages, &form().chkMustContain});
-    fill(form().lstANMC, {u"cocoa"_s});
-    for (Label *lamp : {&form().lblSummarySaved, &form().lblPageSaved, &form().lblEmailSaved, &form().lblPhoneSaved,
-                        &form().lblUrlSaved, &form().lblMCColor, &form().lblMNCColor})
+    on({&form().outputs.chkSaveSummary, &form().outputs.chkSavePages, &form().criteria.mustContain.on});
+    fill(form().criteria.mustContain.items, {u"cocoa"_s});
+    for (Label *lamp : {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
+                        &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved, &form().criteria.mustContain.lamp,
+                        &form().criteria.mustNotContain.lamp})
         lamp->setBackColor(Colours::Yellow);
-    form().picANEnd.setBackColor(Colours::Yellow);
-    form().incSMDMinHtmlSize.setText(QString::number(page().html.size() + 1));
+    form().browser.picANEnd.setBackColor(Colours::Yellow);
+    form().limits.incSMDMinHtmlSize.setText(QString::number(page().html.size() + 1));
     screen();
     EXPECT_EQ(lastStatus(), u"Insufficient Size"_s);
     EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
-    for (const Label *lamp : {&form().lblSummarySaved, &form().lblPageSaved, &form().lblEmailSaved,
-                              &form().lblPhoneSaved, &form().lblUrlSaved})
+    for (const Label *lamp :
+         {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
+          &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved})
         EXPECT_EQ(lamp->backColor(), Colours::ButtonFace) << lamp->name().toStdString();
-    EXPECT_EQ(form().lblMCColor.backColor(), Colours::Yellow);
-    EXPECT_EQ(form().lblMNCColor.backColor(), Colours::Yellow);
-    EXPECT_EQ(form().picANEnd.backColor(), Colours::Yellow);
+    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::Yellow);
+    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), Colours::Yellow);
+    EXPECT_EQ(form().browser.picANEnd.backColor(), Colours::Yellow);
 }
 
 TEST_F(ScreeningTest, APageExactlyAsLongAsTheMinimumPasses)
 {
-    on({&form().chkSaveSummary});
-    form().incSMDMinHtmlSize.setText(QString::number(page().html.size()));
+    on({&form().outputs.chkSaveSummary});
+    form().limits.incSMDMinHtmlSize.setText(QString::number(page().html.size()));
     screen();
     EXPECT_EQ(rows(u"SiteSummary"_s), QStringList{address});
 }
@@ -222,24 +224,24 @@ TEST_F(ScreeningTest, AMinimumOfZeroReadsNothingToTestIt)
 
 TEST_F(ScreeningTest, AnUnwantedTextRefusesAPageThatHoldsTheWantedOne)
 {
-    on({&form().chkSaveSummary, &form().chkMustContain, &form().chkMustNotContain});
-    fill(form().lstANMC, {u"tea"_s});
-    fill(form().lstANMNC, {u"coffee"_s});
+    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on, &form().criteria.mustNotContain.on});
+    fill(form().criteria.mustContain.items, {u"tea"_s});
+    fill(form().criteria.mustNotContain.items, {u"coffee"_s});
     screen();
     EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
-    EXPECT_EQ(form().lblMCColor.backColor(), Colours::Green);
-    EXPECT_EQ(form().lblMNCColor.backColor(), Colours::Red);
+    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::Green);
+    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), Colours::Red);
 }
 
 TEST_F(ScreeningTest, ARefusedPageLeavesTheReportLabelsAsTheLastPassedPageSetThem)
 {
-    on({&form().chkSaveSummary, &form().chkMustContain});
-    form().mbANRunning = true; // labels are cleared when idle
+    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on});
+    form().runs.mbANRunning = true; // labels are cleared when idle
     screen();
-    ASSERT_EQ(form().lblSummarySaved.backColor(), Colours::Green);
-    fill(form().lstANMC, {u"cocoa"_s});
+    ASSERT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
+    fill(form().criteria.mustContain.items, {u"cocoa"_s});
     screen();
-    EXPECT_EQ(form().lblSummarySaved.backColor(), Colours::Green);
+    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
 }
 
 namespace {
@@ -259,18 +261,18 @@ class EndMarkTable : public ScreeningTest, public testing::WithParamInterface<En
 TEST_P(EndMarkTable, TellsWhetherTheRunGoesOn)
 {
     const EndMark &row = GetParam();
-    on({&form().chkSaveSummary, &form().chkMustContain});
-    form().chkMCMNCStop.setValue(row.stopOn ? 1 : 0);
-    fill(form().lstANMC, {row.passes ? u"tea"_s : u"cocoa"_s});
-    form().mbANRunning = row.autoRun;
-    form().mbMNRunning = row.manualRun;
-    form().picANEnd.setBackColor(Colours::Yellow);
+    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on});
+    form().outputs.chkMCMNCStop.setValue(row.stopOn ? 1 : 0);
+    fill(form().criteria.mustContain.items, {row.passes ? u"tea"_s : u"cocoa"_s});
+    form().runs.mbANRunning = row.autoRun;
+    form().runs.mbMNRunning = row.manualRun;
+    form().browser.picANEnd.setBackColor(Colours::Yellow);
     screen();
-    EXPECT_EQ(form().picANEnd.backColor(), row.colour);
-    EXPECT_EQ(form().mbANMCMNCStopped, row.stopsAuto);
-    EXPECT_EQ(form().mbANCancel, row.stopsAuto);
-    EXPECT_EQ(form().mbMNMCMNCStopped, row.stopsManual);
-    EXPECT_EQ(form().mbMNCancel, row.stopsManual);
+    EXPECT_EQ(form().browser.picANEnd.backColor(), row.colour);
+    EXPECT_EQ(form().runs.mbANMCMNCStopped, row.stopsAuto);
+    EXPECT_EQ(form().runs.mbANCancel, row.stopsAuto);
+    EXPECT_EQ(form().runs.mbMNMCMNCStopped, row.stopsManual);
+    EXPECT_EQ(form().runs.mbMNCancel, row.stopsManual);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -284,48 +286,50 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ScreeningTest, WithNothingToSaveAllReportLabelsAreNeutral)
 {
-    for (Label *lamp : {&form().lblSummarySaved, &form().lblPageSaved, &form().lblEmailSaved, &form().lblPhoneSaved,
-                        &form().lblUrlSaved})
+    for (Label *lamp : {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
+                        &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved})
         lamp->setBackColor(Colours::Yellow);
     screen();
-    for (const Label *lamp : {&form().lblSummarySaved, &form().lblPageSaved, &form().lblEmailSaved,
-                              &form().lblPhoneSaved, &form().lblUrlSaved})
+    for (const Label *lamp :
+         {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
+          &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved})
         EXPECT_EQ(lamp->backColor(), Colours::ButtonFace) << lamp->name().toStdString();
 }
 
 TEST_F(ScreeningTest, WhatWasFoundIsGreenAndWhatWasNotIsRed)
 {
-    form().mbANRunning = true;
-    on({&form().chkSaveSummary, &form().chkSaveEmail, &form().chkSavePhone, &form().chkSaveUrl, &form().chkSavePages,
-        &form().chkSaveToFile});
-    form().chkSMD(7).setValue(0);
+    form().runs.mbANRunning = true;
+    on({&form().outputs.chkSaveSummary, &form().outputs.chkSaveEmail, &form().outputs.chkSavePhone,
+        &form().outputs.chkSaveUrl, &form().outputs.chkSavePages, &form().outputs.chkSaveToFile});
+    form().options.chkSMD(7).setValue(0);
     page().html = u"<body>Write to info@teahouse.com, please do so as soon as you can manage it</body>"_s;
     screen();
-    EXPECT_EQ(form().lblSummarySaved.backColor(), Colours::Green);
-    EXPECT_EQ(form().lblPageSaved.backColor(), Colours::Green);
-    EXPECT_EQ(form().lblEmailSaved.backColor(), Colours::Green);
-    EXPECT_EQ(form().lblPhoneSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().lblUrlSaved.backColor(), Colours::Green);
+    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
+    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Green);
+    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Green);
+    EXPECT_EQ(form().outputs.lblPhoneSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form().outputs.lblUrlSaved.backColor(), Colours::Green);
 }
 
 TEST_F(ScreeningTest, TheSameAddressASecondTimeIsYellowAndAddsNoRow)
 {
-    form().mbANRunning = true;
-    on({&form().chkSaveSummary});
+    form().runs.mbANRunning = true;
+    on({&form().outputs.chkSaveSummary});
     screen();
-    ASSERT_EQ(form().lblSummarySaved.backColor(), Colours::Green);
+    ASSERT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
     screen();
-    EXPECT_EQ(form().lblSummarySaved.backColor(), Colours::Yellow);
+    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Yellow);
     EXPECT_EQ(rows(u"SiteSummary"_s).size(), 1);
 }
 
 TEST_F(ScreeningTest, APageThatWentIntoTheTableAloneShowsAsNotSavedToFile)
 {
-    form().mbANRunning = true;
-    on({&form().chkSaveSummary, &form().chkSavePages, &form().chkSaveToSS, &form().chkSaveUrl});
-    form().chkSaveToFile.setValue(0);
+    form().runs.mbANRunning = true;
+    on({&form().outputs.chkSaveSummary, &form().outputs.chkSavePages, &form().outputs.chkSaveToSS,
+        &form().outputs.chkSaveUrl});
+    form().outputs.chkSaveToFile.setValue(0);
     screen();
-    EXPECT_EQ(form().lblPageSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Red);
     EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{page().html});
 }
 
@@ -347,17 +351,17 @@ class PassUrlTable : public ScreeningTest, public testing::WithParamInterface<Pa
 TEST_P(PassUrlTable, IsPassedOnByTheRule)
 {
     const PassUrlCase &row = GetParam();
-    form().mbANRunning = true;
-    form().chkSMD(7).setValue(row.ifNoData ? 1 : 0);
-    form().chkSaveSummary.setValue(row.summary ? 1 : 0);
-    on({&form().chkSaveUrl, &form().chkSaveEmail});
+    form().runs.mbANRunning = true;
+    form().options.chkSMD(7).setValue(row.ifNoData ? 1 : 0);
+    form().outputs.chkSaveSummary.setValue(row.summary ? 1 : 0);
+    on({&form().outputs.chkSaveUrl, &form().outputs.chkSaveEmail});
     if (row.seenBefore)
         addRow(database(), u"SiteSummary"_s, {{u"Url"_s, address}});
     if (row.hasEmail)
         page().html += u" info@teahouse.com "_s;
     screen();
     EXPECT_EQ(rows(u"PassUrlsA"_s), row.passed ? QStringList{address} : QStringList());
-    EXPECT_EQ(form().lblUrlSaved.backColor(), row.passed ? Colours::Green : Colours::Red);
+    EXPECT_EQ(form().outputs.lblUrlSaved.backColor(), row.passed ? Colours::Green : Colours::Red);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screening, PassUrlTable,
@@ -373,8 +377,8 @@ INSTANTIATE_TEST_SUITE_P(Screening, PassUrlTable,
 
 TEST_F(ScreeningTest, TellsTheRowsOfEachPageByTable)
 {
-    form().mbANRunning = true;
-    on({&form().chkSaveSummary, &form().chkSaveEmail});
+    form().runs.mbANRunning = true;
+    on({&form().outputs.chkSaveSummary, &form().outputs.chkSaveEmail});
     page().html += u" info@teahouse.com and sales@teahouse.com "_s;
     screen();
     ASSERT_EQ(stored.size(), 1);
@@ -384,16 +388,17 @@ TEST_F(ScreeningTest, TellsTheRowsOfEachPageByTable)
 
 TEST_F(ScreeningTest, RowsThatDoNotReachTheFileAreRedAndAreNotTold)
 {
-    form().mbANRunning = true;
-    on({&form().chkSaveSummary, &form().chkSaveEmail, &form().chkSaveUrl, &form().chkSavePages, &form().chkSaveToFile});
+    form().runs.mbANRunning = true;
+    on({&form().outputs.chkSaveSummary, &form().outputs.chkSaveEmail, &form().outputs.chkSaveUrl,
+        &form().outputs.chkSavePages, &form().outputs.chkSaveToFile});
     page().html += u" info@teahouse.com "_s;
     database().CloseConnection();
     screen();
     EXPECT_TRUE(stored.isEmpty());
-    EXPECT_EQ(form().lblSummarySaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().lblEmailSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().lblUrlSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().lblPageSaved.backColor(), Colours::Green); // the file is there
+    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Red);
+    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form().outputs.lblUrlSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Green); // the file is there
 }
 
 // Error pages.
@@ -404,8 +409,8 @@ class NotFoundTest : public ScreeningTest
   protected:
     NotFoundTest()
     {
-        form().chkSaveSummary.setValue(1);
-        form().incNotFoundMinSize.setText(u"000200"_s);
+        form().outputs.chkSaveSummary.setValue(1);
+        form().limits.incNotFoundMinSize.setText(u"000200"_s);
         browser().pages[u"http://www.site1.com"_s].html = u"<body>the front page</body>"_s;
         showResults({address});
     }
@@ -462,7 +467,7 @@ TEST_F(NotFoundTest, APageExactlyAsLongAsTheLimitIsTested)
 
 TEST_F(NotFoundTest, ALimitOfZeroTestsNoPageOfARun)
 {
-    form().incNotFoundMinSize.setText(u"0"_s);
+    form().limits.incNotFoundMinSize.setText(u"0"_s);
     page().html = u"404"_s;
     clickStart();
     EXPECT_EQ(browser().navigated, QStringList{address});
@@ -470,7 +475,7 @@ TEST_F(NotFoundTest, ALimitOfZeroTestsNoPageOfARun)
 
 TEST_F(NotFoundTest, CalledWithALimitOfZeroItTestsPagesOfEveryLength)
 {
-    form().incNotFoundMinSize.setText(u"0"_s);
+    form().limits.incNotFoundMinSize.setText(u"0"_s);
     page().html = u"404 "_s + QString(5000, u'x');
     browser().show(address);
     PageReading reading(program->browser);
@@ -480,7 +485,7 @@ TEST_F(NotFoundTest, CalledWithALimitOfZeroItTestsPagesOfEveryLength)
 
 TEST_F(NotFoundTest, ServersOnlyLeavesTheTestOut)
 {
-    form().chkSMA(0).setValue(1);
+    form().options.chkSMA(0).setValue(1);
     browser().pages[u"http://www.site1.com"_s].html = u"404"_s;
     clickStart();
     EXPECT_EQ(browser().navigated, QStringList{u"http://www.site1.com"_s});

@@ -13,8 +13,8 @@ class WritersTest : public RunTest
   protected:
     WritersTest()
     {
-        form().chkSMD(1).setValue(0);
-        form().txtSFMNDir.setText(folder.path() + u'/');
+        form().options.chkSMD(1).setValue(0);
+        form().places.txtSFMNDir.setText(folder.path() + u'/');
         show(u"http://www.site1.com/a/page.html"_s);
     }
     void show(const QString &address, const QString &html = u"<body>a page of no interest</body>"_s)
@@ -62,8 +62,8 @@ class WritersTest : public RunTest
     }
     void savePagesToFile()
     {
-        form().chkSavePages.setValue(1);
-        form().chkSaveToFile.setValue(1);
+        form().outputs.chkSavePages.setValue(1);
+        form().outputs.chkSaveToFile.setValue(1);
     }
 };
 
@@ -86,7 +86,7 @@ TEST_F(WritersTest, ASummaryIsTitleAndAddress)
 
 TEST_F(WritersTest, WithPagesSavedToTheTableThePageIsInTheRow)
 {
-    form().chkSavePages.setValue(1);
+    form().outputs.chkSavePages.setValue(1);
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithPage);
     EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{u"<body>a page of no interest</body>"_s});
 }
@@ -94,7 +94,7 @@ TEST_F(WritersTest, WithPagesSavedToTheTableThePageIsInTheRow)
 TEST_F(WritersTest, WithPagesSavedToFilesAloneTheRowHasNone)
 {
     savePagesToFile();
-    form().chkSaveToSS.setValue(0);
+    form().outputs.chkSaveToSS.setValue(0);
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
     EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{QString()});
 }
@@ -126,7 +126,7 @@ TEST_F(WritersTest, AnAddressThatStandsThereIsNotAddedAgain)
 
 TEST_F(WritersTest, UniqueServersKeepOneRowForASite)
 {
-    form().chkSMD(1).setValue(1);
+    form().options.chkSMD(1).setValue(1);
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
     show(u"http://www.site1.com/other.html"_s);
     EXPECT_EQ(saveSummary(), ResultWriters::AlreadyThere);
@@ -150,7 +150,7 @@ TEST_F(WritersTest, APageWithoutAnAddressHasNoSummary)
 
 TEST_F(WritersTest, UniqueServersOfAPageWithoutAServerSaveNothing)
 {
-    form().chkSMD(1).setValue(1);
+    form().options.chkSMD(1).setValue(1);
     show(u"file:///home/page"_s);
     EXPECT_EQ(saveSummary(), ResultWriters::NothingSaved);
 }
@@ -192,7 +192,7 @@ TEST_F(WritersTest, DigitsInTheFoldersNameDoNotClimb)
     savePagesToFile();
     const QString sub = folder.path() + u"/2024-05/"_s;
     ASSERT_TRUE(QDir().mkpath(sub));
-    form().txtSFMNDir.setText(sub);
+    form().places.txtSFMNDir.setText(sub);
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(QFile::exists(sub + u"Page-2.htm"_s));
@@ -201,10 +201,10 @@ TEST_F(WritersTest, DigitsInTheFoldersNameDoNotClimb)
 TEST_F(WritersTest, BlanksAroundTheFolderDoNotCountAndOtherCharactersDo)
 {
     savePagesToFile();
-    form().txtSFMNDir.setText(u"  "_s + folder.path() + u"/ "_s);
+    form().places.txtSFMNDir.setText(u"  "_s + folder.path() + u"/ "_s);
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(QFile::exists(folder.filePath(u"Page-1.htm"_s)));
-    form().txtSFMNDir.setText(folder.path() + u"/\t"_s);
+    form().places.txtSFMNDir.setText(folder.path() + u"/\t"_s);
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(QFile::exists(folder.filePath(u"\tPage-1.htm"_s)));
 }
@@ -212,7 +212,7 @@ TEST_F(WritersTest, BlanksAroundTheFolderDoNotCountAndOtherCharactersDo)
 TEST_F(WritersTest, InOneFilePagesFollowOneAnotherDividedByTheLineEnd)
 {
     savePagesToFile();
-    form().chkPutInOneFile.setValue(1);
+    form().outputs.chkPutInOneFile.setValue(1);
     EXPECT_TRUE(saveFile());
     show(u"http://www.site2.com/"_s, u"<body>second</body>"_s);
     EXPECT_TRUE(saveFile());
@@ -226,9 +226,9 @@ TEST_F(WritersTest, TextAndLinksAreTxtFiles)
     savePagesToFile();
     browser().pages[u"http://www.site1.com/a/page.html"_s].text = u"the text"_s;
     browser().show(u"http://www.site1.com/a/page.html"_s);
-    form().cboANSaveType.setListIndex(1);
+    form().outputs.cboANSaveType.setListIndex(1);
     EXPECT_TRUE(saveFile());
-    form().cboANSaveType.setListIndex(2);
+    form().outputs.cboANSaveType.setListIndex(2);
     EXPECT_TRUE(saveFile());
     EXPECT_EQ(withoutMark(fileContent(u"Page-1.txt"_s)), "the text\r\n");
     EXPECT_EQ(withoutMark(fileContent(u"Page-2.txt"_s)), "\r\n\r\n"); // no link: one line end, and the file's own
@@ -237,7 +237,7 @@ TEST_F(WritersTest, TextAndLinksAreTxtFiles)
 TEST_F(WritersTest, WithNothingToStoreNoFileIsMade)
 {
     savePagesToFile();
-    form().incSFMinFileSize.setText(u"009999"_s);
+    form().limits.incSFMinFileSize.setText(u"009999"_s);
     EXPECT_FALSE(saveFile());
     EXPECT_FALSE(QFile::exists(folder.filePath(u"Page-1.htm"_s)));
 }
@@ -245,7 +245,7 @@ TEST_F(WritersTest, WithNothingToStoreNoFileIsMade)
 TEST_F(WritersTest, AFolderThatIsNotThereIsAFileNotSaved)
 {
     savePagesToFile();
-    form().txtSFMNDir.setText(folder.path() + u"/gone/"_s);
+    form().places.txtSFMNDir.setText(folder.path() + u"/gone/"_s);
     EXPECT_FALSE(saveFile());
 }
 
@@ -262,7 +262,7 @@ TEST_F(WritersTest, APassUrlGetsTheNextFreeName)
 
 TEST_F(WritersTest, APassUrlGoesToTheListInForce)
 {
-    form().cboANList.setListIndex(3);
+    form().saved.cboANList.setListIndex(3);
     EXPECT_TRUE(savePassUrl());
     EXPECT_EQ(rows(u"PassUrlsD"_s), QStringList{u"http://www.site1.com/a/page.html"_s});
     EXPECT_TRUE(rows(u"PassUrlsA"_s).isEmpty());
@@ -285,7 +285,7 @@ TEST_F(WritersTest, APassUrlLosesItsQuotes)
 
 TEST_F(WritersTest, WithSummariesOnAPassUrlCarriesTheIndexOfItsPage)
 {
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     addRow(database(), u"SiteSummary"_s, {{u"Url"_s, u"http://www.other.com/"_s}});
     saveSummary();
     EXPECT_TRUE(savePassUrl());
@@ -294,7 +294,7 @@ TEST_F(WritersTest, WithSummariesOnAPassUrlCarriesTheIndexOfItsPage)
 
 TEST_F(WritersTest, WithSummariesOnAndNoRowOfThePageTheIndexIsMinusOne)
 {
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     EXPECT_TRUE(savePassUrl());
     EXPECT_EQ(rows(u"PassUrlsA"_s, u"SSIndex"_s), QStringList{u"-1"_s});
 }
@@ -323,16 +323,16 @@ TEST_F(WritersTest, AddressesThatDifferInCaseAreOne)
 
 TEST_F(WritersTest, AnAddressWithAQuoteEndsItsWriterAndTheOthersGoOn)
 {
-    form().mbANRunning = true;
-    for (CheckBox *box : {&form().chkSaveEmail, &form().chkSaveSummary, &form().chkSaveUrl})
+    form().runs.mbANRunning = true;
+    for (CheckBox *box : {&form().outputs.chkSaveEmail, &form().outputs.chkSaveSummary, &form().outputs.chkSaveUrl})
         box->setValue(1);
-    form().chkSMD(7).setValue(0);
+    form().options.chkSMD(7).setValue(0);
     // What stands at the very beginning of a page is taken into an address whatever it is.
     show(u"http://www.site1.com/"_s, u"'ann@tea.com and bob@tea.com are what is to be found here"_s);
     PageReading reading = page();
     program->screening.CollectData(reading);
     EXPECT_TRUE(rows(u"EmailAddress"_s, u"Address"_s).isEmpty());
-    EXPECT_EQ(form().lblEmailSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Red);
     EXPECT_EQ(rows(u"SiteSummary"_s).size(), 1);
     EXPECT_EQ(rows(u"PassUrlsA"_s).size(), 1);
     show(u"http://www.site2.com/"_s, u" ann@tea.com and bob@tea.com are what is to be found here"_s);
@@ -349,7 +349,7 @@ TEST_F(WritersTest, APageWithoutAddressesSavesNone)
 
 TEST_F(WritersTest, WithoutTheOptionTheRowsUrlIsEmpty)
 {
-    form().chkSMD(3).setValue(0);
+    form().options.chkSMD(3).setValue(0);
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com is the one and only address here</body>"_s);
     EXPECT_TRUE(saveEmail());
     EXPECT_EQ(rows(u"EmailAddress"_s), QStringList{QString()});
@@ -357,8 +357,8 @@ TEST_F(WritersTest, WithoutTheOptionTheRowsUrlIsEmpty)
 
 TEST_F(WritersTest, BlockedTextsKeepAddressesOutWithoutRegardToCase)
 {
-    form().lstBlockedEmailC.addItem(u"@SPAM"_s);
-    form().chkEmailBlocking.setValue(1);
+    form().blocking.email.items.addItem(u"@SPAM"_s);
+    form().blocking.email.on.setValue(1);
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com and bob@spam.com are what is here</body>"_s);
     EXPECT_TRUE(saveEmail());
     EXPECT_EQ(rows(u"EmailAddress"_s, u"Address"_s), QStringList{u"ann@tea.com"_s});
@@ -368,14 +368,14 @@ TEST_F(WritersTest, BlockedTextsKeepAddressesOutWithoutRegardToCase)
 
 TEST_F(WritersTest, WithBlockingOffNothingIsKeptOut)
 {
-    form().lstBlockedEmailC.addItem(u"@spam"_s);
+    form().blocking.email.items.addItem(u"@spam"_s);
     show(u"http://www.site1.com/"_s, u"<body> bob@spam.com is all that there is to be found here</body>"_s);
     EXPECT_TRUE(saveEmail());
 }
 
 TEST_F(WritersTest, AddressesCarryTheIndexOfTheirPagesSummary)
 {
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com is the one and only address here</body>"_s);
     EXPECT_TRUE(saveEmail());
     EXPECT_EQ(rows(u"EmailAddress"_s, u"SSIndex"_s), QStringList{u"-1"_s});
@@ -387,16 +387,16 @@ TEST_F(WritersTest, AddressesCarryTheIndexOfTheirPagesSummary)
 
 TEST_F(WritersTest, AQueryThatFailsEndsItsWriterAndTheOthersGoOn)
 {
-    form().mbANRunning = true;
-    for (CheckBox *box : {&form().chkSaveEmail, &form().chkSaveSummary, &form().chkSaveUrl})
+    form().runs.mbANRunning = true;
+    for (CheckBox *box : {&form().outputs.chkSaveEmail, &form().outputs.chkSaveSummary, &form().outputs.chkSaveUrl})
         box->setValue(1);
-    form().chkSMD(7).setValue(0);
+    form().options.chkSMD(7).setValue(0);
     ASSERT_TRUE(database().RemoveTable(u"EmailAddress"_s));
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com is the one and only address here</body>"_s);
     PageReading reading = page();
     program->screening.CollectData(reading);
-    EXPECT_EQ(form().lblEmailSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().lblSummarySaved.backColor(), Colours::Green);
+    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
     EXPECT_EQ(rows(u"SiteSummary"_s).size(), 1);
     EXPECT_EQ(rows(u"PassUrlsA"_s).size(), 1);
 }
@@ -417,8 +417,8 @@ TEST_F(WritersTest, NumbersAreStoredOnceAsAnyOrFax)
 
 TEST_F(WritersTest, FaxNumbersOnly)
 {
-    form().chkSMD(6).setValue(1);
-    form().chkSMD(4).setValue(0);
+    form().options.chkSMD(6).setValue(1);
+    form().options.chkSMD(4).setValue(0);
     show(
         u"http://www.site1.com/"_s,
         u"<body>Call us at 212-555-0100 at any time of the day that suits you. Fax: 212-555-0101, day and night, always</body>"_s);
@@ -430,7 +430,7 @@ TEST_F(WritersTest, FaxNumbersOnly)
 
 TEST_F(WritersTest, NumbersCarryTheIndexOfTheirPagesSummary)
 {
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     addRow(database(), u"SiteSummary"_s, {{u"Url"_s, u"http://www.other.com/"_s}});
     show(u"http://www.site1.com/"_s, u"<body>Call us at 212-555-0100, whenever you like to call us</body>"_s);
     EXPECT_TRUE(savePhone());
@@ -443,7 +443,7 @@ TEST_F(WritersTest, NumbersCarryTheIndexOfTheirPagesSummary)
 
 TEST_F(WritersTest, OnlyTheChosenAreaCodesCount)
 {
-    form().txtSBSelAreaCodes.setText(u" 415 "_s);
+    form().areaCodes.txtSBSelAreaCodes.setText(u" 415 "_s);
     show(u"http://www.site1.com/"_s,
          u"<body>Call us at 212-555-0100 or at 415-555-0101, whenever you like to call us</body>"_s);
     EXPECT_TRUE(savePhone());

@@ -42,8 +42,8 @@ TEST_F(BlockingTest, BothListsAreFilledInRowOrder)
     addBlock({}, u"spam"_s);
     addBlock(u"banner"_s, u"noreply"_s);
     reload();
-    EXPECT_EQ(form().lstBlockedUrlC.items(), (QStringList{u"ads"_s, u"banner"_s}));
-    EXPECT_EQ(form().lstBlockedEmailC.items(), (QStringList{u"spam"_s, u"noreply"_s}));
+    EXPECT_EQ(form().blocking.urls.items.items(), (QStringList{u"ads"_s, u"banner"_s}));
+    EXPECT_EQ(form().blocking.email.items.items(), (QStringList{u"spam"_s, u"noreply"_s}));
 }
 
 TEST_F(BlockingTest, AStartWithTextsRestoresTheBoxAndTheFirstItem)
@@ -51,13 +51,13 @@ TEST_F(BlockingTest, AStartWithTextsRestoresTheBoxAndTheFirstItem)
     addBlock(u"ads"_s, u"spam"_s);
     settings.preset("chkUrlBlocking", u"1"_s);
     settings.preset("chkEmailBlocking", u"1"_s);
-    form().chkSaveEmail.setValue(1);
+    form().outputs.chkSaveEmail.setValue(1);
     program->lifeCycle.end();
     program.reset();
     load();
-    EXPECT_EQ(form().chkUrlBlocking.value(), 1);
-    EXPECT_EQ(form().chkEmailBlocking.value(), 1);
-    EXPECT_EQ(form().lstBlockedUrlC.listIndex(), 0);
+    EXPECT_EQ(form().blocking.urls.on.value(), 1);
+    EXPECT_EQ(form().blocking.email.on.value(), 1);
+    EXPECT_EQ(form().blocking.urls.items.listIndex(), 0);
 }
 
 TEST_F(BlockingTest, AnAddedTextTakesTheFirstRowThatHasRoom)
@@ -68,14 +68,14 @@ TEST_F(BlockingTest, AnAddedTextTakesTheFirstRowThatHasRoom)
     blocking().AddBlockedEC(u"noreply"_s);
     blocking().AddBlockedUrl(u"banner"_s);
     EXPECT_EQ(table(), (QStringList{u"ads|spam"_s, u"banner|noreply"_s}));
-    EXPECT_EQ(form().lstBlockedUrlC.items(), (QStringList{u"ads"_s, u"banner"_s}));
-    EXPECT_EQ(form().lstBlockedUrlC.listIndex(), 0);
+    EXPECT_EQ(form().blocking.urls.items.items(), (QStringList{u"ads"_s, u"banner"_s}));
+    EXPECT_EQ(form().blocking.urls.items.listIndex(), 0);
 }
 
 TEST_F(BlockingTest, CommasAreTakenOutAndNothingLeftAddsNothing)
 {
     blocking().AddBlockedUrl(u"a,b"_s);
-    EXPECT_EQ(form().lstBlockedUrlC.items(), QStringList{u"ab"_s});
+    EXPECT_EQ(form().blocking.urls.items.items(), QStringList{u"ab"_s});
     blocking().AddBlockedUrl(u",,"_s);
     EXPECT_EQ(table().size(), 1);
 }
@@ -86,7 +86,7 @@ TEST_F(BlockingTest, ATextIsAddedOnceButMayDifferInCase)
     blocking().AddBlockedUrl(u"ads"_s);
     EXPECT_EQ(lastStatus(), u"ads exists"_s);
     blocking().AddBlockedUrl(u"ADS"_s);
-    EXPECT_EQ(form().lstBlockedUrlC.items(), (QStringList{u"ads"_s, u"ADS"_s}));
+    EXPECT_EQ(form().blocking.urls.items.items(), (QStringList{u"ads"_s, u"ADS"_s}));
 }
 
 TEST_F(BlockingTest, AsksForATextAndProposesThePagesServerForLinks)
@@ -107,11 +107,11 @@ TEST_F(BlockingTest, AsksForATextAndProposesThePagesServerForLinks)
 TEST_F(BlockingTest, TheFirstTextDoesNotInItselfTurnBlockingOn)
 {
     blocking().AddBlockedUrl(u"ads"_s);
-    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
-    form().chkUrlBlocking.setValue(1);
+    EXPECT_EQ(form().blocking.urls.on.value(), 0);
+    form().blocking.urls.on.setValue(1);
     EXPECT_EQ(lastStatus(), u"Url blocking ON"_s);
     blocking().AddBlockedUrl(u"banner"_s);
-    EXPECT_EQ(form().chkUrlBlocking.value(), 1);
+    EXPECT_EQ(form().blocking.urls.on.value(), 1);
 }
 
 TEST_F(BlockingTest, RemovingALinkTextKeepsTheAddressTextOfItsRow)
@@ -119,22 +119,22 @@ TEST_F(BlockingTest, RemovingALinkTextKeepsTheAddressTextOfItsRow)
     addBlock(u"ads"_s, u"spam"_s);
     addBlock(u"banner"_s, {});
     reload();
-    choose(form().lstBlockedUrlC, 0);
+    choose(form().blocking.urls.items, 0);
     blocking().RemoveBlockedUrl(Batch::No);
     EXPECT_EQ(lastStatus(), u"ads removed"_s);
     EXPECT_EQ(table(), (QStringList{u"|spam"_s, u"banner|"_s}));
-    EXPECT_EQ(form().lstBlockedUrlC.items(), QStringList{u"banner"_s});
-    EXPECT_EQ(form().lstBlockedUrlC.listIndex(), 0);
+    EXPECT_EQ(form().blocking.urls.items.items(), QStringList{u"banner"_s});
+    EXPECT_EQ(form().blocking.urls.items.listIndex(), 0);
 }
 
 TEST_F(BlockingTest, ARowSharedByBothGoesWithItsSecondText)
 {
     addBlock(u"ads"_s, u"spam"_s);
     reload();
-    choose(form().lstBlockedEmailC, 0);
+    choose(form().blocking.email.items, 0);
     blocking().RemoveBlockedEC(Batch::No);
     EXPECT_EQ(table(), QStringList{u"ads|"_s});
-    choose(form().lstBlockedUrlC, 0);
+    choose(form().blocking.urls.items, 0);
     blocking().RemoveBlockedUrl(Batch::No);
     EXPECT_TRUE(table().isEmpty());
 }
@@ -145,12 +145,12 @@ TEST_F(BlockingTest, AnEarlierRowWithAnAddressTextAloneGoesWithALinkTextUntilThe
     addBlock(u"ads"_s, {});
     addBlock({}, u"later"_s);
     reload();
-    choose(form().lstBlockedUrlC, 0);
+    choose(form().blocking.urls.items, 0);
     blocking().RemoveBlockedUrl(Batch::No);
     EXPECT_EQ(table(), QStringList{u"|later"_s});
-    EXPECT_EQ(form().lstBlockedEmailC.items(), (QStringList{u"spam"_s, u"later"_s}));
+    EXPECT_EQ(form().blocking.email.items.items(), (QStringList{u"spam"_s, u"later"_s}));
     reload();
-    EXPECT_EQ(form().lstBlockedEmailC.items(), QStringList{u"later"_s});
+    EXPECT_EQ(form().blocking.email.items.items(), QStringList{u"later"_s});
 }
 
 TEST_F(BlockingTest, AnEarlierRowWithALinkTextAloneStaysWhenAnAddressTextGoes)
@@ -158,7 +158,7 @@ TEST_F(BlockingTest, AnEarlierRowWithALinkTextAloneStaysWhenAnAddressTextGoes)
     addBlock(u"ads"_s, {});
     addBlock({}, u"spam"_s);
     reload();
-    choose(form().lstBlockedEmailC, 0);
+    choose(form().blocking.email.items, 0);
     blocking().RemoveBlockedEC(Batch::No);
     EXPECT_EQ(table(), QStringList{u"ads|"_s});
 }
@@ -166,21 +166,21 @@ TEST_F(BlockingTest, AnEarlierRowWithALinkTextAloneStaysWhenAnAddressTextGoes)
 TEST_F(BlockingTest, RemovingTheLastTextClearsTheBoxAndItStaysOff)
 {
     blocking().AddBlockedUrl(u"ads"_s);
-    form().chkUrlBlocking.setValue(1);
-    choose(form().lstBlockedUrlC, 0);
+    form().blocking.urls.on.setValue(1);
+    choose(form().blocking.urls.items, 0);
     blocking().RemoveBlockedUrl(Batch::No);
-    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
+    EXPECT_EQ(form().blocking.urls.on.value(), 0);
     blocking().AddBlockedUrl(u"banner"_s);
-    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
+    EXPECT_EQ(form().blocking.urls.on.value(), 0);
 }
 
 TEST_F(BlockingTest, AllSelectedTextsAreRemoved)
 {
     for (const auto *text : {"a", "b", "c", "d"})
         blocking().AddBlockedUrl(QString::fromLatin1(text));
-    form().lstBlockedUrlC.choose(0, {true, false, true, true});
+    form().blocking.urls.items.choose(0, {true, false, true, true});
     blocking().RemoveBlocked(Kind::Url);
-    EXPECT_EQ(form().lstBlockedUrlC.items(), QStringList{u"b"_s});
+    EXPECT_EQ(form().blocking.urls.items.items(), QStringList{u"b"_s});
     EXPECT_EQ(table(), QStringList{u"b|"_s});
 }
 
@@ -190,7 +190,7 @@ TEST_F(BlockingTest, ClearingEmptiesTheListAndItsColumn)
     addBlock(u"banner"_s, {});
     reload();
     blocking().ClearBlockedList(Kind::Url);
-    EXPECT_EQ(form().lstBlockedUrlC.listCount(), 0);
+    EXPECT_EQ(form().blocking.urls.items.listCount(), 0);
     EXPECT_FALSE(table().join(u',').contains(u"ads"_s) || table().join(u',').contains(u"banner"_s));
 }
 

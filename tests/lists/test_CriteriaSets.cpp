@@ -12,9 +12,9 @@ class CriteriaTest : public ProgramTest
     CriteriaTest()
     {
         load();
-        form().chkSaveSummary.setValue(1);
-        form().chkMustContain.setValue(1);
-        form().chkMustNotContain.setValue(1);
+        form().outputs.chkSaveSummary.setValue(1);
+        form().criteria.mustContain.on.setValue(1);
+        form().criteria.mustNotContain.on.setValue(1);
     }
     CriteriaSets &sets() { return program->criteria; }
     void addSet(const QString &name)
@@ -40,23 +40,23 @@ class CriteriaTest : public ProgramTest
 
 TEST_F(CriteriaTest, ANewDatabaseHasNoSets)
 {
-    EXPECT_EQ(form().cboANMCMNCMask.listCount(), 0);
-    EXPECT_EQ(form().lstANMC.listCount(), 0);
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.listCount(), 0);
+    EXPECT_EQ(form().criteria.mustContain.items.listCount(), 0);
 }
 
 TEST_F(CriteriaTest, ANewSetIsTheChosenOneWithTwoEmptyLists)
 {
     dialogs.inputAnswers = {u"Tea"_s};
-    form().cmdANMCMaskAdd.click();
+    form().criteria.cmdANMCMaskAdd.click();
     ASSERT_EQ(dialogs.inputs.size(), 1);
     EXPECT_EQ(dialogs.inputs[0].title, u"New MC - MNC Set"_s);
     EXPECT_EQ(dialogs.inputs[0].text, u"Enter New (Must Contain - Must Not Contain) Group Name"_s);
     EXPECT_EQ(dialogs.inputs[0].prompt, u"Criteria-0"_s);
     EXPECT_EQ(lastStatus(), u"Group Added"_s);
-    EXPECT_EQ(form().cboANMCMNCMask.text(), u"Tea"_s);
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.text(), u"Tea"_s);
     EXPECT_EQ(rows(u"MC"_s, u"MaskName"_s), QStringList{u"Tea"_s});
     EXPECT_EQ(rows(u"MNC"_s, u"MaskName"_s), QStringList{u"Tea"_s});
-    EXPECT_TRUE(form().cmdANAddMC.isEnabled());
+    EXPECT_TRUE(form().criteria.mustContain.add.isEnabled());
 }
 
 TEST_F(CriteriaTest, TheProposedNameIsTheNextFreeOne)
@@ -70,7 +70,7 @@ TEST_F(CriteriaTest, TheProposedNameIsTheNextFreeOne)
 TEST_F(CriteriaTest, CommasAreTakenOutOfAName)
 {
     addSet(u"a,b"_s);
-    EXPECT_EQ(form().cboANMCMNCMask.items(), QStringList{u"ab"_s});
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.items(), QStringList{u"ab"_s});
 }
 
 TEST_F(CriteriaTest, ANameThatExistsIsAskedForAgain)
@@ -81,7 +81,7 @@ TEST_F(CriteriaTest, ANameThatExistsIsAskedForAgain)
     ASSERT_EQ(dialogs.inputs.size(), 3);
     EXPECT_EQ(dialogs.inputs[1].title, u"Item Exists"_s);
     EXPECT_EQ(dialogs.inputs[1].prompt, u"tea"_s);
-    EXPECT_EQ(form().cboANMCMNCMask.items(), (QStringList{u"Tea"_s, u"Coffee"_s}));
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.items(), (QStringList{u"Tea"_s, u"Coffee"_s}));
 }
 
 TEST_F(CriteriaTest, AnEmptyAnswerAddsNothing)
@@ -107,12 +107,12 @@ TEST_F(CriteriaTest, SetsAndItemsComeBackAtTheNextStart)
     addItems(List::MustNotContain, {u"iced"_s});
     addSet(u"Coffee"_s);
     restart();
-    EXPECT_EQ(form().cboANMCMNCMask.items(), (QStringList{u"Tea"_s, u"Coffee"_s}));
-    EXPECT_EQ(form().cboANMCMNCMask.text(), u"Coffee"_s); // the position was kept
-    EXPECT_EQ(form().lstANMC.listCount(), 0);
-    form().cboANMCMNCMask.setListIndex(0);
-    EXPECT_EQ(form().lstANMC.items(), (QStringList{u"green"_s, u"black"_s}));
-    EXPECT_EQ(form().lstANMNC.items(), QStringList{u"iced"_s});
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.items(), (QStringList{u"Tea"_s, u"Coffee"_s}));
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.text(), u"Coffee"_s); // the position was kept
+    EXPECT_EQ(form().criteria.mustContain.items.listCount(), 0);
+    form().criteria.cboANMCMNCMask.setListIndex(0);
+    EXPECT_EQ(form().criteria.mustContain.items.items(), (QStringList{u"green"_s, u"black"_s}));
+    EXPECT_EQ(form().criteria.mustNotContain.items.items(), QStringList{u"iced"_s});
 }
 
 TEST_F(CriteriaTest, RemovingASetMovesToTheOneBefore)
@@ -121,12 +121,12 @@ TEST_F(CriteriaTest, RemovingASetMovesToTheOneBefore)
     addItems(List::MustContain, {u"first"_s});
     addSet(u"Two"_s);
     addSet(u"Three"_s);
-    form().cboANMCMNCMask.setListIndex(1);
-    form().cmdANMCMaskMinus.click();
+    form().criteria.cboANMCMNCMask.setListIndex(1);
+    form().criteria.cmdANMCMaskMinus.click();
     EXPECT_EQ(lastStatus(), u"Two Removed"_s);
-    EXPECT_EQ(form().cboANMCMNCMask.items(), (QStringList{u"One"_s, u"Three"_s}));
-    EXPECT_EQ(form().cboANMCMNCMask.listIndex(), 0);
-    EXPECT_EQ(form().lstANMC.items(), QStringList{u"first"_s});
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.items(), (QStringList{u"One"_s, u"Three"_s}));
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.listIndex(), 0);
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{u"first"_s});
     EXPECT_EQ(rows(u"MC"_s, u"MaskName"_s), (QStringList{u"One"_s, u"Three"_s}));
     EXPECT_EQ(rows(u"MNC"_s, u"MaskName"_s), (QStringList{u"One"_s, u"Three"_s}));
 }
@@ -136,9 +136,9 @@ TEST_F(CriteriaTest, RemovingTheOnlySetLeavesNothingChosen)
     addSet(u"One"_s);
     addItems(List::MustContain, {u"first"_s});
     EXPECT_EQ(sets().RemoveMCMNCSet(), u"One Removed"_s);
-    EXPECT_EQ(form().cboANMCMNCMask.listIndex(), -1);
-    EXPECT_EQ(form().cboANMCMNCMask.listCount(), 0);
-    EXPECT_EQ(form().lstANMC.listCount(), 0);
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.listIndex(), -1);
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.listCount(), 0);
+    EXPECT_EQ(form().criteria.mustContain.items.listCount(), 0);
     EXPECT_EQ(sets().RemoveMCMNCSet(), u"Nothing Selected"_s);
 }
 
@@ -155,14 +155,14 @@ TEST_F(CriteriaTest, TheButtonAsksForAnItemAndTellsNothing)
     addSet(u"Tea"_s);
     dialogs.inputAnswers = {u"green"_s, u"iced"_s};
     statuses.clear();
-    form().cmdANAddMC.click();
-    form().cmdANAddMNC.click();
+    form().criteria.mustContain.add.click();
+    form().criteria.mustNotContain.add.click();
     ASSERT_EQ(dialogs.inputs.size(), 2);
     EXPECT_EQ(dialogs.inputs[0].title, u"New Item"_s);
     EXPECT_EQ(dialogs.inputs[0].text, u"Enter new Must Contain text"_s);
     EXPECT_EQ(dialogs.inputs[1].text, u"Enter new Must Not Contain text"_s);
-    EXPECT_EQ(form().lstANMC.items(), QStringList{u"green"_s});
-    EXPECT_EQ(form().lstANMNC.items(), QStringList{u"iced"_s});
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{u"green"_s});
+    EXPECT_EQ(form().criteria.mustNotContain.items.items(), QStringList{u"iced"_s});
     EXPECT_TRUE(statuses.isEmpty());
     EXPECT_EQ(sets().AddMC(List::MustContain), u"Add Canceled"_s);
 }
@@ -172,7 +172,7 @@ TEST_F(CriteriaTest, AnItemIsAddedOnceWhateverItsCase)
     addSet(u"Tea"_s);
     addItems(List::MustContain, {u"foo"_s});
     EXPECT_EQ(sets().AddMC(List::MustContain, u"FOO"_s), u"FOO Exists"_s);
-    EXPECT_EQ(form().lstANMC.items(), QStringList{u"foo"_s});
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{u"foo"_s});
 }
 
 TEST_F(CriteriaTest, FortyItemsAreTheLimit)
@@ -181,7 +181,7 @@ TEST_F(CriteriaTest, FortyItemsAreTheLimit)
     for (int i = 1; i <= 40; ++i)
         ASSERT_EQ(sets().AddMC(List::MustContain, u"item %1."_s.arg(i)), u"item %1. Added"_s.arg(i));
     EXPECT_EQ(sets().AddMC(List::MustContain, u"one more"_s), u"Not Added. Max 40"_s);
-    EXPECT_EQ(form().lstANMC.listCount(), 40);
+    EXPECT_EQ(form().criteria.mustContain.items.listCount(), 40);
 }
 
 TEST_F(CriteriaTest, ARemovedItemLeavesAGapThatTheNextOneTakes)
@@ -190,9 +190,9 @@ TEST_F(CriteriaTest, ARemovedItemLeavesAGapThatTheNextOneTakes)
     addItems(List::MustContain, {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s});
     EXPECT_EQ(sets().RemoveMC(List::MustContain, u"3"_s), u"3 Removed"_s);
     addItems(List::MustContain, {u"new"_s});
-    EXPECT_EQ(form().lstANMC.items(), (QStringList{u"1"_s, u"2"_s, u"4"_s, u"5"_s, u"new"_s}));
+    EXPECT_EQ(form().criteria.mustContain.items.items(), (QStringList{u"1"_s, u"2"_s, u"4"_s, u"5"_s, u"new"_s}));
     sets().AssignMaskElements();
-    EXPECT_EQ(form().lstANMC.items(), (QStringList{u"1"_s, u"2"_s, u"new"_s, u"4"_s, u"5"_s}));
+    EXPECT_EQ(form().criteria.mustContain.items.items(), (QStringList{u"1"_s, u"2"_s, u"new"_s, u"4"_s, u"5"_s}));
 }
 
 TEST_F(CriteriaTest, RemovesTheSelectedItem)
@@ -200,21 +200,21 @@ TEST_F(CriteriaTest, RemovesTheSelectedItem)
     addSet(u"Tea"_s);
     addItems(List::MustNotContain, {u"a"_s, u"b"_s});
     EXPECT_EQ(sets().RemoveMC(List::MustNotContain), u"Nothing Selected"_s);
-    form().lstANMNC.choose(1, {false, true});
+    form().criteria.mustNotContain.items.choose(1, {false, true});
     EXPECT_EQ(sets().RemoveMC(List::MustNotContain), u"b Removed"_s);
     EXPECT_EQ(sets().RemoveMC(List::MustNotContain, u"zzz"_s), u"Not Removed. Didn't exist"_s);
-    EXPECT_EQ(form().lstANMNC.items(), QStringList{u"a"_s});
+    EXPECT_EQ(form().criteria.mustNotContain.items.items(), QStringList{u"a"_s});
 }
 
 TEST_F(CriteriaTest, RemovesAllThatIsSelected)
 {
     addSet(u"Tea"_s);
     addItems(List::MustContain, {u"a"_s, u"b"_s, u"c"_s, u"d"_s});
-    form().lstANMC.choose(3, {true, false, true, true});
+    form().criteria.mustContain.items.choose(3, {true, false, true, true});
     sets().RemoveMCMNC(List::MustContain);
-    EXPECT_EQ(form().lstANMC.items(), QStringList{u"b"_s});
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{u"b"_s});
     sets().AssignMaskElements();
-    EXPECT_EQ(form().lstANMC.items(), QStringList{u"b"_s});
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{u"b"_s});
 }
 
 TEST_F(CriteriaTest, ClearingTakesTheItemsAndKeepsTheSet)
@@ -223,20 +223,20 @@ TEST_F(CriteriaTest, ClearingTakesTheItemsAndKeepsTheSet)
     addItems(List::MustContain, {u"a"_s, u"b"_s});
     addItems(List::MustNotContain, {u"c"_s});
     EXPECT_EQ(sets().ClearMC(List::MustContain), u"Tea (MC) Cleared"_s);
-    EXPECT_EQ(form().lstANMC.listCount(), 0);
-    EXPECT_EQ(form().lstANMNC.items(), QStringList{u"c"_s});
+    EXPECT_EQ(form().criteria.mustContain.items.listCount(), 0);
+    EXPECT_EQ(form().criteria.mustNotContain.items.items(), QStringList{u"c"_s});
     sets().AssignMaskElements();
-    EXPECT_EQ(form().lstANMC.listCount(), 0);
+    EXPECT_EQ(form().criteria.mustContain.items.listCount(), 0);
 }
 
 TEST_F(CriteriaTest, ASetWithoutItsMncRowShowsAnEmptyListAndTakesNothing)
 {
     addSaved(u"Half"_s, {}, u"MC"_s);
     program->loader.LoadDBData(false);
-    form().cboANMCMNCMask.setListIndex(0);
+    form().criteria.cboANMCMNCMask.setListIndex(0);
     EXPECT_EQ(sets().AddMC(List::MustNotContain, u"x"_s), QString());
     EXPECT_EQ(sets().ClearMC(List::MustNotContain), u"No Data Exists"_s);
-    EXPECT_EQ(form().lstANMNC.listCount(), 0);
+    EXPECT_EQ(form().criteria.mustNotContain.items.listCount(), 0);
 }
 
 // Dropped texts.
@@ -247,7 +247,7 @@ TEST_F(CriteriaTest, ADroppedLineCountsAsOneWhateverBecameOfIt)
     addItems(List::MustContain, {u"foo"_s});
     sets().drop(List::MustContain, u"FOO"_s);
     EXPECT_EQ(lastStatus(), u"1 Added"_s);
-    EXPECT_EQ(form().lstANMC.items(), QStringList{u"foo"_s});
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{u"foo"_s});
 }
 
 TEST_F(CriteriaTest, DroppedLinesThatStandThereDoNotCount)
@@ -256,18 +256,18 @@ TEST_F(CriteriaTest, DroppedLinesThatStandThereDoNotCount)
     addItems(List::MustContain, {u"foo"_s});
     sets().drop(List::MustContain, u"FOO\r\nbar\r\n\r\nbaz\r\n"_s);
     EXPECT_EQ(lastStatus(), u"2 Added"_s);
-    EXPECT_EQ(form().lstANMC.items(), (QStringList{u"foo"_s, u"bar"_s, u"baz"_s}));
+    EXPECT_EQ(form().criteria.mustContain.items.items(), (QStringList{u"foo"_s, u"bar"_s, u"baz"_s}));
 }
 
 // How a list is applied.
 
 TEST_F(CriteriaTest, SelectWithAnEmptyListFallsBackToAll)
 {
-    form().lstANMCAllAny.setListIndex(2);
-    EXPECT_EQ(form().lstANMCAllAny.listIndex(), 0);
+    form().criteria.mustContain.demand.setListIndex(2);
+    EXPECT_EQ(form().criteria.mustContain.demand.listIndex(), 0);
     EXPECT_EQ(lastStatus(), u"MC Not selected"_s);
     EXPECT_EQ(settings.of("optMCAllAny"), u"0"_s);
-    form().lstANMNCAllAny.setListIndex(2);
+    form().criteria.mustNotContain.demand.setListIndex(2);
     EXPECT_EQ(lastStatus(), u"MNC Not selected"_s);
 }
 
@@ -275,9 +275,9 @@ TEST_F(CriteriaTest, SelectWithNothingSelectedSelectsTheFirst)
 {
     addSet(u"Tea"_s);
     addItems(List::MustContain, {u"a"_s, u"b"_s});
-    form().lstANMCAllAny.setListIndex(2);
-    EXPECT_TRUE(form().lstANMC.isSelected(0));
-    EXPECT_FALSE(form().lstANMC.isSelected(1));
+    form().criteria.mustContain.demand.setListIndex(2);
+    EXPECT_TRUE(form().criteria.mustContain.items.isSelected(0));
+    EXPECT_FALSE(form().criteria.mustContain.items.isSelected(1));
     EXPECT_EQ(settings.of("optMCAllAny"), u"2"_s);
 }
 
@@ -285,20 +285,20 @@ TEST_F(CriteriaTest, SelectKeepsWhatTheUserHasSelected)
 {
     addSet(u"Tea"_s);
     addItems(List::MustContain, {u"a"_s, u"b"_s});
-    form().lstANMC.setSelected(1, true);
-    form().lstANMCAllAny.setListIndex(2);
-    EXPECT_FALSE(form().lstANMC.isSelected(0));
-    EXPECT_TRUE(form().lstANMC.isSelected(1));
+    form().criteria.mustContain.items.setSelected(1, true);
+    form().criteria.mustContain.demand.setListIndex(2);
+    EXPECT_FALSE(form().criteria.mustContain.items.isSelected(0));
+    EXPECT_TRUE(form().criteria.mustContain.items.isSelected(1));
 }
 
 TEST_F(CriteriaTest, TheListsTipIsItsOneSelectedItem)
 {
     addSet(u"Tea"_s);
     addItems(List::MustContain, {u"a"_s, u"b %1"_s});
-    form().lstANMC.setSelected(1, true);
-    EXPECT_EQ(form().lstANMC.toolTipText(), u"b %1, 2 items"_s);
-    form().lstANMC.setSelected(0, true);
-    EXPECT_EQ(form().lstANMC.toolTipText(), u"Must Contain (MC) list"_s);
+    form().criteria.mustContain.items.setSelected(1, true);
+    EXPECT_EQ(form().criteria.mustContain.items.toolTipText(), u"b %1, 2 items"_s);
+    form().criteria.mustContain.items.setSelected(0, true);
+    EXPECT_EQ(form().criteria.mustContain.items.toolTipText(), u"Must Contain (MC) list"_s);
 }
 
 TEST_F(CriteriaTest, AChangeBetweenTwoPagesActsFromTheNextPageOn)
@@ -306,13 +306,13 @@ TEST_F(CriteriaTest, AChangeBetweenTwoPagesActsFromTheNextPageOn)
     addSite();
     addSet(u"Tea"_s);
     addItems(List::MustContain, {u"site 1,"_s});
-    form().chkMustNotContain.setValue(0);
-    form().chkSMD(1).setValue(0);
-    form().incANTiming.setText(u"005"_s);
-    form().chkSMA(2).setValue(0);
+    form().criteria.mustNotContain.on.setValue(0);
+    form().options.chkSMD(1).setValue(0);
+    form().autoRun.incANTiming.setText(u"005"_s);
+    form().options.chkSMA(2).setValue(0);
     showResults(makeSites(2));
     pump.after(7000, [&] {
-        form().lstANMC.choose(0, {true});
+        form().criteria.mustContain.items.choose(0, {true});
         sets().RemoveMCMNC(List::MustContain);
     });
     clickStart();

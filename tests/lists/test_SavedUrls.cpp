@@ -17,7 +17,7 @@ class SavedUrlsTest : public RunTest
         for (int i = 0; i < count; ++i)
             addSaved((kind == Kind::PassUrl ? u"PassUrl-%1"_s : u"Results-%1"_s).arg(100 + i), url(i),
                      kind == Kind::PassUrl ? u"PassUrlsA"_s : u"RPgUrlsA"_s);
-        form().mbPassUrlsLoaded = kind == Kind::PassUrl;
+        form().saved.mbPassUrlsLoaded = kind == Kind::PassUrl;
         urls().LoadSavedUrls(kind);
         statuses.clear();
     }
@@ -43,7 +43,7 @@ class LookUps : public SavedUrlsTest, public testing::WithParamInterface<LookUp>
 
 TEST_P(LookUps, FindOneElement)
 {
-    form().mastrSavedUrlIds = {u"One\r\nhttp://a.com"_s, u"Two\r\nhttp://b.com"_s};
+    form().saved.mastrSavedUrlIds = {u"One\r\nhttp://a.com"_s, u"Two\r\nhttp://b.com"_s};
     const LookUp &row = GetParam();
     EXPECT_EQ(urls().GetSavedUrl(row.answer, row.index, row.item, row.name, row.url), row.result);
 }
@@ -69,15 +69,15 @@ TEST_F(SavedUrlsTest, LoadingKeepsTheTablesOrder)
     addSaved(u"b"_s, url(2));
     addSaved(u"a"_s, url(1));
     urls().LoadSavedUrls(Kind::SavedUrl);
-    EXPECT_EQ(form().cboANSavedUrls.items(), (QStringList{u"b"_s, u"a"_s}));
-    EXPECT_EQ(form().mastrSavedUrlIds, (QStringList{u"b\r\n"_s + url(2), u"a\r\n"_s + url(1)}));
+    EXPECT_EQ(form().saved.cboANSavedUrls.items(), (QStringList{u"b"_s, u"a"_s}));
+    EXPECT_EQ(form().saved.mastrSavedUrlIds, (QStringList{u"b\r\n"_s + url(2), u"a\r\n"_s + url(1)}));
 }
 
 TEST_F(SavedUrlsTest, AnEmptyTableIsOneEmptyElement)
 {
     urls().LoadSavedUrls(Kind::PassUrl);
-    EXPECT_EQ(form().mastrSavedUrlIds, emptyList());
-    EXPECT_EQ(form().cboANSavedUrls.listCount(), 0);
+    EXPECT_EQ(form().saved.mastrSavedUrlIds, emptyList());
+    EXPECT_EQ(form().saved.cboANSavedUrls.listCount(), 0);
 }
 
 TEST_F(SavedUrlsTest, RowsWithoutANameGetOneAndKeepIt)
@@ -88,7 +88,7 @@ TEST_F(SavedUrlsTest, RowsWithoutANameGetOneAndKeepIt)
     addSaved({}, url(4), u"PassUrlsA"_s);
     urls().LoadSavedUrls(Kind::PassUrl);
     const QStringList names{u"PassUrl-100"_s, u"passurl-101"_s, u"PassUrl-102"_s, u"PassUrl-103"_s};
-    EXPECT_EQ(form().cboANSavedUrls.items(), names);
+    EXPECT_EQ(form().saved.cboANSavedUrls.items(), names);
     EXPECT_EQ(rows(u"PassUrlsA"_s, u"MaskName"_s), names);
 }
 
@@ -113,12 +113,12 @@ TEST_F(SavedUrlsTest, NamesClimbToTheFirstFreeOneOfTheirTable)
 TEST_F(SavedUrlsTest, SavesThePageOnShowAndChoosesIt)
 {
     browser().show(url(7));
-    form().cmdANSavedAdd.click();
+    form().saved.cmdANSavedAdd.click();
     EXPECT_EQ(lastStatus(), u"Results-100 Saved (RPgUrlsA)"_s);
-    EXPECT_EQ(form().cboANSavedUrls.text(), u"Results-100"_s);
-    EXPECT_EQ(form().mastrSavedUrlIds, QStringList{u"Results-100\r\n"_s + url(7)});
+    EXPECT_EQ(form().saved.cboANSavedUrls.text(), u"Results-100"_s);
+    EXPECT_EQ(form().saved.mastrSavedUrlIds, QStringList{u"Results-100\r\n"_s + url(7)});
     EXPECT_EQ(rows(u"RPgUrlsA"_s), QStringList{url(7)});
-    EXPECT_TRUE(form().cmdANSavedGo.isEnabled());
+    EXPECT_TRUE(form().saved.cmdANSavedGo.isEnabled());
 }
 
 TEST_F(SavedUrlsTest, TheSamePageTwiceIsToldAndNotAdded)
@@ -139,8 +139,8 @@ TEST_F(SavedUrlsTest, IntoAnotherListTheBoxDoesNotChange)
     urls().AddSavedUrl(true, u"C"_s);
     EXPECT_EQ(lastStatus(), u"Results-100 Saved (RPgUrlsC)"_s);
     EXPECT_EQ(rows(u"RPgUrlsC"_s), QStringList{url(7)});
-    EXPECT_EQ(form().cboANSavedUrls.listCount(), 0);
-    EXPECT_EQ(form().mastrSavedUrlIds, emptyList());
+    EXPECT_EQ(form().saved.cboANSavedUrls.listCount(), 0);
+    EXPECT_EQ(form().saved.mastrSavedUrlIds, emptyList());
 }
 
 TEST_F(SavedUrlsTest, OnlyPagesOfAKnownSiteCanBeSaved)
@@ -153,7 +153,7 @@ TEST_F(SavedUrlsTest, OnlyPagesOfAKnownSiteCanBeSaved)
 
 TEST_F(SavedUrlsTest, NothingCanBeAddedToPassUrls)
 {
-    form().mbPassUrlsLoaded = true;
+    form().saved.mbPassUrlsLoaded = true;
     browser().show(url(7));
     urls().AddSavedUrl(true, {});
     EXPECT_EQ(lastStatus(), u"Can't Add PassUrls"_s);
@@ -164,38 +164,38 @@ TEST_F(SavedUrlsTest, NothingCanBeAddedToPassUrls)
 TEST_F(SavedUrlsTest, RemovingChoosesTheNextOne)
 {
     fill(Kind::SavedUrl, 3);
-    form().cboANSavedUrls.setListIndex(1);
-    form().cmdANSavedMinus.click();
+    form().saved.cboANSavedUrls.setListIndex(1);
+    form().saved.cmdANSavedMinus.click();
     EXPECT_EQ(lastStatus(), u"2 Saved Links"_s);
-    EXPECT_EQ(form().cboANSavedUrls.text(), u"Results-102"_s);
+    EXPECT_EQ(form().saved.cboANSavedUrls.text(), u"Results-102"_s);
     EXPECT_EQ(rows(u"RPgUrlsA"_s, u"MaskName"_s), (QStringList{u"Results-100"_s, u"Results-102"_s}));
-    form().cmdANSavedMinus.click();
-    EXPECT_EQ(form().cboANSavedUrls.text(), u"Results-100"_s); // the last one, as the place is past the end
+    form().saved.cmdANSavedMinus.click();
+    EXPECT_EQ(form().saved.cboANSavedUrls.text(), u"Results-100"_s); // the last one, as the place is past the end
     EXPECT_TRUE(browser().navigated.isEmpty());
 }
 
 TEST_F(SavedUrlsTest, RemovingTheLastSavedUrlClearsTheBoxThatUsesThem)
 {
     fill(Kind::SavedUrl, 1);
-    form().cboANSavedUrls.setListIndex(0);
+    form().saved.cboANSavedUrls.setListIndex(0);
     form().mbFormReady = false;
-    form().chkUseSavedUrls.setValue(1);
+    form().saved.chkUseSavedUrls.setValue(1);
     form().mbFormReady = true;
     urls().RemoveSavedUrl();
-    EXPECT_EQ(form().chkUseSavedUrls.value(), 0);
+    EXPECT_EQ(form().saved.chkUseSavedUrls.value(), 0);
     EXPECT_EQ(lastStatus(), u"0 Saved Links"_s);
-    EXPECT_EQ(form().mastrSavedUrlIds, emptyList());
+    EXPECT_EQ(form().saved.mastrSavedUrlIds, emptyList());
 }
 
 TEST_F(SavedUrlsTest, RemovingAPassUrlOpensTheNextOneAndMovesOn)
 {
     fill(Kind::PassUrl, 3);
-    form().cboANSavedUrls.setListIndex(0);
+    form().saved.cboANSavedUrls.setListIndex(0);
     urls().RemoveSavedUrl();
     EXPECT_EQ(browser().navigated, QStringList{url(1)});
-    EXPECT_EQ(form().cboANSavedUrls.text(), u"PassUrl-102"_s);
+    EXPECT_EQ(form().saved.cboANSavedUrls.text(), u"PassUrl-102"_s);
     EXPECT_EQ(statuses, QStringList{u"2 Pass Urls"_s});
-    form().chkSMA(4).setValue(0);
+    form().options.chkSMA(4).setValue(0);
     urls().RemoveSavedUrl();
     EXPECT_EQ(browser().navigated.size(), 1);
 }
@@ -204,11 +204,11 @@ TEST_F(SavedUrlsTest, RemovingTheLastPassUrlBringsBackTheSavedUrls)
 {
     addSaved(u"Results-100"_s, url(9));
     fill(Kind::PassUrl, 1);
-    form().cboANSavedUrls.setListIndex(0);
+    form().saved.cboANSavedUrls.setListIndex(0);
     urls().RemoveSavedUrl();
-    EXPECT_FALSE(form().mbPassUrlsLoaded);
-    EXPECT_EQ(form().cboANSavedUrls.items(), QStringList{u"Results-100"_s});
-    EXPECT_EQ(form().cboANSavedUrls.toolTipText(), u"Saved Urls"_s);
+    EXPECT_FALSE(form().saved.mbPassUrlsLoaded);
+    EXPECT_EQ(form().saved.cboANSavedUrls.items(), QStringList{u"Results-100"_s});
+    EXPECT_EQ(form().saved.cboANSavedUrls.toolTipText(), u"Saved Urls"_s);
     EXPECT_EQ(lastStatus(), u"0 Pass Urls"_s);
 }
 
@@ -225,27 +225,27 @@ TEST_F(SavedUrlsTest, WithNothingChosenNothingIsRemoved)
 TEST_F(SavedUrlsTest, OpensTheChosenAddressAndMovesOnWhereTheOptionSaysSo)
 {
     fill(Kind::SavedUrl, 2);
-    form().cboANSavedUrls.setListIndex(0);
-    form().cmdANSavedGo.click();
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 0);
-    form().chkSMA(6).setValue(1);
-    form().cmdANSavedGo.click();
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 1);
-    form().cmdANSavedGo.click();
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 1); // the last one
+    form().saved.cboANSavedUrls.setListIndex(0);
+    form().saved.cmdANSavedGo.click();
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 0);
+    form().options.chkSMA(6).setValue(1);
+    form().saved.cmdANSavedGo.click();
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 1);
+    form().saved.cmdANSavedGo.click();
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 1); // the last one
     EXPECT_EQ(browser().navigated, (QStringList{url(0), url(0), url(1)}));
 }
 
 TEST_F(SavedUrlsTest, PassUrlsMoveOnByTheirOwnOption)
 {
     fill(Kind::PassUrl, 2);
-    form().cboANSavedUrls.setListIndex(0);
+    form().saved.cboANSavedUrls.setListIndex(0);
     urls().cmdANSavedGo_Click();
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 1);
-    form().chkSMA(5).setValue(0);
-    form().cboANSavedUrls.setListIndex(0);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 1);
+    form().options.chkSMA(5).setValue(0);
+    form().saved.cboANSavedUrls.setListIndex(0);
     urls().cmdANSavedGo_Click();
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 0);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 0);
 }
 
 // Positions.
@@ -254,15 +254,15 @@ TEST_F(SavedUrlsTest, EachListRemembersItsPosition)
 {
     addSaved(u"Results-100"_s, url(5), u"RPgUrlsB"_s);
     fill(Kind::SavedUrl, 3);
-    form().cboANSavedUrls.setListIndex(2);
-    form().cboANList.dropDown();
+    form().saved.cboANSavedUrls.setListIndex(2);
+    form().saved.cboANList.dropDown();
     EXPECT_EQ(settings.of("ANListIndexA"), u"2"_s);
-    form().cboANList.setListIndex(1);
+    form().saved.cboANList.setListIndex(1);
     EXPECT_EQ(lastStatus(), u"1 loaded"_s);
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 0);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 0);
     EXPECT_EQ(settings.of("cboANList"), u"1"_s);
-    form().cboANList.setListIndex(0);
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 2);
+    form().saved.cboANList.setListIndex(0);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 2);
 }
 
 TEST_F(SavedUrlsTest, APositionBeyondTheListLeavesTheSelectionAlone)
@@ -270,16 +270,16 @@ TEST_F(SavedUrlsTest, APositionBeyondTheListLeavesTheSelectionAlone)
     settings.preset("ANListIndexA", u"3"_s);
     fill(Kind::SavedUrl, 3);
     urls().SetSavedUrlPos();
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), -1);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), -1);
     settings.preset("ANListIndexA", u"2"_s);
     urls().SetSavedUrlPos();
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), 2);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), 2);
 }
 
 TEST_F(SavedUrlsTest, AChangeOfTheListKeepsTheFlagOfPassUrls)
 {
     fill(Kind::PassUrl, 1);
-    form().cboANList.setListIndex(1);
-    EXPECT_TRUE(form().mbPassUrlsLoaded);
-    EXPECT_EQ(form().cboANSavedUrls.listCount(), 0);
+    form().saved.cboANList.setListIndex(1);
+    EXPECT_TRUE(form().saved.mbPassUrlsLoaded);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listCount(), 0);
 }

@@ -189,7 +189,7 @@ class HexTable : public ChainTest, public testing::WithParamInterface<HexCase>
 
 TEST_P(HexTable, ConvertsByTheRecordOrTheOption)
 {
-    form.chkSMA(1).setValue(GetParam().option);
+    form.options.chkSMA(1).setValue(GetParam().option);
     EXPECT_EQ(chain({{u"CnvHex"_s, QString::fromLatin1(GetParam().field)}}, {u"http://www.a.com/%41"_s}),
               QStringList{GetParam().converts ? u"http://www.a.com/A"_s : u"http://www.a.com/%41"_s});
 }
@@ -200,7 +200,7 @@ INSTANTIATE_TEST_SUITE_P(Chain, HexTable,
 
 TEST_F(ChainTest, UniqueServersComeBeforeTheRepeatsAndAfterTheCuts)
 {
-    form.chkSMA(9).setValue(1);
+    form.options.chkSMA(9).setValue(1);
     EXPECT_EQ(chain({{u"BeginUrl-1"_s, u"u="_s}},
                     {u"http://www.seek.com/go?u=http://www.a.com/1"_s, u"http://www.seek.com/go?u=http://www.a.com/2"_s,
                      u"http://www.seek.com/go?u=http://www.b.com/1"_s}),
@@ -209,17 +209,17 @@ TEST_F(ChainTest, UniqueServersComeBeforeTheRepeatsAndAfterTheCuts)
 
 TEST_F(ChainTest, BlockedTextsDropLinksWithoutRegardToCase)
 {
-    form.lstBlockedUrlC.addItem(u"ads"_s);
+    form.blocking.urls.items.addItem(u"ads"_s);
     const QStringList all{u"http://www.a.com/Downloads/x"_s, u"http://www.b.com/"_s};
-    form.chkUrlBlocking.setValue(1);
+    form.blocking.urls.on.setValue(1);
     EXPECT_EQ(chain({}, all), QStringList{u"http://www.b.com/"_s});
-    form.chkUrlBlocking.setValue(0);
+    form.blocking.urls.on.setValue(0);
     EXPECT_EQ(links.GetLinks(), all);
 }
 
 TEST_F(ChainTest, BlockingOnWithAnEmptyListDropsNothing)
 {
-    form.chkUrlBlocking.setValue(1);
+    form.blocking.urls.on.setValue(1);
     EXPECT_EQ(chain({}, {u"http://www.a.com/"_s}), QStringList{u"http://www.a.com/"_s});
 }
 

@@ -73,14 +73,14 @@ class ProgramTest : public testing::Test
     /// The click on Go, which returns when the run has ended, or on X in the middle of one.
     void clickStart()
     {
-        ASSERT_TRUE(form().cmdANStart.isEnabled());
-        form().cmdANStart.click();
+        ASSERT_TRUE(form().autoRun.cmdANStart.isEnabled());
+        form().autoRun.cmdANStart.click();
     }
     /// Restricts the wanted pages to those that hold `text`.
     void wantOnly(const QString &text)
     {
-        form().lstANMC.addItem(text);
-        form().chkMustContain.setValue(1);
+        form().criteria.mustContain.items.addItem(text);
+        form().criteria.mustContain.on.setValue(1);
     }
 
     QTemporaryDir folder;
@@ -107,9 +107,9 @@ class RunTest : public ProgramTest
         load();
         EXPECT_TRUE(loaded);
         addSite();
-        form().incANTiming.setText(QStringLiteral("005"));
-        form().incSmRPPause.setText(QStringLiteral("002"));
-        form().chkSMA(2).setValue(0);
+        form().autoRun.incANTiming.setText(QStringLiteral("005"));
+        form().limits.incSmRPPause.setText(QStringLiteral("002"));
+        form().options.chkSMA(2).setValue(0);
         statuses.clear();
     }
 };

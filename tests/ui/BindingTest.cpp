@@ -22,18 +22,18 @@ struct Bound : WindowFixture
 TEST_F(Bound, WhatAllControlsHaveIsShown)
 {
     auto &box = widget<QCheckBox>("chkSavePages");
-    form.chkSavePages.setEnabled(false);
-    form.chkSavePages.setToolTipText(u"Save pages"_s);
+    form.outputs.chkSavePages.setEnabled(false);
+    form.outputs.chkSavePages.setToolTipText(u"Save pages"_s);
     settle();
     EXPECT_FALSE(box.isEnabled());
     EXPECT_EQ(box.toolTip(), u"Save pages"_s);
-    form.chkSavePages.setVisible(false);
-    form.chkSavePages.setToolTipText(QString());
+    form.outputs.chkSavePages.setVisible(false);
+    form.outputs.chkSavePages.setToolTipText(QString());
     settle();
     EXPECT_TRUE(box.isHidden());
     EXPECT_EQ(box.toolTip(), QString());
-    form.chkSavePages.setVisible(true);
-    form.chkSavePages.setEnabled(true);
+    form.outputs.chkSavePages.setVisible(true);
+    form.outputs.chkSavePages.setEnabled(true);
     settle();
     EXPECT_TRUE(box.isVisible());
     EXPECT_TRUE(box.isEnabled());
@@ -42,7 +42,7 @@ TEST_F(Bound, WhatAllControlsHaveIsShown)
 TEST_F(Bound, ALongToolTipIsBrokenIntoLinesAndShowsNoMarkup)
 {
     const QString tip = u"<b> "_s + QString(100, u'x') + u" &"_s;
-    form.cmdANStart.setToolTipText(tip);
+    form.autoRun.cmdANStart.setToolTipText(tip);
     settle();
     const QString shown = widget<QWidget>("cmdANStart").toolTip();
     EXPECT_TRUE(Qt::mightBeRichText(shown));
@@ -52,25 +52,26 @@ TEST_F(Bound, ALongToolTipIsBrokenIntoLinesAndShowsNoMarkup)
 TEST_F(Bound, CheckBoxesGoBothWays)
 {
     auto &box = widget<QCheckBox>("chkSaveSummary");
-    const Raised clicks(form.chkSaveSummary, &CheckBox::Click);
+    const Raised clicks(form.outputs.chkSaveSummary, &CheckBox::Click);
     click(box);
-    EXPECT_EQ(form.chkSaveSummary.value(), 1);
+    EXPECT_EQ(form.outputs.chkSaveSummary.value(), 1);
     EXPECT_TRUE(box.isChecked());
     QTest::keyClick(&box, Qt::Key_Space);
-    EXPECT_EQ(form.chkSaveSummary.value(), 0);
+    EXPECT_EQ(form.outputs.chkSaveSummary.value(), 0);
     EXPECT_EQ(clicks.times(), 2);
-    form.chkSaveSummary.setValue(2);
+    form.outputs.chkSaveSummary.setValue(2);
     settle();
     EXPECT_EQ(box.checkState(), Qt::PartiallyChecked);
     click(box);
-    EXPECT_EQ(form.chkSaveSummary.value(), 1);
+    EXPECT_EQ(form.outputs.chkSaveSummary.value(), 1);
     EXPECT_EQ(box.checkState(), Qt::Checked);
     EXPECT_FALSE(box.isTristate());
 }
 
 TEST_F(Bound, ACheckBoxThatTheLogicPutsBackShowsIt)
 {
-    QObject::connect(&form.chkSaveUrl, &CheckBox::Click, &form, [this] { form.chkSaveUrl.setValue(0); });
+    QObject::connect(&form.outputs.chkSaveUrl, &CheckBox::Click, &form,
+                     [this] { form.outputs.chkSaveUrl.setValue(0); });
     click(widget<QCheckBox>("chkSaveUrl"));
     EXPECT_FALSE(widget<QCheckBox>("chkSaveUrl").isChecked());
 }
@@ -79,9 +80,9 @@ TEST_F(Bound, AToggleButtonIsACheckBoxToo)
 {
     auto &button = widget<QPushButton>("chkMCCS");
     click(button);
-    EXPECT_EQ(form.chkMCCS.value(), 1);
+    EXPECT_EQ(form.criteria.mustContain.caseSensitive.value(), 1);
     EXPECT_TRUE(button.isChecked());
-    form.chkMCCS.setValue(0);
+    form.criteria.mustContain.caseSensitive.setValue(0);
     settle();
     EXPECT_FALSE(button.isChecked());
 }
@@ -89,11 +90,11 @@ TEST_F(Bound, AToggleButtonIsACheckBoxToo)
 TEST_F(Bound, AButtonShowsItsCaptionAndKeepsItsKey)
 {
     auto &go = widget<QPushButton>("cmdANStart");
-    const Raised clicks(form.cmdANStart, &Button::Click);
+    const Raised clicks(form.autoRun.cmdANStart, &Button::Click);
     EXPECT_EQ(go.text(), u"&Go"_s);
     QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return clicks.times() == 1; }, 2000));
-    form.cmdANStart.setCaption(u"X"_s);
+    form.autoRun.cmdANStart.setCaption(u"X"_s);
     settle();
     EXPECT_EQ(go.text(), u"X"_s);
     QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
@@ -104,9 +105,10 @@ TEST_F(Bound, AButtonShowsItsCaptionAndKeepsItsKey)
 
 TEST_F(Bound, RightClicksReachTheControlAndDoNotPressTheButton)
 {
-    const Raised clicks(form.cmdANStart, &Button::Click);
+    const Raised clicks(form.autoRun.cmdANStart, &Button::Click);
     QList<MouseButton> pressed;
-    QObject::connect(&form.cmdANStart, &Control::mousePressed, &form, [&](MouseButton b) { pressed.append(b); });
+    QObject::connect(&form.autoRun.cmdANStart, &Control::mousePressed, &form,
+                     [&](MouseButton b) { pressed.append(b); });
     click(widget<QPushButton>("cmdANStart"), Qt::RightButton);
     EXPECT_EQ(pressed, QList<MouseButton>{MouseButton::Right});
     EXPECT_EQ(clicks.times(), 0);
@@ -117,10 +119,10 @@ TEST_F(Bound, RightClicksReachTheControlAndDoNotPressTheButton)
 
 TEST_F(Bound, NothingReachesADisabledControlEvenBeforeItIsShownAsSuch)
 {
-    const Raised clicks(form.chkSavePhone, &CheckBox::Click);
-    const Raised presses(form.lblTrawlexTimer, &Control::mousePressed);
-    form.chkSavePhone.setEnabled(false);
-    form.lblTrawlexTimer.setEnabled(false);
+    const Raised clicks(form.outputs.chkSavePhone, &CheckBox::Click);
+    const Raised presses(form.browser.lblTrawlexTimer, &Control::mousePressed);
+    form.outputs.chkSavePhone.setEnabled(false);
+    form.browser.lblTrawlexTimer.setEnabled(false);
     QTest::mouseClick(&widget<QCheckBox>("chkSavePhone"), Qt::LeftButton);
     QTest::mouseClick(&widget<TimerLabel>("lblTrawlexTimer"), Qt::LeftButton);
     EXPECT_EQ(clicks.times(), 0);
@@ -136,16 +138,16 @@ TEST_F(Bound, CombosShowItemsAndChoice)
     auto &combo = widget<DropDown>("cboANSavedUrls");
     EXPECT_EQ(combo.count(), 0);
     for (const auto &item : {u"Results-100"_s, u"Results-101"_s})
-        form.cboANSavedUrls.addItem(item);
-    form.cboANSavedUrls.setListIndex(1);
+        form.saved.cboANSavedUrls.addItem(item);
+    form.saved.cboANSavedUrls.setListIndex(1);
     settle();
     EXPECT_EQ(combo.count(), 2);
     EXPECT_EQ(combo.currentText(), u"Results-101"_s);
-    form.cboANSavedUrls.removeItem(1);
+    form.saved.cboANSavedUrls.removeItem(1);
     settle();
     EXPECT_EQ(combo.count(), 1);
     EXPECT_EQ(combo.currentIndex(), -1);
-    form.cboANSavedUrls.clear();
+    form.saved.cboANSavedUrls.clear();
     settle();
     EXPECT_EQ(combo.count(), 0);
 }
@@ -153,11 +155,11 @@ TEST_F(Bound, CombosShowItemsAndChoice)
 TEST_F(Bound, ACombosChoiceIsToldAndTheWheelMakesNone)
 {
     auto &combo = widget<DropDown>("cboANSaveType");
-    const Raised clicks(form.cboANSaveType, &ComboBox::Click);
+    const Raised clicks(form.outputs.cboANSaveType, &ComboBox::Click);
     QTest::keyClick(&combo, Qt::Key_Down);
-    EXPECT_EQ(form.cboANSaveType.listIndex(), 1);
+    EXPECT_EQ(form.outputs.cboANSaveType.listIndex(), 1);
     QTest::keyClick(&combo, Qt::Key_L);
-    EXPECT_EQ(form.cboANSaveType.text(), u"Links"_s);
+    EXPECT_EQ(form.outputs.cboANSaveType.text(), u"Links"_s);
     EXPECT_EQ(clicks.times(), 2);
     QWheelEvent wheel(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
@@ -168,8 +170,9 @@ TEST_F(Bound, ACombosChoiceIsToldAndTheWheelMakesNone)
 TEST_F(Bound, AnOpeningListShowsWhatItsHandlerFills)
 {
     auto &combo = widget<DropDown>("cboANList");
-    const Raised opened(form.cboANList, &ComboBox::DropDown);
-    QObject::connect(&form.cboANList, &ComboBox::DropDown, &form, [this] { form.cboANList.addItem(u"F"_s); });
+    const Raised opened(form.saved.cboANList, &ComboBox::DropDown);
+    QObject::connect(&form.saved.cboANList, &ComboBox::DropDown, &form,
+                     [this] { form.saved.cboANList.addItem(u"F"_s); });
     combo.showPopup();
     EXPECT_EQ(opened.times(), 1);
     EXPECT_EQ(combo.count(), 6);
@@ -179,16 +182,16 @@ TEST_F(Bound, AnOpeningListShowsWhatItsHandlerFills)
 TEST_F(Bound, TextBoxesTellWhatIsTypedAndWhenTheyAreLeft)
 {
     auto &edit = widget<QLineEdit>("txtANStartTag");
-    const Raised changes(form.txtANStartTag, &TextBox::Change);
-    const Raised validations(form.txtANStartTag, &TextBox::Validate);
+    const Raised changes(form.outputs.txtANStartTag, &TextBox::Change);
+    const Raised validations(form.outputs.txtANStartTag, &TextBox::Validate);
     edit.setFocus();
     QTest::keyClicks(&edit, u"<main"_s);
-    EXPECT_EQ(form.txtANStartTag.text(), u"<main"_s);
+    EXPECT_EQ(form.outputs.txtANStartTag.text(), u"<main"_s);
     EXPECT_EQ(changes.times(), 5);
     EXPECT_EQ(validations.times(), 0);
     widget<QWidget>("cmdANStart").setFocus();
     EXPECT_EQ(validations.times(), 1);
-    form.txtANStartTag.setText(u"<body"_s);
+    form.outputs.txtANStartTag.setText(u"<body"_s);
     settle();
     EXPECT_EQ(edit.text(), u"<body"_s);
 }
@@ -196,25 +199,25 @@ TEST_F(Bound, TextBoxesTellWhatIsTypedAndWhenTheyAreLeft)
 TEST_F(Bound, TypingInTheMiddleKeepsTheCursor)
 {
     auto &edit = widget<QLineEdit>("txtANStartTag");
-    form.txtANStartTag.setText(u"ad"_s);
+    form.outputs.txtANStartTag.setText(u"ad"_s);
     settle();
     edit.setFocus();
     edit.setCursorPosition(1);
     QTest::keyClicks(&edit, u"bc"_s);
     settle();
-    EXPECT_EQ(form.txtANStartTag.text(), u"abcd"_s);
+    EXPECT_EQ(form.outputs.txtANStartTag.text(), u"abcd"_s);
     EXPECT_EQ(edit.cursorPosition(), 3);
 }
 
 TEST_F(Bound, TabsGoBothWaysAndTheirPageFollows)
 {
     auto &tabs = widget<QTabBar>("sstSearch");
-    const Raised clicks(form.sstSearch, &TabControl::Click);
+    const Raised clicks(form.frame.sstSearch, &TabControl::Click);
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(2).center());
-    EXPECT_EQ(form.sstSearch.tab(), 2);
+    EXPECT_EQ(form.frame.sstSearch.tab(), 2);
     EXPECT_EQ(clicks.times(), 1);
     EXPECT_TRUE(widget<QWidget>("settingsPage").isVisible());
-    form.sstSearch.setTab(0);
+    form.frame.sstSearch.setTab(0);
     settle();
     EXPECT_EQ(tabs.currentIndex(), 0);
     EXPECT_TRUE(widget<QWidget>("autoPage").isVisible());
@@ -223,16 +226,16 @@ TEST_F(Bound, TabsGoBothWaysAndTheirPageFollows)
 
 TEST_F(Bound, TabsInsidePagesShowTheirPages)
 {
-    form.sstSearch.setTab(2);
-    form.sstSettings.setTab(2);
-    form.sstMiscOptions.setTab(1);
+    form.frame.sstSearch.setTab(2);
+    form.frame.sstSettings.setTab(2);
+    form.frame.sstMiscOptions.setTab(1);
     settle();
     EXPECT_TRUE(widget<QWidget>("chkSMD_0").isVisible());
     auto &tabs = widget<QTabBar>("sstMiscOptions");
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(2).center());
-    EXPECT_EQ(form.sstMiscOptions.tab(), 2);
+    EXPECT_EQ(form.frame.sstMiscOptions.tab(), 2);
     EXPECT_TRUE(widget<QWidget>("chkSMV_0").isVisible());
-    form.sstSettings.setTab(1);
+    form.frame.sstSettings.setTab(1);
     settle();
     EXPECT_TRUE(widget<QLineEdit>("txtSFDBDir").isVisible());
 }
@@ -241,10 +244,11 @@ TEST_F(Bound, TheTimerShowsItsCaptionInItsColoursAndAnswersBothButtons)
 {
     auto &timer = widget<TimerLabel>("lblTrawlexTimer");
     QList<MouseButton> pressed;
-    QObject::connect(&form.lblTrawlexTimer, &Control::mousePressed, &form, [&](MouseButton b) { pressed.append(b); });
-    form.lblTrawlexTimer.setCaption(u"12"_s);
-    form.lblTrawlexTimer.setBackColor(Colours::Red);
-    form.lblTrawlexTimer.setForeColor(Colours::White);
+    QObject::connect(&form.browser.lblTrawlexTimer, &Control::mousePressed, &form,
+                     [&](MouseButton b) { pressed.append(b); });
+    form.browser.lblTrawlexTimer.setCaption(u"12"_s);
+    form.browser.lblTrawlexTimer.setBackColor(Colours::Red);
+    form.browser.lblTrawlexTimer.setForeColor(Colours::White);
     settle();
     EXPECT_EQ(timer.text(), u"12"_s);
     EXPECT_GT(timer.palette().color(QPalette::Base).red(), 180);
@@ -252,8 +256,8 @@ TEST_F(Bound, TheTimerShowsItsCaptionInItsColoursAndAnswersBothButtons)
     click(timer);
     click(timer, Qt::RightButton);
     EXPECT_EQ(pressed, (QList<MouseButton>{MouseButton::Left, MouseButton::Right}));
-    form.lblTrawlexTimer.setBackColor(Colours::ButtonFace);
-    form.lblTrawlexTimer.setForeColor(Colours::ButtonText);
+    form.browser.lblTrawlexTimer.setBackColor(Colours::ButtonFace);
+    form.browser.lblTrawlexTimer.setForeColor(Colours::ButtonText);
     settle();
     EXPECT_FALSE(timer.testAttribute(Qt::WA_SetPalette)) << "back to the desktop's colours";
 }
@@ -261,7 +265,7 @@ TEST_F(Bound, TheTimerShowsItsCaptionInItsColoursAndAnswersBothButtons)
 TEST_F(Bound, LabelsAnswerQuickSecondClicksAndTheKeyboard)
 {
     auto &chip = widget<Chip>("lblAutoPgUrls");
-    const Raised presses(form.lblAutoPgUrls, &Control::mousePressed);
+    const Raised presses(form.collect.lblAutoPgUrls, &Control::mousePressed);
     doubleClick(chip, Qt::RightButton);
     EXPECT_EQ(presses.times(), 2);
     chip.setFocus();
@@ -274,7 +278,7 @@ TEST_F(Bound, AChipShowsItsCaptionBehindItsWord)
 {
     auto &chip = widget<Chip>("lblAutoPgUrls");
     EXPECT_EQ(chip.text(), u"Collect"_s);
-    form.lblAutoPgUrls.setCaption(u"B"_s);
+    form.collect.lblAutoPgUrls.setCaption(u"B"_s);
     settle();
     EXPECT_EQ(chip.text(), u"Collect B"_s);
     EXPECT_EQ(chip.accessibleName(), u"Collect B"_s);
@@ -283,10 +287,10 @@ TEST_F(Bound, AChipShowsItsCaptionBehindItsWord)
 TEST_F(Bound, TheStatusBarTellsMovesAndDoubleClicks)
 {
     auto &status = widget<StatusBarLine>("picStatus");
-    const Raised moves(form.picStatus, &Control::mouseMoved);
-    const Raised doubles(form.picStatus, &Control::doubleClicked);
-    const Raised presses(form.picStatus, &Control::mousePressed);
-    form.picStatus.print(u"Initialized..."_s);
+    const Raised moves(form.frame.picStatus, &Control::mouseMoved);
+    const Raised doubles(form.frame.picStatus, &Control::doubleClicked);
+    const Raised presses(form.frame.picStatus, &Control::mousePressed);
+    form.frame.picStatus.print(u"Initialized..."_s);
     settle();
     EXPECT_EQ(status.text(), u"Initialized..."_s);
     QTest::mouseMove(&status, QPoint(20, 10));
@@ -302,9 +306,9 @@ TEST_F(Bound, TheStatusBarTellsMovesAndDoubleClicks)
 
 TEST_F(Bound, TheContextMenuKeyIsARightPressOnTheControlInFocus)
 {
-    const Raised presses(form.lstANMC, &Control::mousePressed);
+    const Raised presses(form.criteria.mustContain.items, &Control::mousePressed);
     MouseButton last = MouseButton::Left;
-    QObject::connect(&form.lstANMC, &Control::mousePressed, &form, [&](MouseButton b) { last = b; });
+    QObject::connect(&form.criteria.mustContain.items, &Control::mousePressed, &form, [&](MouseButton b) { last = b; });
     QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
     QCoreApplication::sendEvent(&widget<QWidget>("lstANMC"), &key);
     EXPECT_EQ(presses.times(), 1);
@@ -314,8 +318,8 @@ TEST_F(Bound, TheContextMenuKeyIsARightPressOnTheControlInFocus)
 TEST_F(Bound, ManyChangesAreShownOnce)
 {
     auto &status = widget<StatusBarLine>("picStatus");
-    form.picStatus.print(u"one"_s);
-    form.picStatus.print(u"two"_s);
+    form.frame.picStatus.print(u"one"_s);
+    form.frame.picStatus.print(u"two"_s);
     EXPECT_EQ(status.text(), QString()) << "nothing is shown before the event loop turns";
     window.binder().flush();
     EXPECT_EQ(status.text(), u"two"_s);
@@ -325,14 +329,14 @@ TEST_F(Bound, ARunInsideAClickIsHeldUpByNothing)
 {
     // A run is one long call inside the click on Go; its X is a click inside that.
     int depth = 0;
-    QObject::connect(&form.cmdANStart, &Button::Click, &form, [&] {
+    QObject::connect(&form.autoRun.cmdANStart, &Button::Click, &form, [&] {
         if (++depth == 2)
             return;
-        form.cmdANStart.setCaption(u"X"_s);
+        form.autoRun.cmdANStart.setCaption(u"X"_s);
         settle();
         EXPECT_EQ(widget<QPushButton>("cmdANStart").text(), u"X"_s);
         QTest::mouseClick(&widget<QPushButton>("cmdANStart"), Qt::LeftButton);
-        form.cmdANStart.setCaption(u"Go"_s);
+        form.autoRun.cmdANStart.setCaption(u"Go"_s);
     });
     click(widget<QPushButton>("cmdANStart"));
     EXPECT_EQ(depth, 2);

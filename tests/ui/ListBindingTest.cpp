@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 struct Lists : WindowFixture
 {
-    Lists() : view(widget<ItemList>("lstANMC")), list(form.lstANMC) {}
+    Lists() : view(widget<ItemList>("lstANMC")), list(form.criteria.mustContain.items) {}
 
     void fill(int count)
     {

@@ -109,7 +109,7 @@ TEST_F(Look, LampsHaveASignForEachColour)
     QStringList meanings;
     QList<QImage> pictures;
     for (const Colour colour : outcomes) {
-        form.lblSummarySaved.setBackColor(colour);
+        form.outputs.lblSummarySaved.setBackColor(colour);
         settle();
         signs.append(lamp.sign());
         meanings.append(lamp.accessibleDescription());
@@ -128,7 +128,7 @@ TEST_F(Look, AFoundTextShowsASignAsWellAsAColour)
 {
     auto &edit = widget<QLineEdit>("txtANStartTag");
     const auto picture = [&](Colour colour) {
-        form.txtANStartTag.setBackColor(colour);
+        form.outputs.txtANStartTag.setBackColor(colour);
         settle();
         return edit.grab().toImage();
     };
@@ -160,7 +160,7 @@ TEST_F(Look, FollowsALightAndADarkDesktop)
 TEST_F(Look, ColouredControlsTakeTheTonesOfTheNewTheme)
 {
     auto &timer = widget<TimerLabel>("lblTrawlexTimer");
-    form.lblTrawlexTimer.setBackColor(Colours::Yellow);
+    form.browser.lblTrawlexTimer.setBackColor(Colours::Yellow);
     Theme::of(*qApp).setMode(Mode::Light);
     settle();
     const QColor light = timer.palette().color(QPalette::Base);
@@ -260,11 +260,11 @@ struct Captions : WindowFixture
 TEST_F(Captions, AreNotCutAtThisScale)
 {
     expectNoneCut();
-    form.sstSearch.setTab(2);
+    form.frame.sstSearch.setTab(2);
     for (const int page : {0, 1, 2}) {
-        form.sstSettings.setTab(page);
+        form.frame.sstSettings.setTab(page);
         for (const int options : {0, 1, 2, 3}) {
-            form.sstMiscOptions.setTab(options);
+            form.frame.sstMiscOptions.setTab(options);
             settle();
             expectNoneCut();
         }

@@ -32,7 +32,7 @@ TEST_F(MainWindows, AreMovedByTheirTabStrip)
     QTest::mouseRelease(&tabs, Qt::LeftButton, {}, grabbed);
     settle();
     EXPECT_NE(window.pos(), before);
-    EXPECT_EQ(form.sstSearch.tab(), 0);
+    EXPECT_EQ(form.frame.sstSearch.tab(), 0);
     const QPoint moved = window.pos();
     QTest::mouseMove(&tabs, grabbed + QPoint(5, 20));
     settle();
@@ -55,12 +55,12 @@ TEST_F(MainWindows, TheEndMarkTellsBothButtonsAndCarriesItsColour)
 {
     auto &mark = widget<EndMark>("picANEnd");
     QList<MouseButton> pressed;
-    QObject::connect(&form.picANEnd, &Control::mousePressed, &form, [&](MouseButton b) { pressed.append(b); });
+    QObject::connect(&form.browser.picANEnd, &Control::mousePressed, &form, [&](MouseButton b) { pressed.append(b); });
     click(mark);
     click(mark, Qt::RightButton);
     EXPECT_EQ(pressed, (QList<MouseButton>{MouseButton::Left, MouseButton::Right}));
     const QImage neutral = mark.grab().toImage();
-    form.picANEnd.setBackColor(Colours::Green);
+    form.browser.picANEnd.setBackColor(Colours::Green);
     settle();
     EXPECT_NE(mark.grab().toImage(), neutral);
     EXPECT_EQ(mark.colour(), Colours::Green);
@@ -93,9 +93,9 @@ TEST_F(MainWindows, TheTabKeyStaysAndF6GoesThroughAllControls)
 TEST_F(MainWindows, ControlAndADigitChooseTheTab)
 {
     QTest::keyClick(&window, Qt::Key_3, Qt::ControlModifier);
-    EXPECT_EQ(form.sstSearch.tab(), 2);
+    EXPECT_EQ(form.frame.sstSearch.tab(), 2);
     QTest::keyClick(&window, Qt::Key_1, Qt::ControlModifier);
-    EXPECT_EQ(form.sstSearch.tab(), 0);
+    EXPECT_EQ(form.frame.sstSearch.tab(), 0);
 }
 
 TEST_F(MainWindows, NoTwoMnemonicsOfATabAreAlike)

@@ -46,8 +46,8 @@ TEST_F(Names, TheOptionSwitchesAreBoundMemberByMember)
             EXPECT_TRUE(bound.contains(name)) << qPrintable(name);
         }
     }
-    form.chkSMV(2).setCaption(u"Block PopUp Windows"_s);
-    form.chkSMV(2).setValue(1);
+    form.options.chkSMV(2).setCaption(u"Block PopUp Windows"_s);
+    form.options.chkSMV(2).setValue(1);
     settle();
     EXPECT_EQ(widget<QCheckBox>("chkSMV_2").text(), u"Block PopUp Windows"_s);
     EXPECT_TRUE(widget<QCheckBox>("chkSMV_2").isChecked());
@@ -93,12 +93,12 @@ TEST_F(Names, EveryWidgetHasAnAccessibleNameEvenWithoutToolTips)
 
 TEST_F(Names, TheAccessibleNameIsTheCaptionOrElseTheToolTip)
 {
-    form.cmdANStart.setToolTipText(u"Go = Start"_s);
-    form.cmdANSavedAdd.setToolTipText(u"Save the page"_s);
-    form.chkSaveSummary.setToolTipText(u"Save a summary"_s);
-    form.cboANList.setToolTipText(u"List of saved pages"_s);
-    form.incANTiming.setToolTipText(u"Seconds"_s);
-    form.picStatus.print(u"3/14 http://www.north-harbour.example/contact/"_s);
+    form.autoRun.cmdANStart.setToolTipText(u"Go = Start"_s);
+    form.saved.cmdANSavedAdd.setToolTipText(u"Save the page"_s);
+    form.outputs.chkSaveSummary.setToolTipText(u"Save a summary"_s);
+    form.saved.cboANList.setToolTipText(u"List of saved pages"_s);
+    form.autoRun.incANTiming.setToolTipText(u"Seconds"_s);
+    form.frame.picStatus.print(u"3/14 http://www.north-harbour.example/contact/"_s);
     settle();
     EXPECT_EQ(widget<QWidget>("cmdANStart").accessibleName(), u"Go"_s);
     EXPECT_EQ(widget<QWidget>("cmdANSavedAdd").accessibleName(), u"Save the page"_s);

@@ -11,7 +11,7 @@ using HoldSpeed::Stage;
 
 struct NumberEdits : WindowFixture
 {
-    NumberEdits() : edit(widget<NumberEdit>("incANTiming")), box(form.incANTiming) {}
+    NumberEdits() : edit(widget<NumberEdit>("incANTiming")), box(form.autoRun.incANTiming) {}
 
     void press(Direction direction)
     {

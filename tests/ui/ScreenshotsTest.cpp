@@ -27,42 +27,44 @@ struct DISABLED_Screenshots : WindowFixture
     /// A run that has just screened its third page of fourteen.
     void showRun()
     {
-        form.cmdANStart.setCaption(u"X"_s);
-        form.cmdANInitialize.setEnabled(false);
-        form.lblTrawlexTimer.setCaption(u"12"_s);
-        form.lblTrawlexTimer.setBackColor(Colours::Red);
-        form.lblTrawlexTimer.setForeColor(Colours::White);
-        form.incANTiming.setText(u"30"_s);
-        form.cboANSavedUrls.addItem(u"Results-104"_s);
-        form.cboANSavedUrls.setListIndex(0);
-        for (CheckBox *const box :
-             {&form.chkUseSavedUrls, &form.chkSaveSummary, &form.chkSaveUrl, &form.chkSavePages, &form.chkSaveEmail,
-              &form.chkUrlBlocking, &form.chkMustContain, &form.chkMustNotContain, &form.chkMNCCS})
+        form.autoRun.cmdANStart.setCaption(u"X"_s);
+        form.browser.cmdANInitialize.setEnabled(false);
+        form.browser.lblTrawlexTimer.setCaption(u"12"_s);
+        form.browser.lblTrawlexTimer.setBackColor(Colours::Red);
+        form.browser.lblTrawlexTimer.setForeColor(Colours::White);
+        form.autoRun.incANTiming.setText(u"30"_s);
+        form.saved.cboANSavedUrls.addItem(u"Results-104"_s);
+        form.saved.cboANSavedUrls.setListIndex(0);
+        for (CheckBox *const box : {&form.saved.chkUseSavedUrls, &form.outputs.chkSaveSummary, &form.outputs.chkSaveUrl,
+                                    &form.outputs.chkSavePages, &form.outputs.chkSaveEmail, &form.blocking.urls.on,
+                                    &form.criteria.mustContain.on, &form.criteria.mustNotContain.on,
+                                    &form.criteria.mustNotContain.caseSensitive})
             box->setValue(1);
-        form.chkEmailBlocking.setEnabled(false);
-        form.txtANStartTag.setText(u"<main"_s);
-        form.txtANStartTag.setBackColor(Colours::Green);
-        form.txtANStopTag.setText(u"</main>"_s);
-        form.txtANStopTag.setBackColor(Colours::Red);
-        form.lblSummarySaved.setBackColor(Colours::Green);
-        form.lblUrlSaved.setBackColor(Colours::Green);
-        form.lblPageSaved.setBackColor(Colours::Green);
-        form.lblEmailSaved.setBackColor(Colours::Red);
-        form.lblMCColor.setBackColor(Colours::Green);
-        form.lblMNCColor.setBackColor(Colours::Green);
-        form.lblAutoPgUrls.setCaption(u"A"_s);
-        form.lblAutoPgUrls.setBackColor(Colours::Blue);
-        form.lblAutoPgUrls.setForeColor(Colours::White);
-        form.cboANMCMNCMask.addItem(u"Criteria-0"_s);
-        form.cboANMCMNCMask.setListIndex(0);
+        form.blocking.email.on.setEnabled(false);
+        form.outputs.txtANStartTag.setText(u"<main"_s);
+        form.outputs.txtANStartTag.setBackColor(Colours::Green);
+        form.outputs.txtANStopTag.setText(u"</main>"_s);
+        form.outputs.txtANStopTag.setBackColor(Colours::Red);
+        form.outputs.lblSummarySaved.setBackColor(Colours::Green);
+        form.outputs.lblUrlSaved.setBackColor(Colours::Green);
+        form.outputs.lblPageSaved.setBackColor(Colours::Green);
+        form.outputs.lblEmailSaved.setBackColor(Colours::Red);
+        form.criteria.mustContain.lamp.setBackColor(Colours::Green);
+        form.criteria.mustNotContain.lamp.setBackColor(Colours::Green);
+        form.collect.lblAutoPgUrls.setCaption(u"A"_s);
+        form.collect.lblAutoPgUrls.setBackColor(Colours::Blue);
+        form.collect.lblAutoPgUrls.setForeColor(Colours::White);
+        form.criteria.cboANMCMNCMask.addItem(u"Criteria-0"_s);
+        form.criteria.cboANMCMNCMask.setListIndex(0);
         for (const auto &text : {u"contact"_s, u"about us"_s, u"imprint"_s})
-            form.lstANMC.addItem(text);
-        form.lstANMC.setSelected(0, true);
+            form.criteria.mustContain.items.addItem(text);
+        form.criteria.mustContain.items.setSelected(0, true);
         for (const auto &text : {u"casino"_s, u"cookie wall"_s})
-            form.lstANMNC.addItem(text);
-        form.lstANMCAllAny.setListIndex(1);
-        form.lstANMNCAllAny.setListIndex(1);
-        form.picStatus.print(u"3/14 http://www.north-harbour.example/contact/team/people/directory/index.html..."_s);
+            form.criteria.mustNotContain.items.addItem(text);
+        form.criteria.mustContain.demand.setListIndex(1);
+        form.criteria.mustNotContain.demand.setListIndex(1);
+        form.frame.picStatus.print(
+            u"3/14 http://www.north-harbour.example/contact/team/people/directory/index.html..."_s);
         window.setProgress(3, 14);
     }
 };

@@ -14,10 +14,10 @@ class AutoTabTest : public ProgramTest
     }
     void tabs(int search, int settingsTab = 0, int files = 0, int misc = 0)
     {
-        form().sstFiles.setTab(files);
-        form().sstMiscOptions.setTab(misc);
-        form().sstSettings.setTab(settingsTab);
-        form().sstSearch.setTab(search);
+        form().frame.sstFiles.setTab(files);
+        form().frame.sstMiscOptions.setTab(misc);
+        form().frame.sstSettings.setTab(settingsTab);
+        form().frame.sstSearch.setTab(search);
         statuses.clear();
     }
 };
@@ -38,16 +38,16 @@ TEST_P(Tabs, HaveTheirTipAndTheirDoubleClick)
 {
     const TabCase &row = GetParam();
     tabs(row.search, row.settings, row.files, row.misc);
-    const QString before = form().picStatus.printed();
-    form().picStatus.mouseMove();
-    EXPECT_EQ(form().picStatus.toolTipText(),
+    const QString before = form().frame.picStatus.printed();
+    form().frame.picStatus.mouseMove();
+    EXPECT_EQ(form().frame.picStatus.toolTipText(),
               u"Double Click "_s + QString::fromLatin1(row.tip) + u" Right click for menu"_s);
-    EXPECT_EQ(form().picStatus.printed(), before);
-    form().picStatus.doubleClick();
+    EXPECT_EQ(form().frame.picStatus.printed(), before);
+    form().frame.picStatus.doubleClick();
     EXPECT_EQ(lastStatus(),
               *row.doubleClick ? QString::fromLatin1(row.doubleClick) + u" double click, unassigned"_s : QString());
-    form().mbInitialized = false;
-    form().picStatus.doubleClick();
+    form().browser.mbInitialized = false;
+    form().frame.picStatus.doubleClick();
     EXPECT_EQ(lastStatus(), u"Not initialized"_s);
 }
 
@@ -66,97 +66,97 @@ INSTANTIATE_TEST_SUITE_P(Window, Tabs,
 
 TEST_F(AutoTabTest, ChangingTheTabTellsWhereTheUserIs)
 {
-    form().sstSearch.setTab(1);
+    form().frame.sstSearch.setTab(1);
     EXPECT_EQ(lastStatus(), u"Manual"_s);
-    form().sstSearch.setTab(2);
+    form().frame.sstSearch.setTab(2);
     EXPECT_EQ(lastStatus(), u"Settings - Blocking"_s);
-    form().sstSettings.setTab(1);
+    form().frame.sstSettings.setTab(1);
     EXPECT_EQ(lastStatus(), u"Settings - Files - Directory"_s);
-    form().sstFiles.setTab(1);
+    form().frame.sstFiles.setTab(1);
     EXPECT_EQ(lastStatus(), u"Settings - Files - Import"_s);
-    form().sstSettings.setTab(2);
+    form().frame.sstSettings.setTab(2);
     EXPECT_EQ(lastStatus(), u"Settings - Misc - A-M"_s);
-    form().sstMiscOptions.setTab(2);
+    form().frame.sstMiscOptions.setTab(2);
     EXPECT_EQ(lastStatus(), u"Settings - Misc - View"_s);
-    form().sstSettings.setTab(0);
+    form().frame.sstSettings.setTab(0);
     EXPECT_EQ(lastStatus(), u"Settings - Blocking"_s);
-    form().sstSettings.setTab(2);
-    form().sstSearch.setTab(3);
+    form().frame.sstSettings.setTab(2);
+    form().frame.sstSearch.setTab(3);
     EXPECT_EQ(lastStatus(), u"Data"_s);
-    form().sstSearch.setTab(2);
+    form().frame.sstSearch.setTab(2);
     EXPECT_EQ(lastStatus(), u"Settings - Misc"_s);
 }
 
 TEST_F(AutoTabTest, TheTimersTipFollowsTheTab)
 {
     const auto tip = [this](int tab) {
-        form().sstSearch.setTab(tab);
-        form().lblTrawlexTimer.mouseMove();
-        return form().lblTrawlexTimer.toolTipText();
+        form().frame.sstSearch.setTab(tab);
+        form().browser.lblTrawlexTimer.mouseMove();
+        return form().browser.lblTrawlexTimer.toolTipText();
     };
     EXPECT_EQ(tip(0), u"Left click cancels timer. Right click to magnify Saved Url"_s);
     EXPECT_EQ(tip(1), u"(Left click) - cancel timer. Right click to open file save directory"_s);
-    form().chkSMA(8).setValue(0);
+    form().options.chkSMA(8).setValue(0);
     EXPECT_EQ(tip(1), u"(Left click) - cancel timer. Right click to magnify active item"_s);
     EXPECT_EQ(tip(3), u"Trawlex Timer (Sec). Left click cancels timer"_s);
-    form().chkSMV(0).setValue(0);
+    form().options.chkSMV(0).setValue(0);
     EXPECT_EQ(tip(0), QString());
 }
 
 TEST_F(AutoTabTest, WithoutABrowserTheTimerDoesNotAnswer)
 {
-    form().lblTrawlexTimer.setCaption(u"7"_s);
-    form().mbInitialized = false;
-    form().lblTrawlexTimer.mouseDown(MouseButton::Left);
-    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"7"_s);
-    form().mbInitialized = true;
-    form().lblTrawlexTimer.mouseDown(MouseButton::Left);
-    EXPECT_EQ(form().lblTrawlexTimer.caption(), u"0"_s);
+    form().browser.lblTrawlexTimer.setCaption(u"7"_s);
+    form().browser.mbInitialized = false;
+    form().browser.lblTrawlexTimer.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"7"_s);
+    form().browser.mbInitialized = true;
+    form().browser.lblTrawlexTimer.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"0"_s);
 }
 
 TEST_F(AutoTabTest, QuickBlockTakesTheServerOfThePageOnShow)
 {
     browser().show(u"http://www.ads.com/banner"_s);
-    form().lblAutoCollect.mouseDown(MouseButton::Left);
-    ASSERT_EQ(form().mastrQB.size(), 1);
-    const QString server = form().mastrQB[0];
+    form().collect.lblAutoCollect.mouseDown(MouseButton::Left);
+    ASSERT_EQ(form().blocking.mastrQB.size(), 1);
+    const QString server = form().blocking.mastrQB[0];
     EXPECT_EQ(lastStatus(), u"QB added "_s + server);
     EXPECT_TRUE(u"http://www.ads.com/banner"_s.contains(server));
     EXPECT_FALSE(server.contains(u"www"_s));
-    form().lblAutoCollect.mouseDown(MouseButton::Left);
+    form().collect.lblAutoCollect.mouseDown(MouseButton::Left);
     EXPECT_EQ(lastStatus(), u"Exists "_s + server);
     browser().show(u"http://www.more.com/"_s);
-    form().lblAutoCollect.mouseDown(MouseButton::Left);
-    EXPECT_EQ(form().mastrQB.size(), 2);
+    form().collect.lblAutoCollect.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().blocking.mastrQB.size(), 2);
     browser().show(u"about:blank"_s);
-    form().lblAutoCollect.mouseDown(MouseButton::Left);
+    form().collect.lblAutoCollect.mouseDown(MouseButton::Left);
     EXPECT_EQ(lastStatus(), u"Nothing to add"_s);
-    form().lblAutoCollect.mouseMove();
-    EXPECT_EQ(form().lblAutoCollect.toolTipText(),
+    form().collect.lblAutoCollect.mouseMove();
+    EXPECT_EQ(form().collect.lblAutoCollect.toolTipText(),
               u"Left click Add Quick Block. Right click Clear Quick Block. 2 blocked"_s);
-    form().lblAutoCollect.mouseDown(MouseButton::Right);
-    EXPECT_EQ(form().mastrQB, emptyList());
+    form().collect.lblAutoCollect.mouseDown(MouseButton::Right);
+    EXPECT_EQ(form().blocking.mastrQB, emptyList());
     EXPECT_EQ(lastStatus(), u"Quick Block Cleared"_s);
 }
 
 TEST_F(AutoTabTest, QuickBlockIsOfTheAutoTabAlone)
 {
     browser().show(u"http://www.ads.com/"_s);
-    form().sstSearch.setTab(1);
-    form().lblAutoCollect.mouseDown(MouseButton::Left);
-    EXPECT_EQ(form().mastrQB, emptyList());
+    form().frame.sstSearch.setTab(1);
+    form().collect.lblAutoCollect.mouseDown(MouseButton::Left);
+    EXPECT_EQ(form().blocking.mastrQB, emptyList());
 }
 
 TEST_F(AutoTabTest, ThePagesLabelOpensTheFolderOfFilesUnlessPagesGoIntoTheTable)
 {
-    form().chkSaveToFile.setValue(1);
-    form().lblPageSaved.mouseDown(MouseButton::Left);
+    form().outputs.chkSaveToFile.setValue(1);
+    form().outputs.lblPageSaved.mouseDown(MouseButton::Left);
     EXPECT_TRUE(desktop.opened.isEmpty());
-    form().chkSaveToSS.setValue(0);
-    form().lblPageSaved.mouseDown(MouseButton::Right);
+    form().outputs.chkSaveToSS.setValue(0);
+    form().outputs.lblPageSaved.mouseDown(MouseButton::Right);
     EXPECT_TRUE(desktop.opened.isEmpty());
-    form().lblPageSaved.mouseDown(MouseButton::Left);
-    EXPECT_EQ(desktop.opened, QStringList{form().txtSFMNDir.text()});
+    form().outputs.lblPageSaved.mouseDown(MouseButton::Left);
+    EXPECT_EQ(desktop.opened, QStringList{form().places.txtSFMNDir.text()});
 }
 
 // Runs that end each wait once the page is there.
@@ -171,8 +171,8 @@ class UntilLoadedTest : public RunTest
 
 TEST_F(UntilLoadedTest, AWaitIsOverAsSoonAsThePageHasLoaded)
 {
-    form().chkSaveSummary.setValue(1);
-    form().chkSMD(1).setValue(0);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().options.chkSMD(1).setValue(0);
     const QStringList links = makeSites(3);
     for (int i = 0; i < 3; ++i)
         browser().pages[links[i]].loadTime = 700 * (i + 1);

@@ -27,7 +27,7 @@ class ConnectionTest : public ProgramTest
 TEST_F(ConnectionTest, ARunningWindowIsTakenWithoutStartingAnything)
 {
     load();
-    EXPECT_TRUE(form().mbInitialized);
+    EXPECT_TRUE(form().browser.mbInitialized);
     EXPECT_TRUE(browsers.started.isEmpty());
 }
 
@@ -36,8 +36,8 @@ TEST_F(ConnectionTest, TheBuiltInBrowserIsTheInternalOne)
     browsers.internal = std::make_shared<FakeBrowser>(pump);
     settings.preset("lstDCoTmr", u"0"_s);
     load();
-    EXPECT_TRUE(form().mbInitialized);
-    EXPECT_TRUE(form().mbInternalBrowser);
+    EXPECT_TRUE(form().browser.mbInitialized);
+    EXPECT_TRUE(form().browser.mbInternalBrowser);
     program->navigation.OpenSite(u"www.tea.com"_s);
     EXPECT_EQ(browsers.internal->navigated, QStringList{u"http://www.tea.com"_s});
     EXPECT_TRUE(browser().navigated.isEmpty());
@@ -47,10 +47,10 @@ TEST_F(ConnectionTest, WithoutABuiltInBrowserItIsNotInitialized)
 {
     settings.preset("lstDCoTmr", u"0"_s);
     load();
-    EXPECT_FALSE(form().mbInitialized);
-    EXPECT_FALSE(form().mbInternalBrowser);
+    EXPECT_FALSE(form().browser.mbInitialized);
+    EXPECT_FALSE(form().browser.mbInternalBrowser);
     EXPECT_EQ(lastStatus(), u"Not initialized"_s);
-    EXPECT_TRUE(form().cmdANInitialize.isEnabled());
+    EXPECT_TRUE(form().browser.cmdANInitialize.isEnabled());
 }
 
 TEST_F(ConnectionTest, ABrowserThatDoesNotRunIsStartedAndTakenAsSoonAsItAnswers)
@@ -59,7 +59,7 @@ TEST_F(ConnectionTest, ABrowserThatDoesNotRunIsStartedAndTakenAsSoonAsItAnswers)
     browsers.startsAfter = 3000;
     const qint64 start = pump.tickCount();
     startWithoutBrowser();
-    EXPECT_TRUE(form().mbInitialized);
+    EXPECT_TRUE(form().browser.mbInitialized);
     EXPECT_EQ(browsers.started, QStringList{browsers.program});
     EXPECT_LE(pump.tickCount() - start, 3400);
 }
@@ -69,7 +69,7 @@ TEST_F(ConnectionTest, AfterTenSecondsWithoutAnAnswerItIsGivenUpWithoutAMessage)
     browsers.program = makeProgram(u"chromium"_s);
     const qint64 start = pump.tickCount();
     startWithoutBrowser();
-    EXPECT_FALSE(form().mbInitialized);
+    EXPECT_FALSE(form().browser.mbInitialized);
     EXPECT_EQ(pump.tickCount() - start, 10'000);
     EXPECT_TRUE(dialogs.told.isEmpty());
     EXPECT_EQ(lastStatus(), u"Not initialized"_s);
@@ -84,8 +84,8 @@ TEST_F(ConnectionTest, WithoutAProgramTheUserIsAskedForOneAndThenTold)
     EXPECT_EQ(dialogs.told[0].title, u"* ERROR * Can Not Initialize * ERROR *"_s);
     EXPECT_EQ(dialogs.told[0].text, u"Trawlex Requires Microsoft Intenet Explorer Version 5.5 Or Later."_s);
     EXPECT_TRUE(browsers.started.isEmpty());
-    EXPECT_TRUE(form().cmdANInitialize.isEnabled());
-    EXPECT_FALSE(form().cmdANStart.isEnabled());
+    EXPECT_TRUE(form().browser.cmdANInitialize.isEnabled());
+    EXPECT_FALSE(form().autoRun.cmdANStart.isEnabled());
 }
 
 TEST_F(ConnectionTest, AChoiceThatCannotBeDrivenIsNone)
@@ -131,9 +131,9 @@ TEST_F(ConnectionTest, TheButtonSaysWhatItDoesAndIsOffMeanwhile)
     browsers.program = makeProgram(u"chromium"_s);
     browsers.startsAfter = 1000;
     bool enabled = true;
-    pump.after(500, [&] { enabled = form().cmdANInitialize.isEnabled(); });
+    pump.after(500, [&] { enabled = form().browser.cmdANInitialize.isEnabled(); });
     statuses.clear();
-    form().cmdANInitialize.click();
+    form().browser.cmdANInitialize.click();
     EXPECT_EQ(statuses, (QStringList{u"Initializing browser"_s, u"Initialized"_s}));
     EXPECT_FALSE(enabled);
 }
@@ -155,8 +155,8 @@ TEST_F(ConnectionTest, ChoosingTheOtherBrowserConnectsItAndStoresTheChoice)
     browsers.internal = std::make_shared<FakeBrowser>(pump);
     load();
     statuses.clear();
-    form().cboANWBSelect.setListIndex(0);
-    EXPECT_TRUE(form().mbInternalBrowser);
+    form().browser.cboANWBSelect.setListIndex(0);
+    EXPECT_TRUE(form().browser.mbInternalBrowser);
     EXPECT_EQ(lastStatus(), u"Initialized"_s);
     EXPECT_EQ(settings.of("lstDCoTmr"), u"0"_s);
 }
@@ -166,11 +166,11 @@ TEST_F(ConnectionTest, AnotherChoiceWhileABrowserIsAwaitedReplacesTheAttempt)
     browsers.internal = std::make_shared<FakeBrowser>(pump);
     startWithoutBrowser();
     browsers.program = makeProgram(u"chromium"_s);
-    pump.after(1000, [&] { form().cboANWBSelect.setListIndex(0); });
+    pump.after(1000, [&] { form().browser.cboANWBSelect.setListIndex(0); });
     statuses.clear();
-    form().cmdANInitialize.click();
-    EXPECT_TRUE(form().mbInitialized);
-    EXPECT_TRUE(form().mbInternalBrowser);
+    form().browser.cmdANInitialize.click();
+    EXPECT_TRUE(form().browser.mbInitialized);
+    EXPECT_TRUE(form().browser.mbInternalBrowser);
     EXPECT_EQ(lastStatus(), u"Initialized"_s);
     EXPECT_EQ(statuses.count(u"Not initialized"_s), 0);
 }
@@ -179,10 +179,10 @@ TEST_F(ConnectionTest, TheBrowsersClosingLeavesOnlyTheWayToConnectAgain)
 {
     load();
     browser().close();
-    EXPECT_FALSE(form().mbInitialized);
+    EXPECT_FALSE(form().browser.mbInitialized);
     EXPECT_EQ(lastStatus(), u"Not initialized"_s);
-    EXPECT_TRUE(form().cmdANInitialize.isEnabled());
-    EXPECT_FALSE(form().cmdANStart.isEnabled());
+    EXPECT_TRUE(form().browser.cmdANInitialize.isEnabled());
+    EXPECT_FALSE(form().autoRun.cmdANStart.isEnabled());
     EXPECT_FALSE(program->browser.isSet());
 }
 
@@ -190,7 +190,7 @@ TEST_F(ConnectionTest, PopUpsAreRefusedWhileTheOptionIsOn)
 {
     load();
     EXPECT_TRUE(browser().popUpIsRefused());
-    form().chkSMV(2).setValue(0);
+    form().options.chkSMV(2).setValue(0);
     EXPECT_FALSE(browser().popUpIsRefused());
 }
 
@@ -199,15 +199,15 @@ TEST_F(ConnectionTest, TheBuiltInBrowserNeverOpensASecondWindow)
     browsers.internal = std::make_shared<FakeBrowser>(pump);
     settings.preset("lstDCoTmr", u"0"_s);
     load();
-    form().chkSMV(2).setValue(0);
+    form().options.chkSMV(2).setValue(0);
     EXPECT_TRUE(browsers.internal->popUpIsRefused());
 }
 
 TEST_F(ConnectionTest, TheStandardPositionTakesTheSizesThatAreSet)
 {
     load();
-    form().incSMAIEWidth.setText(u"0051"_s);
-    form().incSMAIEHeight.setText(u"0050"_s); // too small: unset
+    form().limits.incSMAIEWidth.setText(u"0051"_s);
+    form().limits.incSMAIEHeight.setText(u"0050"_s); // too small: unset
     program->connection.SetStandardPosition();
     EXPECT_EQ(browser().geometry, (QStringList{u"top 0"_s, u"width 51"_s, u"height 440"_s, u"left 400"_s}));
 }
@@ -218,7 +218,7 @@ TEST_F(ConnectionTest, TheStandardPositionDoesNothingWithoutABrowserAndMovesOnly
     program->connection.SetStandardPosition();
     EXPECT_EQ(place.rect.topLeft(), QPoint(300, 200));
     browsers.internal = std::make_shared<FakeBrowser>(pump);
-    form().cboANWBSelect.setListIndex(0);
+    form().browser.cboANWBSelect.setListIndex(0);
     program->connection.SetStandardPosition();
     EXPECT_EQ(place.rect.topLeft(), QPoint(0, 0));
     EXPECT_TRUE(browsers.internal->geometry.isEmpty());

@@ -40,7 +40,7 @@ TEST_F(LoaderTest, AMissingNameTakesTheNextVacantOne)
     EXPECT_TRUE(loaded);
     EXPECT_TRUE(QFile::exists(folder.filePath(u"Trawlex-2.mdb"_s)));
     EXPECT_EQ(name(), u"Trawlex-2.mdb"_s);
-    EXPECT_EQ(form().txtSFDBFile.text(), u"Trawlex-2.mdb"_s);
+    EXPECT_EQ(form().places.txtSFDBFile.text(), u"Trawlex-2.mdb"_s);
     EXPECT_TRUE(dialogs.told.isEmpty());
     EXPECT_TRUE(dialogs.asked.isEmpty());
 }
@@ -54,7 +54,7 @@ TEST_F(LoaderTest, TheNamedDatabaseIsOpenedWithWhatItHolds)
     program->lifeCycle.end();
     program.reset();
     load();
-    EXPECT_EQ(form().cboANSavedUrls.items(), QStringList{u"Results-100"_s});
+    EXPECT_EQ(form().saved.cboANSavedUrls.items(), QStringList{u"Results-100"_s});
     EXPECT_EQ(name(), u"Mine.mdb"_s);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"Trawlex-0.mdb"_s)));
 }
@@ -94,7 +94,7 @@ TEST_F(LoaderTest, AssignedThroughTheBoxABadFileSaysSoAndTheProgramStays)
 {
     load();
     makeFile(u"Bad.mdb"_s);
-    form().txtSFDBFile.setText(u"Bad.mdb"_s);
+    form().places.txtSFDBFile.setText(u"Bad.mdb"_s);
     EXPECT_FALSE(program->loader.LoadDBData(true));
     ASSERT_EQ(dialogs.told.size(), 1);
     EXPECT_EQ(dialogs.told[0].text, folder.filePath(u"Bad.mdb"_s) + u"\r\nYou will need to restart Trawlex"_s);
@@ -118,7 +118,7 @@ TEST_F(LoaderTest, AFailedStartConnectsNoBrowserAndWritesNoOptions)
     setName(u"Mine.mdb"_s);
     load();
     EXPECT_FALSE(form().mbFormReady);
-    EXPECT_FALSE(form().mbInitialized);
+    EXPECT_FALSE(form().browser.mbInitialized);
     EXPECT_TRUE(settings.written.isEmpty());
 }
 
@@ -142,7 +142,7 @@ TEST_P(Positions, AreTakenWhereTheListIsLongEnough)
     addSaved(u"Results-101"_s, u"http://www.b.com/"_s);
     settings.preset("cboSavedUrl", QString::fromLatin1(GetParam().stored));
     program->loader.LoadDBData(false);
-    EXPECT_EQ(form().cboANSavedUrls.listIndex(), GetParam().index);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listIndex(), GetParam().index);
 }
 
 INSTANTIATE_TEST_SUITE_P(Loader, Positions,
@@ -153,13 +153,13 @@ TEST_F(LoaderTest, UsingSavedUrlsIsTakenOverOnlyWhereThereAreSome)
 {
     settings.preset("chkUseSavedUrls", u"1"_s);
     load();
-    EXPECT_EQ(form().chkUseSavedUrls.value(), 0);
+    EXPECT_EQ(form().saved.chkUseSavedUrls.value(), 0);
     addSaved(u"Results-100"_s, u"http://www.a.com/"_s);
     program->lifeCycle.end();
     program.reset();
     settings.preset("chkUseSavedUrls", u"1"_s);
     load();
-    EXPECT_EQ(form().chkUseSavedUrls.value(), 1);
+    EXPECT_EQ(form().saved.chkUseSavedUrls.value(), 1);
 }
 
 TEST_F(LoaderTest, BlockingWithoutTextsGoesOff)
@@ -167,8 +167,8 @@ TEST_F(LoaderTest, BlockingWithoutTextsGoesOff)
     settings.preset("chkUrlBlocking", u"1"_s);
     settings.preset("chkEmailBlocking", u"1"_s);
     load();
-    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
-    EXPECT_EQ(form().chkEmailBlocking.value(), 0);
+    EXPECT_EQ(form().blocking.urls.on.value(), 0);
+    EXPECT_EQ(form().blocking.email.on.value(), 0);
 }
 
 TEST_F(LoaderTest, TheListLetterDecidesWhichSavedUrlsAreShown)
@@ -179,5 +179,5 @@ TEST_F(LoaderTest, TheListLetterDecidesWhichSavedUrlsAreShown)
     program.reset();
     settings.preset("cboANList", u"2"_s);
     load();
-    EXPECT_EQ(form().cboANSavedUrls.items(), QStringList{u"Results-100"_s});
+    EXPECT_EQ(form().saved.cboANSavedUrls.items(), QStringList{u"Results-100"_s});
 }

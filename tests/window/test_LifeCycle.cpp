@@ -22,11 +22,11 @@ TEST_F(LifeTest, TheFirstStartInAnEmptyFolderMakesADatabaseAndConnectsTheBrowser
     EXPECT_TRUE(loaded);
     EXPECT_TRUE(QFile::exists(folder.filePath(u"Trawlex-0.mdb"_s)));
     EXPECT_TRUE(form().mbFormReady);
-    EXPECT_TRUE(form().mbInitialized);
-    EXPECT_FALSE(form().mbInternalBrowser);
+    EXPECT_TRUE(form().browser.mbInitialized);
+    EXPECT_FALSE(form().browser.mbInternalBrowser);
     EXPECT_EQ(lastStatus(), u"Initialized"_s);
-    EXPECT_FALSE(form().cmdANInitialize.isEnabled());
-    EXPECT_TRUE(form().cmdANStart.isEnabled());
+    EXPECT_FALSE(form().browser.cmdANInitialize.isEnabled());
+    EXPECT_TRUE(form().autoRun.cmdANStart.isEnabled());
 }
 
 TEST_F(LifeTest, TheFirstStartWritesTheDatabasesNameAlone)
@@ -40,10 +40,12 @@ TEST_F(LifeTest, TheNumberBoxesHaveTheirDigits)
 {
     load();
     const std::pair<const NumberBox *, int> digits[] = {
-        {&form().incMNAutoUrl, 10},      {&form().incSFMinFileSize, 6},  {&form().incNotFoundMinSize, 6},
-        {&form().incSMAIEWidth, 4},      {&form().incSMAIEHeight, 4},    {&form().incSFMinGraphicSize, 6},
-        {&form().incSMAMAutoTxtElng, 4}, {&form().incSMDMinHtmlSize, 6}, {&form().incANTiming, 3},
-        {&form().incSmRPPause, 3},       {&form().incMNDLTiming, 3}};
+        {&form().series.incMNAutoUrl, 10},      {&form().limits.incSFMinFileSize, 6},
+        {&form().limits.incNotFoundMinSize, 6}, {&form().limits.incSMAIEWidth, 4},
+        {&form().limits.incSMAIEHeight, 4},     {&form().limits.incSFMinGraphicSize, 6},
+        {&form().limits.incSMAMAutoTxtElng, 4}, {&form().limits.incSMDMinHtmlSize, 6},
+        {&form().autoRun.incANTiming, 3},       {&form().limits.incSmRPPause, 3},
+        {&form().manual.incMNDLTiming, 3}};
     for (const auto &[box, count] : digits)
         EXPECT_EQ(box->digits(), count) << box->name().toStdString();
 }
@@ -52,9 +54,9 @@ TEST_F(LifeTest, WithTheOptionAtOneTheWindowGoesToTheStandardPositionAndTheBoxSh
 {
     settings.preset("chkSAMoveToTopLeft", u"1"_s);
     load();
-    EXPECT_EQ(form().chkSMV(4).value(), 0);
+    EXPECT_EQ(form().options.chkSMV(4).value(), 0);
     program->lifeCycle.settle();
-    EXPECT_EQ(form().chkSMV(4).value(), 1);
+    EXPECT_EQ(form().options.chkSMV(4).value(), 1);
     EXPECT_EQ(place.rect, QRect(0, 0, 400, 560));
     EXPECT_EQ(browser().geometry, (QStringList{u"top 0"_s, u"width 380"_s, u"height 440"_s, u"left 400"_s}));
     EXPECT_TRUE(form().mbMainShown);
@@ -66,7 +68,7 @@ TEST_F(LifeTest, TheOptionsDefaultIsOne)
     settings.values.remove(u"SecFrmSearch/chkSAMoveToTopLeft"_s);
     load();
     program->lifeCycle.settle();
-    EXPECT_EQ(form().chkSMV(4).value(), 1);
+    EXPECT_EQ(form().options.chkSMV(4).value(), 1);
 }
 
 TEST_F(LifeTest, OtherwiseTheWindowComesBackToWhereItWasSaved)
@@ -76,7 +78,7 @@ TEST_F(LifeTest, OtherwiseTheWindowComesBackToWhereItWasSaved)
     load();
     program->lifeCycle.settle();
     EXPECT_EQ(place.rect, QRect(100, 20, 400, 560));
-    EXPECT_EQ(form().chkSMV(4).value(), 0);
+    EXPECT_EQ(form().options.chkSMV(4).value(), 0);
     EXPECT_TRUE(browser().geometry.isEmpty());
 }
 
@@ -138,21 +140,21 @@ TEST_F(LifeTest, AsksBeforeItEndsWhereTheOptionSaysSo)
 {
     load();
     dialogs.answer = UserDialogs::Answer::No;
-    form().picANEnd.mouseDown(MouseButton::Left);
+    form().browser.picANEnd.mouseDown(MouseButton::Left);
     ASSERT_EQ(dialogs.asked.size(), 1);
     EXPECT_EQ(dialogs.asked[0].title, u"Program will terminate"_s);
     EXPECT_EQ(dialogs.asked[0].text, u"Shut down Trawlex?"_s);
     EXPECT_EQ(dialogs.lastIcon, UserDialogs::Icon::Critical);
     EXPECT_EQ(ends, 0);
     dialogs.answer = UserDialogs::Answer::Yes;
-    form().picANEnd.mouseDown(MouseButton::Left);
+    form().browser.picANEnd.mouseDown(MouseButton::Left);
     EXPECT_EQ(ends, 1);
 }
 
 TEST_F(LifeTest, EndsWithoutAQuestionWhereTheOptionIsOff)
 {
     load();
-    form().chkSMA(7).setValue(0);
+    form().options.chkSMA(7).setValue(0);
     program->lifeCycle.Terminate();
     EXPECT_TRUE(dialogs.asked.isEmpty());
     EXPECT_EQ(ends, 1);
@@ -161,7 +163,7 @@ TEST_F(LifeTest, EndsWithoutAQuestionWhereTheOptionIsOff)
 TEST_F(LifeTest, TheRightButtonOnTheEndMarkOrientsTheWindows)
 {
     load();
-    form().picANEnd.mouseDown(MouseButton::Right);
+    form().browser.picANEnd.mouseDown(MouseButton::Right);
     EXPECT_EQ(place.rect.topLeft(), QPoint(0, 0));
     EXPECT_EQ(ends, 0);
 }
@@ -174,8 +176,8 @@ class EndInARun : public RunTest
 
 TEST_F(EndInARun, TerminateInTheMiddleOfAWaitStopsTheRunAndEndsOnceItHasUnwound)
 {
-    form().chkSMA(7).setValue(0);
-    form().chkSaveSummary.setValue(1);
+    form().options.chkSMA(7).setValue(0);
+    form().outputs.chkSaveSummary.setValue(1);
     showResults(makeSites(3));
     FakeBrowser &window = browser();
     int endsInTheWait = -1;
@@ -210,8 +212,8 @@ TEST_F(EndInARun, ANoToTheQuestionLetsTheRunGoOn)
 
 TEST_F(EndInARun, TerminateInTheWaitForAnErrorPagesServerDoesNotWaitForIt)
 {
-    form().chkSMA(7).setValue(0);
-    form().incNotFoundMinSize.setText(u"001000"_s);
+    form().options.chkSMA(7).setValue(0);
+    form().limits.incNotFoundMinSize.setText(u"001000"_s);
     showResults(makeSites(2));
     browser().pages[u"http://www.site1.com/"_s].html = u"404"_s;
     pump.after(5600, [&] { program->lifeCycle.Terminate(); });
@@ -224,10 +226,10 @@ TEST_F(EndInARun, TerminateInTheWaitForAnErrorPagesServerDoesNotWaitForIt)
 
 TEST_F(EndInARun, CancelInAnErrorBoxEndsTheProgramAndWritesNothing)
 {
-    form().chkSMV(1).setValue(1);
+    form().options.chkSMV(1).setValue(1);
     qputenv("LOGFILES", folder.path().toUtf8());
     dialogs.errorAnswer = UserDialogs::Answer::Cancel;
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     showResults(makeSites(3));
     browser().pages[u"http://www.site1.com/"_s].readingFails = RuntimeError(50'001, u"took too long"_s);
     settings.written.clear();
@@ -241,14 +243,14 @@ TEST_F(EndInARun, CancelInAnErrorBoxEndsTheProgramAndWritesNothing)
 
 TEST_F(EndInARun, AFailingLogLeavesAllControlsUsable)
 {
-    form().chkSMV(1).setValue(1);
+    form().options.chkSMV(1).setValue(1);
     qputenv("LOGFILES", "/nowhere/at/all");
-    form().cmdANSavedGo.setEnabled(false);
-    form().txtANStartTag.setEnabled(false);
+    form().saved.cmdANSavedGo.setEnabled(false);
+    form().outputs.txtANStartTag.setEnabled(false);
     program->log.ErrorLogger(5, u"x"_s, u"m"_s, u"l"_s);
     qunsetenv("LOGFILES");
-    EXPECT_TRUE(form().cmdANSavedGo.isEnabled());
-    EXPECT_TRUE(form().txtANStartTag.isEnabled());
+    EXPECT_TRUE(form().saved.cmdANSavedGo.isEnabled());
+    EXPECT_TRUE(form().outputs.txtANStartTag.isEnabled());
     EXPECT_TRUE(dialogs.errors.isEmpty());
 }
 

@@ -134,11 +134,11 @@ TEST_F(OptionsTest, AValueThatDoesNotConvertEndsTheLoadingThere)
     settings.preset("chkMCMNCStop", u"1"_s);                // in front of it
     settings.preset("chkSMSUniqueServers", u"1"_s);
     load();
-    EXPECT_EQ(form().chkMCMNCStop.value(), 1);
-    EXPECT_EQ(form().chkSavePages.value(), 0);
-    EXPECT_EQ(form().chkSMA(9).value(), 0);
+    EXPECT_EQ(form().outputs.chkMCMNCStop.value(), 1);
+    EXPECT_EQ(form().outputs.chkSavePages.value(), 0);
+    EXPECT_EQ(form().options.chkSMA(9).value(), 0);
     EXPECT_TRUE(loaded); // the folder of the program stands where no other was read
-    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u'/');
+    EXPECT_EQ(form().places.txtSFDBDir.text(), folder.path() + u'/');
 }
 
 TEST_F(OptionsTest, AnIndexBeyondItsListIsSuchAValueToo)
@@ -146,7 +146,7 @@ TEST_F(OptionsTest, AnIndexBeyondItsListIsSuchAValueToo)
     settings.preset("SearchKeyCboSaveItem ListIndex", u"9"_s);
     settings.preset("chkSMSUniqueServers", u"1"_s);
     load();
-    EXPECT_EQ(form().chkSMA(9).value(), 0);
+    EXPECT_EQ(form().options.chkSMA(9).value(), 0);
     EXPECT_TRUE(loaded);
 }
 
@@ -155,8 +155,8 @@ TEST_F(OptionsTest, FoldersThatAreGoneGiveWayToTheProgramsAndTheStoreSaysSo)
     settings.preset("SearchKeyTxtSaveLocation Text", u"/gone/away/"_s);
     settings.preset("txtFNSaveLocation", u"/gone/too/"_s);
     load();
-    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u'/');
-    EXPECT_EQ(form().txtSFMNDir.text(), folder.path() + u'/');
+    EXPECT_EQ(form().places.txtSFDBDir.text(), folder.path() + u'/');
+    EXPECT_EQ(form().places.txtSFMNDir.text(), folder.path() + u'/');
     EXPECT_EQ(settings.of("SearchKeyTxtSaveLocation Text"), folder.path() + u'/');
     EXPECT_EQ(settings.of("txtFNSaveLocation"), folder.path() + u'/');
 }
@@ -166,8 +166,8 @@ TEST_F(OptionsTest, TheFileSaveFolderDefaultsToThatOfTheDatabase)
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"data"_s));
     settings.preset("SearchKeyTxtSaveLocation Text", folder.path() + u"/data/"_s);
     load();
-    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u"/data/"_s);
-    EXPECT_EQ(form().txtSFMNDir.text(), folder.path() + u"/data/"_s);
+    EXPECT_EQ(form().places.txtSFDBDir.text(), folder.path() + u"/data/"_s);
+    EXPECT_EQ(form().places.txtSFMNDir.text(), folder.path() + u"/data/"_s);
     EXPECT_TRUE(QFile::exists(folder.path() + u"/data/Trawlex-0.mdb"_s));
 }
 
@@ -175,7 +175,7 @@ TEST_F(OptionsTest, AnEmptyFolderCountsAsTheProgramsOwn)
 {
     settings.preset("SearchKeyTxtSaveLocation Text", {});
     load();
-    EXPECT_EQ(form().txtSFDBDir.text(), folder.path() + u'/');
+    EXPECT_EQ(form().places.txtSFDBDir.text(), folder.path() + u'/');
 }
 
 // What a click stores and tells.
@@ -184,7 +184,7 @@ TEST_F(OptionsTest, EverySwitchStoresItsValueAndTellsItsStatus)
 {
     load();
     program->lifeCycle.settle();
-    form().chkSMV(1).setValue(0);
+    form().options.chkSMV(1).setValue(0);
     // Outputs first, so that the criteria stay on; blocking and Saved Urls have nothing to act on and go off at once.
     const QStringList kept{u"chkUrlBlocking"_s, u"chkEmailBlocking"_s, u"chkUseSavedUrls"_s};
     for (const SwitchRow &row : switchRows()) {
@@ -192,7 +192,7 @@ TEST_F(OptionsTest, EverySwitchStoresItsValueAndTellsItsStatus)
         ASSERT_NE(box, nullptr) << row.control.data();
         if (kept.contains(QString(row.control)))
             continue;
-        form().chkSavePages.setValue(1);
+        form().outputs.chkSavePages.setValue(1);
         const int before = box->value();
         statuses.clear();
         box->click();
@@ -205,7 +205,7 @@ TEST_F(OptionsTest, EverySwitchStoresItsValueAndTellsItsStatus)
         auto *box = qobject_cast<CheckBox *>(form().control(row.control));
         if (!box || kept.contains(QString(row.control)))
             continue;
-        form().chkSavePages.setValue(1);
+        form().outputs.chkSavePages.setValue(1);
         box->click();
         EXPECT_EQ(settings.of(row.key.data()), QString::number(box->value())) << row.key.data();
     }
@@ -225,11 +225,11 @@ class SavePagesStatus : public ProgramTest, public testing::WithParamInterface<P
 TEST_P(SavePagesStatus, NamesTheTarget)
 {
     load();
-    form().chkSavePages.setValue(1 - GetParam().on);
-    form().chkSaveToSS.setValue(GetParam().toTable);
-    form().chkSaveToFile.setValue(GetParam().toFile);
-    form().chkPutInOneFile.setValue(GetParam().oneFile);
-    form().chkSavePages.click();
+    form().outputs.chkSavePages.setValue(1 - GetParam().on);
+    form().outputs.chkSaveToSS.setValue(GetParam().toTable);
+    form().outputs.chkSaveToFile.setValue(GetParam().toFile);
+    form().outputs.chkPutInOneFile.setValue(GetParam().oneFile);
+    form().outputs.chkSavePages.click();
     EXPECT_EQ(lastStatus(), QString::fromLatin1(GetParam().status));
 }
 
@@ -243,29 +243,29 @@ INSTANTIATE_TEST_SUITE_P(Options, SavePagesStatus,
 TEST_F(OptionsTest, SavingNumbersTellsTheAreaCodes)
 {
     load();
-    form().chkSavePhone.click();
+    form().outputs.chkSavePhone.click();
     EXPECT_EQ(lastStatus(), u"Save all phone #s ON"_s);
-    form().txtSBSelAreaCodes.setText(u"212,415"_s);
-    form().chkSavePhone.click();
+    form().areaCodes.txtSBSelAreaCodes.setText(u"212,415"_s);
+    form().outputs.chkSavePhone.click();
     EXPECT_EQ(lastStatus(), u"Save[212,415]phone #s OFF"_s);
 }
 
 TEST_F(OptionsTest, SavingLinksTellsWhetherOnlyWithoutData)
 {
     load();
-    form().chkSaveUrl.click();
+    form().outputs.chkSaveUrl.click();
     EXPECT_EQ(lastStatus(), u"Save links if no data ON"_s);
-    form().chkSMD(7).setValue(0);
-    form().chkSaveUrl.click();
+    form().options.chkSMD(7).setValue(0);
+    form().outputs.chkSaveUrl.click();
     EXPECT_EQ(lastStatus(), u"Save links OFF"_s);
 }
 
 TEST_F(OptionsTest, LinksCannotBeSavedWhileTheListThatTheyWouldGoToIsOpen)
 {
     load();
-    form().mbPassUrlsLoaded = true;
-    form().chkSaveUrl.click();
-    EXPECT_EQ(form().chkSaveUrl.value(), 0);
+    form().saved.mbPassUrlsLoaded = true;
+    form().outputs.chkSaveUrl.click();
+    EXPECT_EQ(form().outputs.chkSaveUrl.value(), 0);
     EXPECT_EQ(lastStatus(), u"PassUrlsA loaded"_s);
     EXPECT_EQ(settings.of("chkSaveUrl"), u"0"_s);
 }
@@ -274,9 +274,9 @@ TEST_F(OptionsTest, UniqueServersMakeTheStatusBarYellow)
 {
     settings.preset("chkSMSUniqueServers", u"1"_s);
     load();
-    EXPECT_EQ(form().picStatus.backColor(), Colours::Yellow);
-    form().chkSMA(9).click();
-    EXPECT_EQ(form().picStatus.backColor(), Colours::ButtonFace);
+    EXPECT_EQ(form().frame.picStatus.backColor(), Colours::Yellow);
+    form().options.chkSMA(9).click();
+    EXPECT_EQ(form().frame.picStatus.backColor(), Colours::ButtonFace);
 }
 
 TEST_F(OptionsTest, ErrorMessagesFollowTheirOptionAtOnceAndFromTheStart)
@@ -284,18 +284,18 @@ TEST_F(OptionsTest, ErrorMessagesFollowTheirOptionAtOnceAndFromTheStart)
     settings.preset("chkSMVTurnOffErrorMsg", u"1"_s);
     load();
     EXPECT_TRUE(program->log.isShowing());
-    form().chkSMV(1).click();
+    form().options.chkSMV(1).click();
     EXPECT_FALSE(program->log.isShowing());
 }
 
 TEST_F(OptionsTest, OrientAtStartIsStoredOnlyOnceTheWindowIsShown)
 {
     load();
-    form().chkSMV(4).setValue(1);
+    form().options.chkSMV(4).setValue(1);
     EXPECT_EQ(settings.of("chkSAMoveToTopLeft"), u"0"_s);
     program->lifeCycle.settle();
-    form().chkSMV(4).setValue(0);
-    form().chkSMV(4).setValue(1);
+    form().options.chkSMV(4).setValue(0);
+    form().options.chkSMV(4).setValue(1);
     EXPECT_EQ(settings.of("chkSAMoveToTopLeft"), u"1"_s);
     EXPECT_EQ(lastStatus(), u"Orient Trawlex at start ON"_s);
 }
@@ -303,65 +303,67 @@ TEST_F(OptionsTest, OrientAtStartIsStoredOnlyOnceTheWindowIsShown)
 TEST_F(OptionsTest, TagsAreStoredAtEachChangeAndShownAsToolTips)
 {
     load();
-    form().txtANStartTag.setText(u"<h1>"_s);
+    form().outputs.txtANStartTag.setText(u"<h1>"_s);
     EXPECT_EQ(settings.of("SearchKeyTxtStartTag Text"), u"<h1>"_s);
-    EXPECT_EQ(form().txtANStartTag.toolTipText(), u"<h1>"_s);
-    form().chkSMV(0).setValue(0);
-    form().txtANStopTag.setText(u"</h1>"_s);
-    EXPECT_EQ(form().txtANStopTag.toolTipText(), QString());
+    EXPECT_EQ(form().outputs.txtANStartTag.toolTipText(), u"<h1>"_s);
+    form().options.chkSMV(0).setValue(0);
+    form().outputs.txtANStopTag.setText(u"</h1>"_s);
+    EXPECT_EQ(form().outputs.txtANStopTag.toolTipText(), QString());
 }
 
 TEST_F(OptionsTest, CaseSensitivityIsToldInTheBoxesTip)
 {
     load();
-    form().chkSavePages.setValue(1);
-    form().chkMCCS.click();
-    EXPECT_EQ(form().chkMCCS.toolTipText(), u"Must Contain items Are case sensitive! ON"_s);
-    form().chkMCCS.click();
-    EXPECT_EQ(form().chkMCCS.toolTipText(), u"Must Contain items are Not case sensitive! OFF"_s);
-    form().chkMNCCS.click();
-    EXPECT_EQ(form().chkMNCCS.toolTipText(), u"Must Not Contain items Are case sensitive! ON"_s);
-    form().chkSMV(0).setValue(0);
-    form().chkMNCCS.click();
-    EXPECT_EQ(form().chkMNCCS.toolTipText(), QString());
+    form().outputs.chkSavePages.setValue(1);
+    form().criteria.mustContain.caseSensitive.click();
+    EXPECT_EQ(form().criteria.mustContain.caseSensitive.toolTipText(), u"Must Contain items Are case sensitive! ON"_s);
+    form().criteria.mustContain.caseSensitive.click();
+    EXPECT_EQ(form().criteria.mustContain.caseSensitive.toolTipText(),
+              u"Must Contain items are Not case sensitive! OFF"_s);
+    form().criteria.mustNotContain.caseSensitive.click();
+    EXPECT_EQ(form().criteria.mustNotContain.caseSensitive.toolTipText(),
+              u"Must Not Contain items Are case sensitive! ON"_s);
+    form().options.chkSMV(0).setValue(0);
+    form().criteria.mustNotContain.caseSensitive.click();
+    EXPECT_EQ(form().criteria.mustNotContain.caseSensitive.toolTipText(), QString());
 }
 
 TEST_F(OptionsTest, PathBoxesShowTheirTextAndTwoOfThemAreNeverWithoutATip)
 {
     load();
-    form().txtSFDBFile.setText(u"x.mdb"_s);
-    form().txtSFDBDir.setText(u"/data/"_s);
-    EXPECT_EQ(form().txtSFDBFile.toolTipText(), u"x.mdb"_s);
-    EXPECT_EQ(form().txtSFDBDir.toolTipText(), u"/data/"_s);
-    form().chkSMV(0).setValue(0);
-    form().txtSFDBFile.setText(u"y.mdb"_s);
-    form().txtSFDBDir.setText(u"/other/"_s);
-    form().txtSFMNDir.setText(u"/files/"_s);
-    EXPECT_EQ(form().txtSFDBFile.toolTipText(), QString());
-    EXPECT_EQ(form().txtSFDBDir.toolTipText(), u"Database directory"_s);
-    EXPECT_EQ(form().txtSFMNDir.toolTipText(), u"File save directory"_s);
+    form().places.txtSFDBFile.setText(u"x.mdb"_s);
+    form().places.txtSFDBDir.setText(u"/data/"_s);
+    EXPECT_EQ(form().places.txtSFDBFile.toolTipText(), u"x.mdb"_s);
+    EXPECT_EQ(form().places.txtSFDBDir.toolTipText(), u"/data/"_s);
+    form().options.chkSMV(0).setValue(0);
+    form().places.txtSFDBFile.setText(u"y.mdb"_s);
+    form().places.txtSFDBDir.setText(u"/other/"_s);
+    form().places.txtSFMNDir.setText(u"/files/"_s);
+    EXPECT_EQ(form().places.txtSFDBFile.toolTipText(), QString());
+    EXPECT_EQ(form().places.txtSFDBDir.toolTipText(), u"Database directory"_s);
+    EXPECT_EQ(form().places.txtSFMNDir.toolTipText(), u"File save directory"_s);
 }
 
 TEST_F(OptionsTest, AreaCodesAreTidiedAndStoredWhenTheBoxIsLeft)
 {
     load();
     const QString before = settings.of("txtSBSelAreaCodes");
-    form().txtSBSelAreaCodes.setText(u" 212;415;650, "_s);
+    form().areaCodes.txtSBSelAreaCodes.setText(u" 212;415;650, "_s);
     EXPECT_EQ(settings.of("txtSBSelAreaCodes"), before);
-    form().txtSBSelAreaCodes.setText(u" 212; 415 "_s);
-    form().txtSBSelAreaCodes.validate();
-    EXPECT_EQ(form().txtSBSelAreaCodes.text(), u"212,415"_s);
+    form().areaCodes.txtSBSelAreaCodes.setText(u" 212; 415 "_s);
+    form().areaCodes.txtSBSelAreaCodes.validate();
+    EXPECT_EQ(form().areaCodes.txtSBSelAreaCodes.text(), u"212,415"_s);
     EXPECT_EQ(settings.of("txtSBSelAreaCodes"), u"212,415"_s);
-    form().txtSBSelAreaCodes.setText(u" none "_s);
-    form().txtSBSelAreaCodes.validate();
-    EXPECT_EQ(form().txtSBSelAreaCodes.text(), u" none "_s);
+    form().areaCodes.txtSBSelAreaCodes.setText(u" none "_s);
+    form().areaCodes.txtSBSelAreaCodes.validate();
+    EXPECT_EQ(form().areaCodes.txtSBSelAreaCodes.text(), u" none "_s);
     EXPECT_EQ(settings.of("txtSBSelAreaCodes"), u"none"_s);
 }
 
 TEST_F(OptionsTest, ToolTipsGoOnAndOffWithTheirOption)
 {
     load();
-    EXPECT_EQ(form().cmdANStart.toolTipText(), u"Go = Start, X = Stop (Right click for search site menu)"_s);
-    form().chkSMV(0).setValue(0);
-    EXPECT_EQ(form().cmdANStart.toolTipText(), QString());
+    EXPECT_EQ(form().autoRun.cmdANStart.toolTipText(), u"Go = Start, X = Stop (Right click for search site menu)"_s);
+    form().options.chkSMV(0).setValue(0);
+    EXPECT_EQ(form().autoRun.cmdANStart.toolTipText(), QString());
 }

@@ -19,13 +19,13 @@ class StatesTest : public ProgramTest
     void savedUrls(int count)
     {
         for (int i = 0; i < count; ++i)
-            form().cboANSavedUrls.addItem(u"Results-%1"_s.arg(100 + i));
+            form().saved.cboANSavedUrls.addItem(u"Results-%1"_s.arg(100 + i));
         apply();
     }
     void criteriaSet()
     {
-        form().cboANMCMNCMask.addItem(u"Criteria-0"_s);
-        form().cboANMCMNCMask.setListIndex(0);
+        form().criteria.cboANMCMNCMask.addItem(u"Criteria-0"_s);
+        form().criteria.cboANMCMNCMask.setListIndex(0);
     }
 };
 } // namespace
@@ -33,7 +33,7 @@ class StatesTest : public ProgramTest
 TEST_F(StatesTest, NothingHappensBeforeTheFormIsReady)
 {
     form().mbFormReady = false;
-    form().mbInitialized = false;
+    form().browser.mbInitialized = false;
     apply();
     expect(true, {"cmdANStart"});
     expect(false, {"cmdANInitialize"});
@@ -41,7 +41,7 @@ TEST_F(StatesTest, NothingHappensBeforeTheFormIsReady)
 
 TEST_F(StatesTest, WithoutABrowserOnlyTheWayToConnectAndTheSwitchesRespond)
 {
-    form().mbInitialized = false;
+    form().browser.mbInitialized = false;
     apply();
     expect(true, {"cmdANInitialize", "cboANWBSelect", "sstSearch", "picStatus", "picANEnd", "chkSMA(0)", "chkSMD(8)",
                   "chkSMV(4)", "chkPutInOneFile", "incANTiming", "lblTrawlexTimer"});
@@ -62,47 +62,48 @@ TEST_F(StatesTest, IdleOnTheAutoTab)
     expect(false, {"cmdANInitialize", "chkUseSavedUrls", "cboANSavedUrls", "cmdANSavedMinus", "cmdANSavedGo",
                    "txtANStartTag", "txtANStopTag", "cboANSaveType", "chkMustContain", "chkMustNotContain",
                    "chkUrlBlocking", "chkEmailBlocking"});
-    EXPECT_EQ(form().lblTrawlexTimer.backColor(), Colours::ButtonFace);
-    EXPECT_EQ(form().lblTrawlexTimer.foreColor(), Colours::WindowText);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.backColor(), Colours::ButtonFace);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.foreColor(), Colours::WindowText);
 }
 
 TEST_F(StatesTest, AnAutoRunSwitchesOffWhatWouldChangeIt)
 {
     savedUrls(2);
-    form().chkSavePages.setValue(1);
-    form().mbANRunning = true;
+    form().outputs.chkSavePages.setValue(1);
+    form().runs.mbANRunning = true;
     apply();
     expect(true, {"cmdANStart", "lblAutoCollect"});
     expect(false,
            {"cmdMNStart", "cboANList", "chkSaveSummary", "chkSavePages", "chkSaveEmail", "chkSavePhone", "chkSaveUrl",
             "chkMCMNCStop", "chkUseSavedUrls", "cboANSavedUrls", "cmdANSavedAdd", "cmdANSavedMinus", "cmdANSavedGo",
             "txtANStartTag", "txtANStopTag", "cboANSaveType", "chkSMA(3)", "lblAutoPgUrls", "lblAutoIncrPos"});
-    EXPECT_EQ(form().lblTrawlexTimer.backColor(), Colours::Red);
-    EXPECT_EQ(form().lblTrawlexTimer.foreColor(), Colours::White);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.backColor(), Colours::Red);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.foreColor(), Colours::White);
 }
 
 TEST_F(StatesTest, AManualRunLeavesNoGoOnTheAutoTab)
 {
-    form().mbMNRunning = true;
+    form().runs.mbMNRunning = true;
     apply();
     expect(false, {"cmdANStart", "cboANList", "chkSaveSummary"});
-    EXPECT_EQ(form().lblTrawlexTimer.backColor(), Colours::Blue);
-    EXPECT_EQ(form().lblTrawlexTimer.foreColor(), Colours::White);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.backColor(), Colours::Blue);
+    EXPECT_EQ(form().browser.lblTrawlexTimer.foreColor(), Colours::White);
 }
 
 TEST_F(StatesTest, UncheckingTheLastOfTheSixOutputsClearsTheCriteria)
 {
-    for (CheckBox *box : {&form().chkSaveSummary, &form().chkSavePages, &form().chkSaveUrl, &form().chkSaveEmail,
-                          &form().chkSavePhone, &form().chkMCMNCStop}) {
+    for (CheckBox *box : {&form().outputs.chkSaveSummary, &form().outputs.chkSavePages, &form().outputs.chkSaveUrl,
+                          &form().outputs.chkSaveEmail, &form().outputs.chkSavePhone, &form().outputs.chkMCMNCStop}) {
         box->setValue(1);
-        for (CheckBox *test : {&form().chkMustContain, &form().chkMCCS, &form().chkMustNotContain, &form().chkMNCCS})
+        for (CheckBox *test : {&form().criteria.mustContain.on, &form().criteria.mustContain.caseSensitive,
+                               &form().criteria.mustNotContain.on, &form().criteria.mustNotContain.caseSensitive})
             test->setValue(1);
         apply();
         expect(true, {"chkMustContain", "chkMustNotContain"});
-        EXPECT_EQ(form().chkMustContain.value(), 1);
+        EXPECT_EQ(form().criteria.mustContain.on.value(), 1);
         box->setValue(0);
-        for (const CheckBox *test :
-             {&form().chkMustContain, &form().chkMCCS, &form().chkMustNotContain, &form().chkMNCCS})
+        for (const CheckBox *test : {&form().criteria.mustContain.on, &form().criteria.mustContain.caseSensitive,
+                                     &form().criteria.mustNotContain.on, &form().criteria.mustNotContain.caseSensitive})
             EXPECT_EQ(test->value(), 0) << box->name().toStdString();
         expect(false, {"chkMustContain", "chkMustNotContain"});
     }
@@ -110,9 +111,9 @@ TEST_F(StatesTest, UncheckingTheLastOfTheSixOutputsClearsTheCriteria)
 
 TEST_F(StatesTest, CriteriaNeedTheirBoxAndASet)
 {
-    form().chkSaveSummary.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
     expect(false, {"cmdANMCMaskAdd", "cmdANMCMaskMinus", "cboANMCMNCMask", "lstANMC", "lstANMNC"});
-    form().chkMustContain.setValue(1);
+    form().criteria.mustContain.on.setValue(1);
     expect(true, {"cmdANMCMaskAdd"});
     expect(false,
            {"cmdANMCMaskMinus", "cboANMCMNCMask", "lstANMC", "cmdANAddMC", "lstANMCAllAny", "chkMCCS", "lstANMNC"});
@@ -121,27 +122,27 @@ TEST_F(StatesTest, CriteriaNeedTheirBoxAndASet)
     expect(true, {"cmdANMCMaskAdd", "cmdANMCMaskMinus", "cboANMCMNCMask", "lstANMC", "cmdANAddMC", "lstANMCAllAny",
                   "chkMCCS"});
     expect(false, {"lstANMNC", "cmdANAddMNC", "lstANMNCAllAny", "chkMNCCS"});
-    form().chkMustContain.setValue(0);
-    form().chkMustNotContain.setValue(1);
+    form().criteria.mustContain.on.setValue(0);
+    form().criteria.mustNotContain.on.setValue(1);
     expect(true, {"cmdANMCMaskMinus", "cboANMCMNCMask", "lstANMNC", "cmdANAddMNC", "lstANMNCAllAny", "chkMNCCS"});
     expect(false, {"lstANMC", "cmdANAddMC", "lstANMCAllAny", "chkMCCS"});
 }
 
 TEST_F(StatesTest, CriteriaMayBeChangedInTheMiddleOfARun)
 {
-    form().chkSaveSummary.setValue(1);
-    form().chkMustContain.setValue(1);
+    form().outputs.chkSaveSummary.setValue(1);
+    form().criteria.mustContain.on.setValue(1);
     criteriaSet();
-    form().mbANRunning = true;
+    form().runs.mbANRunning = true;
     apply();
     expect(true, {"lstANMC", "cmdANAddMC", "cboANMCMNCMask", "cmdANMCMaskAdd", "chkMustContain"});
 }
 
 TEST_F(StatesTest, TagsAndTypeFollowTheSavingOfPages)
 {
-    form().chkSavePages.setValue(1);
+    form().outputs.chkSavePages.setValue(1);
     expect(true, {"txtANStartTag", "txtANStopTag", "cboANSaveType"});
-    form().chkSavePages.setValue(0);
+    form().outputs.chkSavePages.setValue(0);
     expect(false, {"txtANStartTag", "txtANStopTag", "cboANSaveType"});
 }
 
@@ -150,9 +151,9 @@ TEST_F(StatesTest, SavedUrlsInUseCannotBeChanged)
     savedUrls(2);
     expect(true, {"chkUseSavedUrls", "cboANSavedUrls", "cmdANSavedAdd"});
     expect(false, {"cmdANSavedMinus", "cmdANSavedGo"}); // nothing chosen
-    form().cboANSavedUrls.setListIndex(1);
+    form().saved.cboANSavedUrls.setListIndex(1);
     expect(true, {"cmdANSavedMinus", "cmdANSavedGo"});
-    form().chkUseSavedUrls.setValue(1);
+    form().saved.chkUseSavedUrls.setValue(1);
     expect(true, {"chkUseSavedUrls"});
     expect(false, {"cboANSavedUrls", "cmdANSavedAdd", "cmdANSavedMinus", "cmdANSavedGo"});
 }
@@ -160,10 +161,10 @@ TEST_F(StatesTest, SavedUrlsInUseCannotBeChanged)
 TEST_F(StatesTest, WithoutSavedUrlsTheirBoxGoesOff)
 {
     savedUrls(1);
-    form().chkUseSavedUrls.setValue(1);
-    form().cboANSavedUrls.clear();
+    form().saved.chkUseSavedUrls.setValue(1);
+    form().saved.cboANSavedUrls.clear();
     apply();
-    EXPECT_EQ(form().chkUseSavedUrls.value(), 0);
+    EXPECT_EQ(form().saved.chkUseSavedUrls.value(), 0);
     expect(false, {"chkUseSavedUrls", "cboANSavedUrls"});
     expect(true, {"cmdANSavedAdd"});
 }
@@ -171,54 +172,56 @@ TEST_F(StatesTest, WithoutSavedUrlsTheirBoxGoesOff)
 TEST_F(StatesTest, PassUrlsOnShowCanNeitherBeAddedToNorSavedTo)
 {
     savedUrls(1);
-    form().chkSaveUrl.setValue(1);
-    form().mbPassUrlsLoaded = true;
+    form().outputs.chkSaveUrl.setValue(1);
+    form().saved.mbPassUrlsLoaded = true;
     apply();
-    EXPECT_EQ(form().chkSaveUrl.value(), 0);
+    EXPECT_EQ(form().outputs.chkSaveUrl.value(), 0);
     expect(false, {"chkSaveUrl", "cmdANSavedAdd"});
     expect(true, {"cboANSavedUrls", "chkUseSavedUrls"});
-    form().cboANSavedUrls.clear();
+    form().saved.cboANSavedUrls.clear();
     apply();
     expect(false, {"cmdANSavedAdd"});
 }
 
 TEST_F(StatesTest, BlockingNeedsTexts)
 {
-    form().lstBlockedUrlC.addItem(u"ads"_s);
-    form().lstBlockedEmailC.addItem(u"spam"_s);
+    form().blocking.urls.items.addItem(u"ads"_s);
+    form().blocking.email.items.addItem(u"spam"_s);
     apply();
     expect(true, {"chkUrlBlocking"});
     expect(false, {"chkEmailBlocking"}); // addresses are not saved
-    form().chkSaveEmail.setValue(1);
+    form().outputs.chkSaveEmail.setValue(1);
     expect(true, {"chkEmailBlocking"});
-    form().chkUrlBlocking.setValue(1);
-    form().chkEmailBlocking.setValue(1);
-    form().lstBlockedUrlC.clear();
-    form().lstBlockedEmailC.clear();
+    form().blocking.urls.on.setValue(1);
+    form().blocking.email.on.setValue(1);
+    form().blocking.urls.items.clear();
+    form().blocking.email.items.clear();
     apply();
-    EXPECT_EQ(form().chkUrlBlocking.value(), 0);
-    EXPECT_EQ(form().chkEmailBlocking.value(), 0);
+    EXPECT_EQ(form().blocking.urls.on.value(), 0);
+    EXPECT_EQ(form().blocking.email.on.value(), 0);
     expect(false, {"chkUrlBlocking", "chkEmailBlocking"});
 }
 
 TEST_F(StatesTest, ReportLabelsAreClearedWhenIdleOnTheAutoTabAlone)
 {
-    Label *lamps[] = {&form().lblUrlSaved,   &form().lblSummarySaved, &form().lblEmailSaved, &form().lblPageSaved,
-                      &form().lblPhoneSaved, &form().lblMCColor,      &form().lblMNCColor};
+    Label *lamps[] = {&form().outputs.lblUrlSaved,         &form().outputs.lblSummarySaved,
+                      &form().outputs.lblEmailSaved,       &form().outputs.lblPageSaved,
+                      &form().outputs.lblPhoneSaved,       &form().criteria.mustContain.lamp,
+                      &form().criteria.mustNotContain.lamp};
     const auto light = [&] {
         for (Label *lamp : lamps)
             lamp->setBackColor(Colours::Green);
         apply();
     };
-    form().mbANRunning = true;
+    form().runs.mbANRunning = true;
     light();
     for (const Label *lamp : lamps)
         EXPECT_EQ(lamp->backColor(), Colours::Green);
-    form().mbANRunning = false;
+    form().runs.mbANRunning = false;
     apply();
     for (const Label *lamp : lamps)
         EXPECT_EQ(lamp->backColor(), Colours::ButtonFace);
-    form().sstSearch.setTab(Settings);
+    form().frame.sstSearch.setTab(Settings);
     light();
     for (const Label *lamp : lamps)
         EXPECT_EQ(lamp->backColor(), Colours::Green);
@@ -226,24 +229,24 @@ TEST_F(StatesTest, ReportLabelsAreClearedWhenIdleOnTheAutoTabAlone)
 
 TEST_F(StatesTest, OnTheOtherTabsSavingAddressesStaysPossible)
 {
-    form().sstSearch.setTab(Manual);
+    form().frame.sstSearch.setTab(Manual);
     expect(true, {"chkSaveEmail", "cmdANStart", "cboANList"});
     expect(false, {"chkSavePages", "chkSaveSummary", "cmdANSavedAdd"});
-    form().mbANRunning = true;
+    form().runs.mbANRunning = true;
     apply();
     expect(false, {"chkSaveEmail"});
 }
 
 TEST_F(StatesTest, OneFileNeedsPagesSavedToFiles)
 {
-    form().sstSearch.setTab(Settings);
-    form().sstSettings.setTab(2);
-    form().sstMiscOptions.setTab(1);
+    form().frame.sstSearch.setTab(Settings);
+    form().frame.sstSettings.setTab(2);
+    form().frame.sstMiscOptions.setTab(1);
     expect(true, {"chkSaveToFile", "chkSaveToSS"});
     expect(false, {"chkPutInOneFile"});
-    form().chkSaveToFile.setValue(1);
+    form().outputs.chkSaveToFile.setValue(1);
     expect(true, {"chkPutInOneFile"});
-    form().mbANRunning = true;
+    form().runs.mbANRunning = true;
     apply();
     expect(false, {"chkSaveToFile", "chkSaveToSS", "chkPutInOneFile"});
 }

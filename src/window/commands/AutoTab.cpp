@@ -42,18 +42,18 @@ QString caption(const TabControl &tabs)
 /// The captions of the tabs in force on the Settings tab, from "Settings" inwards.
 QStringList settingsPath(const frmSearch &form)
 {
-    QStringList path{caption(form.sstSearch), caption(form.sstSettings)};
-    if (form.sstSettings.tab() == filesTabIndex)
-        path.append(caption(form.sstFiles));
-    else if (form.sstSettings.tab() == miscTabIndex)
-        path.append(caption(form.sstMiscOptions));
+    QStringList path{caption(form.frame.sstSearch), caption(form.frame.sstSettings)};
+    if (form.frame.sstSettings.tab() == filesTabIndex)
+        path.append(caption(form.frame.sstFiles));
+    else if (form.frame.sstSettings.tab() == miscTabIndex)
+        path.append(caption(form.frame.sstMiscOptions));
     return path;
 }
 
 const TabRow &tabInForce(const frmSearch &form)
 {
     const QString innermost =
-        form.sstSearch.tab() == settingsTabIndex ? settingsPath(form).constLast() : caption(form.sstSearch);
+        form.frame.sstSearch.tab() == settingsTabIndex ? settingsPath(form).constLast() : caption(form.frame.sstSearch);
     return *std::find_if(std::begin(tabRows), std::end(tabRows),
                          [&](const TabRow &row) { return row.caption == innermost; });
 }
@@ -68,20 +68,20 @@ AutoTab::AutoTab(const Parts &parts) : m(parts)
 
 void AutoTab::connectRun()
 {
-    connect(&m.form.cmdANStart, &Button::Click, this, [this] { m.run.cmdANStart_Click(); });
-    connect(&m.form.cmdANInitialize, &Button::Click, this, [this] { m.connection.cmdANInitialize_Click(); });
-    connect(&m.form.cboANWBSelect, &ComboBox::Click, this, [this] {
+    connect(&m.form.autoRun.cmdANStart, &Button::Click, this, [this] { m.run.cmdANStart_Click(); });
+    connect(&m.form.browser.cmdANInitialize, &Button::Click, this, [this] { m.connection.cmdANInitialize_Click(); });
+    connect(&m.form.browser.cboANWBSelect, &ComboBox::Click, this, [this] {
         if (m.form.mbFormReady)
             m.connection.cmdANInitialize_Click();
     });
     connect(&m.timer, &cTimer::TimeCount, this,
-            [this](qint64 count) { m.form.lblTrawlexTimer.setCaption(QString::number(count)); });
-    connect(&m.form.lblTrawlexTimer, &Label::mousePressed, this, &AutoTab::lblTrawlexTimer_MouseDown);
-    connect(&m.form.lblTrawlexTimer, &Label::mouseMoved, this, &AutoTab::lblTrawlexTimer_MouseMove);
-    connect(&m.form.lblAutoCollect, &Label::mousePressed, this, &AutoTab::lblAutoCollect_MouseDown);
-    connect(&m.form.lblAutoCollect, &Label::mouseMoved, this, &AutoTab::lblAutoCollect_MouseMove);
-    connect(&m.form.lblPageSaved, &Label::mousePressed, this, &AutoTab::lblPageSaved_MouseDown);
-    connect(&m.form.picANEnd, &PictureBox::mousePressed, this, [this](MouseButton button) {
+            [this](qint64 count) { m.form.browser.lblTrawlexTimer.setCaption(QString::number(count)); });
+    connect(&m.form.browser.lblTrawlexTimer, &Label::mousePressed, this, &AutoTab::lblTrawlexTimer_MouseDown);
+    connect(&m.form.browser.lblTrawlexTimer, &Label::mouseMoved, this, &AutoTab::lblTrawlexTimer_MouseMove);
+    connect(&m.form.collect.lblAutoCollect, &Label::mousePressed, this, &AutoTab::lblAutoCollect_MouseDown);
+    connect(&m.form.collect.lblAutoCollect, &Label::mouseMoved, this, &AutoTab::lblAutoCollect_MouseMove);
+    connect(&m.form.outputs.lblPageSaved, &Label::mousePressed, this, &AutoTab::lblPageSaved_MouseDown);
+    connect(&m.form.browser.picANEnd, &PictureBox::mousePressed, this, [this](MouseButton button) {
         if (button == MouseButton::Left)
             m.lifeCycle.Terminate();
         else
@@ -91,29 +91,29 @@ void AutoTab::connectRun()
 
 void AutoTab::connectSavedUrls()
 {
-    connect(&m.form.cmdANSavedAdd, &Button::Click, this, [this] { m.savedUrls.AddSavedUrl(true, {}); });
-    connect(&m.form.cmdANSavedAdd, &Button::Click, this, [this] { m.states.SetStateOfControls(); });
-    connect(&m.form.cmdANSavedMinus, &Button::Click, this, [this] { m.savedUrls.RemoveSavedUrl(); });
-    connect(&m.form.cmdANSavedGo, &Button::Click, this, [this] { m.savedUrls.cmdANSavedGo_Click(); });
-    connect(&m.form.cboANSavedUrls, &ComboBox::Click, this, [this] { m.states.SetStateOfControls(); });
-    connect(&m.form.cboANList, &ComboBox::DropDown, this, [this] { m.savedUrls.SaveSavedUrlPos(); });
-    connect(&m.form.cboANList, &ComboBox::Click, this, &AutoTab::cboANList_Click);
+    connect(&m.form.saved.cmdANSavedAdd, &Button::Click, this, [this] { m.savedUrls.AddSavedUrl(true, {}); });
+    connect(&m.form.saved.cmdANSavedAdd, &Button::Click, this, [this] { m.states.SetStateOfControls(); });
+    connect(&m.form.saved.cmdANSavedMinus, &Button::Click, this, [this] { m.savedUrls.RemoveSavedUrl(); });
+    connect(&m.form.saved.cmdANSavedGo, &Button::Click, this, [this] { m.savedUrls.cmdANSavedGo_Click(); });
+    connect(&m.form.saved.cboANSavedUrls, &ComboBox::Click, this, [this] { m.states.SetStateOfControls(); });
+    connect(&m.form.saved.cboANList, &ComboBox::DropDown, this, [this] { m.savedUrls.SaveSavedUrlPos(); });
+    connect(&m.form.saved.cboANList, &ComboBox::Click, this, &AutoTab::cboANList_Click);
 }
 
 void AutoTab::connectStatus()
 {
-    connect(&m.form.sstSearch, &TabControl::Click, this, [this] { tab_Click(false); });
-    for (const TabControl *tabs : {&m.form.sstSettings, &m.form.sstFiles, &m.form.sstMiscOptions})
+    connect(&m.form.frame.sstSearch, &TabControl::Click, this, [this] { tab_Click(false); });
+    for (const TabControl *tabs : {&m.form.frame.sstSettings, &m.form.frame.sstFiles, &m.form.frame.sstMiscOptions})
         connect(tabs, &TabControl::Click, this, [this] { tab_Click(true); });
-    connect(&m.form.picStatus, &PictureBox::mouseMoved, this, [this] {
+    connect(&m.form.frame.picStatus, &PictureBox::mouseMoved, this, [this] {
         m.status.UpDateStatus({}, "Double Click "_L1 + tabInForce(m.form).tip + " Right click for menu"_L1);
     });
-    connect(&m.form.picStatus, &PictureBox::doubleClicked, this, &AutoTab::picStatus_DblClick);
+    connect(&m.form.frame.picStatus, &PictureBox::doubleClicked, this, &AutoTab::picStatus_DblClick);
 }
 
 void AutoTab::picStatus_DblClick()
 {
-    if (!m.form.mbInitialized)
+    if (!m.form.browser.mbInitialized)
         return m.status.UpDateStatus(u"Not initialized"_s);
     if (const QLatin1StringView name = tabInForce(m.form).unassigned; !name.isEmpty())
         m.status.UpDateStatus(name + " double click, unassigned"_L1);
@@ -121,32 +121,32 @@ void AutoTab::picStatus_DblClick()
 
 void AutoTab::lblTrawlexTimer_MouseDown(MouseButton button)
 {
-    if (!m.form.mbInitialized || button != MouseButton::Left)
+    if (!m.form.browser.mbInitialized || button != MouseButton::Left)
         return;
-    m.form.lblTrawlexTimer.setCaption(u"0"_s);
+    m.form.browser.lblTrawlexTimer.setCaption(u"0"_s);
     m.timer.CancelTimer();
 }
 
 void AutoTab::lblTrawlexTimer_MouseMove()
 {
     QString tip;
-    if (m.form.chkSMV(0).value() == 1) {
-        const int tab = m.form.sstSearch.tab();
+    if (m.form.options.chkSMV(0).value() == 1) {
+        const int tab = m.form.frame.sstSearch.tab();
         if (tab == autoTabIndex)
             tip = u"Left click cancels timer. Right click to magnify Saved Url"_s;
         else if (tab != manualTabIndex)
             tip = u"Trawlex Timer (Sec). Left click cancels timer"_s;
-        else if (m.form.chkSMA(8).value() == 1)
+        else if (m.form.options.chkSMA(8).value() == 1)
             tip = u"(Left click) - cancel timer. Right click to open file save directory"_s;
         else
             tip = u"(Left click) - cancel timer. Right click to magnify active item"_s;
     }
-    m.form.lblTrawlexTimer.setToolTipText(tip);
+    m.form.browser.lblTrawlexTimer.setToolTipText(tip);
 }
 
 void AutoTab::lblAutoCollect_MouseDown(MouseButton button)
 {
-    if (m.form.sstSearch.tab() != autoTabIndex)
+    if (m.form.frame.sstSearch.tab() != autoTabIndex)
         return;
     if (button == MouseButton::Left)
         m.blocking.addQuickBlock();
@@ -156,20 +156,21 @@ void AutoTab::lblAutoCollect_MouseDown(MouseButton button)
 
 void AutoTab::lblAutoCollect_MouseMove()
 {
-    if (m.form.sstSearch.tab() != autoTabIndex || m.form.chkSMV(0).value() != 1)
+    if (m.form.frame.sstSearch.tab() != autoTabIndex || m.form.options.chkSMV(0).value() != 1)
         return;
-    const QStringList &blocked = m.form.mastrQB;
+    const QStringList &blocked = m.form.blocking.mastrQB;
     const QString count = firstOf(blocked).isEmpty() ? QString() : QString::number(blocked.size());
-    m.form.lblAutoCollect.setToolTipText("Left click Add Quick Block. Right click Clear Quick Block. "_L1 + count +
-                                         " blocked"_L1);
+    m.form.collect.lblAutoCollect.setToolTipText("Left click Add Quick Block. Right click Clear Quick Block. "_L1 +
+                                                 count + " blocked"_L1);
 }
 
 /// Pages that went into files are shown where they lie.
 void AutoTab::lblPageSaved_MouseDown(MouseButton button)
 {
     guarded(m.log, {module, "Sub lblPageSaved_MouseDown"_L1}, [&] {
-        if (button == MouseButton::Left && m.form.chkSaveToSS.value() != 1 && m.form.chkSaveToFile.value() == 1)
-            m.desktop.open(m.form.txtSFMNDir.text());
+        if (button == MouseButton::Left && m.form.outputs.chkSaveToSS.value() != 1 &&
+            m.form.outputs.chkSaveToFile.value() == 1)
+            m.desktop.open(m.form.places.txtSFMNDir.text());
     });
 }
 
@@ -181,15 +182,16 @@ void AutoTab::cboANList_Click()
         m.savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
         m.savedUrls.SetSavedUrlPos();
         m.run.ResetProcessAN();
-        m.status.UpDateStatus(u"%1 loaded"_s.arg(m.form.cboANSavedUrls.listCount()));
+        m.status.UpDateStatus(u"%1 loaded"_s.arg(m.form.saved.cboANSavedUrls.listCount()));
     });
 }
 
 /// Tells where the user is: on the outer tabs one step into the Settings, on the inner ones all the way.
 void AutoTab::tab_Click(bool ofSettings)
 {
-    const bool onSettings = m.form.sstSearch.tab() == settingsTabIndex;
-    const QStringList path = ofSettings || onSettings ? settingsPath(m.form) : QStringList{caption(m.form.sstSearch)};
+    const bool onSettings = m.form.frame.sstSearch.tab() == settingsTabIndex;
+    const QStringList path =
+        ofSettings || onSettings ? settingsPath(m.form) : QStringList{caption(m.form.frame.sstSearch)};
     m.status.UpDateStatus(ofSettings ? path.join(" - "_L1) : path.mid(0, 2).join(" - "_L1));
     m.states.SetStateOfControls();
 }

@@ -3,20 +3,22 @@
 CriteriaPanel::CriteriaPanel(frmSearch &form, StatusLine &status, ControlStates &states, CriteriaSets &criteria)
     : mForm(form), mStatus(status), mStates(states), mCriteria(criteria)
 {
-    connect(&form.cboANMCMNCMask, &ComboBox::Click, this, [this] {
+    connect(&form.criteria.cboANMCMNCMask, &ComboBox::Click, this, [this] {
         mCriteria.AssignMaskElements();
         mStates.SetStateOfControls();
     });
-    connect(&form.cmdANMCMaskAdd, &Button::Click, this, [this] {
+    connect(&form.criteria.cmdANMCMaskAdd, &Button::Click, this, [this] {
         mStatus.UpDateStatus(mCriteria.AddMCMNCSet());
         mStates.SetStateOfControls();
     });
-    connect(&form.cmdANMCMaskMinus, &Button::Click, this, [this] {
+    connect(&form.criteria.cmdANMCMaskMinus, &Button::Click, this, [this] {
         mStatus.UpDateStatus(mCriteria.RemoveMCMNCSet());
         mStates.SetStateOfControls();
     });
-    connectList(CriteriaSets::List::MustContain, form.lstANMC, form.cmdANAddMC, form.lstANMCAllAny);
-    connectList(CriteriaSets::List::MustNotContain, form.lstANMNC, form.cmdANAddMNC, form.lstANMNCAllAny);
+    connectList(CriteriaSets::List::MustContain, form.criteria.mustContain.items, form.criteria.mustContain.add,
+                form.criteria.mustContain.demand);
+    connectList(CriteriaSets::List::MustNotContain, form.criteria.mustNotContain.items,
+                form.criteria.mustNotContain.add, form.criteria.mustNotContain.demand);
 }
 
 void CriteriaPanel::connectList(CriteriaSets::List list, ListBox &box, Button &add, ComboBox &demand)

@@ -44,34 +44,37 @@ Options::Options(ErrorLog &log, frmSearch &form, StatusLine &status, ControlStat
 {
     // What the loading does not reach, because a stored value before it does not convert, stays usable.
     const QString base = baseFolder();
-    mForm.txtSFDBDir.setText(base);
-    mForm.txtSFMNDir.setText(base);
+    mForm.places.txtSFDBDir.setText(base);
+    mForm.places.txtSFMNDir.setText(base);
     connectToolTips();
-    connect(&mForm.txtSBSelAreaCodes, &TextBox::Validate, this, &Options::txtSBSelAreaCodes_Validate);
+    connect(&mForm.areaCodes.txtSBSelAreaCodes, &TextBox::Validate, this, &Options::txtSBSelAreaCodes_Validate);
     for (const SettingRow &row : settingRows()) {
         if (row.saved == SettingRow::Saved::AtChange)
             connectSetting(row.key, mForm.control(row.control));
     }
     // These are stored like the others; they are loaded only once the database is, or the window is placed.
-    connectSetting("SearchKeyChkMustContain Value"_L1, &mForm.chkMustContain);
-    connectSetting("SearchKeyChkMustNotContain Value"_L1, &mForm.chkMustNotContain);
-    connectSetting("chkUseSavedUrls"_L1, &mForm.chkUseSavedUrls);
-    connectSetting("cboANSavedUrls"_L1, &mForm.cboANSavedUrls);
-    connectSetting("cboANList"_L1, &mForm.cboANList);
-    connectSetting("chkSAMoveToTopLeft"_L1, &mForm.chkSMV(4));
+    connectSetting("SearchKeyChkMustContain Value"_L1, &mForm.criteria.mustContain.on);
+    connectSetting("SearchKeyChkMustNotContain Value"_L1, &mForm.criteria.mustNotContain.on);
+    connectSetting("chkUseSavedUrls"_L1, &mForm.saved.chkUseSavedUrls);
+    connectSetting("cboANSavedUrls"_L1, &mForm.saved.cboANSavedUrls);
+    connectSetting("cboANList"_L1, &mForm.saved.cboANList);
+    connectSetting("chkSAMoveToTopLeft"_L1, &mForm.options.chkSMV(4));
     for (const SwitchRow &row : switchRows()) {
         auto *box = qobject_cast<CheckBox *>(mForm.control(row.control));
         if (!row.caption.isEmpty())
             box->setCaption(row.caption);
         connect(box, &CheckBox::Click, this, [this, box, row] { chkSwitch_Click(*box, row.on, row.off); });
     }
-    connect(&mForm.chkSavePages, &CheckBox::Click, this, &Options::chkSavePages_Click);
-    connect(&mForm.chkSavePhone, &CheckBox::Click, this, &Options::chkSavePhone_Click);
-    connect(&mForm.chkSaveUrl, &CheckBox::Click, this, &Options::chkSaveUrl_Click);
-    connect(&mForm.chkSMV(0), &CheckBox::Click, this, [this] { showToolTips(mForm, mForm.chkSMV(0).value() == 1); });
-    connect(&mForm.chkSMV(1), &CheckBox::Click, this, [this] { mLog.ToggleErrMsg(mForm.chkSMV(1).value() == 1); });
-    connect(&mForm.chkSMA(9), &CheckBox::Click, this, [this] {
-        mForm.picStatus.setBackColor(mForm.chkSMA(9).value() == 1 ? Colours::Yellow : Colours::ButtonFace);
+    connect(&mForm.outputs.chkSavePages, &CheckBox::Click, this, &Options::chkSavePages_Click);
+    connect(&mForm.outputs.chkSavePhone, &CheckBox::Click, this, &Options::chkSavePhone_Click);
+    connect(&mForm.outputs.chkSaveUrl, &CheckBox::Click, this, &Options::chkSaveUrl_Click);
+    connect(&mForm.options.chkSMV(0), &CheckBox::Click, this,
+            [this] { showToolTips(mForm, mForm.options.chkSMV(0).value() == 1); });
+    connect(&mForm.options.chkSMV(1), &CheckBox::Click, this,
+            [this] { mLog.ToggleErrMsg(mForm.options.chkSMV(1).value() == 1); });
+    connect(&mForm.options.chkSMA(9), &CheckBox::Click, this, [this] {
+        mForm.frame.picStatus.setBackColor(mForm.options.chkSMA(9).value() == 1 ? Colours::Yellow
+                                                                                : Colours::ButtonFace);
     });
 }
 
@@ -84,7 +87,7 @@ void Options::save(QLatin1StringView key, const QString &value)
 void Options::connectSetting(QLatin1StringView key, Control *control)
 {
     const auto write = [this, key, control] {
-        const bool ready = control == &mForm.chkSMV(4) ? mForm.mbMainShown : mForm.mbFormReady;
+        const bool ready = control == &mForm.options.chkSMV(4) ? mForm.mbMainShown : mForm.mbFormReady;
         if (ready && stored(*control) != "-1"_L1)
             save(key, stored(*control));
     };
@@ -92,7 +95,7 @@ void Options::connectSetting(QLatin1StringView key, Control *control)
         connect(box, &CheckBox::Click, this, write);
     else if (auto *list = qobject_cast<ListControl *>(control))
         connect(list, &ListControl::Click, this, write);
-    else if (auto *text = qobject_cast<TextBox *>(control); text && text != &mForm.txtSBSelAreaCodes)
+    else if (auto *text = qobject_cast<TextBox *>(control); text && text != &mForm.areaCodes.txtSBSelAreaCodes)
         connect(text, &TextBox::Change, this, write);
 }
 
@@ -128,15 +131,15 @@ QString Options::baseFolder() const
 
 void Options::loadDirectories()
 {
-    mForm.txtSFDBDir.setText(directory(u"SearchKeyTxtSaveLocation Text"_s, {}));
-    mForm.txtSFMNDir.setText(directory(u"txtFNSaveLocation"_s, mForm.txtSFDBDir.text()));
-    mForm.txtSFDBFile.setText(mSettings.GetSetting(startSection, u"DatabaseName"_s, u"Trawlex-0.mdb"_s));
+    mForm.places.txtSFDBDir.setText(directory(u"SearchKeyTxtSaveLocation Text"_s, {}));
+    mForm.places.txtSFMNDir.setText(directory(u"txtFNSaveLocation"_s, mForm.places.txtSFDBDir.text()));
+    mForm.places.txtSFDBFile.setText(mSettings.GetSetting(startSection, u"DatabaseName"_s, u"Trawlex-0.mdb"_s));
 }
 
 void Options::GetSettings()
 {
     guarded(mLog, {"frmSearch"_L1, "Sub GetSettings"_L1}, [&] {
-        mForm.txtSFEditor.setText(
+        mForm.places.txtSFEditor.setText(
             mSettings.GetSetting(section, u"txtSFEditor"_s, QDir::currentPath() + "/editor.exe"_L1));
         for (const SettingRow &row : settingRows()) {
             load(*mForm.control(row.control), mSettings.GetSetting(section, row.key, row.byDefault));
@@ -154,7 +157,7 @@ void Options::saveAtExit()
 
 void Options::chkSwitch_Click(const CheckBox &box, QLatin1StringView on, QLatin1StringView off)
 {
-    if (!(&box == &mForm.chkSMV(4) ? mForm.mbMainShown : mForm.mbFormReady))
+    if (!(&box == &mForm.options.chkSMV(4) ? mForm.mbMainShown : mForm.mbFormReady))
         return;
     mStates.SetStateOfControls();
     mStatus.UpDateStatus(box.isOn() ? on : off);
@@ -167,7 +170,7 @@ void Options::showCaseTip(CheckBox &box, const QString &items)
         return;
     const QString tip =
         items + (box.isOn() ? " items Are case sensitive! ON"_L1 : " items are Not case sensitive! OFF"_L1);
-    box.setToolTipText(mForm.chkSMV(0).value() == 1 ? tip : QString());
+    box.setToolTipText(mForm.options.chkSMV(0).value() == 1 ? tip : QString());
 }
 
 /// A text box whose tip is its own text while tool tips are on. `whenEmpty` stands for an empty text; with `keepsHelp`
@@ -175,7 +178,7 @@ void Options::showCaseTip(CheckBox &box, const QString &items)
 void Options::mirrorText(TextBox &box, const QString &whenEmpty, bool keepsHelp)
 {
     connect(&box, &TextBox::Change, this, [this, &box, whenEmpty, keepsHelp] {
-        const bool shows = mForm.chkSMV(0).value() == 1;
+        const bool shows = mForm.options.chkSMV(0).value() == 1;
         if (!shows)
             box.setToolTipText(keepsHelp ? whenEmpty : QString());
         else
@@ -185,22 +188,25 @@ void Options::mirrorText(TextBox &box, const QString &whenEmpty, bool keepsHelp)
 
 void Options::connectToolTips()
 {
-    mirrorText(mForm.txtANStartTag, {}, false);
-    mirrorText(mForm.txtANStopTag, {}, false);
-    mirrorText(mForm.txtSFDBFile, {}, false);
-    mirrorText(mForm.txtSFDBDir, u"Database directory"_s, true);
-    mirrorText(mForm.txtSFMNDir, u"File save directory"_s, true);
-    mirrorText(mForm.txtSBSelAreaCodes,
+    mirrorText(mForm.outputs.txtANStartTag, {}, false);
+    mirrorText(mForm.outputs.txtANStopTag, {}, false);
+    mirrorText(mForm.places.txtSFDBFile, {}, false);
+    mirrorText(mForm.places.txtSFDBDir, u"Database directory"_s, true);
+    mirrorText(mForm.places.txtSFMNDir, u"File save directory"_s, true);
+    mirrorText(mForm.areaCodes.txtSBSelAreaCodes,
                u"Find phone number for only select area codes. Enter area code list separated by commas"_s, false);
-    connect(&mForm.chkMCCS, &CheckBox::Click, this, [this] { showCaseTip(mForm.chkMCCS, u"Must Contain"_s); });
-    connect(&mForm.chkMNCCS, &CheckBox::Click, this, [this] { showCaseTip(mForm.chkMNCCS, u"Must Not Contain"_s); });
+    connect(&mForm.criteria.mustContain.caseSensitive, &CheckBox::Click, this,
+            [this] { showCaseTip(mForm.criteria.mustContain.caseSensitive, u"Must Contain"_s); });
+    connect(&mForm.criteria.mustNotContain.caseSensitive, &CheckBox::Click, this,
+            [this] { showCaseTip(mForm.criteria.mustNotContain.caseSensitive, u"Must Not Contain"_s); });
 }
 
 void Options::txtSBSelAreaCodes_Validate()
 {
     guarded(mLog, {"frmSearch"_L1, "Sub txtSBSelAreaCodes_Validate"_L1}, [&] {
-        mForm.txtSBSelAreaCodes.setText(cAreaCode::normalizedAreaCodes(mForm.txtSBSelAreaCodes.text()));
-        save("txtSBSelAreaCodes"_L1, cUtility::Trim(mForm.txtSBSelAreaCodes.text()).toString());
+        mForm.areaCodes.txtSBSelAreaCodes.setText(
+            cAreaCode::normalizedAreaCodes(mForm.areaCodes.txtSBSelAreaCodes.text()));
+        save("txtSBSelAreaCodes"_L1, cUtility::Trim(mForm.areaCodes.txtSBSelAreaCodes.text()).toString());
     });
 }
 
@@ -209,11 +215,11 @@ void Options::chkSavePages_Click()
     if (!mForm.mbFormReady)
         return;
     QLatin1StringView target = " "_L1;
-    const bool on = mForm.chkSavePages.isOn();
-    if (on && mForm.chkSaveToSS.value() == 1)
+    const bool on = mForm.outputs.chkSavePages.isOn();
+    if (on && mForm.outputs.chkSaveToSS.value() == 1)
         target = " to SiteSummary "_L1;
-    else if (on && mForm.chkSaveToFile.value() == 1)
-        target = mForm.chkPutInOneFile.value() == 1 ? " to 1 file "_L1 : " to files "_L1;
+    else if (on && mForm.outputs.chkSaveToFile.value() == 1)
+        target = mForm.outputs.chkPutInOneFile.value() == 1 ? " to 1 file "_L1 : " to files "_L1;
     mStates.SetStateOfControls();
     mStatus.UpDateStatus("Save Pages"_L1 + target + (on ? onMark : offMark));
 }
@@ -222,23 +228,23 @@ void Options::chkSavePhone_Click()
 {
     if (!mForm.mbFormReady)
         return;
-    const QString codes = mForm.txtSBSelAreaCodes.text();
+    const QString codes = mForm.areaCodes.txtSBSelAreaCodes.text();
     mStates.SetStateOfControls();
     mStatus.UpDateStatus("Save"_L1 + (codes.isEmpty() ? u" all "_s : u'[' + codes + u']') + "phone #s "_L1 +
-                         (mForm.chkSavePhone.isOn() ? onMark : offMark));
+                         (mForm.outputs.chkSavePhone.isOn() ? onMark : offMark));
 }
 
 void Options::chkSaveUrl_Click()
 {
     if (!mForm.mbFormReady)
         return;
-    const bool on = mForm.chkSaveUrl.isOn();
-    if (on && mForm.mbPassUrlsLoaded) {
-        mForm.chkSaveUrl.setValue(0);
-        mStatus.UpDateStatus(u"PassUrls%1 loaded"_s.arg(mForm.cboANList.text()));
+    const bool on = mForm.outputs.chkSaveUrl.isOn();
+    if (on && mForm.saved.mbPassUrlsLoaded) {
+        mForm.outputs.chkSaveUrl.setValue(0);
+        mStatus.UpDateStatus(u"PassUrls%1 loaded"_s.arg(mForm.saved.cboANList.text()));
         return;
     }
     mStates.SetStateOfControls();
-    mStatus.UpDateStatus("Save links"_L1 + (mForm.chkSMD(7).value() == 1 ? " if no data "_L1 : " "_L1) +
+    mStatus.UpDateStatus("Save links"_L1 + (mForm.options.chkSMD(7).value() == 1 ? " if no data "_L1 : " "_L1) +
                          (on ? onMark : offMark));
 }

@@ -28,20 +28,21 @@ void StateOfControls::SetStateOfControls()
     const QScopedValueRollback<bool> underWay(mUnderWay, true);
     guarded(mLog, {"frmSearch"_L1, "Sub SetStateOfControls"_L1}, [&] {
         Plan plan = allOff();
-        plan[&mForm.cmdANInitialize] = !mForm.mbInitialized;
-        if (mForm.mbInitialized) {
-            const Facts facts{mForm.mbANRunning, mForm.mbMNRunning, !mForm.mbANRunning && !mForm.mbMNRunning};
+        plan[&mForm.browser.cmdANInitialize] = !mForm.browser.mbInitialized;
+        if (mForm.browser.mbInitialized) {
+            const Facts facts{mForm.runs.mbANRunning, mForm.runs.mbMNRunning,
+                              !mForm.runs.mbANRunning && !mForm.runs.mbMNRunning};
             anyTab(plan, facts);
             withoutOutput(plan);
-            if (mForm.sstSearch.tab() == autoTabIndex)
+            if (mForm.frame.sstSearch.tab() == autoTabIndex)
                 autoTab(plan, facts);
-            plan[&mForm.chkSaveEmail] = facts.idle;
-            if (mForm.sstSearch.tab() == settingsTabIndex) {
-                for (Control *control :
-                     {static_cast<Control *>(&mForm.chkSaveToFile), static_cast<Control *>(&mForm.chkSaveToSS),
-                      static_cast<Control *>(&mForm.txtSBSelAreaCodes)})
+            plan[&mForm.outputs.chkSaveEmail] = facts.idle;
+            if (mForm.frame.sstSearch.tab() == settingsTabIndex) {
+                for (Control *control : {static_cast<Control *>(&mForm.outputs.chkSaveToFile),
+                                         static_cast<Control *>(&mForm.outputs.chkSaveToSS),
+                                         static_cast<Control *>(&mForm.areaCodes.txtSBSelAreaCodes)})
                     plan[control] = facts.idle;
-                plan[&mForm.chkPutInOneFile] = facts.idle && mForm.chkSaveToFile.value() == 1;
+                plan[&mForm.outputs.chkPutInOneFile] = facts.idle && mForm.outputs.chkSaveToFile.value() == 1;
             }
         }
         apply(plan);
@@ -56,45 +57,47 @@ StateOfControls::Plan StateOfControls::allOff() const
             plan[control] = false;
     }
     for (Control *control :
-         {static_cast<Control *>(&mForm.lblAutoIncrPos), static_cast<Control *>(&mForm.lblAutoPgUrls),
-          static_cast<Control *>(&mForm.lblAutoCollect), static_cast<Control *>(&mForm.incMNAutoUrl),
-          static_cast<Control *>(&mForm.incMNStep)})
+         {static_cast<Control *>(&mForm.collect.lblAutoIncrPos), static_cast<Control *>(&mForm.collect.lblAutoPgUrls),
+          static_cast<Control *>(&mForm.collect.lblAutoCollect), static_cast<Control *>(&mForm.series.incMNAutoUrl),
+          static_cast<Control *>(&mForm.series.incMNStep)})
         plan[control] = false;
     return plan;
 }
 
 void StateOfControls::anyTab(Plan &plan, const Facts &facts)
 {
-    Label &timer = mForm.lblTrawlexTimer;
+    Label &timer = mForm.browser.lblTrawlexTimer;
     timer.setBackColor(facts.autoRun ? Colours::Red : facts.manualRun ? Colours::Blue : Colours::ButtonFace);
     timer.setForeColor(facts.idle ? Colours::WindowText : Colours::White);
-    plan[&mForm.cmdANStart] = !facts.manualRun;
-    plan[&mForm.cmdMNStart] = !facts.autoRun;
+    plan[&mForm.autoRun.cmdANStart] = !facts.manualRun;
+    plan[&mForm.manual.cmdMNStart] = !facts.autoRun;
     for (Control *control :
-         {static_cast<Control *>(&mForm.lblAutoIncrPos), static_cast<Control *>(&mForm.lblAutoPgUrls),
-          static_cast<Control *>(&mForm.lblAutoCollect), static_cast<Control *>(&mForm.chkSMA(3)),
-          static_cast<Control *>(&mForm.cboANList)})
+         {static_cast<Control *>(&mForm.collect.lblAutoIncrPos), static_cast<Control *>(&mForm.collect.lblAutoPgUrls),
+          static_cast<Control *>(&mForm.collect.lblAutoCollect), static_cast<Control *>(&mForm.options.chkSMA(3)),
+          static_cast<Control *>(&mForm.saved.cboANList)})
         plan[control] = facts.idle;
 }
 
 /// Without any output chosen there is nothing to test pages for.
 void StateOfControls::withoutOutput(Plan &plan)
 {
-    const CheckBox *outputs[] = {&mForm.chkSaveSummary, &mForm.chkSavePages, &mForm.chkSaveUrl,
-                                 &mForm.chkSaveEmail,   &mForm.chkSavePhone, &mForm.chkMCMNCStop};
+    const CheckBox *outputs[] = {&mForm.outputs.chkSaveSummary, &mForm.outputs.chkSavePages,
+                                 &mForm.outputs.chkSaveUrl,     &mForm.outputs.chkSaveEmail,
+                                 &mForm.outputs.chkSavePhone,   &mForm.outputs.chkMCMNCStop};
     const bool any =
         std::any_of(std::begin(outputs), std::end(outputs), [](const CheckBox *box) { return box->isOn(); });
     if (!any) {
-        for (CheckBox *box : {&mForm.chkMustContain, &mForm.chkMCCS, &mForm.chkMustNotContain, &mForm.chkMNCCS})
+        for (CheckBox *box : {&mForm.criteria.mustContain.on, &mForm.criteria.mustContain.caseSensitive,
+                              &mForm.criteria.mustNotContain.on, &mForm.criteria.mustNotContain.caseSensitive})
             box->setValue(0);
     }
-    plan[&mForm.chkMustContain] = any;
-    plan[&mForm.chkMustNotContain] = any;
+    plan[&mForm.criteria.mustContain.on] = any;
+    plan[&mForm.criteria.mustNotContain.on] = any;
 }
 
 void StateOfControls::autoTab(Plan &plan, const Facts &facts)
 {
-    plan[&mForm.lblAutoCollect] = true;
+    plan[&mForm.collect.lblAutoCollect] = true;
     blocking(plan, facts);
     criteria(plan);
     saving(plan, facts);
@@ -103,65 +106,72 @@ void StateOfControls::autoTab(Plan &plan, const Facts &facts)
 
 void StateOfControls::blocking(Plan &plan, const Facts &facts)
 {
-    const bool hasEmail = mForm.lstBlockedEmailC.listCount() > 0;
-    const bool hasUrl = mForm.lstBlockedUrlC.listCount() > 0;
+    const bool hasEmail = mForm.blocking.email.items.listCount() > 0;
+    const bool hasUrl = mForm.blocking.urls.items.listCount() > 0;
     if (!hasEmail)
-        mForm.chkEmailBlocking.setValue(0);
+        mForm.blocking.email.on.setValue(0);
     if (!hasUrl)
-        mForm.chkUrlBlocking.setValue(0);
-    plan[&mForm.chkEmailBlocking] = mForm.chkSaveEmail.value() == 1 && hasEmail && facts.idle;
-    plan[&mForm.chkUrlBlocking] = hasUrl && facts.idle;
+        mForm.blocking.urls.on.setValue(0);
+    plan[&mForm.blocking.email.on] = mForm.outputs.chkSaveEmail.value() == 1 && hasEmail && facts.idle;
+    plan[&mForm.blocking.urls.on] = hasUrl && facts.idle;
 }
 
 void StateOfControls::criteria(Plan &plan)
 {
-    const bool contain = mForm.chkMustContain.value() == 1;
-    const bool notContain = mForm.chkMustNotContain.value() == 1;
-    const bool hasSet = mForm.cboANMCMNCMask.listIndex() >= 0;
-    plan[&mForm.cmdANMCMaskAdd] = contain || notContain;
-    plan[&mForm.cmdANMCMaskMinus] = (contain || notContain) && hasSet;
-    plan[&mForm.cboANMCMNCMask] = (contain || notContain) && hasSet;
-    for (Control *control : {static_cast<Control *>(&mForm.lstANMC), static_cast<Control *>(&mForm.cmdANAddMC),
-                             static_cast<Control *>(&mForm.lstANMCAllAny), static_cast<Control *>(&mForm.chkMCCS)})
+    const bool contain = mForm.criteria.mustContain.on.value() == 1;
+    const bool notContain = mForm.criteria.mustNotContain.on.value() == 1;
+    const bool hasSet = mForm.criteria.cboANMCMNCMask.listIndex() >= 0;
+    plan[&mForm.criteria.cmdANMCMaskAdd] = contain || notContain;
+    plan[&mForm.criteria.cmdANMCMaskMinus] = (contain || notContain) && hasSet;
+    plan[&mForm.criteria.cboANMCMNCMask] = (contain || notContain) && hasSet;
+    for (Control *control : {static_cast<Control *>(&mForm.criteria.mustContain.items),
+                             static_cast<Control *>(&mForm.criteria.mustContain.add),
+                             static_cast<Control *>(&mForm.criteria.mustContain.demand),
+                             static_cast<Control *>(&mForm.criteria.mustContain.caseSensitive)})
         plan[control] = hasSet && contain;
-    for (Control *control : {static_cast<Control *>(&mForm.lstANMNC), static_cast<Control *>(&mForm.cmdANAddMNC),
-                             static_cast<Control *>(&mForm.lstANMNCAllAny), static_cast<Control *>(&mForm.chkMNCCS)})
+    for (Control *control : {static_cast<Control *>(&mForm.criteria.mustNotContain.items),
+                             static_cast<Control *>(&mForm.criteria.mustNotContain.add),
+                             static_cast<Control *>(&mForm.criteria.mustNotContain.demand),
+                             static_cast<Control *>(&mForm.criteria.mustNotContain.caseSensitive)})
         plan[control] = hasSet && notContain;
 }
 
 void StateOfControls::saving(Plan &plan, const Facts &facts)
 {
-    for (Control *control : {static_cast<Control *>(&mForm.chkSavePhone), static_cast<Control *>(&mForm.chkSaveSummary),
-                             static_cast<Control *>(&mForm.lblAutoPgUrls), static_cast<Control *>(&mForm.chkSavePages),
-                             static_cast<Control *>(&mForm.chkMCMNCStop)})
+    for (Control *control :
+         {static_cast<Control *>(&mForm.outputs.chkSavePhone), static_cast<Control *>(&mForm.outputs.chkSaveSummary),
+          static_cast<Control *>(&mForm.collect.lblAutoPgUrls), static_cast<Control *>(&mForm.outputs.chkSavePages),
+          static_cast<Control *>(&mForm.outputs.chkMCMNCStop)})
         plan[control] = facts.idle;
-    const bool savesPages = facts.idle && mForm.chkSavePages.value() == 1;
-    for (Control *control : {static_cast<Control *>(&mForm.txtANStartTag), static_cast<Control *>(&mForm.txtANStopTag),
-                             static_cast<Control *>(&mForm.cboANSaveType)})
+    const bool savesPages = facts.idle && mForm.outputs.chkSavePages.value() == 1;
+    for (Control *control :
+         {static_cast<Control *>(&mForm.outputs.txtANStartTag), static_cast<Control *>(&mForm.outputs.txtANStopTag),
+          static_cast<Control *>(&mForm.outputs.cboANSaveType)})
         plan[control] = savesPages;
     if (!facts.idle)
         return;
-    for (Label *lamp : {&mForm.lblUrlSaved, &mForm.lblSummarySaved, &mForm.lblEmailSaved, &mForm.lblPageSaved,
-                        &mForm.lblPhoneSaved, &mForm.lblMCColor, &mForm.lblMNCColor})
+    for (Label *lamp : {&mForm.outputs.lblUrlSaved, &mForm.outputs.lblSummarySaved, &mForm.outputs.lblEmailSaved,
+                        &mForm.outputs.lblPageSaved, &mForm.outputs.lblPhoneSaved, &mForm.criteria.mustContain.lamp,
+                        &mForm.criteria.mustNotContain.lamp})
         lamp->setBackColor(Colours::ButtonFace);
-    if (mForm.mbPassUrlsLoaded)
-        mForm.chkSaveUrl.setValue(0);
-    plan[&mForm.chkSaveUrl] = !mForm.mbPassUrlsLoaded;
+    if (mForm.saved.mbPassUrlsLoaded)
+        mForm.outputs.chkSaveUrl.setValue(0);
+    plan[&mForm.outputs.chkSaveUrl] = !mForm.saved.mbPassUrlsLoaded;
 }
 
 void StateOfControls::savedUrls(Plan &plan, const Facts &facts)
 {
-    const bool hasEntries = mForm.cboANSavedUrls.listCount() > 0;
+    const bool hasEntries = mForm.saved.cboANSavedUrls.listCount() > 0;
     if (facts.idle && !hasEntries)
-        mForm.chkUseSavedUrls.setValue(0);
-    const bool used = mForm.chkUseSavedUrls.value() == 1;
+        mForm.saved.chkUseSavedUrls.setValue(0);
+    const bool used = mForm.saved.chkUseSavedUrls.value() == 1;
     const bool editable = facts.idle && !used;
-    const bool chosen = mForm.cboANSavedUrls.listIndex() >= 0;
-    plan[&mForm.chkUseSavedUrls] = facts.idle && hasEntries;
-    plan[&mForm.cmdANSavedAdd] = editable && !mForm.mbPassUrlsLoaded;
-    plan[&mForm.cboANSavedUrls] = editable && hasEntries;
-    plan[&mForm.cmdANSavedMinus] = editable && hasEntries && chosen;
-    plan[&mForm.cmdANSavedGo] = editable && hasEntries && chosen;
+    const bool chosen = mForm.saved.cboANSavedUrls.listIndex() >= 0;
+    plan[&mForm.saved.chkUseSavedUrls] = facts.idle && hasEntries;
+    plan[&mForm.saved.cmdANSavedAdd] = editable && !mForm.saved.mbPassUrlsLoaded;
+    plan[&mForm.saved.cboANSavedUrls] = editable && hasEntries;
+    plan[&mForm.saved.cmdANSavedMinus] = editable && hasEntries && chosen;
+    plan[&mForm.saved.cmdANSavedGo] = editable && hasEntries && chosen;
 }
 
 void StateOfControls::apply(const Plan &plan)
