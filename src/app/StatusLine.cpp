@@ -8,8 +8,8 @@ const QString StatusLine::standardTip =
 void StatusLine::UpDateStatus(const QString &text, const QString &tip)
 {
     if (!text.isEmpty())
-        mForm.frame.picStatus.print(text + "..."_L1);
-    mForm.frame.picStatus.setToolTipText(mForm.options.chkSMV(0).value() == 1 ? tip : QString());
+        mStatus.print(text + "..."_L1);
+    mStatus.setToolTipText(mTips.ifShown(tip));
     if (!text.isEmpty())
         Q_EMIT told(text);
 }

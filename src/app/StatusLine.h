@@ -1,7 +1,7 @@
 // The one way to tell the user something.
 #pragma once
 
-#include "app/frmSearch.h"
+#include "app/Tips.h"
 
 class StatusLine : public QObject
 {
@@ -11,7 +11,7 @@ class StatusLine : public QObject
     /// The tool tip of nearly all status texts.
     static const QString standardTip;
 
-    explicit StatusLine(frmSearch &form) : mForm(form) {}
+    StatusLine(PictureBox &picStatus, const Tips &tips) : mStatus(picStatus), mTips(tips) {}
 
     /// Prints `text` followed by "..." and sets the tool tip, or none while tool tips are off. An empty text changes
     /// the tool tip alone.
@@ -22,5 +22,6 @@ class StatusLine : public QObject
     void told(const QString &text);
 
   private:
-    frmSearch &mForm;
+    PictureBox &mStatus;
+    const Tips &mTips;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/StatusLine.h"
+#include "app/frmSearch.h"
 #include "driver/BrowserHolder.h"
 
 class Navigation

@@ -3,6 +3,7 @@
 // inside its waits and reach it through the flags of frmSearch alone. Knows lists.
 #pragma once
 
+#include "app/frmSearch.h"
 #include "harvest/PageScreening.h"
 #include "sites/ResultLinks.h"
 

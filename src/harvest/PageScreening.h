@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/cTimer.h"
+#include "app/frmSearch.h"
 #include "driver/Navigation.h"
 #include "harvest/ResultWriters.h"
 

@@ -1,6 +1,7 @@
 // Turns an accepted page into rows and files, each new thing once.
 #pragma once
 
+#include "app/frmSearch.h"
 #include "harvest/PageData.h"
 #include "lists/SavedUrls.h"
 #include "store/SiteSummaryIndex.h"

@@ -4,6 +4,7 @@
 
 #include "app/Ports.h"
 #include "app/StatusLine.h"
+#include "app/frmSearch.h"
 #include "driver/BrowserHolder.h"
 #include "store/DatabaseHolder.h"
 

@@ -5,6 +5,7 @@
 
 #include "app/Ports.h"
 #include "app/StatusLine.h"
+#include "app/frmSearch.h"
 #include "store/DatabaseHolder.h"
 
 class CriteriaSets

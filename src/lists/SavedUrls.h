@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/StatusLine.h"
+#include "app/frmSearch.h"
 #include "driver/Navigation.h"
 #include "sites/SiteRecords.h"
 #include "store/MaskNames.h"

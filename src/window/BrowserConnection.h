@@ -5,6 +5,7 @@
 #include "app/Ports.h"
 #include "app/StatusLine.h"
 #include "app/cTimer.h"
+#include "app/frmSearch.h"
 #include "driver/BrowserHolder.h"
 
 class BrowserConnection : public QObject

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Ports.h"
+#include "app/frmSearch.h"
 #include "lists/Blocking.h"
 #include "lists/CriteriaSets.h"
 #include "lists/SavedUrls.h"

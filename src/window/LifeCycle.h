@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/cTimer.h"
+#include "app/frmSearch.h"
 #include "window/BrowserConnection.h"
 #include "window/DatabaseLoader.h"
 #include "window/options/Options.h"

@@ -29,6 +29,7 @@ struct Program
 
     frmSearch form;
     ErrorLog log;
+    Tips tips;
     StatusLine status;
     cTimer timer;
     StateOfControls states;

@@ -1,5 +1,7 @@
 // The status bar's text and tool tip, and the form behind it.
 #include "app/StatusLine.h"
+
+#include "app/frmSearch.h"
 #include "support/Fakes.h"
 
 using namespace Qt::StringLiterals;
@@ -13,7 +15,8 @@ class StatusTest : public testing::Test
         QObject::connect(&status, &StatusLine::told, &status, [this](const QString &text) { told.append(text); });
     }
     frmSearch form;
-    StatusLine status{form};
+    Tips tips{form.options.chkSMV(0)};
+    StatusLine status{form.frame.picStatus, tips};
     QStringList told;
 };
 } // namespace

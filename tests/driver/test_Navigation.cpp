@@ -32,7 +32,8 @@ class NavigationTest : public testing::Test
     std::shared_ptr<FakeBrowser> browser = std::make_shared<FakeBrowser>(pump);
     BrowserHolder holder;
     frmSearch form;
-    StatusLine status{form};
+    Tips tips{form.options.chkSMV(0)};
+    StatusLine status{form.frame.picStatus, tips};
     Navigation navigation{log, form, status, holder};
     QStringList told;
 };

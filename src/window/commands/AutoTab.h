@@ -1,6 +1,7 @@
 // The events of the Auto tab, the status bar and the tabs, each led to the operation that answers it.
 #pragma once
 
+#include "app/frmSearch.h"
 #include "harvest/AutoRun.h"
 #include "lists/Blocking.h"
 

@@ -1,6 +1,7 @@
 // The events of the criteria on the Auto tab, each led to the operation that answers it.
 #pragma once
 
+#include "app/frmSearch.h"
 #include "lists/CriteriaSets.h"
 
 class CriteriaPanel : public QObject

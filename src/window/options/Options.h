@@ -5,6 +5,7 @@
 #include "app/ErrorLog.h"
 #include "app/Ports.h"
 #include "app/StatusLine.h"
+#include "app/frmSearch.h"
 
 class Options : public QObject
 {
