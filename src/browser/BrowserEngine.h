@@ -29,12 +29,21 @@ class BrowserEngine : public QObject
 
     enum class Part { Html, Text };
 
+    /// What has become of the page that the latest Navigate asked for.
+    enum class Arrival {
+        Pending, ///< there is no document of its own yet: reading is an error, at once
+        Arrived, ///< a document of its own stands there, or the document stood there before the first Navigate
+        Failed   ///< nothing came (a download, no content, stopped), the browser's own error page stands there, or the
+                 ///< page's process has died; stays until the next Navigate
+    };
+
     /// Opens `address` in the same window with a plain GET. Returns once it is issued; never waits for the page.
     virtual void Navigate(const QString &address) = 0;
     /// Cancels the load in progress.
     virtual void Stop() = 0;
     /// True from Navigate until the page has finished loading, failed, turned into a download, or lost its process.
     [[nodiscard]] virtual bool isLoading() const = 0;
+    [[nodiscard]] virtual Arrival arrival() const = 0;
 
     /// Geometry of the browser's window in pixels; engines without a window of their own ignore it.
     virtual void setTop(int pixels) = 0;
@@ -61,13 +70,22 @@ class BrowserEngine : public QObject
     /// Lets the user save the page.
     virtual void saveAs() = 0;
 
+    /// What the browser calls itself to servers; "" if it cannot be given.
+    [[nodiscard]] virtual QString userAgent() = 0;
+    /// The value of the header "Cookie" with which the browser would ask for `url`; "" without any, or if it cannot be
+    /// given.
+    [[nodiscard]] virtual QString cookiesFor(const QString &url) = 0;
+
   Q_SIGNALS:
     /// Once for each frame that was loaded and once for the whole page, in that order.
     void DocumentComplete(const QString &url, bool topDocument);
     /// A page wants to open a window; set `*cancel` to refuse it. Always emitted directly.
     void NewWindow2(bool *cancel);
-    /// The browser's window, or the browser itself, is gone. The engine answers nothing from then on.
+    /// The user has closed the browser's window. The engine answers nothing from then on.
     void WindowClosing();
+    /// The browser has ended by itself, its window with it: it may be started again. The engine answers nothing from
+    /// then on. Comes in the place of WindowClosing, never with it.
+    void Died();
     /// isLoading() has turned False.
     void loadingEnded();
 };

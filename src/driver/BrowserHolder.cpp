@@ -13,6 +13,7 @@ void BrowserHolder::set(std::unique_ptr<cIEObject> driver)
     connect(mobjIE.get(), &cIEObject::DocumentComplete, this, &BrowserHolder::DocumentComplete);
     connect(mobjIE.get(), &cIEObject::NewWindow2, this, &BrowserHolder::NewWindow2, Qt::DirectConnection);
     connect(mobjIE.get(), &cIEObject::WindowClosing, this, &BrowserHolder::WindowClosing);
+    connect(mobjIE.get(), &cIEObject::Died, this, &BrowserHolder::Died);
     connect(mobjIE.get(), &cIEObject::loadingEnded, this, &BrowserHolder::loadingEnded);
 }
 

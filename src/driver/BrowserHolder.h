@@ -21,6 +21,8 @@ class BrowserHolder : public QObject
     void DocumentComplete(const QString &url, bool topDocument);
     void NewWindow2(bool *cancel);
     void WindowClosing();
+    /// The browser has ended by itself and may be started again; comes in the place of WindowClosing.
+    void Died();
     void loadingEnded();
 
   private:

@@ -58,6 +58,7 @@ bool cIEObject::InitializeObject(std::shared_ptr<BrowserEngine> browser)
         connect(moIE.get(), &BrowserEngine::DocumentComplete, this, &cIEObject::DocumentComplete);
         connect(moIE.get(), &BrowserEngine::NewWindow2, this, &cIEObject::NewWindow2, Qt::DirectConnection);
         connect(moIE.get(), &BrowserEngine::WindowClosing, this, &cIEObject::WindowClosing);
+        connect(moIE.get(), &BrowserEngine::Died, this, &cIEObject::Died);
         connect(moIE.get(), &BrowserEngine::loadingEnded, this, &cIEObject::loadingEnded);
     });
     return mbHasBrowser;

@@ -24,6 +24,14 @@ class cIEObject : public QObject
     void setInternetExplorerPath(const QString &path) { msIEPath = path; }
     /// A page is on its way.
     [[nodiscard]] bool isLoading() const { return moIE && moIE->isLoading(); }
+    /// What has become of the page that NavigateToUrl has sent the browser to; Failed without a browser.
+    [[nodiscard]] BrowserEngine::Arrival arrival() const
+    {
+        return moIE ? moIE->arrival() : BrowserEngine::Arrival::Failed;
+    }
+    /// As the browser gives them; "" without one.
+    [[nodiscard]] QString userAgent() { return moIE ? moIE->userAgent() : QString(); }
+    [[nodiscard]] QString cookiesFor(const QString &url) { return moIE ? moIE->cookiesFor(url) : QString(); }
 
     // Without a browser each of these does nothing and gives its type's empty value. None of them raises: an error goes
     // to the log, and the result is what was built until then.
@@ -66,6 +74,8 @@ class cIEObject : public QObject
     void DocumentComplete(const QString &url, bool topDocument);
     void NewWindow2(bool *cancel);
     void WindowClosing();
+    /// The browser has ended by itself and may be started again; comes in the place of WindowClosing.
+    void Died();
     /// The page that NavigateToUrl has sent the browser to is there, or will not come.
     void loadingEnded();
 

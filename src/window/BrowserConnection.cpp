@@ -24,6 +24,7 @@ BrowserConnection::BrowserConnection(ErrorReceiver &log, frmSearch &form, Status
     : mLog(log), mForm(form), mStatus(status), mStates(states), mTimer(timer), mBrowser(browser), mOut(outside)
 {
     connect(&browser, &BrowserHolder::WindowClosing, this, &BrowserConnection::windowClosed);
+    connect(&browser, &BrowserHolder::Died, this, &BrowserConnection::windowClosed);
     connect(&browser, &BrowserHolder::NewWindow2, this, &BrowserConnection::newWindow, Qt::DirectConnection);
 }
 

@@ -355,6 +355,32 @@ TEST_F(DriverTest, TheHolderPassesOnTheEventsOfTheDriverItHolds)
     EXPECT_FALSE(second->popUpIsRefused());
 }
 
+TEST_F(DriverTest, ABrowserThatEndsByItselfIsToldAsThatAndNotAsClosed)
+{
+    BrowserHolder holder;
+    QStringList told;
+    QObject::connect(&holder, &BrowserHolder::WindowClosing, &holder, [&] { told.append(u"closed"_s); });
+    QObject::connect(&holder, &BrowserHolder::Died, &holder, [&] { told.append(u"died"_s); });
+    holder.set(std::make_unique<cIEObject>(log, desktop, clipboard, browsers));
+    auto second = std::make_shared<FakeBrowser>(pump);
+    holder->InitializeObject(second);
+    EXPECT_EQ(holder->arrival(), BrowserEngine::Arrival::Arrived);
+    second->die();
+    EXPECT_EQ(told, QStringList{u"died"_s});
+    EXPECT_EQ(holder->arrival(), BrowserEngine::Arrival::Failed);
+}
+
+TEST_F(DriverTest, WhatTransfersAskIsTheBrowsersOrNothing)
+{
+    cIEObject empty{log, desktop, clipboard, browsers};
+    EXPECT_EQ(empty.userAgent(), QString());
+    EXPECT_EQ(empty.cookiesFor(u"http://a.com/"_s), QString());
+    EXPECT_EQ(empty.arrival(), BrowserEngine::Arrival::Failed);
+    browser->cookies[u"http://a.com/"_s] = u"a=1"_s;
+    EXPECT_EQ(driver.userAgent(), u"Fake/1.0");
+    EXPECT_EQ(driver.cookiesFor(u"http://a.com/"_s), u"a=1");
+}
+
 TEST_F(DriverTest, OneReadingAsksTheBrowserOnceForEachKindOfContent)
 {
     page() = {u"<p>Tea</p>"_s, u"Title"_s, u"Tea"_s, {u"http://a.com/"_s}, 0, {}, {}, {}};

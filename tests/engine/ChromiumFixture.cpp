@@ -112,6 +112,7 @@ void ChromiumTest::take(std::shared_ptr<BrowserEngine> engine)
                      [this](const QString &url, bool top) { told.append((top ? u"page "_s : u"frame "_s) + url); });
     QObject::connect(sender, &BrowserEngine::loadingEnded, sender, [this] { told.append(u"ended"_s); });
     QObject::connect(sender, &BrowserEngine::WindowClosing, sender, [this] { told.append(u"closing"_s); });
+    QObject::connect(sender, &BrowserEngine::Died, sender, [this] { told.append(u"died"_s); });
 }
 
 TestServer &ChromiumTest::server()
@@ -188,7 +189,8 @@ QString ChromiumTest::show(const QByteArray &html)
 
 bool ChromiumTest::waitForTitle(const QString &title, int milliseconds)
 {
-    return waitFor([&] { return browser->LocationName() == title; }, milliseconds);
+    return waitFor([&] { return browser->arrival() != Arrival::Pending && browser->LocationName() == title; },
+                   milliseconds);
 }
 
 QList<qint64> ChromiumTest::processes(const QByteArray &part)

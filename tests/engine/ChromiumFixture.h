@@ -17,6 +17,7 @@ bool waitFor(const std::function<bool()> &done, int milliseconds = 10000);
 void idle(int milliseconds);
 /// Runs `call` and gives the number of the error that it raises, 0 without one.
 qint64 errorOf(const std::function<void()> &call);
+using Arrival = BrowserEngine::Arrival;
 /// A text as Google Test shows it.
 inline std::string str(const QString &text)
 {
@@ -64,5 +65,5 @@ class ChromiumTest : public testing::Test
     static QList<qint64> processes(const QByteArray &part = {});
 
     std::shared_ptr<BrowserEngine> browser;
-    QStringList told; ///< the browser's signals in order: "frame ADDRESS", "page ADDRESS", "ended", "closing"
+    QStringList told; ///< the browser's signals in order: "frame ADDRESS", "page ADDRESS", "ended", "closing", "died"
 };

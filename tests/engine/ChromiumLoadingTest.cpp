@@ -211,6 +211,7 @@ TEST_F(ChromiumLoading, NoSignalComesWhileACallIsUnderWay)
                            "const end = Date.now() + 800; while (Date.now() < end);})</script>");
     browser->Navigate(here(u"/busy"_s));
     calling = true;
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Arrived; }));
     while (browser->isLoading())
         (void)browser->content();
     EXPECT_TRUE(told.isEmpty()) << str(told);
@@ -232,4 +233,101 @@ TEST_F(ChromiumLoading, AHandlerMayReadAndNavigate)
     server().page("/start", "<title>start</title>");
     browser->Navigate(here(u"/start"_s));
     ASSERT_TRUE(waitFor([&] { return read == u"start next "_s; })) << str(read);
+}
+
+// ---- Whether the page has arrived
+
+TEST_F(ChromiumLoading, APageHasArrivedWithItsOwnDocumentAndNotBefore)
+{
+    show("<title>old</title>");
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+    server().route("/never", {.delay = -1});
+    server().route("/half", {.body = "<title>half</title><img src=/never>", .delay = 300});
+    browser->Navigate(here(u"/half"_s));
+    EXPECT_EQ(browser->arrival(), Arrival::Pending);
+    EXPECT_EQ(errorOf([&] { (void)browser->LocationName(); }), EngineError::NotArrived);
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() != Arrival::Pending; }));
+    ASSERT_TRUE(waitForTitle(u"half"_s));
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+    EXPECT_TRUE(browser->isLoading());
+    browser->Stop();
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived) << "what is there of it is its own";
+}
+
+TEST_F(ChromiumLoading, ASilentServerIsPendingUntilItIsGivenUp)
+{
+    server().route("/never", {.delay = -1});
+    show("<title>old</title>");
+    browser->Navigate(here(u"/never"_s));
+    idle(500);
+    EXPECT_EQ(browser->arrival(), Arrival::Pending);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(errorOf([&] { (void)browser->content(); }), EngineError::NotArrived);
+    EXPECT_LT(clock.elapsed(), 100) << "it costs no time";
+    browser->Stop();
+    EXPECT_EQ(browser->arrival(), Arrival::Failed);
+    EXPECT_EQ(str(browser->LocationName()), "old");
+    idle(200);
+    EXPECT_EQ(browser->arrival(), Arrival::Failed);
+}
+
+TEST_F(ChromiumLoading, WhatBringsNoDocumentHasFailed)
+{
+    server().route("/204", {.status = 204});
+    server().route("/file", {.body = "x", .contentType = "application/octet-stream"});
+    server().route("/document.pdf", {.body = "%PDF-1.4\n", .contentType = "application/pdf"});
+    server().route("/empty", {.status = 500});
+    for (const QString &address : {here(u"/204"_s), here(u"/file"_s), here(u"/document.pdf"_s), here(u"/empty"_s),
+                                   u"http://nobody.invalid/"_s, u"http://127.0.0.1:9/"_s, u"http://[/"_s}) {
+        show("<title>stays</title>");
+        EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+        open(address);
+        EXPECT_EQ(browser->arrival(), Arrival::Failed) << str(address);
+    }
+    openPath(u"/nowhere"_s);
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived) << "a server's own page about an error is a page";
+}
+
+TEST_F(ChromiumLoading, AMoveWithinThePageHasArrived)
+{
+    const QString address = show("<p id=x>x");
+    open(address + u"#x"_s);
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+}
+
+TEST_F(ChromiumLoading, APageThatGoesOnToNowhereHasFailed)
+{
+    show("<title>first</title><script>setTimeout(() => location = 'http://nobody.invalid/', 200)</script>");
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Failed; }));
+}
+
+// ---- What transfers ask
+
+TEST_F(ChromiumLoading, TheUserAgentIsTheOneThatServersSee)
+{
+    show("x");
+    EXPECT_EQ(str(browser->userAgent()), server().requests().constLast().headers.value("user-agent").toStdString());
+}
+
+TEST_F(ChromiumLoading, CookiesAreGivenAsTheBrowserWouldSendThem)
+{
+    server().route("/set", {.body = "x",
+                            .headers = {"Set-Cookie: a=1; Path=/", "Set-Cookie: deep=2; Path=/deep; HttpOnly",
+                                        "Set-Cookie: wide=3; Domain=site.test; Path=/", "Set-Cookie: safe=4; Secure"}});
+    openPath(u"/set"_s);
+    openPath(u"/deep/page"_s);
+    const auto parts = [](const QString &header) { // those of one path come in any order
+        QStringList all = header.split(u"; "_s);
+        all.sort();
+        return str(all);
+    };
+    const QString sent = QString::fromUtf8(server().requests().constLast().headers.value("cookie"));
+    EXPECT_EQ(parts(sent), "a=1 | deep=2 | wide=3");
+    EXPECT_EQ(parts(browser->cookiesFor(here(u"/deep/page"_s))), parts(sent));
+    EXPECT_TRUE(browser->cookiesFor(here(u"/deep/page"_s)).startsWith("deep=2; "_L1));
+    EXPECT_EQ(parts(browser->cookiesFor(here(u"/"_s))), "a=1 | wide=3");
+    EXPECT_EQ(str(browser->cookiesFor(elsewhere(u"/deep/page"_s))), "");
+    EXPECT_EQ(str(browser->cookiesFor(u"no address"_s)), "");
 }

@@ -1,6 +1,7 @@
 // When a page counts as loading, in orders of events that a browser seldom shows.
 #include "engine/PageLoading.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -211,4 +212,159 @@ TEST(PageLoading, CancellingEndsOnce)
     page.begin();
     EXPECT_TRUE(page.cancel());
     EXPECT_FALSE(page.isLoading());
+}
+
+// ---- Whether the page has arrived
+
+using Arrival = PageLoading::Arrival;
+using Document = PageLoading::Document;
+
+TEST(PageLoading, APageArrivesWithItsDocument)
+{
+    PageLoading page;
+    EXPECT_EQ(page.arrival(), Arrival::Arrived) << "what stands there when nothing has been asked for";
+    page.answered(page.begin(), u"a"_s, u""_s);
+    EXPECT_EQ(page.arrival(), Arrival::Pending);
+    (void)page.committed(u"a"_s);
+    EXPECT_EQ(page.arrival(), Arrival::Arrived);
+    page.documentLoaded(u"a"_s);
+    EXPECT_EQ(page.arrival(), Arrival::Arrived);
+}
+
+TEST(PageLoading, ADocumentOfAnEarlierRequestIsNoArrival)
+{
+    PageLoading page;
+    page.answered(page.begin(), u"a"_s, u""_s);
+    page.begin();
+    (void)page.committed(u"a"_s);
+    EXPECT_EQ(page.arrival(), Arrival::Pending);
+    (void)page.committed(u"b"_s);
+    EXPECT_EQ(page.arrival(), Arrival::Arrived);
+}
+
+TEST(PageLoading, EveryEndWithoutADocumentHasFailed)
+{
+    struct Row
+    {
+        const char *tag;
+        std::function<void(PageLoading &, int)> end;
+    };
+    const Row rows[] = {
+        {"no address", [](PageLoading &page, int number) { page.answered(number, {}, u"invalid"_s); }},
+        {"download",
+         [](PageLoading &page, int number) {
+             page.answered(number, u"a"_s, u"net::ERR_ABORTED"_s);
+             page.settle(number);
+         }},
+        {"blocked",
+         [](PageLoading &page, int number) {
+             page.answered(number, u"a"_s, u"net::ERR_BLOCKED_BY_CLIENT"_s);
+             page.stopped();
+         }},
+        {"cancelled", [](PageLoading &page, int) { page.cancel(); }},
+        {"told stopped", [](PageLoading &page, int) { page.endTold(PageLoading::End::Stopped, true); }},
+        {"error page", [](PageLoading &page, int) { (void)page.committed(u"a"_s, Document::ErrorPage); }},
+        {"crash",
+         [](PageLoading &page, int) {
+             (void)page.committed(u"a"_s);
+             page.processLost();
+         }},
+    };
+    for (const Row &row : rows) {
+        PageLoading page;
+        (void)page.committed(u"old"_s);
+        row.end(page, page.begin());
+        EXPECT_EQ(page.arrival(), Arrival::Failed) << row.tag;
+        page.cancel();
+        (void)page.committed(u"later"_s);
+        EXPECT_EQ(page.arrival(), Arrival::Failed) << row.tag << ": the old page has gone on by itself";
+        page.begin();
+        EXPECT_EQ(page.arrival(), Arrival::Pending) << row.tag;
+    }
+}
+
+TEST(PageLoading, AMoveWithinThePageIsAsGoodAsThePage)
+{
+    for (const Document document : {Document::Page, Document::ErrorPage}) {
+        PageLoading page;
+        (void)page.committed(u"a"_s, document);
+        page.answered(page.begin(), {}, {});
+        EXPECT_EQ(page.arrival(), Arrival::Pending);
+        page.movedWithinPage();
+        EXPECT_EQ(page.arrival(), document == Document::Page ? Arrival::Arrived : Arrival::Failed);
+        const int number = page.begin();
+        page.movedWithinPage();
+        page.answered(number, {}, {});
+        EXPECT_EQ(page.arrival(), document == Document::Page ? Arrival::Arrived : Arrival::Failed);
+    }
+}
+
+TEST(PageLoading, AnErrorPageOnTheWayToTheRealOneCountsForNothing)
+{
+    PageLoading page;
+    page.begin();
+    (void)page.committed(u"error"_s, Document::ErrorPage);
+    (void)page.committed(u"page"_s);
+    EXPECT_EQ(page.arrival(), Arrival::Arrived);
+}
+
+TEST(PageLoading, APageThatEndsOnAnErrorPageByItselfHasFailed)
+{
+    PageLoading page;
+    page.begin();
+    (void)page.committed(u"page"_s);
+    page.documentLoaded(u"page"_s);
+    page.resumed();
+    (void)page.committed(u"error"_s, Document::ErrorPage);
+    EXPECT_EQ(page.arrival(), Arrival::Failed);
+}
+
+// ---- A browser that does not say whose end it tells
+
+using End = PageLoading::End;
+
+TEST(PageLoading, AnEndThatMayBeThatOfAnEarlierLoadDoesNotCount)
+{
+    struct Row
+    {
+        const char *tag;
+        bool busy, started, sameAddress;
+        End end;
+        Verdict verdict;
+    };
+    const Row rows[] = {
+        {"not taken up", false, false, false, End::Loaded, Verdict::Outdated},
+        {"not taken up, but its address", false, false, true, End::Loaded, Verdict::Wait},
+        {"taken up", false, true, false, End::Loaded, Verdict::Wait},
+        {"taken up while busy", true, true, false, End::Loaded, Verdict::Outdated},
+        {"stopped while busy", true, true, false, End::Stopped, Verdict::Ended},
+        {"stopped, not taken up", true, false, false, End::Stopped, Verdict::Outdated},
+    };
+    for (const Row &row : rows) {
+        PageLoading page;
+        page.begin();
+        page.issued(row.busy);
+        if (row.started)
+            page.started(u"x"_s);
+        EXPECT_EQ(page.endTold(row.end, row.sameAddress), row.verdict) << row.tag;
+        EXPECT_EQ(page.isLoading(), row.verdict != Verdict::Ended) << row.tag;
+    }
+}
+
+TEST(PageLoading, AnEndIsThatOfTheDocumentOnceThatHasToldOfItsLoadEvent)
+{
+    PageLoading page;
+    page.begin();
+    (void)page.committed(u"a"_s);
+    page.documentComplete(u"a"_s);
+    (void)page.committed(u"b"_s);
+    EXPECT_EQ(page.endTold(End::Loaded, false), Verdict::Wait) << "that was the document before";
+    page.documentComplete(u"b"_s);
+    EXPECT_EQ(page.endTold(End::Loaded, false), Verdict::Ended);
+    EXPECT_EQ(page.endTold(End::Loaded, false), Verdict::Outdated);
+    page.resumed();
+    EXPECT_TRUE(page.isLoading());
+    EXPECT_FALSE(page.isWaitingForDocument());
+    EXPECT_TRUE(page.documentFound());
+    EXPECT_FALSE(page.documentFound());
 }

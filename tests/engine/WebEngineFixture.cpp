@@ -80,6 +80,7 @@ void WebEngineTest::startBrowser(const WebEngineOptions &options)
     });
     QObject::connect(browser.get(), &BrowserEngine::loadingEnded,
                      [this] { signalled.append(QStringLiteral("ended")); });
+    QObject::connect(browser.get(), &BrowserEngine::Died, [this] { signalled.append(QStringLiteral("died")); });
     QObject::connect(browser.get(), &BrowserEngine::NewWindow2, [this] { signalled.append(QStringLiteral("window")); });
     QObject::connect(browser.get(), &BrowserEngine::WindowClosing,
                      [this] { signalled.append(QStringLiteral("closing")); });

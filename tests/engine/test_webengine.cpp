@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -125,15 +126,14 @@ TEST_F(WebEngineTest, ReadsFramesAndRefusesThoseOfOtherSites)
 
 TEST_F(WebEngineTest, AReadOutlivesAChangeOfTheDocument)
 {
-    server.route("/slow", {.body = "<title>slow</title>slow", .delay = 300});
-    openPage("<title>first</title>first");
-    browser->Navigate(server.address(u"/slow"_s));
-    for (int i = 0; i < 400 && browser->isLoading(); ++i) {
+    server.page("/again", "<title>again</title><script>setTimeout(() => location.reload(), 20)</script>");
+    open(u"/again"_s);
+    for (int i = 0; i < 200; ++i) {
         const PageContent content = browser->content(); // of either document, but of one, and in reasonable time
-        EXPECT_EQ(content.url, server.address(content.title == u"first" ? u"/page"_s : u"/slow"_s));
+        EXPECT_EQ(content.url, server.address(u"/again"_s));
         idle(1);
     }
-    EXPECT_EQ(browser->LocationName(), u"slow");
+    EXPECT_GT(server.requestCount("/again"), 5);
 }
 
 TEST_F(WebEngineTest, CopiesTheSelectionAndLeavesTheClipboardAloneWithoutOne)
@@ -344,6 +344,103 @@ TEST_F(WebEngineTest, AddressesMeanTheSameToTheServer)
         open(row.given);
         EXPECT_EQ(server.requests().constLast().path, row.asked) << row.given.toStdString();
     }
+}
+
+// --- whether the page has arrived ----------------------------------------------------------------------------------
+
+using Arrival = BrowserEngine::Arrival;
+
+TEST_F(WebEngineTest, APageHasArrivedWithItsOwnDocumentAndNotBefore)
+{
+    openPage("<title>old</title>");
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+    server.route("/never", {.delay = -1});
+    server.route("/half", {.body = "<title>half</title><img src='/never'>", .delay = 300});
+    browser->Navigate(server.address(u"/half"_s));
+    EXPECT_EQ(browser->arrival(), Arrival::Pending);
+    EXPECT_FALSE(errorOf([&] { (void)browser->LocationName(); }).isEmpty()) << "there is nothing of its own to read";
+    EXPECT_TRUE(waitUntil([&] { return browser->arrival() != Arrival::Pending; }));
+    EXPECT_EQ(titleAfter(server.address(u"/half"_s)), u"half");
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+    EXPECT_TRUE(browser->isLoading());
+    browser->Stop();
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived) << "what is there of it is its own";
+}
+
+TEST_F(WebEngineTest, ASilentServerIsPendingUntilItIsGivenUp)
+{
+    server.route("/never", {.delay = -1});
+    openPage("<title>old</title>");
+    browser->Navigate(server.address(u"/never"_s));
+    idle(300);
+    EXPECT_EQ(browser->arrival(), Arrival::Pending);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_FALSE(errorOf([&] { (void)browser->content(); }).isEmpty());
+    EXPECT_LT(clock.elapsed(), 100) << "it costs no time";
+    browser->Stop();
+    EXPECT_EQ(browser->LocationName(), u"old");
+    EXPECT_EQ(browser->arrival(), Arrival::Failed);
+    idle(200);
+    EXPECT_EQ(browser->arrival(), Arrival::Failed);
+}
+
+TEST_F(WebEngineTest, WhatBringsNoDocumentHasFailed)
+{
+    server.route("/204", {.status = 204});
+    server.route("/file", {.body = "x", .contentType = "application/octet-stream"});
+    server.route("/document.pdf", {.body = "%PDF-1.4\n", .contentType = "application/pdf"});
+    server.route("/empty", {.status = 500});
+    for (const QString &address :
+         {server.address(u"/204"_s), server.address(u"/file"_s), server.address(u"/document.pdf"_s),
+          server.address(u"/empty"_s), u"http://nobody.invalid/"_s, u"http://127.0.0.1:9/"_s, u"mailto:a@b.test"_s}) {
+        openPage("<title>stays</title>");
+        EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+        openAddress(address);
+        EXPECT_EQ(browser->arrival(), Arrival::Failed) << address.toStdString();
+    }
+    open(u"/nowhere"_s);
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived) << "a server's own page about an error is a page";
+}
+
+TEST_F(WebEngineTest, AMoveWithinThePageHasArrived)
+{
+    openPage("<p id=x>x");
+    open(u"/page#x"_s);
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+}
+
+TEST_F(WebEngineTest, APageThatGoesOnToNowhereHasFailed)
+{
+    openPage("<title>first</title><script>setTimeout(() => location = 'http://nobody.invalid/', 200)</script>");
+    EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == Arrival::Failed; }));
+}
+
+// --- what transfers ask --------------------------------------------------------------------------------------------
+
+TEST_F(WebEngineTest, TheUserAgentIsTheOneThatServersSee)
+{
+    openPage("x");
+    EXPECT_EQ(browser->userAgent().toUtf8(), server.requests().constLast().headers.value("user-agent"));
+}
+
+TEST_F(WebEngineTest, CookiesAreGivenAsTheBrowserWouldSendThem)
+{
+    server.route("/set", {.body = "x",
+                          .headers = {"Set-Cookie: a=1; Path=/", "Set-Cookie: deep=2; Path=/deep; HttpOnly",
+                                      "Set-Cookie: gone=3; Path=/"}});
+    server.route("/unset", {.body = "x", .headers = {"Set-Cookie: gone=; Max-Age=0; Path=/"}});
+    open(u"/set"_s);
+    open(u"/unset"_s);
+    open(u"/deep/page"_s);
+    const QByteArray sent = server.requests().constLast().headers.value("cookie");
+    EXPECT_EQ(sent, "deep=2; a=1");
+    EXPECT_TRUE(waitUntil([&] { return browser->cookiesFor(server.address(u"/deep/page"_s)).toUtf8() == sent; }))
+        << browser->cookiesFor(server.address(u"/deep/page"_s)).toStdString();
+    EXPECT_EQ(browser->cookiesFor(server.address(u"/"_s)), u"a=1");
+    EXPECT_EQ(browser->cookiesFor(server.address(u"/"_s, u"other.test"_s)), QString());
+    EXPECT_EQ(browser->cookiesFor(u"no address"_s), QString());
 }
 
 // --- signals and lifetimes ---------------------------------------------------------------------------------------

@@ -358,7 +358,9 @@ TEST_F(WebEngineRefusals, ACrashedPageRaisesErrorsUntilTheNextOne)
         EXPECT_FALSE(errorOf([&] { (void)browser->links(); }).isEmpty());
         EXPECT_FALSE(errorOf([&] { (void)browser->LocationName(); }).isEmpty());
         EXPECT_EQ(browser->LocationURL(), server.address(u"/page"_s));
+        EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Failed);
         open(u"/page"_s);
+        EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived);
         EXPECT_EQ(browser->LocationName(), u"t");
         EXPECT_EQ(signalled.constFirst(), u"frame "_s + server.address(u"/frame"_s));
     }

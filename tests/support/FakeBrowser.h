@@ -26,8 +26,10 @@ struct FakePage
     QStringList links;
     qint64 loadTime = 0;
     QString landsOn; ///< the address after a redirect; "" for the page's own
-    std::optional<RuntimeError> readingFails;
-    QList<FakeFrame> frames;
+    std::optional<RuntimeError> readingFails = {};
+    QList<FakeFrame> frames = {};
+    bool fails = false;   ///< what arrives is the browser's own error page
+    bool nothing = false; ///< nothing arrives, as for a download: the page before it stays
 };
 
 class FakeBrowser : public BrowserEngine
@@ -43,6 +45,7 @@ class FakeBrowser : public BrowserEngine
             throw RuntimeError(*navigationFails);
         const int number = ++mNumber;
         mLoading = true;
+        mArrival = Arrival::Pending;
         mPump.after(pages.value(address).loadTime, [self = QPointer<FakeBrowser>(this), number, address] {
             if (self && self->mNumber == number)
                 self->arrive(address);
@@ -56,6 +59,7 @@ class FakeBrowser : public BrowserEngine
         endLoading();
     }
     [[nodiscard]] bool isLoading() const override { return mLoading; }
+    [[nodiscard]] Arrival arrival() const override { return mArrival; }
 
     void setTop(int pixels) override { geometry.append(QStringLiteral("top %1").arg(pixels)); }
     void setLeft(int pixels) override { geometry.append(QStringLiteral("left %1").arg(pixels)); }
@@ -93,6 +97,8 @@ class FakeBrowser : public BrowserEngine
     [[nodiscard]] QStringList frameLinks(int index) override { return frameAt(index).links; }
     void copySelection() override { ++copies; }
     void saveAs() override { ++saves; }
+    [[nodiscard]] QString userAgent() override { return agent; }
+    [[nodiscard]] QString cookiesFor(const QString &url) override { return cookies.value(url); }
 
     /// The page is there at once, without a navigation.
     void show(const QString &address)
@@ -103,9 +109,21 @@ class FakeBrowser : public BrowserEngine
     /// The user closes the window: nothing answers from then on.
     void close()
     {
-        mGone = true;
-        mLoading = false;
+        leave();
         Q_EMIT WindowClosing();
+    }
+    /// The browser ends by itself: nothing answers from then on.
+    void die()
+    {
+        leave();
+        Q_EMIT Died();
+    }
+    /// The page's process ends; the browser lives, and the next page arrives.
+    void loseProcess()
+    {
+        mPage.readingFails = RuntimeError(462, QStringLiteral("The page's process has ended."));
+        mArrival = Arrival::Failed;
+        endLoading();
     }
     [[nodiscard]] bool popUpIsRefused()
     {
@@ -115,6 +133,8 @@ class FakeBrowser : public BrowserEngine
     }
 
     QHash<QString, FakePage> pages;
+    QHash<QString, QString> cookies;
+    QString agent = QStringLiteral("Fake/1.0");
     QStringList navigated;
     QStringList geometry;
     std::optional<RuntimeError> navigationFails;
@@ -129,6 +149,8 @@ class FakeBrowser : public BrowserEngine
     [[nodiscard]] const FakePage &current() const
     {
         requireAlive();
+        if (mArrival == Arrival::Pending)
+            throw RuntimeError(71, QStringLiteral("The page has not arrived yet."));
         if (mPage.readingFails)
             throw RuntimeError(*mPage.readingFails);
         return mPage;
@@ -140,8 +162,20 @@ class FakeBrowser : public BrowserEngine
             throw RuntimeError(70, QStringLiteral("Permission denied"));
         return frame;
     }
+    void leave()
+    {
+        mGone = true;
+        mLoading = false;
+        mArrival = Arrival::Failed;
+    }
     void arrive(const QString &address)
     {
+        const FakePage page = pages.value(address);
+        mArrival = page.fails || page.nothing ? Arrival::Failed : Arrival::Arrived;
+        if (page.nothing) {
+            endLoading();
+            return;
+        }
         show(address);
         if (!mPage.landsOn.isEmpty())
             mAddress = mPage.landsOn;
@@ -151,6 +185,8 @@ class FakeBrowser : public BrowserEngine
     void endLoading()
     {
         const bool ended = std::exchange(mLoading, false);
+        if (mArrival == Arrival::Pending)
+            mArrival = Arrival::Failed;
         if (ended)
             Q_EMIT loadingEnded();
     }
@@ -160,6 +196,7 @@ class FakeBrowser : public BrowserEngine
     QString mAddress;
     int mNumber = 0;
     bool mLoading = false;
+    Arrival mArrival = Arrival::Arrived;
     bool mGone = false;
 };
 

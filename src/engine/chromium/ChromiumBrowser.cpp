@@ -52,6 +52,9 @@ void ChromiumBrowser::deliver()
         case PageNotice::Kind::Closed:
             Q_EMIT WindowClosing();
             break;
+        case PageNotice::Kind::Died:
+            Q_EMIT Died();
+            break;
         }
         if (!self)
             return;
@@ -73,6 +76,11 @@ void ChromiumBrowser::Stop()
 bool ChromiumBrowser::isLoading() const
 {
     return mPage->isLoading();
+}
+
+BrowserEngine::Arrival ChromiumBrowser::arrival() const
+{
+    return mPage->arrival();
 }
 
 void ChromiumBrowser::setTop(int pixels)
@@ -160,4 +168,16 @@ void ChromiumBrowser::copySelection()
 void ChromiumBrowser::saveAs()
 {
     throw RuntimeError(EngineError::CannotDo, u"Use the browser's own menu to save the page."_s);
+}
+
+QString ChromiumBrowser::userAgent()
+{
+    const auto page = mPage;
+    return page->userAgent();
+}
+
+QString ChromiumBrowser::cookiesFor(const QString &url)
+{
+    const auto page = mPage;
+    return page->cookiesFor(url);
 }

@@ -19,6 +19,7 @@ class ChromiumBrowser : public BrowserEngine
     void Navigate(const QString &address) override;
     void Stop() override;
     [[nodiscard]] bool isLoading() const override;
+    [[nodiscard]] Arrival arrival() const override;
 
     void setTop(int pixels) override;
     void setLeft(int pixels) override;
@@ -37,6 +38,9 @@ class ChromiumBrowser : public BrowserEngine
     void copySelection() override;
     /// Raises an error: a browser cannot be made to show its save box from outside.
     void saveAs() override;
+
+    [[nodiscard]] QString userAgent() override;
+    [[nodiscard]] QString cookiesFor(const QString &url) override;
 
   private:
     void deliver();

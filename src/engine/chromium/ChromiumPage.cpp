@@ -40,7 +40,7 @@ ChromiumPage::ChromiumPage(std::shared_ptr<DevToolsConnection> connection)
       mWatch(*mConnection)
 {
     QObject::connect(mConnection.get(), &DevToolsConnection::event, this, &ChromiumPage::handleEvent);
-    QObject::connect(mConnection.get(), &DevToolsConnection::closed, this, &ChromiumPage::onClosed);
+    QObject::connect(mConnection.get(), &DevToolsConnection::closed, this, &ChromiumPage::onDied);
     QObject::connect(mConnection.get(), &DevToolsConnection::idle, this, &ChromiumPage::noticed);
     QObject::connect(&mTargets, &TargetWatch::windowWanted, this, &ChromiumPage::windowWanted);
     QObject::connect(&mTargets, &TargetWatch::processLost, this, &ChromiumPage::onProcessLost);
@@ -195,6 +195,8 @@ QString ChromiumPage::address() const
 QStringList ChromiumPage::read(QLatin1StringView what, int frame)
 {
     requireWindow();
+    if (mLoading.isWaitingForDocument()) // nor would the browser answer before it comes
+        throw RuntimeError(EngineError::NotArrived, u"The page has not arrived yet."_s);
     return mReader.read(what, frame);
 }
 
@@ -219,6 +221,40 @@ void ChromiumPage::setBound(const QString &name, int pixels)
                           windowCallLimit);
     mConnection->call({}, "Browser.setWindowBounds"_L1,
                       {{u"windowId"_s, id}, {u"bounds"_s, QJsonObject{{name, pixels}}}}, windowCallLimit);
+}
+
+// What cannot be had is no reason to end a transfer: it then goes without.
+QJsonObject ChromiumPage::askBrowser(const QString &session, QLatin1StringView method, const QJsonObject &params)
+{
+    const auto held = mConnection;
+    try {
+        requireWindow();
+        return held->call(session, method, params, windowCallLimit);
+    } catch (const RuntimeError &) {
+        return {};
+    }
+}
+
+QString ChromiumPage::userAgent()
+{
+    return askBrowser({}, "Browser.getVersion"_L1, {})[u"userAgent"].toString();
+}
+
+QString ChromiumPage::cookiesFor(const QString &url)
+{
+    const QJsonObject answer = askBrowser(mTargets.session(), "Network.getCookies"_L1, {{u"urls"_s, QJsonArray{url}}});
+    const QJsonArray told = answer[u"cookies"].toArray();
+    QList<QJsonValue> cookies(told.cbegin(), told.cend());
+    // The longer paths first, as they are sent.
+    std::stable_sort(cookies.begin(), cookies.end(), [](const QJsonValue &one, const QJsonValue &other) {
+        return one[u"path"].toString().size() > other[u"path"].toString().size();
+    });
+    QStringList pairs;
+    for (const QJsonValue &cookie : cookies) {
+        const QString name = cookie[u"name"].toString();
+        pairs.append(name.isEmpty() ? cookie[u"value"].toString() : name + u'=' + cookie[u"value"].toString());
+    }
+    return pairs.join("; "_L1);
 }
 
 // ---- What the browser tells
@@ -273,7 +309,8 @@ void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &p
     mTopFrame = id;
     mAddress = url;
     mUnreachable = frame[u"unreachableUrl"].toString();
-    const bool stays = mLoading.committed(loader);
+    const bool stays = mLoading.committed(loader, mUnreachable.isEmpty() ? PageLoading::Document::Page
+                                                                         : PageLoading::Document::ErrorPage);
     if (!mLoading.isWaitingForDocument())
         mWatch.end();
     mDialogs.newPage();
@@ -361,12 +398,24 @@ void ChromiumPage::onProcessLost()
 
 void ChromiumPage::onClosed()
 {
+    end(PageNotice::Kind::Closed);
+}
+
+// A browser that its user ends has closed its windows before.
+void ChromiumPage::onDied()
+{
+    end(PageNotice::Kind::Died);
+}
+
+void ChromiumPage::end(PageNotice::Kind how)
+{
     if (std::exchange(mClosed, true))
         return;
     mReader.processLost(); // a read under way ends at once
     if (mLoading.cancel())
         notice({PageNotice::Kind::LoadingEnded});
-    notice({PageNotice::Kind::Closed});
+    (void)mLoading.processLost();
+    notice({how});
 }
 
 void ChromiumPage::loadingEnded()

@@ -18,7 +18,7 @@
 /// Something that the owner is to be told.
 struct PageNotice
 {
-    enum class Kind { FrameComplete, PageComplete, LoadingEnded, Closed };
+    enum class Kind { FrameComplete, PageComplete, LoadingEnded, Closed, Died };
     Kind kind;
     QString url = {}; ///< of the document that is complete
 };
@@ -35,6 +35,7 @@ class ChromiumPage : public QObject
     void navigate(const QString &address);
     void stop();
     [[nodiscard]] bool isLoading() const { return mLoading.isLoading(); }
+    [[nodiscard]] BrowserEngine::Arrival arrival() const { return mLoading.arrival(); }
     /// The address of the top document, as the browser has last told it.
     [[nodiscard]] QString address() const;
     /// As PageReader::read; the address of an error page is that of the page which could not be shown.
@@ -42,6 +43,9 @@ class ChromiumPage : public QObject
     [[nodiscard]] PageContent content();
     /// Sets one edge or extent ("left", "top", "width", "height") of the window.
     void setBound(const QString &name, int pixels);
+    /// As BrowserEngine has them.
+    [[nodiscard]] QString userAgent();
+    [[nodiscard]] QString cookiesFor(const QString &url);
 
     /// The next notice, unless a wait is under way or there is none.
     [[nodiscard]] std::optional<PageNotice> takeNotice();
@@ -77,6 +81,7 @@ class ChromiumPage : public QObject
     void onStartedNavigating(const QString &session, const QJsonObject &params);
     void onStoppedLoading(const QString &session, const QJsonObject &params);
 
+    [[nodiscard]] QJsonObject askBrowser(const QString &session, QLatin1StringView method, const QJsonObject &params);
     void request();
     void answered(int number, const DevToolsConnection::Answer &answer);
     void settle(int number);
@@ -87,6 +92,8 @@ class ChromiumPage : public QObject
     void onWindowReplaced();
     void onProcessLost();
     void onClosed();
+    void onDied();
+    void end(PageNotice::Kind how);
     void loadingEnded();
     void notice(PageNotice notice);
     void requireWindow() const;

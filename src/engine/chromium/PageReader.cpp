@@ -1,7 +1,7 @@
 #include "engine/chromium/PageReader.h"
 #include "browser/BrowserEngine.h"
 #include "engine/BrowserErrors.h"
-#include "engine/EngineResources.h"
+#include "engine/ReaderAnswer.h"
 #include "util/Errors.h"
 
 #include <QJsonArray>
@@ -95,39 +95,26 @@ int PageReader::world(QDeadlineTimer deadline)
 QStringList PageReader::read(QLatin1StringView what, int index)
 {
     const QDeadlineTimer deadline(BrowserEngine::readLimit);
-    const QString call = u".read('%1', %2)"_s.arg(what, QString::number(index));
-    const QJsonObject answer = evaluate(pageReader() + call, deadline).toObject();
-    if (answer.contains(u"error"))
-        throw RuntimeError(answer[u"number"].toInt() ? answer[u"number"].toInt() : EngineError::CannotRead,
-                           answer[u"error"].toString());
-    if (answer.contains(u"lengths"))
-        return fetchPieces(answer, deadline);
-    QStringList texts;
-    for (const QJsonValue text : answer[u"texts"].toArray())
-        texts.append(text.toString());
-    return texts;
+    for (;;) {
+        ReaderAnswer answer(evaluate(ReaderAnswer::readCall(what, index), deadline).toObject().toVariantMap());
+        if (fetch(answer, deadline))
+            return answer.texts();
+        if (deadline.hasExpired())
+            raiseNoAnswer();
+    }
 }
 
-QStringList PageReader::fetchPieces(const QJsonObject &answer, QDeadlineTimer deadline)
+// A document that takes the place of the one under a read does not know its ticket, or has one of its own by that
+// number.
+bool PageReader::fetch(ReaderAnswer &answer, QDeadlineTimer deadline)
 {
     const int document = mDocument;
-    QString joined;
-    for (;;) {
-        const QString call = u".piece(%1, %2)"_s.arg(answer[u"ticket"].toInt()).arg(joined.size());
-        const QJsonValue piece = evaluate(pageReader() + call, deadline);
-        if (!piece.isString() || mDocument != document)
-            throw RuntimeError(EngineError::CannotRead, u"The page changed while it was read."_s);
-        if (piece.toString().isEmpty())
-            break;
-        joined += piece.toString();
+    while (!answer.isWhole()) {
+        const QJsonValue piece = evaluate(answer.nextCall(), deadline);
+        if (mDocument != document || !answer.add(piece.toString()))
+            return false;
     }
-    QStringList texts;
-    qsizetype from = 0;
-    for (const QJsonValue length : answer[u"lengths"].toArray()) {
-        texts.append(joined.mid(from, length.toInteger()));
-        from += length.toInteger();
-    }
-    return texts;
+    return true;
 }
 
 QJsonValue PageReader::evaluate(const QString &expression, QDeadlineTimer deadline)

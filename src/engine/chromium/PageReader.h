@@ -9,6 +9,8 @@
 
 #include <QStringList>
 
+class ReaderAnswer;
+
 class PageReader : public QObject
 {
     Q_OBJECT
@@ -49,7 +51,8 @@ class PageReader : public QObject
     [[nodiscard]] Outcome tryEvaluate(const QString &expression, QDeadlineTimer deadline, bool mayBreakOff,
                                       QJsonValue &value);
     [[nodiscard]] bool waitPatiently(const std::function<bool()> &done, QDeadlineTimer deadline, bool mayBreakOff);
-    [[nodiscard]] QStringList fetchPieces(const QJsonObject &answer, QDeadlineTimer deadline);
+    /// Fetches what is missing of a long answer; False when the document was replaced meanwhile.
+    [[nodiscard]] bool fetch(ReaderAnswer &answer, QDeadlineTimer deadline);
     [[noreturn]] void raiseNoAnswer();
 
     DevToolsConnection &mConnection;

@@ -2,6 +2,7 @@
 #include "engine/BrowserErrors.h"
 #include "engine/Platform.h"
 #include "engine/webengine/WebEngineAddress.h"
+#include "engine/webengine/WebEngineCookies.h"
 #include "engine/webengine/WebEnginePage.h"
 #include "engine/webengine/WebEngineReader.h"
 #include "engine/webengine/WebEngineStage.h"
@@ -53,6 +54,7 @@ void refuseDownload(QWebEngineDownloadRequest *download)
 struct WebEngineBrowser::Kernel
 {
     std::unique_ptr<QWebEngineProfile> profile;
+    std::unique_ptr<WebEngineCookies> cookies;
     std::unique_ptr<WebEnginePage> page;
     QString token = WebEnginePage::newToken();
 
@@ -69,6 +71,7 @@ WebEngineBrowser::WebEngineBrowser(const WebEngineOptions &options)
     : mKernel(std::make_unique<Kernel>()), mOptions(options)
 {
     mKernel->profile = makeProfile(options.storageFolder);
+    mKernel->cookies = std::make_unique<WebEngineCookies>(*mKernel->profile);
     connect(mKernel->profile.get(), &QWebEngineProfile::downloadRequested, this, &refuseDownload);
     makePage();
     mReader = std::make_unique<WebEngineReader>(*mKernel->page, options.readLimit);
@@ -101,7 +104,7 @@ void WebEngineBrowser::replacePage()
     makePage();
     mReader->setPage(*mKernel->page);
     WebEngineStage::replacePage(*old, *mKernel->page);
-    mProcessGone = false;
+    mProcess = Process::Alive;
     Q_EMIT pageReplaced(page());
     old->deleteLater(); // it may be on the stack
 }
@@ -114,7 +117,7 @@ void WebEngineBrowser::connectPage()
     connect(page, &QWebEnginePage::renderProcessTerminated, this, &WebEngineBrowser::onProcessGone);
     connect(page, &QWebEnginePage::visibleChanged, this, &WebEngineBrowser::keepVisible, Qt::QueuedConnection);
     connect(page, &WebEnginePage::windowRefused, this, &WebEngineBrowser::onWindowRefused);
-    connect(page, &WebEnginePage::navigationTakenUp, this, [this] { mStarted = true; });
+    connect(page, &WebEnginePage::navigationTakenUp, this, [this] { mLoading.started(mAddress.toString()); });
     connect(page, &WebEnginePage::documentCreated, this, &WebEngineBrowser::onDocumentCreated);
     connect(page, &WebEnginePage::documentLoaded, this, &WebEngineBrowser::onDocumentLoaded);
 }
@@ -137,32 +140,26 @@ void WebEngineBrowser::Navigate(const QString &address)
 {
     raiseIfClosed();
     const QUrl url = WebEngineAddress::parsed(address);
-    const bool moveWithin = !mProcessGone && !mLoading && WebEngineAddress::isMoveWithin(page()->url(), url);
-    mAddress = address;
-    ++mNavigation;
-    mLoading = true;
-    mCommitted = false;
-    mDocumentLoaded = false;
-    if (!mProcessGone && !moveWithin)
+    const bool moveWithin = isAlive() && !isLoading() && WebEngineAddress::isMoveWithin(page()->url(), url);
+    mAddress = url;
+    mNavigation = mLoading.begin();
+    if (isAlive() && !moveWithin)
         watchLeaving();
     issue();
     if (moveWithin) { // the page tells nothing more of it
         mLocation = WebEngineAddress::text(url);
-        endLoading(true);
+        (void)mLoading.answered(mNavigation, {}, {});
+        (void)mLoading.movedWithinPage();
+        tellEnd(true);
     }
 }
 
-// While the page is busy with an earlier navigation, that one's end may still be told after this one has been given.
 void WebEngineBrowser::issue()
 {
-    mReissuing = false;
-    if (mProcessGone)
+    if (!isAlive())
         replacePage();
-    mStarted = false;
-    mWasBusy = page()->isLoading();
-    mIssuing = true;
-    page()->setUrl(WebEngineAddress::parsed(mAddress));
-    mIssuing = false;
+    mLoading.issued(page()->isLoading());
+    page()->setUrl(mAddress);
 }
 
 // A page whose script never ends keeps the next one from coming, as the same site's pages share a process. It is asked
@@ -171,7 +168,7 @@ void WebEngineBrowser::watchLeaving()
 {
     const auto answered = std::make_shared<bool>(false);
     const auto stillLeaving = [this, navigation = mNavigation] {
-        return navigation == mNavigation && mLoading && !mCommitted;
+        return navigation == mNavigation && mLoading.isWaitingForDocument();
     };
     mReader->probe(answered);
     QTimer::singleShot(mOptions.leaveLimit / 2, this, [this, answered, stillLeaving] {
@@ -188,38 +185,42 @@ void WebEngineBrowser::onLeaveLimit(bool answered)
 {
     if (!answered)
         Platform::endProcess(page()->renderProcessPid()); // onProcessGone() gives the address to the next process
-    else if (!page()->isLoading())
-        endLoading(false); // the page has taken the address for nothing that it can open
+    else if (!page()->isLoading() && mLoading.cancel())
+        tellEnd(false); // the page has taken the address for nothing that it can open
 }
 
 void WebEngineBrowser::Stop()
 {
     raiseIfClosed();
-    mReissuing = false;
+    if (mProcess == Process::Changing)
+        mProcess = Process::Lost;
     page()->triggerAction(QWebEnginePage::Stop);
-    if (mLoading)
-        endLoading(false);
+    if (mLoading.cancel())
+        tellEnd(false);
 }
 
 void WebEngineBrowser::onLoadingChanged(const QWebEngineLoadingInfo &info)
 {
-    if (mReissuing)
+    if (mProcess == Process::Changing)
         return;
     if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
-        mStarted = true;
-        mLoading = true; // also when the page moves on by itself
+        mLoading.started(mAddress.toString());
+        mLoading.resumed(); // also when the page moves on by itself
         return;
     }
     // Stopped: nothing came (a download, an empty answer, another program's address); the old document still stands.
     const bool stopped = info.status() == QWebEngineLoadingInfo::LoadStoppedStatus;
-    const bool own =
-        mCommitted || (mStarted && (stopped || !mWasBusy)) || info.url() == WebEngineAddress::parsed(mAddress);
-    if (!mLoading || !own)
-        return;
-    if (stopped || mDocumentLoaded)
-        endLoading(!stopped);
-    else
+    const bool sameAddress = info.url() == mAddress;
+    switch (mLoading.endTold(stopped ? PageLoading::End::Stopped : PageLoading::End::Loaded, sameAddress)) {
+    case PageLoading::Verdict::Ended:
+        tellEnd(!stopped);
+        break;
+    case PageLoading::Verdict::Wait:
         askWhetherLoaded();
+        break;
+    default:
+        break;
+    }
 }
 
 // The end that was told may be that of a load which this one has cut off: the document knows.
@@ -234,14 +235,15 @@ void WebEngineBrowser::askWhetherLoaded()
 
 void WebEngineBrowser::onReadyState(const QString &state)
 {
-    if (!mLoading)
+    if (!isLoading())
         return;
     if (state == u"complete") {
-        endLoading(true);
+        if (mLoading.documentFound())
+            tellEnd(true);
         return;
     }
     QTimer::singleShot(askAgain, this, [this, navigation = mNavigation] {
-        if (mLoading && navigation == mNavigation)
+        if (isLoading() && navigation == mNavigation)
             askWhetherLoaded();
     });
 }
@@ -249,32 +251,33 @@ void WebEngineBrowser::onReadyState(const QString &state)
 // The end of a load that began while another one was under way is not always told; the document then tells it.
 void WebEngineBrowser::onDocumentLoaded(const QString &url, bool topDocument)
 {
-    if (!topDocument) { // the page itself has loaded when all its frames have: see endLoading()
+    if (!topDocument) { // the page itself has loaded when all its frames have: see tellEnd()
         emitLater([this, url] { Q_EMIT DocumentComplete(url, false); });
         return;
     }
-    mDocumentLoaded = true;
+    mLoading.documentComplete(QString::number(mDocuments));
     QTimer::singleShot(askAgain, this, [this, navigation = mNavigation] {
-        if (navigation == mNavigation && mLoading && mCommitted && !mReissuing && !page()->isLoading())
+        const bool inPlace = isLoading() && !mLoading.isWaitingForDocument() && mProcess != Process::Changing;
+        if (navigation == mNavigation && inPlace && !page()->isLoading())
             askWhetherLoaded();
     });
 }
 
-void WebEngineBrowser::endLoading(bool withDocument)
+void WebEngineBrowser::tellEnd(bool withDocument)
 {
-    mLoading = false;
     if (withDocument) {
-        mProcessGone = false;
+        mProcess = Process::Alive;
         onUrlChanged(page()->url());
         emitLater([this, url = mLocation] { Q_EMIT DocumentComplete(url, true); });
     }
     emitLater([this] { Q_EMIT loadingEnded(); });
 }
 
-// The address that is only asked for is told here too (mIssuing); it counts from the document's creation on.
+// An address that is only asked for is told here too; it counts from the document's creation on.
 void WebEngineBrowser::onUrlChanged(const QUrl &url)
 {
-    if (!mIssuing && !mProcessGone && !url.isEmpty() && !WebEngineAddress::isSame(mLocation, url))
+    const bool inPlace = isAlive() && !mLoading.isWaitingForDocument();
+    if (inPlace && !url.isEmpty() && !WebEngineAddress::isSame(mLocation, url))
         mLocation = WebEngineAddress::text(url);
 }
 
@@ -282,34 +285,37 @@ void WebEngineBrowser::onDocumentCreated(const QString &url, bool topDocument)
 {
     if (!topDocument)
         return;
-    mCommitted = true;
-    mDocumentLoaded = false;
-    mProcessGone = false;
-    mLocation = WebEngineAddress::isErrorPage(url) ? WebEngineAddress::text(page()->url()) : url;
+    const bool errorPage = WebEngineAddress::isErrorPage(url);
+    const auto kind = errorPage ? PageLoading::Document::ErrorPage : PageLoading::Document::Page;
+    (void)mLoading.committed(QString::number(++mDocuments), kind);
+    if (mProcess != Process::Closed)
+        mProcess = Process::Alive;
+    mLocation = errorPage ? WebEngineAddress::text(page()->url()) : url;
 }
 
 // The process of the page that is being left takes the navigation along when it ends; the address is then given again.
 void WebEngineBrowser::onProcessGone()
 {
-    mProcessGone = true;
+    if (mProcess == Process::Closed)
+        return;
+    mProcess = Process::Lost;
     mReader->fail({EngineError::BrowserGone, QStringLiteral("The page's process has ended.")});
-    if (!mLoading)
+    const bool again = mLoading.isWaitingForDocument() && mReissued != mNavigation;
+    if (mLoading.processLost() || (!again && mLoading.cancel()))
+        tellEnd(false);
+    if (!again)
         return;
-    if (mCommitted || mReissued == mNavigation) {
-        endLoading(false);
-        return;
-    }
-    mReissuing = true;
+    mProcess = Process::Changing;
     mReissued = mNavigation;
     QTimer::singleShot(0, this, [this] {
-        if (mReissuing)
+        if (mProcess == Process::Changing)
             issue();
     });
 }
 
 void WebEngineBrowser::endProcess()
 {
-    mProcessGone = true;
+    mProcess = Process::Lost;
     Platform::endProcess(page()->renderProcessPid());
 }
 
@@ -325,12 +331,13 @@ void WebEngineBrowser::onWindowRefused()
 
 void WebEngineBrowser::windowClosed()
 {
-    if (mClosed)
+    if (mProcess == Process::Closed)
         return;
-    mClosed = true;
+    mProcess = Process::Closed;
     mReader->fail({EngineError::BrowserGone, QStringLiteral("The browser's window has been closed.")});
     page()->triggerAction(QWebEnginePage::Stop);
-    mLoading = false;
+    (void)mLoading.cancel();
+    (void)mLoading.processLost();
     emitLater([this] { Q_EMIT WindowClosing(); });
 }
 
@@ -338,17 +345,19 @@ void WebEngineBrowser::windowClosed()
 
 void WebEngineBrowser::raiseIfClosed() const
 {
-    if (mClosed)
+    if (mProcess == Process::Closed)
         throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The browser's window has been closed."));
 }
 
 QStringList WebEngineBrowser::read(QLatin1StringView what, int frame)
 {
     raiseIfClosed();
-    if (mProcessGone)
+    if (!isAlive())
         throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page's process has ended."));
     if (mRefusing > 0)
         throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page waits for its new window."));
+    if (mLoading.isWaitingForDocument())
+        throw RuntimeError(EngineError::NotArrived, QStringLiteral("The page has not arrived yet."));
     return mReader->read(what, frame);
 }
 
@@ -425,6 +434,16 @@ void WebEngineBrowser::saveAs()
     if (!isSignalConnected(QMetaMethod::fromSignal(&WebEngineBrowser::saveRequested)))
         throw RuntimeError(EngineError::CannotDo, QStringLiteral("The page can be saved only from a window."));
     Q_EMIT saveRequested();
+}
+
+QString WebEngineBrowser::userAgent()
+{
+    return mKernel->profile->httpUserAgent();
+}
+
+QString WebEngineBrowser::cookiesFor(const QString &url)
+{
+    return mKernel->cookies->headerFor(QUrl(url));
 }
 
 // --- signals -------------------------------------------------------------------------------------------------------

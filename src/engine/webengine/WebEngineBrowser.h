@@ -7,13 +7,15 @@
 #pragma once
 
 #include "browser/EmbeddedBrowser.h"
+#include "engine/PageLoading.h"
 
+#include <QUrl>
 #include <deque>
 #include <functional>
 
-class QUrl;
 class QWebEngineLoadingInfo;
 class QWebEngineProfile;
+class WebEngineCookies;
 class WebEnginePage;
 class WebEngineReader;
 
@@ -40,7 +42,8 @@ class WebEngineBrowser : public EmbeddedBrowser
     /// Raises an error for what is no address. A move within the page has ended when this returns.
     void Navigate(const QString &address) override;
     void Stop() override;
-    [[nodiscard]] bool isLoading() const override { return mLoading; }
+    [[nodiscard]] bool isLoading() const override { return mLoading.isLoading(); }
+    [[nodiscard]] Arrival arrival() const override { return mLoading.arrival(); }
 
     // The window sets its own geometry.
     void setTop(int) override {}
@@ -64,11 +67,22 @@ class WebEngineBrowser : public EmbeddedBrowser
     /// Emits saveRequested(); raises an error when nobody listens.
     void saveAs() override;
 
+    [[nodiscard]] QString userAgent() override;
+    [[nodiscard]] QString cookiesFor(const QString &url) override;
+
   public Q_SLOTS:
     void windowClosed() override;
 
   private:
     struct Kernel;
+
+    /// What stands behind the page.
+    enum class Process {
+        Alive,
+        Lost,     ///< and with it the document: nothing can be read until another one has come
+        Changing, ///< the same, and the address is about to be given to a new one
+        Closed    ///< the window has been closed: nothing is answered any more
+    };
 
     void makePage();
     void replacePage();
@@ -79,9 +93,10 @@ class WebEngineBrowser : public EmbeddedBrowser
     void onDocumentLoaded(const QString &url, bool topDocument);
     void askWhetherLoaded();
     void onReadyState(const QString &state);
+    [[nodiscard]] bool isAlive() const { return mProcess == Process::Alive; }
     void onProcessGone();
     void onWindowRefused();
-    void endLoading(bool withDocument);
+    void tellEnd(bool withDocument);
     void issue();
     void watchLeaving();
     void onLeaveLimit(bool answered);
@@ -99,17 +114,11 @@ class WebEngineBrowser : public EmbeddedBrowser
 
     std::deque<std::function<void()>> mDue; ///< signals that wait for the event loop, in order
     QString mLocation = QStringLiteral("about:blank");
-    QString mAddress;             ///< of the navigation under way
-    int mNavigation = 0;          ///< counts the calls of Navigate()
-    int mReissued = 0;            ///< the navigation that has been given to a second process
-    int mRefusing = 0;            ///< handlers of NewWindow2 on the stack
-    bool mLoading = false;        ///< see isLoading()
-    bool mStarted = false;        ///< the page has taken up the navigation; what ended before belongs to an earlier one
-    bool mWasBusy = false;        ///< an earlier load was under way: what ends may be that one
-    bool mCommitted = false;      ///< the navigation has come to a document of its own
-    bool mDocumentLoaded = false; ///< that document has told that it has been loaded
-    bool mIssuing = false;        ///< the page is being given its address
-    bool mReissuing = false;      ///< the address is given again, to a new process
-    bool mProcessGone = false;    ///< and with it the document: nothing can be read until another one has come
-    bool mClosed = false;
+    QUrl mAddress; ///< of the navigation under way
+    PageLoading mLoading;
+    Process mProcess = Process::Alive;
+    int mNavigation = 0; ///< the latest navigation, as PageLoading counts them
+    int mReissued = 0;   ///< the navigation that has been given to a second process
+    int mDocuments = 0;  ///< counts the documents that have come into being
+    int mRefusing = 0;   ///< handlers of NewWindow2 on the stack
 };

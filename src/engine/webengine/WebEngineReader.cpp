@@ -1,6 +1,6 @@
 #include "engine/webengine/WebEngineReader.h"
 #include "engine/BrowserErrors.h"
-#include "engine/EngineResources.h"
+#include "engine/ReaderAnswer.h"
 
 #include <QEventLoop>
 #include <QPointer>
@@ -15,12 +15,6 @@ namespace {
 
 constexpr auto world = QWebEngineScript::ApplicationWorld;
 constexpr auto probeInterval = 250ms;
-
-qint64 numberOf(const QVariantMap &failedAnswer)
-{
-    const qint64 number = failedAnswer[QStringLiteral("number")].toLongLong();
-    return number != 0 ? number : EngineError::CannotRead;
-}
 
 RuntimeError gone()
 {
@@ -73,42 +67,22 @@ QStringList WebEngineReader::read(QLatin1StringView what, int frame)
 {
     const Reading reading(*this, mReading);
     const QDeadlineTimer deadline(mLimit);
-    const QString call = QStringLiteral(".read('%1', %2)").arg(what, QString::number(frame));
     while (true) {
-        const QVariantMap answer = ask(pageReader() + call, deadline).toMap();
-        if (const auto error = answer.constFind(QStringLiteral("error")); error != answer.constEnd())
-            throw RuntimeError(numberOf(answer), error->toString());
-        if (const auto texts = answer.constFind(QStringLiteral("texts")); texts != answer.constEnd())
-            return texts->toStringList();
-        if (const auto texts = fetch(answer, deadline))
-            return *texts;
+        ReaderAnswer answer(ask(ReaderAnswer::readCall(what, frame), deadline).toMap());
+        if (fetch(answer, deadline))
+            return answer.texts();
     }
 }
 
-std::unique_ptr<QStringList> WebEngineReader::fetch(const QVariantMap &announced, const QDeadlineTimer &deadline)
+// In a list, since an answer that is no value is taken for none.
+bool WebEngineReader::fetch(ReaderAnswer &answer, const QDeadlineTimer &deadline)
 {
-    const QVariantList lengths = announced[QStringLiteral("lengths")].toList();
-    qsizetype total = 0;
-    for (const QVariant &length : lengths)
-        total += length.toLongLong();
-    QString joined;
-    joined.reserve(total);
-    while (joined.size() < total) {
-        const QString call = QStringLiteral(".piece(%1, %2)")
-                                 .arg(announced[QStringLiteral("ticket")].toString(), QString::number(joined.size()));
-        const QVariantList answer = ask(u'[' + pageReader() + call + u']', deadline).toList();
-        const QString piece = answer.isEmpty() ? QString() : answer.constFirst().toString();
-        if (piece.isEmpty())
-            return nullptr;
-        joined += piece;
+    while (!answer.isWhole()) {
+        const QVariantList piece = ask(u'[' + answer.nextCall() + u']', deadline).toList();
+        if (!answer.add(piece.isEmpty() ? QString() : piece.constFirst().toString()))
+            return false;
     }
-    auto texts = std::make_unique<QStringList>();
-    qsizetype from = 0;
-    for (const QVariant &length : lengths) {
-        texts->append(joined.mid(from, length.toLongLong()));
-        from += length.toLongLong();
-    }
-    return texts;
+    return true;
 }
 
 QVariant WebEngineReader::ask(const QString &script, const QDeadlineTimer &deadline)

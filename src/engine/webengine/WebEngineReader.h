@@ -15,6 +15,7 @@
 #include <vector>
 
 class QWebEnginePage;
+class ReaderAnswer;
 
 class WebEngineReader : public QObject
 {
@@ -50,8 +51,8 @@ class WebEngineReader : public QObject
     void wait(const std::shared_ptr<Question> &question, const QDeadlineTimer &deadline);
     void put(const std::shared_ptr<Question> &question);
     void putAgainIfLost(const std::shared_ptr<Question> &question);
-    /// The texts of a long answer; nothing when the document was replaced meanwhile.
-    [[nodiscard]] std::unique_ptr<QStringList> fetch(const QVariantMap &announced, const QDeadlineTimer &deadline);
+    /// Fetches what is missing of a long answer; False when the document was replaced meanwhile.
+    [[nodiscard]] bool fetch(ReaderAnswer &answer, const QDeadlineTimer &deadline);
 
     QWebEnginePage *mPage;
     std::chrono::milliseconds mLimit;
