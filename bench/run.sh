@@ -10,3 +10,5 @@ for program in "$bin"/bench_*; do
 done
 echo "== driving a browser"
 python3 "$here/bench_driving.py" "$bin"
+echo "== fetching a series of files"
+python3 "$here/bench_transfer.py" "$bin"

@@ -10,7 +10,7 @@ packages=(
   qt6-base-dev libqt6opengl6-dev qt6-webengine-dev qt6-websockets-dev qt6-svg-dev qt6-l10n-tools
   libsqlitecpp-dev libsqlite3-dev libcurl4-openssl-dev mdbtools-dev
   # tests and benchmarks
-  libgtest-dev libgmock-dev libbenchmark-dev
+  libgtest-dev libgmock-dev libbenchmark-dev python3-pyftpdlib
   # the browser that is driven, a display for the window, fonts, and eyes for the tests
   chromium xvfb xauth openbox xdotool imagemagick fonts-dejavu-core fonts-liberation sqlite3
 )
