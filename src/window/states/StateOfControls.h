@@ -1,40 +1,52 @@
-// Decides which controls may be used in which state: named facts, then one row a control, then one loop that applies
-// them.
+// Brings every control into the state that the flags and values of the form ask for. Which state that is stands in the
+// tables of StateRows; here they are only applied.
 #pragma once
 
 #include "app/Ports.h"
-#include "app/frmSearch.h"
 #include "util/Errors.h"
+#include "window/states/StateRows.h"
 
 #include <QHash>
+#include <vector>
 
-class StateOfControls : public ControlStates
+class StateOfControls : public QObject, public ControlStates
 {
-  public:
-    StateOfControls(ErrorReceiver &log, frmSearch &form) : mLog(log), mForm(form) {}
+    Q_OBJECT
 
-    /// Brings every control into the state that the flags and values of the form ask for. Nothing before the form is
-    /// ready; a call from within (a value that is changed here raises Click) is left to the one under way.
+  public:
+    StateOfControls(ErrorReceiver &log, frmSearch &form);
+
+    /// Nothing before the form is ready; a call from within (a value that is set back here raises Click) is left to the
+    /// one under way.
     void SetStateOfControls() override;
 
+  Q_SIGNALS:
+    // What other rooms decide, each asked at its place in the order.
+    /// On the Manual tab: whether Auto Navigate can be used now.
+    void autoNavigateAsked();
+    /// On the Manual tab, with a series that could be counted but is not: the stored position comes back.
+    void seriesPositionAsked();
+    /// On the tab of search sites, where all of the editor is off: what of it may be used.
+    void siteEditorAsked();
+
   private:
-    struct Facts
+    template <class Row> struct Bound
     {
-        bool autoRun, manualRun, idle;
+        const Row *row;
+        std::vector<Control *> controls;
     };
     using Plan = QHash<Control *, bool>;
 
-    [[nodiscard]] Plan allOff() const;
-    void anyTab(Plan &plan, const Facts &facts);
-    void withoutOutput(Plan &plan);
-    void autoTab(Plan &plan, const Facts &facts);
-    void blocking(Plan &plan, const Facts &facts);
-    void criteria(Plan &plan);
-    void saving(Plan &plan, const Facts &facts);
-    void savedUrls(Plan &plan, const Facts &facts);
-    static void apply(const Plan &plan);
+    template <class Row> [[nodiscard]] std::vector<Bound<Row>> bind(std::span<const Row> rows) const;
+    void setBack();
+    [[nodiscard]] Plan plan(const StateFacts &facts) const;
+    void colour(const StateFacts &facts) const;
 
     ErrorReceiver &mLog;
     frmSearch &mForm;
+    std::vector<Control *> mOffByDefault;
+    std::vector<Bound<ResetRow>> mResets;
+    std::vector<Bound<EnablingRow>> mEnabling;
+    std::vector<Bound<ColourRow>> mColours;
     bool mUnderWay = false;
 };
