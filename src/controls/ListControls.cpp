@@ -65,6 +65,26 @@ void ListControl::clear()
     Q_EMIT changed();
 }
 
+void ListControl::addItems(const QStringList &items)
+{
+    if (items.isEmpty())
+        return;
+    mItems.append(items);
+    Q_EMIT changed();
+}
+
+void ListControl::setItems(const QStringList &items)
+{
+    storeItems(items, -1);
+    Q_EMIT changed();
+}
+
+void ListControl::storeItems(const QStringList &items, int index)
+{
+    mItems = items;
+    mListIndex = index;
+}
+
 ComboBox::ComboBox(const QString &name, Style style, QObject *parent, const QStringList &items)
     : ListControl(name, parent, items), mStyle(style), mText(list(listIndex()))
 {
@@ -95,6 +115,12 @@ void ComboBox::clear()
 {
     mText.clear();
     ListControl::clear();
+}
+
+void ComboBox::setItems(const QStringList &items)
+{
+    mText.clear();
+    ListControl::setItems(items);
 }
 
 void ComboBox::indexChosen()
@@ -129,6 +155,11 @@ void ListBox::choose(int focusIndex, const std::vector<bool> &selected)
     Q_EMIT Click();
 }
 
+void ListBox::setAllSelected(bool selected)
+{
+    choose(listIndex(), std::vector<bool>(mSelected.size(), selected));
+}
+
 int ListBox::selCount() const
 {
     return static_cast<int>(std::count(mSelected.begin(), mSelected.end(), true));
@@ -151,4 +182,41 @@ void ListBox::clear()
 {
     mSelected.clear();
     ListControl::clear();
+}
+
+void ListBox::addItems(const QStringList &items)
+{
+    mSelected.resize(mSelected.size() + static_cast<std::size_t>(items.size()));
+    ListControl::addItems(items);
+}
+
+void ListBox::setItems(const QStringList &items)
+{
+    mSelected.assign(static_cast<std::size_t>(items.size()), false);
+    ListControl::setItems(items);
+}
+
+void ListBox::removeItems(const std::vector<bool> &gone)
+{
+    if (gone.size() != mSelected.size())
+        checkIndex(-1, ErrorNumber::InvalidProcedureCall);
+    const auto going = std::count(gone.begin(), gone.end(), true);
+    if (going == 0)
+        return;
+    QStringList kept;
+    kept.reserve(items().size() - going);
+    std::vector<bool> selected;
+    int index = -1;
+    for (int i = 0; i < listCount(); ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        if (gone[at])
+            continue;
+        if (i == listIndex())
+            index = static_cast<int>(kept.size());
+        kept.append(items()[i]);
+        selected.push_back(mSelected[at]);
+    }
+    mSelected = std::move(selected);
+    storeItems(kept, index);
+    Q_EMIT changed();
 }

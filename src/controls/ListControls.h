@@ -27,6 +27,10 @@ class ListControl : public Control
     virtual void removeItem(int index);
     /// Takes all items away; the index becomes -1 without a Click.
     virtual void clear();
+    /// The same as many calls of addItem(), with one changed(): a list may take a million items at once.
+    virtual void addItems(const QStringList &items);
+    /// The same as clear() and addItems(), with one changed().
+    virtual void setItems(const QStringList &items);
 
   Q_SIGNALS:
     void Click();
@@ -36,6 +40,8 @@ class ListControl : public Control
     virtual void indexChosen() {}
     /// Makes `index`, which is -1 or in the list, the chosen one. No Click; True when it differed.
     bool storeIndex(int index);
+    /// The items and the chosen one as they are from now on. No Click.
+    void storeItems(const QStringList &items, int index);
 
   private:
     QStringList mItems;
@@ -60,6 +66,7 @@ class ComboBox : public ListControl
     /// one of its items and chooses it; anything else is error 383. In an editable one a new text chooses no item.
     void setText(const QString &text);
     void clear() override;
+    void setItems(const QStringList &items) override;
     /// The user opens the list.
     void dropDown() { Q_EMIT DropDown(); }
 
@@ -89,10 +96,19 @@ class ListBox : public ListControl
     /// The user's choice: the item with the focus (or -1) and which items are selected, one flag each. Click is raised
     /// once, when all of it is in place, and only if something changed. A choice that does not fit the list is ignored.
     void choose(int focusIndex, const std::vector<bool> &selected);
+    /// Selects every item or none. Click is raised once, if something changed.
+    void setAllSelected(bool selected);
     [[nodiscard]] int selCount() const;
+    /// One flag an item.
+    [[nodiscard]] const std::vector<bool> &selection() const { return mSelected; }
     void addItem(const QString &item) override;
     void removeItem(int index) override;
     void clear() override;
+    void addItems(const QStringList &items) override;
+    void setItems(const QStringList &items) override;
+    /// The same as many calls of removeItem(), with one changed(): the items whose flag is set go. Flags that do not
+    /// fit the list are error 5.
+    void removeItems(const std::vector<bool> &gone);
 
   private:
     std::vector<bool> mSelected;

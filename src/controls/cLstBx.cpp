@@ -1,13 +1,41 @@
 #include "controls/cLstBx.h"
 
 #include "util/AddressList.h"
+#include "util/ColumnText.h"
+#include "util/Text.h"
 
 #include <QSet>
+#include <algorithm>
 
 namespace {
-bool isBlank(const QString &text)
+constexpr qsizetype shortestBeginning = 2;
+
+bool isBlank(QStringView text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });
+    return cUtility::Trim(text).isEmpty();
+}
+
+/// The first item from `start` on that equals `text`; -1 if there is none.
+int findEqual(const QStringList &items, const QString &text, int start)
+{
+    const auto found = std::find_if(items.begin() + start, items.end(),
+                                    [&](const QString &item) { return cUtility::equalIgnoringCase(item, text); });
+    return found == items.end() ? -1 : static_cast<int>(found - items.begin());
+}
+
+/// The first item that holds the longest beginning of `text`. An item that holds a beginning holds all shorter ones, so
+/// one pass does that only asks whether an item holds more than the best one before it.
+int findBeginning(const QStringList &items, const QString &text, int start)
+{
+    int best = -1;
+    qsizetype wanted = shortestBeginning;
+    for (int i = start; i < items.size() && wanted <= text.size(); ++i) {
+        while (wanted <= text.size() && cUtility::holdsIgnoringCase(items[i], QStringView(text).left(wanted))) {
+            best = i;
+            ++wanted;
+        }
+    }
+    return best;
 }
 } // namespace
 
@@ -15,37 +43,114 @@ QStringList cLstBx::GetItems(const ListBox &list, Which which)
 {
     QStringList found;
     for (int i = 0; i < list.listCount(); ++i) {
-        if ((which == Which::All || list.isSelected(i)) && !isBlank(list.list(i)))
-            found.append(list.list(i));
+        if ((which == Which::All || list.isSelected(i)) && !isBlank(list.items()[i]))
+            found.append(list.items()[i]);
     }
     return orEmptyList(std::move(found));
 }
 
+void cLstBx::SelectAllLst(ListBox &list)
+{
+    list.setAllSelected(true);
+}
+
 void cLstBx::UnSelect(ListBox &list)
 {
-    for (int i = 0; i < list.listCount(); ++i)
-        list.setSelected(i, false);
+    list.setAllSelected(false);
+}
+
+void cLstBx::ClearSelected(ListBox &list)
+{
+    list.removeItems(list.selection());
+}
+
+void cLstBx::PasteToListBox(ListBox &list, const QString &text, const QString &delimiter)
+{
+    if (text.isEmpty())
+        return;
+    QStringList pieces = text.contains(delimiter) ? text.split(delimiter, Qt::SkipEmptyParts) : QStringList{text};
+    for (QString &piece : pieces)
+        piece = cUtility::asColumnText(piece);
+    list.addItems(pieces);
+}
+
+QString cLstBx::CopySelected(const ListBox &list, const QString &delimiter)
+{
+    const int selected = list.selCount();
+    if (selected == 1)
+        return list.list(list.listIndex());
+    QString text;
+    for (int i = 0; i < list.listCount(); ++i) {
+        const QString &item = list.items()[i];
+        if (selected > 1 ? list.isSelected(i) : !item.isEmpty())
+            text += item + delimiter;
+    }
+    return text;
+}
+
+QString cLstBx::CutLst(ListBox &list)
+{
+    QString text = CopySelected(list, QStringLiteral("\r\n"));
+    ClearSelected(list);
+    return text;
+}
+
+int cLstBx::FindText(ListBox &list, const QString &text, int start)
+{
+    start = std::clamp(start, 0, list.listCount());
+    int found = findEqual(list.items(), text, start);
+    if (found < 0)
+        found = findBeginning(list.items(), text, start);
+    std::vector<bool> selected(static_cast<std::size_t>(list.listCount()));
+    if (found >= 0)
+        selected[static_cast<std::size_t>(found)] = true;
+    list.choose(found >= 0 ? found : list.listIndex(), selected);
+    return std::max(found, 0);
 }
 
 bool cLstBx::DoesItemExist(const ListBox &list, const QString &item)
 {
-    const QString wanted = item.toLower();
-    return std::any_of(list.items().begin(), list.items().end(),
-                       [&](const QString &present) { return present.toLower() == wanted; });
+    return findEqual(list.items(), item, 0) >= 0;
 }
 
 void cLstBx::PopulateListBox(ListBox &list, const QStringList &values, bool noBlanks, bool clearPrevious)
 {
-    // The values may be the list's own items, which go away under them.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const QStringList wanted = values;
-    if (clearPrevious)
-        list.clear();
-    QSet<QString> present;
-    for (const QString &item : list.items())
-        present.insert(item.toLower());
-    for (const QString &value : wanted) {
-        if (!present.contains(value.toLower()) && !(noBlanks && isBlank(value)))
-            list.addItem(value);
+    QSet<QString> isNew;
+    if (!clearPrevious) {
+        for (const QString &value : values)
+            isNew.insert(cUtility::lowered(value));
+        for (const QString &item : list.items())
+            isNew.remove(cUtility::lowered(item));
     }
+    QStringList added;
+    added.reserve(values.size());
+    std::copy_if(values.begin(), values.end(), std::back_inserter(added), [&](const QString &value) {
+        return (clearPrevious || isNew.contains(cUtility::lowered(value))) && !(noBlanks && isBlank(value));
+    });
+    if (clearPrevious)
+        list.setItems(added);
+    else
+        list.addItems(added);
+}
+
+void cLstBx::TruncateList(ListBox &list, const QString &text, Cut cut)
+{
+    QStringList items;
+    items.reserve(list.listCount());
+    for (const QString &item : list.items()) {
+        const qsizetype at = cUtility::indexIgnoringCase(item, text);
+        items.append(at < 0 ? item : cut == Cut::LeftSide ? item.mid(at + text.size()) : item.left(at));
+    }
+    PopulateListBox(list, items, true, true);
+}
+
+void cLstBx::ClearItemsCorNC(ListBox &list, const QString &text, Remove which)
+{
+    if (text.isEmpty())
+        return;
+    std::vector<bool> gone;
+    gone.reserve(static_cast<std::size_t>(list.listCount()));
+    for (const QString &item : list.items())
+        gone.push_back(cUtility::holdsIgnoringCase(item, text) == (which == Remove::Containing));
+    list.removeItems(gone);
 }

@@ -1,6 +1,5 @@
 #include "controls/ListControls.h"
 #include "controls/SignalCount.h"
-#include "controls/cLstBx.h"
 
 #include <gtest/gtest.h>
 
@@ -189,44 +188,4 @@ TEST(Lists, AChoiceThatDoesNotFitIsIgnored)
     list.choose(-2, {true, false});
     EXPECT_EQ(clicks.times(), 0);
     EXPECT_EQ(list.selCount(), 0);
-}
-
-TEST(ListOperations, BlankItemsAreSkippedAndNothingIsOneEmptyText)
-{
-    ListBox list(u"lstANMC"_s, nullptr);
-    EXPECT_EQ(cLstBx::GetItems(list, cLstBx::Which::All), QStringList{QString()});
-    fill(list, {u"a"_s, u"   "_s, QString(), u"b"_s});
-    EXPECT_EQ(cLstBx::GetItems(list, cLstBx::Which::All), (QStringList{u"a"_s, u"b"_s}));
-    EXPECT_EQ(cLstBx::GetItems(list, cLstBx::Which::Selected), QStringList{QString()});
-    list.setSelected(1, true);
-    list.setSelected(3, true);
-    EXPECT_EQ(cLstBx::GetItems(list, cLstBx::Which::Selected), QStringList{u"b"_s});
-    cLstBx::UnSelect(list);
-    EXPECT_EQ(list.selCount(), 0);
-}
-
-TEST(ListOperations, AnItemExistsWhateverItsCase)
-{
-    ListBox list(u"lstANMC"_s, nullptr);
-    fill(list, {u"Über uns"_s});
-    EXPECT_TRUE(cLstBx::DoesItemExist(list, u"ÜBER UNS"_s));
-    EXPECT_FALSE(cLstBx::DoesItemExist(list, u"Über"_s));
-}
-
-TEST(ListOperations, PopulatingDropsWhatStandsThereAndKeepsRepeatsAmongTheNew)
-{
-    ListBox list(u"lstANMC"_s, nullptr);
-    fill(list, {u"a"_s});
-    cLstBx::PopulateListBox(list, {u"A"_s, u"b"_s, u"B"_s, u"  "_s}, true, false);
-    EXPECT_EQ(list.items(), (QStringList{u"a"_s, u"b"_s, u"B"_s}));
-    cLstBx::PopulateListBox(list, {u"x"_s, u" "_s}, false, true);
-    EXPECT_EQ(list.items(), (QStringList{u"x"_s, u" "_s}));
-}
-
-TEST(ListOperations, AListMayBeRefilledWithItsOwnItems)
-{
-    ListBox list(u"lstANMC"_s, nullptr);
-    fill(list, {u"a"_s, u" "_s, u"b"_s});
-    cLstBx::PopulateListBox(list, list.items(), true, true);
-    EXPECT_EQ(list.items(), (QStringList{u"a"_s, u"b"_s}));
 }
