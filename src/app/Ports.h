@@ -2,6 +2,8 @@
 // these alone; both programs bring what stands behind them, and tests bring fakes for the clock and for faults.
 #pragma once
 
+#include "controls/Menu.h"
+
 #include <QRect>
 #include <QString>
 #include <QStringList>
@@ -79,6 +81,23 @@ class WindowPlace
     /// The part of the screen that windows may use.
     [[nodiscard]] virtual QRect screen() const = 0;
     virtual void putOnTop(bool onTop) = 0;
+};
+
+/// Pop-up menus.
+class PopUpMenus
+{
+  public:
+    virtual ~PopUpMenus() = default;
+    /// Has the menu made ready and shows it at the pointer. May return before the user has chosen.
+    void popUp(Menu &menu)
+    {
+        menu.prepare();
+        show(menu);
+    }
+
+  protected:
+    /// Without a window: shows nothing.
+    virtual void show(Menu &menu) = 0;
 };
 
 /// Decides which controls may be used; stands above everything that calls it.

@@ -4,13 +4,14 @@
 #pragma once
 
 #include "app/FormGroups.h"
+#include "app/Menus.h"
 
 class frmSearch : public QObject
 {
     Q_OBJECT
 
   public:
-    /// The control of that name, an array member as "chkSMA(9)"; null if there is none.
+    /// The control or menu item of that name, an array member as "chkSMA(9)"; null if there is none.
     [[nodiscard]] Control *control(const QString &name) const;
 
     WindowFrame frame{this};
@@ -32,6 +33,7 @@ class frmSearch : public QObject
     OptionBoxes options{this};
     Limits limits{this};
     DataBoxes data{this};
+    Menus menus{this};
     RunFlags runs;
 
     bool mbFormReady = false; ///< option clicks write their settings from here on

@@ -30,6 +30,12 @@ class NoClipboard : public ClipboardText
     void setText(const QString &) override {}
 };
 
+class NoMenus : public PopUpMenus
+{
+  protected:
+    void show(Menu &) override {}
+};
+
 class NoWindow : public WindowPlace
 {
   public:

@@ -40,6 +40,17 @@ void set(NumberBox &number, const QString &value)
         refuse(number.name(), u"takes up to %1 digits, not \"%2\""_s.arg(number.digits()).arg(value));
     number.setText(value);
 }
+/// A menu item that has not the wanted check mark is clicked, and so is a command, which keeps no mark.
+void set(MenuItem &item, const QString &value)
+{
+    if (value != "0"_L1 && value != "1"_L1)
+        refuse(item.name(), u"a menu item takes 0 or 1, not \"%1\""_s.arg(value));
+    if (item.isChecked() == (value == "1"_L1))
+        return;
+    if (!item.isEnabled())
+        refuse(item.name(), u"this menu item is disabled at the moment"_s);
+    item.click();
+}
 } // namespace
 
 void setControl(frmSearch &form, const QString &name, const QString &value)
@@ -55,6 +66,8 @@ void setControl(frmSearch &form, const QString &name, const QString &value)
         text->setText(value);
     else if (auto *list = qobject_cast<ListBox *>(control))
         list->addItem(value);
+    else if (auto *item = qobject_cast<MenuItem *>(control))
+        set(*item, value);
     else
         refuse(name, control ? u"this control has no value"_s : u"there is no such control"_s);
 }

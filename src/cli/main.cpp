@@ -125,6 +125,7 @@ int main(int argc, char *argv[])
     ConsoleDesktop desktop;
     NoClipboard clipboard;
     NoWindow place;
+    NoMenus menus;
     IniSettings stored(GetRKAppName(windowProgram, programFolder()));
     HarvestSettings settings(stored, arguments.databaseDir, arguments.browser);
     ConsoleBrowsers browsers({dataFolder(), switches, arguments.headless || !hasDisplay()});
@@ -132,7 +133,7 @@ int main(int argc, char *argv[])
         printError(u"Running as root: the browser's sandbox is off"_s);
     int status = OtherEnd;
     {
-        Program program({pump, dialogs, desktop, clipboard, settings, place, browsers, programFolder()});
+        Program program({pump, dialogs, desktop, clipboard, settings, place, menus, browsers, programFolder()});
         try {
             status = run(program, pump, arguments);
         } catch (const RuntimeError &error) {

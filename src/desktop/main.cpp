@@ -7,6 +7,7 @@
 #include "desktop/Splash.h"
 #include "engine/BrowserSwitches.h"
 #include "engine/webengine/WebEngineSetup.h"
+#include "ui/binding/MenuMirror.h"
 #include "ui/windows/QtClipboard.h"
 #include "ui/windows/QtDesktop.h"
 #include "ui/windows/QtDialogs.h"
@@ -41,14 +42,16 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     QtDesktop desktop;
     QtClipboard clipboard;
     MainWindowPlace place;
+    QtMenus menus;
     IniSettings settings(appName);
     DesktopBrowsers browsers({dataFolder(), switches, false});
     if (browsers.sandboxOff())
         std::fputs("Running as root: the browser's sandbox is off\n", stderr);
     settings.SaveSetting(Options::section, u"WorkingPath"_s, programFolder() + u'/');
-    Program program({pump, dialogs, desktop, clipboard, settings, place, browsers, programFolder()});
+    Program program({pump, dialogs, desktop, clipboard, settings, place, menus, browsers, programFolder()});
     MainWindow window(program.form);
     place.set(&window);
+    menus.set(&window);
     browsers.standBeside(&window);
     connectWindow(program, window);
     if (!program.lifeCycle.Form_Load())
@@ -61,6 +64,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     browsers.placeInternal();
     const int status = QApplication::exec();
     place.set(nullptr);
+    menus.set(nullptr);
     return status;
 }
 } // namespace

@@ -4,8 +4,9 @@ using namespace Qt::StringLiterals;
 
 Program::Program(const Ports &ports)
     : log(ports.dialogs, ports.desktop, ports.programFolder), tips(form.options.chkSMV(0)),
-      status(form.frame.picStatus, tips), timer(ports.pump), states(log, form), navigation(log, form, status, browser),
-      records(log, database, browser), links(log, form, browser, records),
+      status(form.frame.picStatus, tips), popUps(form.browser, status, ports.menus), timer(ports.pump),
+      states(log, form), navigation(log, form, status, browser), records(log, database, browser),
+      links(log, form, browser, records),
       savedUrls(log, form, status, states, ports.settings, database, browser, records, navigation),
       criteria(log, form, status, states, ports.dialogs, database),
       blocking(log, form, status, states, ports.dialogs, ports.settings, database, browser), pageData(log, form),

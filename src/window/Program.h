@@ -9,6 +9,7 @@
 #include "window/LifeCycle.h"
 #include "window/commands/AutoTab.h"
 #include "window/commands/CriteriaPanel.h"
+#include "window/commands/PopUps.h"
 #include "window/states/StateOfControls.h"
 
 struct Program
@@ -22,6 +23,7 @@ struct Program
         ClipboardText &clipboard;
         SettingsStore &settings;
         WindowPlace &place;
+        PopUpMenus &menus;
         BrowserFactory &browsers;
         QString programFolder;
     };
@@ -31,6 +33,7 @@ struct Program
     ErrorLog log;
     Tips tips;
     StatusLine status;
+    PopUps popUps;
     cTimer timer;
     StateOfControls states;
     DatabaseHolder database;

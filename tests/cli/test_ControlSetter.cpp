@@ -79,3 +79,22 @@ INSTANTIATE_TEST_SUITE_P(
                     RefusedCase{"incANTiming", "1.5", "--set incANTiming: takes up to 3 digits, not \"1.5\""},
                     RefusedCase{"incANTiming", "+0", "--set incANTiming: takes up to 3 digits, not \"+0\""}),
     [](const auto &row) { return "row" + std::to_string(row.index); });
+
+TEST(ControlSetter, ClicksAMenuItemThatHasNotTheWantedMark)
+{
+    frmSearch form;
+    MenuItem &item = form.menus.mnuPopUpMNStatus.item("mnuMNUseAutoBase"_L1);
+    QObject::connect(&item, &MenuItem::Click, &form, [&] { item.setChecked(!item.isChecked()); });
+    setControl(form, item.name(), u"0"_s);
+    EXPECT_FALSE(item.isChecked());
+    setControl(form, item.name(), u"1"_s);
+    EXPECT_TRUE(item.isChecked());
+    setControl(form, item.name(), u"1"_s);
+    EXPECT_TRUE(item.isChecked());
+    setControl(form, item.name(), u"0"_s);
+    EXPECT_FALSE(item.isChecked());
+    EXPECT_EQ(refusal(form, item.name(), u"on"_s), u"--set mnuMNUseAutoBase: a menu item takes 0 or 1, not \"on\""_s);
+    item.setEnabled(false);
+    EXPECT_EQ(refusal(form, item.name(), u"1"_s),
+              u"--set mnuMNUseAutoBase: this menu item is disabled at the moment"_s);
+}

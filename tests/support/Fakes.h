@@ -124,6 +124,22 @@ class MemorySettings : public SettingsStore
     QStringList written;
 };
 
+/// Keeps which menus were shown; `choice` does what the user does in one that is open.
+class FakeMenus : public PopUpMenus
+{
+  public:
+    QStringList shown;
+    std::function<void(Menu &)> choice;
+
+  protected:
+    void show(Menu &menu) override
+    {
+        shown.append(menu.name());
+        if (choice)
+            choice(menu);
+    }
+};
+
 class FakePlace : public WindowPlace
 {
   public:

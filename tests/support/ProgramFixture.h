@@ -20,7 +20,7 @@ class ProgramTest : public testing::Test
     void load()
     {
         program = std::make_unique<Program>(
-            Program::Ports{pump, dialogs, desktop, clipboard, settings, place, browsers, folder.path()});
+            Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus, browsers, folder.path()});
         QObject::connect(&program->status, &StatusLine::told, &program->form,
                          [this](const QString &text) { statuses.append(text); });
         QObject::connect(&program->autoRun, &AutoRun::visiting, &program->form,
@@ -90,6 +90,7 @@ class ProgramTest : public testing::Test
     FakeClipboard clipboard;
     MemorySettings settings;
     FakePlace place;
+    FakeMenus menus;
     FakeFactory browsers{pump};
     std::unique_ptr<Program> program;
     QStringList statuses, visited;
