@@ -7,7 +7,7 @@ packages=(
   build-essential cmake ninja-build ccache pkg-config python3 git
   clang-format clang-tidy clang libclang-rt-14-dev
   # what the program stands on
-  qt6-base-dev libqt6opengl6-dev qt6-webengine-dev qt6-websockets-dev qt6-svg-dev qt6-l10n-tools
+  qt6-base-dev libqt6opengl6-dev qt6-webengine-dev qt6-svg-dev qt6-l10n-tools
   libsqlitecpp-dev libsqlite3-dev libcurl4-openssl-dev mdbtools-dev
   # tests and benchmarks
   libgtest-dev libgmock-dev libbenchmark-dev python3-pyftpdlib

@@ -1,12 +1,21 @@
 #include "engine/Platform.h"
 
+#include "util/Errors.h"
+
 #include <QDir>
+#include <QFile>
+#include <vector>
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #else
 #include <cerrno>
 #include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #endif
 
@@ -30,6 +39,81 @@ bool hasGraphicsProcessor()
 #endif
 }
 
+#ifdef Q_OS_WIN
+PipedProcess startPiped(const QString &program, const QStringList &)
+{
+    throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("Cannot start %1.").arg(program));
+}
+#else
+namespace {
+
+// What a child is to be given: its files, and a session of its own, so that keys of our terminal do not reach it.
+class SpawnPlan
+{
+  public:
+    explicit SpawnPlan(int line)
+    {
+        posix_spawn_file_actions_init(&mFiles);
+        posix_spawnattr_init(&mAttributes);
+        posix_spawnattr_setflags(&mAttributes, POSIX_SPAWN_SETSID);
+        for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+            posix_spawn_file_actions_addopen(&mFiles, standard, "/dev/null", O_RDWR, 0);
+        for (const int file : {readFile, writeFile})
+            posix_spawn_file_actions_adddup2(&mFiles, line, file);
+    }
+    ~SpawnPlan()
+    {
+        posix_spawn_file_actions_destroy(&mFiles);
+        posix_spawnattr_destroy(&mAttributes);
+    }
+    Q_DISABLE_COPY_MOVE(SpawnPlan)
+
+    /// The error number of the system, 0 for success.
+    [[nodiscard]] int run(const QString &program, const QStringList &arguments, pid_t &pid) const
+    {
+        std::vector<QByteArray> words{QFile::encodeName(program)};
+        for (const QString &each : arguments)
+            words.push_back(each.toLocal8Bit());
+        std::vector<char *> pointers;
+        for (QByteArray &word : words)
+            pointers.push_back(word.data());
+        pointers.push_back(nullptr);
+        return ::posix_spawn(&pid, pointers.front(), &mFiles, &mAttributes, pointers.data(), environ);
+    }
+
+  private:
+    static constexpr int readFile = 3, writeFile = 4;
+    posix_spawn_file_actions_t mFiles{};
+    posix_spawnattr_t mAttributes{};
+};
+
+} // namespace
+
+PipedProcess startPiped(const QString &program, const QStringList &arguments)
+{
+    int ends[2] = {-1, -1};
+    int error = ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0 ? 0 : errno;
+    pid_t pid = 0;
+    if (error == 0) {
+        error = SpawnPlan(ends[1]).run(program, arguments, pid);
+        ::close(ends[1]);
+    }
+    if (error != 0) {
+        ::close(ends[0]);
+        throw RuntimeError(
+            ErrorNumber::FileNotFound,
+            QStringLiteral("Cannot start %1: %2").arg(program, QString::fromLocal8Bit(std::strerror(error))));
+    }
+    return {pid, ends[0]};
+}
+#endif
+
+QByteArray commandLine(qint64 pid)
+{
+    QFile file(QStringLiteral("/proc/%1/cmdline").arg(pid));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 namespace {
 // 0 and negative numbers mean groups of processes, 1 is the first of all.
 bool isProcess(qint64 pid)
@@ -49,6 +133,7 @@ bool isRunning(qint64 pid)
         CloseHandle(process);
     return running;
 #else
+    ::waitpid(pid_t(pid), nullptr, WNOHANG); // a child of ours that has ended is no process any more
     return ::kill(pid_t(pid), 0) == 0 || errno == EPERM;
 #endif
 }

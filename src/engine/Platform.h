@@ -1,9 +1,20 @@
 // What the browser engines need of the operating system itself. The only file of the folder that calls it directly.
 #pragma once
 
-#include <QtGlobal>
+#include <QStringList>
 
 namespace Platform {
+/// A process that was started with a line to it.
+struct PipedProcess
+{
+    qint64 pid = 0;
+    qintptr socket = -1; ///< our end of the line; closed by whoever takes it
+};
+/// Starts `program` in a session of its own. It reads from its file 3 what we write to the line, and what it writes to
+/// its file 4 comes back; the line ends with either process, whatever ends it. Raises a RuntimeError.
+[[nodiscard]] PipedProcess startPiped(const QString &program, const QStringList &arguments);
+/// The command line of the process `pid`, its words parted by zero bytes; "" where it cannot be told.
+[[nodiscard]] QByteArray commandLine(qint64 pid);
 /// True when the program runs with the rights of the superuser, under which the browsers' sandbox refuses to start.
 [[nodiscard]] bool runsAsRoot();
 /// True when the machine shows a graphics processor that the browser can draw with.

@@ -117,8 +117,19 @@ class Kills(trawlex.Case):
                 run.wait(timeout=10)
                 # The line of a page stands there before its rows, those of all pages before it are on the disk.
                 whole.append(self.assert_whole_pages(path, len(self.visited(run)) - 1))
-            self.end_processes()
+                trawlex.wait_for(lambda: not list(trawlex.processes(self.folder)), 5, "nothing is left running")
         print(f"killed {MOMENTS} times, with {min(whole, default=0)} to {max(whole, default=0)} pages stored")
+
+    def test_whatever_ends_the_program_ends_its_browser(self):
+        for browser in ("iexplore", "internal"):
+            for number in (signal.SIGKILL, signal.SIGSEGV, signal.SIGABRT):
+                with self.subTest(browser=browser, signal=number):
+                    self.make_database(browser)
+                    run = self.start_harvest(browser)
+                    trawlex.wait_for(lambda: self.visited(run), 60, "the first page")
+                    os.kill(run.pid, number)
+                    run.wait(timeout=10)
+                    trawlex.wait_for(lambda: not list(trawlex.processes(self.folder)), 5, "nothing is left running")
 
     def test_a_wish_to_end_stops_the_run_in_the_middle_of_a_wait(self):
         path = self.make_database()

@@ -140,19 +140,10 @@ std::shared_ptr<BrowserEngine> ChromiumTest::connect()
     return found;
 }
 
-QUrl ChromiumTest::endpoint()
-{
-    QFile file(dataFolder() + (windowless() ? u"/browser-headless"_s : u"/browser"_s) + u"/DevToolsActivePort"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const QStringList lines = QString::fromLatin1(file.readAll()).split(u'\n');
-    return QUrl(u"ws://127.0.0.1:%1%2"_s.arg(lines.value(0), lines.value(1)));
-}
-
 std::shared_ptr<DevToolsConnection> ChromiumTest::backDoor()
 {
-    const QUrl address = endpoint();
-    return address.isEmpty() ? nullptr : DevToolsConnection::open(address, 2s);
+    const auto line = factory().pipe();
+    return line ? DevToolsConnection::open(line, 2s) : nullptr;
 }
 
 QHash<QString, QString> ChromiumTest::windows()

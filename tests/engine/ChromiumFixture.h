@@ -55,8 +55,6 @@ class ChromiumTest : public testing::Test
     /// Connects to the browser, which is started if it does not run.
     static std::shared_ptr<BrowserEngine> connect();
     void take(std::shared_ptr<BrowserEngine> engine);
-    /// Where the browser can be reached; empty while it cannot.
-    static QUrl endpoint();
     /// A second line to the browser, for what only its user could do.
     static std::shared_ptr<DevToolsConnection> backDoor();
     /// The browser's page windows: target and address of each.

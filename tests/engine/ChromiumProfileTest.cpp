@@ -1,12 +1,16 @@
 // The free-standing browser's program, its command line and its profile folder; no browser runs here.
+#include "engine/Platform.h"
 #include "engine/chromium/ChromiumFactory.h"
 #include "engine/chromium/ChromiumProgram.h"
+#include "engine/chromium/ChromiumSwitches.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTcpServer>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -87,39 +91,78 @@ TEST_F(ChromiumProfileTest, AFolderThatCannotBeMadeIsAnError)
 {
     write(u"file"_s, "");
     EXPECT_THROW(ChromiumProfile(path(u"file/data"_s), u"browser"_s), RuntimeError);
+    EXPECT_THROW(ChromiumProfile(data.path(), u"file"_s), RuntimeError) << "a file in the folder's place";
+    ChromiumFactory factory({.dataFolder = path(u"file/data"_s), .userSwitches = {}, .headless = true});
+    EXPECT_THROW((void)factory.runningBrowser(), RuntimeError);
+    EXPECT_THROW(factory.start(u"/bin/true"_s), RuntimeError);
+    factory.closeBrowser(); // nothing was started, so there is nothing to say
 }
 
-TEST_F(ChromiumProfileTest, TheEndpointIsReadFromTheBrowsersOwnFile)
+TEST_F(ChromiumProfileTest, WhatABrowserThatWasKilledHasLeftIsTakenAway)
 {
     ChromiumProfile profile(data.path(), u"browser"_s);
-    EXPECT_FALSE(profile.endpoint().isValid());
-    for (const char *unfinished : {"", "4711", "4711\n", "4711\nno path"}) {
-        write(u"browser/DevToolsActivePort"_s, unfinished);
-        EXPECT_FALSE(profile.endpoint().isValid()) << unfinished;
-    }
-    write(u"browser/DevToolsActivePort"_s, "4711\n/devtools/browser/abc");
-    EXPECT_EQ(profile.endpoint(), QUrl(u"ws://127.0.0.1:4711/devtools/browser/abc"_s));
-    profile.forgetEndpoint();
-    EXPECT_FALSE(profile.endpoint().isValid());
+    const QTemporaryDir temporary(data.filePath(u"org.chromium.Chromium.XXXXXX"_s));
+    const QString own = QFileInfo(temporary.path()).fileName();
+    for (const QString &name : {u"/SingletonSocket"_s, u"/SingletonCookie"_s})
+        write(own + name, "x");
+    write(u"browser/Other"_s, "x");
+    for (const auto &[name, target] : {std::pair{u"SingletonLock"_s, u"another-host-1"_s},
+                                       std::pair{u"SingletonSocket"_s, temporary.filePath(u"SingletonSocket"_s)},
+                                       std::pair{u"SingletonCookie"_s, u"123"_s}})
+        ASSERT_TRUE(QFile::link(target, path(u"browser/"_s + name)));
+    write(u"browser/trawlex.socket"_s, "x");
+    profile.clear();
+    EXPECT_FALSE(QFile::exists(temporary.path()));
+    QStringList left = QDir(path(u"browser"_s)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    left.sort();
+    EXPECT_EQ(left, (QStringList{u"Default"_s, u"Local State"_s, u"Other"_s}));
 }
 
-TEST_F(ChromiumProfileTest, AnEndpointThatNobodyAnswersAtCostsLittle)
+TEST_F(ChromiumProfileTest, ATemporaryFolderWithAnythingElseInItStays)
+{
+    ChromiumProfile profile(data.path(), u"browser"_s);
+    for (const QString &folder : {u"org.chromium.Chromium.a"_s, u"mine"_s}) {
+        ASSERT_TRUE(QDir(data.path()).mkpath(folder));
+        write(folder + u"/SingletonSocket"_s, "x");
+        write(folder + u"/letter"_s, "x");
+        QFile::remove(path(u"browser/SingletonSocket"_s));
+        ASSERT_TRUE(QFile::link(path(folder + u"/SingletonSocket"_s), path(u"browser/SingletonSocket"_s)));
+        profile.clear();
+        EXPECT_TRUE(QFile::exists(path(folder + u"/letter"_s)));
+    }
+    EXPECT_TRUE(QFile::exists(path(u"mine/SingletonSocket"_s))) << "no browser names its folder so";
+}
+
+TEST_F(ChromiumProfileTest, NobodyElsesProcessIsEndedWithAProfile)
+{
+    ChromiumProfile profile(data.path(), u"browser"_s);
+    QProcess other;
+    other.start(u"sleep"_s, {u"60"_s});
+    ASSERT_TRUE(other.waitForStarted());
+    const QString mark = QSysInfo::machineHostName() + u'-' + QString::number(other.processId());
+    ASSERT_TRUE(QFile::link(mark, path(u"browser/SingletonLock"_s)));
+    profile.clear();
+    EXPECT_FALSE(other.waitForFinished(200));
+    other.kill();
+    other.waitForFinished();
+}
+
+TEST_F(ChromiumProfileTest, ASocketThatNobodyAnswersAtCostsLittle)
 {
     ChromiumFactory factory({.dataFolder = data.path(), .userSwitches = {}, .headless = false});
     EXPECT_EQ(factory.runningBrowser(), nullptr) << "no browser has ever run here";
-    QTcpServer gone;
-    ASSERT_TRUE(gone.listen(QHostAddress::LocalHost));
-    const QByteArray port = QByteArray::number(gone.serverPort());
     QElapsedTimer clock;
     clock.start();
-    write(u"browser/DevToolsActivePort"_s, port + "\n/devtools/browser/abc");
-    gone.close();
-    EXPECT_EQ(factory.runningBrowser(), nullptr);
-    EXPECT_LT(clock.elapsed(), 500) << "refused";
-    ASSERT_TRUE(gone.listen(QHostAddress::LocalHost, port.toUShort()));
+    {
+        QLocalServer gone;
+        ASSERT_TRUE(gone.listen(path(u"browser/trawlex.socket"_s)));
+        EXPECT_EQ(factory.runningBrowser(), nullptr);
+        EXPECT_LT(clock.elapsed(), 3500) << "somebody listens there and says nothing";
+    }
+    write(u"browser/trawlex.socket"_s, "");
     clock.restart();
     EXPECT_EQ(factory.runningBrowser(), nullptr);
-    EXPECT_LT(clock.elapsed(), 3500) << "another program listens there and says nothing";
+    EXPECT_LT(clock.elapsed(), 500) << "refused";
 }
 
 TEST_F(ChromiumProfileTest, WindowlessBrowsersHaveAProfileOfTheirOwn)
@@ -141,6 +184,9 @@ TEST_F(ChromiumProfileTest, AProgramThatCannotBeStartedIsAnError)
 {
     ChromiumFactory factory({.dataFolder = data.path(), .userSwitches = {}, .headless = true});
     EXPECT_THROW(factory.start(path(u"no-such-program"_s)), RuntimeError);
+    ChromiumFactory windowed({.dataFolder = data.path(), .userSwitches = {}, .headless = false});
+    EXPECT_THROW(windowed.start(path(u"no-such-program"_s)), RuntimeError);
+    windowed.closeBrowser();
 }
 
 TEST_F(ChromiumProfileTest, TheFirstInstalledProgramIsTaken)
@@ -165,19 +211,28 @@ TEST_F(ChromiumProfileTest, ProgramsAreKnownByTheirFileName)
     EXPECT_FALSE(ChromiumProgram::isKnown(QString()));
 }
 
-TEST_F(ChromiumProfileTest, AStartedProgramGetsTheCommandLine)
+TEST_F(ChromiumProfileTest, AStartedProgramGetsTheCommandLineAndALine)
 {
-    write(u"chromium"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + path(u"arguments.new"_s).toUtf8() + "'\nmv '" +
-                             path(u"arguments.new"_s).toUtf8() + "' '" + path(u"arguments"_s).toUtf8() + "'\n");
+    write(u"chromium"_s, "#!/bin/sh\nread -r line <&3\nprintf '%s\\n' \"$line\" \"$@\" > '" +
+                             path(u"arguments.new"_s).toUtf8() + "'\nmv '" + path(u"arguments.new"_s).toUtf8() + "' '" +
+                             path(u"arguments"_s).toUtf8() + "'\nprintf answer >&4\n");
     QFile::setPermissions(path(u"chromium"_s), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     const ChromiumStart start{
         .profileFolder = path(u"a b"_s), .userSwitches = {u"--mine=1"_s}, .headless = true, .sandboxOff = false};
-    EXPECT_GT(ChromiumProgram::start(path(u"chromium"_s), start), 0);
+    const Platform::PipedProcess process = Platform::startPiped(path(u"chromium"_s), chromiumArguments(start));
+    EXPECT_GT(process.pid, 1);
+    QLocalSocket line;
+    ASSERT_TRUE(line.setSocketDescriptor(process.socket));
+    line.write("question\n");
+    ASSERT_TRUE(line.waitForReadyRead(10000));
+    EXPECT_EQ(line.readAll(), "answer");
+    EXPECT_EQ(QString::fromUtf8(read(u"arguments"_s)), u"question\n"_s + chromiumArguments(start).join(u'\n') + u'\n');
+    EXPECT_TRUE(line.state() == QLocalSocket::UnconnectedState || line.waitForDisconnected(10000));
     QElapsedTimer clock;
     clock.start();
-    while (!QFile::exists(path(u"arguments"_s)) && clock.elapsed() < 10000)
+    while (Platform::isRunning(process.pid) && clock.elapsed() < 10000)
         ;
-    EXPECT_EQ(QString::fromUtf8(read(u"arguments"_s)), chromiumArguments(start).join(u'\n') + u'\n');
+    EXPECT_FALSE(Platform::isRunning(process.pid)) << "it has ended, and leaves nothing";
 }
 
 TEST(ChromiumArguments, TheUsersComeLast)
@@ -185,7 +240,7 @@ TEST(ChromiumArguments, TheUsersComeLast)
     const QStringList all = chromiumArguments({.profileFolder = u"/p"_s, .userSwitches = {u"--one"_s, u"--two=2"_s}});
     EXPECT_EQ(all.first(), u"--user-data-dir=/p"_s);
     EXPECT_EQ(all.mid(all.size() - 3), (QStringList{u"about:blank"_s, u"--one"_s, u"--two=2"_s}));
-    EXPECT_TRUE(all.contains(u"--remote-debugging-port=0"_s));
+    EXPECT_TRUE(all.contains(u"--remote-debugging-pipe"_s));
     EXPECT_FALSE(all.contains(u"--headless=new"_s));
     EXPECT_FALSE(all.contains(u"--no-sandbox"_s));
 }

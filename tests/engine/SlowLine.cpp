@@ -1,25 +1,14 @@
 #include "SlowLine.h"
 
-SlowLine::SlowLine(const QUrl &browser, std::chrono::milliseconds gap)
+SlowLine::SlowLine(std::shared_ptr<DevToolsPipe> browser, std::chrono::milliseconds gap)
+    : DevToolsPipe(nullptr), mBrowser(std::move(browser))
 {
-    connect(&mServer, &QWebSocketServer::newConnection, this, &SlowLine::accept);
-    connect(&mBrowser, &QWebSocket::connected, &mGap, qOverload<>(&QTimer::start));
+    connect(mBrowser.get(), &DevToolsPipe::received, this, &DevToolsPipe::received);
     connect(&mGap, &QTimer::timeout, this, [this] {
         if (mCommands.empty())
             return;
-        mBrowser.sendTextMessage(mCommands.front());
+        mBrowser->send(mCommands.front());
         mCommands.pop_front();
     });
-    mGap.setInterval(gap);
-    mServer.listen(QHostAddress::LocalHost);
-    mBrowser.open(browser);
-}
-
-void SlowLine::accept()
-{
-    QWebSocket *program = mServer.nextPendingConnection();
-    connect(program, &QWebSocket::textMessageReceived, this,
-            [this](const QString &command) { mCommands.push_back(command); });
-    connect(&mBrowser, &QWebSocket::textMessageReceived, program,
-            [program](const QString &word) { program->sendTextMessage(word); });
+    mGap.start(gap);
 }

@@ -2,26 +2,23 @@
 // of the processor. What the browser says comes through at once.
 #pragma once
 
-#include <QObject>
+#include "engine/chromium/DevToolsPipe.h"
+
 #include <QTimer>
-#include <QUrl>
-#include <QWebSocket>
-#include <QWebSocketServer>
+#include <chrono>
 #include <deque>
 
-class SlowLine : public QObject
+class SlowLine : public DevToolsPipe
 {
   public:
-    SlowLine(const QUrl &browser, std::chrono::milliseconds gap);
+    SlowLine(std::shared_ptr<DevToolsPipe> browser, std::chrono::milliseconds gap);
 
-    /// Where the line begins; one program can use it.
-    [[nodiscard]] QUrl address() const { return mServer.serverUrl(); }
+    void send(const QJsonObject &message) override { mCommands.push_back(message); }
+    [[nodiscard]] qint64 nextId() override { return mBrowser->nextId(); }
+    [[nodiscard]] bool isOpen() const override { return mBrowser->isOpen(); }
 
   private:
-    void accept();
-
-    QWebSocketServer mServer{QString(), QWebSocketServer::NonSecureMode};
-    QWebSocket mBrowser;
+    const std::shared_ptr<DevToolsPipe> mBrowser;
     QTimer mGap;
-    std::deque<QString> mCommands;
+    std::deque<QJsonObject> mCommands;
 };

@@ -1,9 +1,11 @@
 #include "engine/chromium/ChromiumProfile.h"
 #include "engine/EngineResources.h"
+#include "engine/Platform.h"
 #include "util/Errors.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,11 +21,6 @@ constexpr std::pair<QLatin1StringView, QLatin1StringView> settingsFiles[] = {
     {"chromium-preferences.json"_L1, "Default/Preferences"_L1},
     {"chromium-local-state.json"_L1, "Local State"_L1},
 };
-
-QString endpointFile(const QString &folder)
-{
-    return folder + u"/DevToolsActivePort"_s;
-}
 
 } // namespace
 
@@ -69,19 +66,28 @@ void ChromiumProfile::make()
     }
 }
 
-// Two lines: the port, and the path of the browser's own endpoint.
-QUrl ChromiumProfile::endpoint() const
+QString ChromiumProfile::socketPath() const
 {
-    QFile file(endpointFile(mFolder));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const QStringList lines = QString::fromLatin1(file.readAll()).split(u'\n');
-    if (lines.size() < 2 || !lines[1].startsWith(u'/'))
-        return {};
-    return QUrl(u"ws://127.0.0.1:%1%2"_s.arg(lines[0], lines[1]));
+    return mFolder + u"/trawlex.socket"_s;
 }
 
-void ChromiumProfile::forgetEndpoint()
+// The browser marks a profile that it uses by links: to "host-process", and to a socket in a folder of its own among
+// the temporary ones. Where the host has another name by now it would not start, and ask somebody.
+void ChromiumProfile::clear()
 {
-    QFile::remove(endpointFile(mFolder));
+    const qint64 process = QFile::symLinkTarget(mFolder + u"/SingletonLock"_s).section(u'-', -1).toLongLong();
+    if (Platform::commandLine(process).contains(mFolder.toLocal8Bit()))
+        Platform::endProcess(process);
+    const QFileInfo socket(QFile::symLinkTarget(mFolder + u"/SingletonSocket"_s));
+    QStringList remains{socketPath()};
+    for (const QString &name : {u"SingletonLock"_s, u"SingletonSocket"_s, u"SingletonCookie"_s})
+        remains.append(mFolder + u'/' + name);
+    if (socket.dir().dirName().startsWith("org.chromium."_L1)) {
+        remains.append(socket.filePath());
+        remains.append(socket.dir().filePath(u"SingletonCookie"_s));
+    }
+    for (const QString &path : std::as_const(remains))
+        QFile::remove(path);
+    if (socket.dir().dirName().startsWith("org.chromium."_L1))
+        QDir().rmdir(socket.path()); // unless there is anything else in it
 }

@@ -4,7 +4,6 @@
 
 #include <QLockFile>
 #include <QString>
-#include <QUrl>
 #include <memory>
 
 class ChromiumProfile
@@ -16,11 +15,11 @@ class ChromiumProfile
     ChromiumProfile(const QString &dataFolder, const QString &name);
 
     [[nodiscard]] const QString &folder() const { return mFolder; }
-    /// Where the browser that runs on this profile can be reached, as it has written down itself; invalid if it has
-    /// not. A browser that was killed leaves an address behind at which nobody answers.
-    [[nodiscard]] QUrl endpoint() const;
-    /// Takes away what a browser that is gone has left behind.
-    void forgetEndpoint();
+    /// Where a browser that runs on this profile, and outlives its program, is offered.
+    [[nodiscard]] QString socketPath() const;
+    /// Takes away what a browser that nobody can drive any more has left: itself, if it still runs, and what would keep
+    /// the next one from starting.
+    void clear();
 
   private:
     [[nodiscard]] bool take(const QString &folder);

@@ -1,8 +1,8 @@
 #include "engine/chromium/ChromiumProgram.h"
 #include "util/Errors.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
-#include <QProcess>
 #include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
@@ -46,18 +46,14 @@ QString find()
     return {};
 }
 
-qint64 start(const QString &path, const ChromiumStart &start)
+QString holder()
 {
-    QProcess process;
-    process.setProgram(path);
-    process.setArguments(chromiumArguments(start));
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    qint64 id = 0;
-    if (!process.startDetached(&id))
-        throw RuntimeError(ErrorNumber::FileNotFound, u"Cannot start %1: %2"_s.arg(path, process.errorString()));
-    return id;
+    const QString folder = QCoreApplication::applicationDirPath();
+    QString path = QStandardPaths::findExecutable(
+        u"trawlex-browser-holder"_s, {folder, folder + "/../libexec/trawlex"_L1, folder + "/../lib/trawlex"_L1});
+    if (path.isEmpty())
+        throw RuntimeError(ErrorNumber::FileNotFound, u"trawlex-browser-holder is not installed."_s);
+    return path;
 }
 
 } // namespace ChromiumProgram

@@ -1,7 +1,7 @@
-// The free-standing browser's program: which names are known, where it is, and how it is started.
+// The free-standing browser's program: which names are known, and where it is.
 #pragma once
 
-#include "engine/chromium/ChromiumSwitches.h"
+#include <QStringList>
 
 namespace ChromiumProgram {
 /// File names of the programs that can be driven, in the order in which they are looked for.
@@ -10,6 +10,6 @@ namespace ChromiumProgram {
 [[nodiscard]] bool isKnown(const QString &path);
 /// Full path of the first of the names on PATH; "" when there is none.
 [[nodiscard]] QString find();
-/// Starts `path`, which outlives this process. Raises a RuntimeError when it cannot be started. Gives its process.
-qint64 start(const QString &path, const ChromiumStart &start);
+/// Path of trawlex-browser-holder, beside the programs. Raises a RuntimeError when it is not installed.
+[[nodiscard]] QString holder();
 } // namespace ChromiumProgram

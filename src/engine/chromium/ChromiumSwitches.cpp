@@ -14,7 +14,7 @@ struct Switch
 };
 
 constexpr std::array ownSwitches{
-    Switch{"--remote-debugging-port=0"_L1, "driven through a port of the system's choosing, told in the profile"_L1},
+    Switch{"--remote-debugging-pipe"_L1, "driven through its files 3 and 4, which nobody else can open; no port"_L1},
     Switch{"--no-first-run"_L1, "no welcome page in front of ours"_L1},
     Switch{"--no-default-browser-check"_L1, "no question at the start"_L1},
     Switch{"--disable-search-engine-choice-screen"_L1, "no question at the start"_L1},

@@ -3,8 +3,6 @@
 #include "util/Errors.h"
 
 #include <QEventLoop>
-#include <QJsonDocument>
-#include <QNetworkProxy>
 #include <QScopeGuard>
 #include <QTimer>
 #include <utility>
@@ -28,35 +26,41 @@ void turnLoop(const std::function<bool()> &done, QDeadlineTimer deadline)
 
 } // namespace
 
-DevToolsConnection::DevToolsConnection()
+DevToolsConnection::DevToolsConnection(std::shared_ptr<DevToolsPipe> pipe) : mPipe(std::move(pipe))
 {
-    mSocket.setProxy(QNetworkProxy::NoProxy); // the endpoint is on this machine
-    QObject::connect(&mSocket, &QWebSocket::connected, this, [this] { mOpen = true; });
-    QObject::connect(&mSocket, &QWebSocket::textMessageReceived, this, &DevToolsConnection::enqueue);
-    QObject::connect(&mSocket, &QWebSocket::disconnected, this, [this] { enqueue(QString()); });
+    QObject::connect(mPipe.get(), &DevToolsPipe::received, this, &DevToolsConnection::enqueue);
+    QObject::connect(mPipe.get(), &DevToolsPipe::ended, this, [this] { enqueue(std::nullopt); });
 }
 
 DevToolsConnection::~DevToolsConnection()
 {
-    mSocket.disconnect(this);
+    abandon();
 }
 
-std::shared_ptr<DevToolsConnection> DevToolsConnection::open(const QUrl &endpoint, std::chrono::milliseconds limit)
+std::shared_ptr<DevToolsConnection> DevToolsConnection::open(std::shared_ptr<DevToolsPipe> pipe,
+                                                             std::chrono::milliseconds limit)
 {
-    const std::shared_ptr<DevToolsConnection> connection(new DevToolsConnection);
-    bool failed = false;
-    QObject::connect(&connection->mSocket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error),
-                     connection.get(), [&failed] { failed = true; });
-    connection->mSocket.open(endpoint);
-    turnLoop([&] { return connection->mOpen || failed; }, QDeadlineTimer(limit));
-    QObject::disconnect(&connection->mSocket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error), nullptr,
-                        nullptr);
-    return connection->mOpen ? connection : nullptr;
+    const std::shared_ptr<DevToolsConnection> connection(new DevToolsConnection(std::move(pipe)));
+    DevToolsConnection *self = connection.get();
+    self->write({}, "Target.attachToBrowserTarget"_L1, {}, [self](const Answer &answer) {
+        self->mRoot = answer.result[u"sessionId"].toString();
+        self->mSessions.insert(self->mRoot);
+        self->mOpen = !self->mRoot.isEmpty();
+    });
+    turnLoop([&] { return self->mOpen || !self->mPipe->isOpen(); }, QDeadlineTimer(limit));
+    return self->mOpen ? connection : nullptr;
 }
 
 void DevToolsConnection::send(const QString &session, QLatin1StringView method, const QJsonObject &params, Then then)
 {
-    const qint64 id = ++mLastId;
+    write(session.isEmpty() ? mRoot : session, method, params, std::move(then));
+    if (!mOpen)
+        QMetaObject::invokeMethod(this, &DevToolsConnection::end, Qt::QueuedConnection);
+}
+
+void DevToolsConnection::write(const QString &session, QLatin1StringView method, const QJsonObject &params, Then then)
+{
+    const qint64 id = mPipe->nextId();
     QJsonObject message{{u"id"_s, id}, {u"method"_s, method}};
     if (!params.isEmpty())
         message.insert(u"params"_s, params);
@@ -64,10 +68,7 @@ void DevToolsConnection::send(const QString &session, QLatin1StringView method, 
         message.insert(u"sessionId"_s, session);
     if (then)
         mPending.emplace(id, std::move(then));
-    if (mOpen)
-        mSocket.sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
-    else
-        QMetaObject::invokeMethod(this, &DevToolsConnection::end, Qt::QueuedConnection);
+    mPipe->send(message);
 }
 
 QJsonObject DevToolsConnection::call(const QString &session, QLatin1StringView method, const QJsonObject &params,
@@ -101,17 +102,17 @@ bool DevToolsConnection::waitUntil(const std::function<bool()> &done, QDeadlineT
 
 void DevToolsConnection::abandon()
 {
-    QObject::disconnect(&mSocket, nullptr, this, nullptr);
+    if (std::exchange(mOpen, false) && mPipe->isOpen())
+        write({}, "Target.detachFromTarget"_L1, {{u"sessionId"_s, mRoot}}, {});
+    QObject::disconnect(mPipe.get(), nullptr, this, nullptr);
     QObject::disconnect(this, nullptr, nullptr, nullptr);
     mPending.clear();
     mInbox.clear();
-    mOpen = false;
-    mSocket.abort();
 }
 
-void DevToolsConnection::enqueue(const QString &message)
+void DevToolsConnection::enqueue(std::optional<QJsonObject> message)
 {
-    mInbox.push_back(message);
+    mInbox.push_back(std::move(message));
     QMetaObject::invokeMethod(this, &DevToolsConnection::handleNext, Qt::QueuedConnection);
 }
 
@@ -121,27 +122,39 @@ void DevToolsConnection::handleNext()
     if (mInbox.empty())
         return;
     const auto self = shared_from_this();
-    const QString message = std::exchange(mInbox.front(), QString());
+    const std::optional<QJsonObject> message = std::exchange(mInbox.front(), std::nullopt);
     mInbox.pop_front();
-    if (message.isNull())
+    if (!message)
         end();
+    else if (message->contains(u"id"))
+        handle(*message);
     else
-        handle(QJsonDocument::fromJson(message.toUtf8()).object());
+        handleEvent(*message);
 }
 
 void DevToolsConnection::handle(const QJsonObject &message)
 {
-    const QJsonValue id = message[u"id"];
-    if (id.isUndefined()) {
-        Q_EMIT event(message[u"sessionId"].toString(), message[u"method"].toString(), message[u"params"].toObject());
-        return;
-    }
-    const auto pending = mPending.find(id.toInteger());
+    const auto pending = mPending.find(message[u"id"].toInteger());
     if (pending == mPending.end())
         return;
     const Then then = std::move(pending->second);
     mPending.erase(pending);
     then({.result = message[u"result"].toObject(), .error = message[u"error"][u"message"].toString()});
+}
+
+// What is told to sessions of other conversations is none of ours.
+void DevToolsConnection::handleEvent(const QJsonObject &message)
+{
+    const QString session = message[u"sessionId"].toString();
+    if (!mSessions.contains(session))
+        return;
+    const QString method = message[u"method"].toString();
+    const QJsonObject params = message[u"params"].toObject();
+    if (method == "Target.attachedToTarget"_L1)
+        mSessions.insert(params[u"sessionId"].toString());
+    else if (method == "Target.detachedFromTarget"_L1)
+        mSessions.remove(params[u"sessionId"].toString());
+    Q_EMIT event(session == mRoot ? QString() : session, method, params);
 }
 
 // Whoever still waits for an answer gets one.

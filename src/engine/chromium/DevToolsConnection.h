@@ -1,19 +1,23 @@
-// One WebSocket to a browser's DevTools endpoint: commands with their answers, and the browser's events. Knows the form
-// of the messages and none of their meanings.
+// One conversation with a browser over its DevTools protocol: commands with their answers, and the browser's events. Of
+// the messages' meanings it knows what keeps conversations apart: each has a session of the browser's own, and with it
+// end all sessions that came from it.
 //
 // Everything that comes in is handled from the event loop, one message at a time and in order, never inside the
-// socket's own signals: a handler may start a wait of its own. Held by a shared_ptr, because a wait keeps the object
+// pipe's own signals: a handler may start a wait of its own. Held by a shared_ptr, because a wait keeps the object
 // alive that it waits on.
 #pragma once
+
+#include "engine/chromium/DevToolsPipe.h"
 
 #include <QDeadlineTimer>
 #include <QJsonObject>
 #include <QObject>
-#include <QWebSocket>
+#include <QSet>
 #include <chrono>
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 
 class DevToolsConnection : public QObject, public std::enable_shared_from_this<DevToolsConnection>
@@ -30,8 +34,8 @@ class DevToolsConnection : public QObject, public std::enable_shared_from_this<D
     };
     using Then = std::function<void(const Answer &)>;
 
-    /// Connects and waits for it; nothing when the endpoint does not answer within `limit`.
-    [[nodiscard]] static std::shared_ptr<DevToolsConnection> open(const QUrl &endpoint,
+    /// Begins a conversation and waits for it; nothing when the browser does not answer within `limit`.
+    [[nodiscard]] static std::shared_ptr<DevToolsConnection> open(std::shared_ptr<DevToolsPipe> pipe,
                                                                   std::chrono::milliseconds limit);
     ~DevToolsConnection() override;
 
@@ -58,16 +62,19 @@ class DevToolsConnection : public QObject, public std::enable_shared_from_this<D
     void idle();
 
   private:
-    DevToolsConnection();
-    void enqueue(const QString &message);
+    explicit DevToolsConnection(std::shared_ptr<DevToolsPipe> pipe);
+    void write(const QString &session, QLatin1StringView method, const QJsonObject &params, Then then);
+    void enqueue(std::optional<QJsonObject> message);
     void handleNext();
     void handle(const QJsonObject &message);
+    void handleEvent(const QJsonObject &message);
     void end();
 
-    QWebSocket mSocket;
+    const std::shared_ptr<DevToolsPipe> mPipe;
+    QString mRoot;           // our session of the browser itself
+    QSet<QString> mSessions; // that one and all that came from it
     bool mOpen = false;
     int mWaits = 0;
-    qint64 mLastId = 0;
     std::unordered_map<qint64, Then> mPending;
-    std::deque<QString> mInbox; // a null text stands for the end of the connection
+    std::deque<std::optional<QJsonObject>> mInbox; // nothing stands for the end of the pipe
 };

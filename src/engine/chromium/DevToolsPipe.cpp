@@ -1,0 +1,44 @@
+#include "engine/chromium/DevToolsPipe.h"
+
+#include <QJsonDocument>
+#include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+
+DevToolsPipe::DevToolsPipe(std::unique_ptr<QLocalSocket> socket) : mSocket(std::move(socket))
+{
+    if (!mSocket)
+        return;
+    connect(mSocket.get(), &QLocalSocket::readyRead, this, &DevToolsPipe::read);
+    connect(mSocket.get(), &QLocalSocket::disconnected, this, &DevToolsPipe::ended);
+    send({{u"id"_s, nextId()}, {u"method"_s, u"Browser.getVersion"_s}}); // its answer is the sign of life
+}
+
+DevToolsPipe::~DevToolsPipe()
+{
+    if (mSocket)
+        mSocket->disconnect(this);
+}
+
+void DevToolsPipe::send(const QJsonObject &message)
+{
+    if (isOpen())
+        mSocket->write(QJsonDocument(message).toJson(QJsonDocument::Compact) + '\0');
+}
+
+void DevToolsPipe::read()
+{
+    mUnread += mSocket->readAll();
+    const QPointer<DevToolsPipe> self(this);
+    qsizetype from = 0;
+    for (qsizetype end = mUnread.indexOf('\0', mSearched); end >= 0; end = mUnread.indexOf('\0', from)) {
+        const QByteArray message = mUnread.mid(from, end - from);
+        from = end + 1;
+        mAwake = true;
+        Q_EMIT received(QJsonDocument::fromJson(message).object());
+        if (!self)
+            return;
+    }
+    mUnread.remove(0, from);
+    mSearched = mUnread.size();
+}
