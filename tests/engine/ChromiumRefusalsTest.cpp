@@ -1,5 +1,6 @@
 // Nothing on a page stops the free-standing browser: each of these ends in a page that can be read.
 #include "ChromiumFixture.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QSslKey>
@@ -115,7 +116,7 @@ TEST_F(ChromiumRefusals, PermissionsAreDenied)
 
 TEST_F(ChromiumRefusals, AWrongCertificateEndsInAnErrorPage)
 {
-    QFile file(QStringLiteral(TRAWLEX_SOURCE_DIR "/tests/engine/webengine_certificate.pem"));
+    QFile file(inSourceTree(QStringLiteral("tests/engine/webengine_certificate.pem")));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray pem = file.readAll();
     QSslConfiguration configuration;

@@ -2,6 +2,7 @@
 #include "WebEngineFixture.h"
 #include "engine/Platform.h"
 #include "engine/webengine/WebEngineStage.h"
+#include "support/Places.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -205,7 +206,7 @@ TEST_F(WebEngineRefusals, PermissionsAreDenied)
 
 TEST_F(WebEngineRefusals, AWrongCertificateEndsInAnErrorPage)
 {
-    QFile file(QStringLiteral(TRAWLEX_SOURCE_DIR "/tests/engine/webengine_certificate.pem"));
+    QFile file(inSourceTree(QStringLiteral("tests/engine/webengine_certificate.pem")));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray pem = file.readAll();
     QSslConfiguration configuration;

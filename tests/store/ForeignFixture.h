@@ -2,6 +2,7 @@
 #pragma once
 
 #include "StoreFixture.h"
+#include "support/Places.h"
 
 #include <QFile>
 
@@ -11,7 +12,7 @@ class ForeignTest : public StoreTest
     // A real file, or nothing where the samples are not there.
     [[nodiscard]] static QString sample(const QString &name)
     {
-        const QString path = QStringLiteral(TRAWLEX_SOURCE_DIR "/../shared/mdb/") + name;
+        const QString path = inSourceTree(QStringLiteral("../shared/mdb/") + name);
         return QFile::exists(path) ? path : QString();
     }
     [[nodiscard]] static QByteArray contentOf(const QString &path)

@@ -4,6 +4,7 @@
 #include "store/FixNull.h"
 #include "store/foreign/TextForms.h"
 #include "store/sqlite/Connection.h"
+#include "support/Places.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -167,7 +168,7 @@ TEST_F(ForeignTest, TheTablesOfAnotherProgramStandBetweenItsOwn)
 
 TEST_F(ForeignTest, ADamagedFileIsAnErrorOrItsRowsAndNeverACrash)
 {
-    const QDir folder(QStringLiteral(TRAWLEX_SOURCE_DIR "/../shared/mdb"));
+    const QDir folder(inSourceTree(QStringLiteral("../shared/mdb")));
     const QStringList names = folder.entryList({u"*.mdb"_s, u"*.accdb"_s}, QDir::Files);
     if (names.isEmpty())
         GTEST_SKIP() << "the sample files are not here";

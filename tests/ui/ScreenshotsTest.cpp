@@ -1,6 +1,7 @@
 // Takes the pictures of docs/images. Not a test, so it runs only when asked for:
 //   QT_SCALE_FACTOR=2 test_ui --gtest_also_run_disabled_tests --gtest_filter='*Screenshots*'
 #include "WindowFixture.h"
+#include "support/Places.h"
 #include "ui/look/Theme.h"
 
 #include <QApplication>
@@ -18,7 +19,7 @@ struct DISABLED_Screenshots : WindowFixture
              {std::pair{Theme::Mode::Light, u"-light.png"_s}, {Theme::Mode::Dark, u"-dark.png"_s}}) {
             Theme::of(*qApp).setMode(mode);
             settle();
-            const QDir images(QStringLiteral(TRAWLEX_SOURCE_DIR "/docs/images"));
+            const QDir images(inSourceTree(u"docs/images"_s));
             EXPECT_TRUE(images.mkpath(u"."_s));
             EXPECT_TRUE(window.grab().save(images.filePath(name + ending)));
         }
