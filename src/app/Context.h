@@ -5,6 +5,7 @@
 #include "app/Ports.h"
 #include "app/StatusLine.h"
 #include "app/Tips.h"
+#include "util/Errors.h"
 
 struct Context
 {

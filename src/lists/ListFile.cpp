@@ -1,0 +1,53 @@
+#include "lists/ListFile.h"
+
+#include "util/ColumnText.h"
+#include "util/FileNames.h"
+#include "util/TextFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+ListFile::Content ListFile::read(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.isFile())
+        return {{}, u"No such file"_s};
+    if (!file.isReadable())
+        return {{}, u"File can not be read"_s};
+    if (file.size() > longest)
+        return {{}, u"Size > %1 MB"_s.arg(longest / 1024 / 1024)};
+    Content content;
+    const QString text = cUtility::LoadTextFile(path);
+    for (QStringView line : QStringView(text).tokenize(u'\n')) {
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+        if (!line.isEmpty())
+            content.lines.append(cUtility::asColumnText(line.toString()));
+    }
+    return content;
+}
+
+QString ListFile::proposal(const QString &directory, const QString &base)
+{
+    QString name = base;
+    for (const QChar unfit : u"./:\\"_s) // dots by rule, the others because no file name holds them
+        name.remove(unfit);
+    return cUtility::GetVacantFileSpecs(directory + (name.isEmpty() ? u"UrlExport"_s : name) + "-0.txt"_L1);
+}
+
+bool ListFile::append(const QString &path, const QStringList &items)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::Append))
+        return false;
+    const qint64 before = file.size();
+    QByteArray bytes;
+    for (const QString &item : items)
+        bytes += item.toUtf8() + "\r\n";
+    if (file.write(bytes) == bytes.size() && file.flush())
+        return true;
+    file.resize(before);
+    return false;
+}

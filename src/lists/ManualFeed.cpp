@@ -1,0 +1,157 @@
+#include "lists/ManualFeed.h"
+
+#include "controls/cLstBx.h"
+#include "lists/ListFile.h"
+#include "pages/Addresses.h"
+#include "util/Arrays.h"
+#include "util/ColumnText.h"
+#include "util/Text.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr auto module = "frmSearch"_L1;
+constexpr int uniqueServersOption = 9;
+constexpr auto invalidUrl = "InValid Url"_L1;
+constexpr auto cancelled = "Cancelled"_L1;
+
+/// The lines of a text, ended by CR LF or LF.
+QStringList linesOf(QString text)
+{
+    return text.replace("\r\n"_L1, "\n"_L1).split(u'\n', Qt::SkipEmptyParts);
+}
+
+/// What was typed, dropped or pasted, as an item.
+QString asItem(const QString &text)
+{
+    return cUtility::asColumnText(cUtility::MultipleLinesToSingle(text));
+}
+
+bool isFile(const QString &line)
+{
+    const QFileInfo file(line);
+    return file.isAbsolute() && file.isFile();
+}
+} // namespace
+
+QString ManualFeed::LoadBrowserLinks(int index)
+{
+    ListBox &list = mDesk.list(index);
+    guarded(mContext.log, {module, "Function LoadBrowserLinks"_L1}, [&] {
+        const ManualLock lock(mDesk);
+        mContext.status.UpDateStatus(u"Loading"_s);
+        mWork.letEventsIn();
+        QStringList links = mLinks.DiscoverLinks(mDesk.usesSiteData() ? DiscoveredLinks::Use::SiteData
+                                                                      : DiscoveredLinks::Use::AllLinks);
+        if (firstOf(links).isEmpty())
+            return;
+        if (mOptions.chkSMA(uniqueServersOption).value() == 1)
+            links = cIEText::GetUniqueServers(links);
+        cLstBx::PopulateListBox(list, links, true, false);
+    });
+    return u"%1 loaded %2"_s.arg(list.listCount()).arg(mDesk.listName(index));
+}
+
+/// The lines that are links; none once the user has cancelled.
+QStringList ManualFeed::links(const QStringList &lines)
+{
+    QStringList found;
+    for (qsizetype at = 0; at < lines.size() && mWork.goOn(at, lines.size()); ++at) {
+        if (cIEText::IsThisEmailOrLink(lines[at], true) == cIEText::TextKind::Link)
+            found.append(lines[at]);
+    }
+    return mWork.isCancelled() ? QStringList() : found;
+}
+
+void ManualFeed::PasteEmailLinksTextToListBox(ListBox &list, const QString &delimiter, cIEText::TextKind wanted)
+{
+    guarded(mContext.log, {module, "Sub PasteEmailLinksTextToListBox"_L1}, [&] {
+        const QString text = mClipboard.text();
+        if (text.isEmpty())
+            return;
+        const bool byLines = delimiter == "\r\n"_L1;
+        const bool split = text.contains(delimiter) || (byLines && text.contains(u'\n'));
+        const QStringList pieces = !split    ? QStringList{text}
+                                   : byLines ? linesOf(text)
+                                             : text.split(delimiter, Qt::SkipEmptyParts);
+        QStringList added;
+        {
+            const ManualLock lock(mDesk);
+            const bool all = mDesk.usesBase();
+            for (qsizetype at = 0; at < pieces.size() && mWork.goOn(at, pieces.size()); ++at) {
+                const QString item = asItem(pieces[at]);
+                if (all || cIEText::IsThisEmailOrLink(item, true) == wanted)
+                    added.append(item);
+            }
+            if (!mWork.isCancelled())
+                list.addItems(added);
+        }
+        mContext.states.SetStateOfControls();
+        // The count tells of pieces: a single text that was not split counts as none.
+        mDesk.ShowCount(mWork.isCancelled() ? QString(cancelled) : u" %1 added"_s.arg(split ? added.size() : 0));
+    });
+}
+
+QString ManualFeed::addDropped(ListBox &list, const QString &text)
+{
+    QStringList lines = linesOf(text);
+    if (!lines.isEmpty() && std::all_of(lines.begin(), lines.end(), isFile)) {
+        QStringList read;
+        for (const QString &path : lines)
+            read += ListFile::read(path).lines;
+        lines = read;
+    }
+    QString message;
+    QSet<QString> known;
+    for (const QString &item : list.items())
+        known.insert(cUtility::lowered(item));
+    QStringList added;
+    const bool all = mDesk.usesBase();
+    for (qsizetype at = 0; at < lines.size() && mWork.goOn(at, lines.size()); ++at) {
+        const QString item = asItem(lines[at]);
+        if (!all && cIEText::IsThisEmailOrLink(item, true) != cIEText::TextKind::Link) {
+            message = invalidUrl;
+            continue;
+        }
+        const auto before = known.size();
+        known.insert(cUtility::lowered(item));
+        if (known.size() != before)
+            added.append(item);
+    }
+    if (mWork.isCancelled())
+        return cancelled;
+    list.addItems(added);
+    return message;
+}
+
+void ManualFeed::drop(int index, const QString &text)
+{
+    guarded(mContext.log, {module, "Sub lstMN_OLEDragDrop"_L1}, [&] {
+        QString message = u"(AutoIncr ON)"_s;
+        const bool worked = mWork.run(u"Please Wait"_s, [&] {
+            if (mDesk.GetAutoIncrChecked() > 0)
+                return;
+            const ManualLock lock(mDesk);
+            message = addDropped(mDesk.list(index), text);
+        });
+        if (!worked)
+            return;
+        mContext.states.SetStateOfControls();
+        mDesk.ShowCountMN(index, message);
+    });
+}
+
+QString ManualFeed::loadFile(ListBox &list, const QString &path)
+{
+    const ListFile::Content content = ListFile::read(path);
+    if (!content.fault.isEmpty())
+        return content.fault;
+    const QStringList wanted = mDesk.usesBase() ? content.lines : links(content.lines);
+    if (mWork.isCancelled())
+        return cancelled;
+    cLstBx::PopulateListBox(list, cUtility::RemoveRepeatsFromArray(wanted), true, false);
+    return wanted.isEmpty() ? QString(invalidUrl) : QString();
+}
