@@ -1,15 +1,17 @@
 // Names for rows of the tables that have a MaskName: the first of a numbered row of names that the table has not yet.
 // The rule asks the table for one name after the other from the start; the answers here are the same, and a table that
-// only grows is read once.
+// only grows is not read again: not after another program has added to it, nor in a later run (see GrowthMarks).
 #pragma once
 
 #include <QHash>
-#include <QSet>
 #include <QString>
 #include <memory>
+#include <optional>
+#include <vector>
 
 class Connection;
 class cAdoMdb;
+struct TableInfo;
 
 /// The names that a table has when this is made. Told apart without regard to case, as the table does.
 class MaskNames
@@ -21,8 +23,14 @@ class MaskNames
     [[nodiscard]] QString next();
 
   private:
-    QSet<QString> mTaken;
+    [[nodiscard]] std::optional<quint64> numberIn(const QString &name) const;
+    [[nodiscard]] bool isTaken(const QString &name) const;
+
     QString mCandidate;
+    // What stands around the number of all candidates; the numbers that the table has there, in order.
+    QString mBeginning;
+    QString mEnding;
+    std::vector<quint64> mTaken;
 };
 
 /// Answers for many tables over time.
@@ -41,10 +49,14 @@ class NewMaskNames
         quint64 revision = 0;
         quint64 rollBacks = 0;
         qint64 outsideVersion = 0;
+        qint64 mark = 0;
+        int stepsBehindMark = 0;
         QString candidate;
     };
-    [[nodiscard]] static Known stateOf(const std::shared_ptr<Connection> &connection, const QString &table);
     [[nodiscard]] static bool isTaken(cAdoMdb &database, const QString &table, const QString &name);
+    [[nodiscard]] static bool holds(const Known &known, const std::shared_ptr<Connection> &connection,
+                                    const TableInfo &table);
+    void learn(Known &known, cAdoMdb &database, const TableInfo &table, const QString &start);
 
     QHash<QString, Known> mKnown;
 };

@@ -1,24 +1,19 @@
 #include "store/SiteSummaryIndex.h"
 #include "store/AdoErrors.h"
 #include "store/cAdoMdb.h"
-#include "store/sqlite/Connection.h"
+#include "store/rows/GrowthMarks.h"
+#include "store/rows/SummaryKeys.h"
 #include "util/Text.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr qint64 noRow = std::numeric_limits<qint64>::max();
+// More rows than these move into the kept index.
+constexpr std::size_t longestTail = 100;
 
-quint64 hashOf(const QString &text)
+QString markName()
 {
-    static_assert(sizeof(std::size_t) == sizeof(quint64));
-    return qHash(QStringView(text), std::size_t(0x9E3779B97F4A7C15));
-}
-
-const QString &summaryTable()
-{
-    static const QString name = u"SiteSummary"_s;
-    return name;
+    return u"Keys"_s;
 }
 } // namespace
 
@@ -26,6 +21,7 @@ struct SiteSummaryIndex::Keys
 {
     QString key;
     QString server;
+    [[nodiscard]] bool operator==(const Keys &) const = default;
 };
 
 SiteSummaryIndex::SiteSummaryIndex(ServerOf serverOf) : mServerOf(std::move(serverOf)) {}
@@ -36,64 +32,135 @@ qint64 SiteSummaryIndex::find(cAdoMdb &database, const QString &key, const QStri
     const std::shared_ptr<Connection> &connection = database.connection();
     if (!connection)
         throw AdoError::error(AdoError::ConnectionClosed);
-    refresh(connection);
+    const auto table = connection->requireTable(u"SiteSummary"_s);
     const Keys keys{cUtility::lowered(key), cUtility::lowered(keyServer)};
-    const qint64 row = std::min(candidate(keys.key), candidate(keys.server));
-    if (row == noRow)
-        return notFound;
-    // Two texts of one hash would give a row that does not match; then the rows themselves are asked.
-    return rowMatches(*connection, row, keys) ? row : walk(*connection, keys);
+    if (!refresh(connection, *table))
+        return walk(*connection, *table, keys);
+    if (!mAsked || *mAsked != keys) {
+        mAnswer = search(*connection, *table, keys);
+        mAsked = std::make_unique<Keys>(keys);
+    }
+    return mAnswer;
 }
 
-void SiteSummaryIndex::refresh(const std::shared_ptr<Connection> &connection)
+bool SiteSummaryIndex::refresh(const std::shared_ptr<Connection> &connection, const TableInfo &table)
 {
-    const TableChanges changes = *connection->requireTable(summaryTable())->changes;
-    const State now{changes.revision, connection->rollBacks(), connection->outsideVersion()};
-    const bool same = mConnection.lock() == connection && mState == now;
-    if (same && mAdditions == changes.additions)
-        return;
+    const bool upToDate = isUpToDate(connection, table);
+    const State now{table.changes->revision, connection->rollBacks(), connection->outsideVersion(), mState.mark};
+    const quint64 additions = table.changes->additions;
+    if (upToDate && now == mState && mAdditions == additions)
+        return true;
     // Forgotten first, so that a fault half-way leaves nothing that looks up to date.
     mConnection.reset();
-    if (!same) {
-        mFirstRows.clear();
-        mLastRow = std::numeric_limits<qint64>::min();
-    }
-    takeRows(*connection);
-    mState = now;
-    mAdditions = changes.additions;
+    mAsked.reset();
+    if (!upToDate && !beginTail(*connection, table))
+        return false;
+    takeRows(*connection, table);
+    if (mTail.size() > longestTail && connection->inTransaction())
+        moveTail(*connection, table);
+    mState = {now.revision, now.rollBacks, now.outsideVersion, mState.mark};
+    mAdditions = additions;
     mConnection = connection;
+    return true;
 }
 
-void SiteSummaryIndex::takeRows(Connection &connection)
+/// True if what is known of the rows holds, whatever was added behind them.
+bool SiteSummaryIndex::isUpToDate(const std::shared_ptr<Connection> &connection, const TableInfo &table) const
 {
-    const auto table = connection.requireTable(summaryTable());
-    // All rows come from the index of the addresses, in its order; a few new ones from the table's end.
-    const bool all = mFirstRows.isEmpty();
-    const std::string text = "SELECT " + table->key + ",[Url] FROM " + table->quoted;
-    Statement rows = connection.prepare(all ? text : text + " WHERE " + table->key + ">?1");
-    if (!all)
-        rows.bind(1, mLastRow);
+    if (mConnection.lock() != connection || mState.revision != table.changes->revision ||
+        mState.rollBacks != connection->rollBacks())
+        return false;
+    if (mState.outsideVersion == connection->outsideVersion())
+        return true;
+    const auto mark = GrowthMarks(*connection, table).read(markName());
+    return mark && mark->id == mState.mark;
+}
+
+/// Starts anew behind the last row of the kept index, which is made where it is missing.
+bool SiteSummaryIndex::beginTail(Connection &connection, const TableInfo &table)
+{
+    SummaryKeys keys(connection, table);
+    GrowthMarks marks(connection, table);
+    auto mark = marks.read(markName());
+    const bool complete = keys.exist() && mark;
+    if (!complete && (!connection.inTransaction() || connection.isReadOnly()))
+        return false;
+    if (!keys.exist())
+        makeKeys(connection, table);
+    if (!mark)
+        mark = marks.set(markName(), {});
+    mTail.clear();
+    mTailRows.clear();
+    mLastRow = keys.lastRow();
+    mState.mark = mark->id;
+    return true;
+}
+
+void SiteSummaryIndex::makeKeys(Connection &connection, const TableInfo &table) const
+{
+    SummaryKeys keys(connection, table);
+    keys.make();
+    {
+        Statement rows = connection.prepare("SELECT " + table.key + ",[Url] FROM " + table.quoted);
+        while (rows.step()) {
+            const QString url = rows.text(1);
+            keys.add(rows.integer(0), SummaryKeys::keyOf(cUtility::lowered(url)),
+                     SummaryKeys::keyOf(cUtility::lowered(mServerOf(url))));
+        }
+    }
+    keys.finish();
+}
+
+void SiteSummaryIndex::takeRows(Connection &connection, const TableInfo &table)
+{
+    Statement rows = connection.prepare("SELECT " + table.key + ",[Url] FROM " + table.quoted + " WHERE " + table.key +
+                                        ">?1 ORDER BY " + table.key);
+    rows.bind(1, mLastRow);
     while (rows.step()) {
-        const qint64 row = rows.integer(0);
         const QString url = rows.text(1);
-        mLastRow = std::max(mLastRow, row);
-        note(cUtility::lowered(url), row);
-        note(cUtility::lowered(mServerOf(url)), row);
+        mLastRow = rows.integer(0);
+        mTail.push_back({mLastRow, SummaryKeys::keyOf(cUtility::lowered(url)),
+                         SummaryKeys::keyOf(cUtility::lowered(mServerOf(url)))});
+        mTailRows.insert(mTail.back().urlKey, mLastRow);
+        mTailRows.insert(mTail.back().serverKey, mLastRow);
     }
 }
 
-void SiteSummaryIndex::note(const QString &text, qint64 row)
+void SiteSummaryIndex::moveTail(Connection &connection, const TableInfo &table)
 {
-    const auto place = mFirstRows.find(hashOf(text));
-    if (place == mFirstRows.end())
-        mFirstRows.insert(hashOf(text), row);
-    else
-        *place = std::min(*place, row);
+    SummaryKeys keys(connection, table);
+    for (const TailRow &row : mTail)
+        keys.add(row.row, row.urlKey, row.serverKey);
+    mTail.clear();
+    mTailRows.clear();
 }
 
-qint64 SiteSummaryIndex::candidate(const QString &text) const
+qint64 SiteSummaryIndex::firstInTail(quint32 key, qint64 after) const
 {
-    return mFirstRows.value(hashOf(text), noRow);
+    qint64 first = SummaryKeys::noRow;
+    const auto [begin, end] = mTailRows.equal_range(key);
+    for (auto row = begin; row != end; ++row) {
+        if (*row > after)
+            first = std::min(first, *row);
+    }
+    return first;
+}
+
+qint64 SiteSummaryIndex::search(Connection &connection, const TableInfo &table, const Keys &keys) const
+{
+    const quint32 key = SummaryKeys::keyOf(keys.key);
+    const quint32 server = SummaryKeys::keyOf(keys.server);
+    SummaryKeys index(connection, table);
+    for (qint64 after = std::numeric_limits<qint64>::min();;) {
+        qint64 row = index.firstRow(key, server, after);
+        if (row == SummaryKeys::noRow)
+            row = std::min(firstInTail(key, after), firstInTail(server, after));
+        if (row == SummaryKeys::noRow)
+            return notFound;
+        if (rowMatches(connection, table, row, keys))
+            return row;
+        after = row;
+    }
 }
 
 bool SiteSummaryIndex::matches(const QString &url, const Keys &keys) const
@@ -105,18 +172,16 @@ bool SiteSummaryIndex::matches(const QString &url, const Keys &keys) const
     return keys.key == rowServer || keys.server == rowServer;
 }
 
-bool SiteSummaryIndex::rowMatches(Connection &connection, qint64 row, const Keys &keys) const
+bool SiteSummaryIndex::rowMatches(Connection &connection, const TableInfo &table, qint64 row, const Keys &keys) const
 {
-    const auto table = connection.requireTable(summaryTable());
-    Statement url = connection.prepare("SELECT [Url] FROM " + table->quoted + " WHERE " + table->key + "=?1");
+    Statement url = connection.prepare("SELECT [Url] FROM " + table.quoted + " WHERE " + table.key + "=?1");
     return url.bind(1, row).step() && matches(url.text(0), keys);
 }
 
-qint64 SiteSummaryIndex::walk(Connection &connection, const Keys &keys) const
+qint64 SiteSummaryIndex::walk(Connection &connection, const TableInfo &table, const Keys &keys) const
 {
-    const auto table = connection.requireTable(summaryTable());
     Statement rows =
-        connection.prepare("SELECT " + table->key + ",[Url] FROM " + table->quoted + " ORDER BY " + table->key);
+        connection.prepare("SELECT " + table.key + ",[Url] FROM " + table.quoted + " ORDER BY " + table.key);
     while (rows.step()) {
         if (matches(rows.text(1), keys))
             return rows.integer(0);

@@ -1,13 +1,10 @@
 // The search for a page's summary row, against the walk that it stands for.
-#include "StoreFixture.h"
+#include "RandomWriters.h"
 #include "store/AdoErrors.h"
 #include "store/SiteSummaryIndex.h"
-#include "store/Transaction.h"
+#include "store/rows/SummaryKeys.h"
+#include "store/sqlite/Connection.h"
 #include "util/Text.h"
-
-#include <QFile>
-#include <random>
-#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
@@ -155,27 +152,114 @@ TEST_F(SummaryIndexTest, AnotherDatabaseIsReadAnew)
     EXPECT_THROW(static_cast<void>(mIndex.find(*mDatabase, u"a"_s, u"b"_s)), RuntimeError);
 }
 
-TEST_F(SummaryIndexTest, EqualsTheWalkOnRandomTables)
+namespace {
+QString anyOf(std::mt19937 &random, const QStringList &list)
 {
-    std::mt19937 random(4711);
-    const QStringList servers{u"a.de"_s, u"A.de"_s, u"b.de"_s, u"www.a.de"_s, u""_s, u"ä.de"_s, u"Ä.DE"_s};
-    const QStringList forms{u"http://%1/"_s, u"%1"_s, u"http://%1/p%2"_s, u"HTTPS://%1/p%2/q"_s, u"%1/p%2"_s, u""_s};
-    const auto any = [&](const QStringList &list) {
-        return list[static_cast<qsizetype>(random() % unsigned(list.size()))];
-    };
-    const auto address = [&] {
-        QString form = any(forms);
-        return form.replace("%1"_L1, any(servers)).replace("%2"_L1, QString::number(random() % 3));
-    };
-    Transaction all(*mDatabase);
-    for (int step = 0; step < 600; ++step) {
-        const unsigned what = random() % 10;
-        if (what < 5)
-            addPage(address());
-        else if (what == 5 && random() % 4 == 0)
-            mDatabase->DeleteRecords(u"SiteSummary"_s, u"Index"_s, QString::number(random() % 100), true);
-        else
-            static_cast<void>(find(address(), random() % 2 == 0 ? QString() : any(servers)));
+    return list[static_cast<qsizetype>(random() % unsigned(list.size()))];
+}
+
+QString anyServer(std::mt19937 &random)
+{
+    return anyOf(random, {u"a.de"_s, u"A.de"_s, u"b.de"_s, u"www.a.de"_s, u""_s, u"ä.de"_s, u"Ä.DE"_s});
+}
+
+QString anyAddress(std::mt19937 &random)
+{
+    QString form =
+        anyOf(random, {u"http://%1/"_s, u"%1"_s, u"http://%1/p%2"_s, u"HTTPS://%1/p%2/q"_s, u"%1/p%2"_s, u""_s});
+    return form.replace("%1"_L1, anyServer(random)).replace("%2"_L1, QString::number(random() % 300));
+}
+} // namespace
+
+TEST_F(SummaryIndexTest, EqualsTheWalkWhateverHappensToTheTable)
+{
+    for (unsigned seed = 0; seed < 3; ++seed) {
+        mDatabase = created(u"random-%1.mdb"_s.arg(seed));
+        auto index = std::make_unique<SiteSummaryIndex>(serverOf);
+        RandomWriters writers(mDatabase, u"SiteSummary"_s, u"Url"_s, seed, anyAddress);
+        for (int step = 0; step < 700; ++step) {
+            if (writers.step())
+                index = std::make_unique<SiteSummaryIndex>(serverOf);
+            const QString key = anyAddress(writers.random());
+            const QString server = writers.random()() % 2 == 0 ? QString() : anyServer(writers.random());
+            ASSERT_EQ(index->find(*mDatabase, key, server), plainWalk(*mDatabase, key, server))
+                << "seed " << seed << ", step " << step << ": " << key.toStdString() << " " << server.toStdString();
+        }
     }
-    EXPECT_TRUE(all.commit());
+}
+
+TEST_F(SummaryIndexTest, TheIndexIsKeptAndALaterRunReadsOnlyWhatWasAddedBehindIt)
+{
+    int asked = 0;
+    const auto countingServerOf = [&](const QString &url) {
+        ++asked;
+        return serverOf(url);
+    };
+    const auto addPages = [&](int count) {
+        Transaction pages(*mDatabase);
+        for (int page = 0; page < count; ++page)
+            addPage(u"http://s%1.de/p"_s.arg(page));
+        EXPECT_TRUE(pages.commit());
+    };
+    addPages(5000);
+    {
+        Transaction page(*mDatabase);
+        SiteSummaryIndex first(countingServerOf);
+        EXPECT_EQ(first.find(*mDatabase, u"s77.de"_s, u"x"_s), 78);
+        EXPECT_GT(asked, 5000);
+        EXPECT_TRUE(page.commit());
+    }
+    addPages(30);
+    mDatabase->CloseConnection();
+    ASSERT_TRUE(mDatabase->TestDatabase(true)) << "the index is no table of the user's " << mLog.text();
+    asked = 0;
+    SiteSummaryIndex later(countingServerOf);
+    EXPECT_EQ(later.find(*mDatabase, u"s77.de"_s, u"x"_s), 78);
+    EXPECT_LT(asked, 50);
+    asked = 0;
+    sqlite3 *other = nullptr;
+    ASSERT_EQ(sqlite3_open(mDatabase->DatabasePath().toUtf8().constData(), &other), SQLITE_OK);
+    sqlite3_exec(other, "INSERT INTO SiteSummary(Url) VALUES('http://n.de/')", nullptr, nullptr, nullptr);
+    EXPECT_EQ(later.find(*mDatabase, u"n.de"_s, u"x"_s), 5031);
+    EXPECT_LT(asked, 5) << "another program's row alone was read";
+    sqlite3_close(other);
+}
+
+TEST_F(SummaryIndexTest, OutsideATransactionNothingIsMade)
+{
+    addPage(u"http://a.de/"_s);
+    EXPECT_EQ(find(u"a.de"_s), 1);
+    const auto &connection = mDatabase->connection();
+    EXPECT_FALSE(connection->tableNames(false).join(u' ').contains(u"Sys"_s));
+    {
+        const Transaction takenBack(*mDatabase);
+        EXPECT_EQ(find(u"a.de"_s), 1);
+        EXPECT_TRUE(connection->tableNames(false).join(u' ').contains(u"SysSummaryKeys1"_s));
+    }
+    EXPECT_FALSE(connection->tableNames(false).join(u' ').contains(u"Sys"_s));
+    EXPECT_EQ(find(u"a.de"_s), 1);
+}
+
+TEST_F(SummaryIndexTest, ATableThatIsRemovedTakesItsIndexAlong)
+{
+    addPage(u"http://a.de/"_s);
+    Transaction page(*mDatabase);
+    EXPECT_EQ(find(u"a.de"_s), 1);
+    EXPECT_TRUE(page.commit());
+    const QStringList fields{u"Url"_s, u"Title"_s};
+    ASSERT_TRUE(mDatabase->RemoveTable(u"SiteSummary"_s));
+    ASSERT_TRUE(mDatabase->Tables_AddItem(u"SiteSummary"_s));
+    for (const QString &field : fields)
+        mDatabase->Fields_AddItem(field, -1, u"SiteSummary"_s);
+    ASSERT_TRUE(mDatabase->AddTable(u"SiteSummary"_s)) << mLog.text();
+    Transaction again(*mDatabase);
+    EXPECT_EQ(find(u"a.de"_s), -1);
+    addPage(u"http://b.de/"_s);
+    EXPECT_EQ(find(u"b.de"_s), 1);
+}
+
+TEST(SummaryKeys, AreTheSameOnEveryMachine)
+{
+    EXPECT_EQ(SummaryKeys::keyOf(u""_s), 1339080641U);
+    EXPECT_EQ(SummaryKeys::keyOf(u"www.example.de"_s), 6065168U);
 }

@@ -1,6 +1,8 @@
 #include "store/rows/Catalog.h"
 #include "store/AdoErrors.h"
 #include "store/rows/ColumnKinds.h"
+#include "store/rows/GrowthMarks.h"
+#include "store/rows/SummaryKeys.h"
 #include "store/sql/SqlTranslator.h"
 
 #include <algorithm>
@@ -60,6 +62,9 @@ void Catalog::dropTable(Connection &connection, const QString &name)
 {
     const auto table = connection.requireTable(name);
     ++table->changes->revision;
+    GrowthMarks(connection, *table).removeAll();
+    if (SummaryKeys keys(connection, *table); keys.exist())
+        keys.drop();
     connection.administer("DROP TABLE " + table->quoted);
 }
 

@@ -1,6 +1,8 @@
 #include "store/rows/RecordsetState.h"
 #include "store/AdoErrors.h"
 #include "store/rows/ColumnKinds.h"
+#include "store/rows/GrowthMarks.h"
+#include "store/rows/SummaryKeys.h"
 
 #include <algorithm>
 #include <numeric>
@@ -25,6 +27,15 @@ std::string columnList(const Query &query)
     for (const int column : query.columns)
         list.append(list.empty() ? "" : ",").append(query.table->columns[static_cast<std::size_t>(column)].quoted);
     return list;
+}
+
+// What is kept beside the table goes first: less than there is of it is never wrong.
+void removeAllRows(Connection &connection, const TableInfo &table)
+{
+    GrowthMarks(connection, table).removeAll();
+    if (SummaryKeys keys(connection, table); keys.exist())
+        keys.removeAll();
+    connection.empty(table);
 }
 } // namespace
 
@@ -52,13 +63,14 @@ Query prepareQuery(std::shared_ptr<Connection> connection, const SqlStatement &s
 
 void runDelete(const Query &query)
 {
-    const std::string head = "DELETE FROM " + query.table->quoted;
-    Statement statement =
-        query.connection->prepare(query.condition.empty() ? head : head + " WHERE 1" + query.condition);
-    if (!query.condition.empty())
-        statement.bind(1, query.value);
     ++query.table->changes->revision;
-    query.connection->change(statement);
+    if (query.condition.empty()) {
+        removeAllRows(*query.connection, *query.table);
+        return;
+    }
+    Statement statement =
+        query.connection->prepare("DELETE FROM " + query.table->quoted + " WHERE 1" + query.condition);
+    query.connection->change(statement.bind(1, query.value));
 }
 
 KeySet::KeySet(Query query) : mQuery(std::move(query)) {}

@@ -205,6 +205,16 @@ void Connection::administer(const std::string &text)
     mSteps.run([&] { mDatabase->exec(text); });
 }
 
+void Connection::empty(const TableInfo &table)
+{
+    // With a trigger the engine would remove row by row what it can let go at one stroke.
+    sqlite3 *handle = mDatabase->getHandle();
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    const auto restore = qScopeGuard([&] { sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 1, nullptr); });
+    Statement statement = prepare("DELETE FROM " + table.quoted);
+    change(statement);
+}
+
 QStringList Connection::administerTexts(const std::string &text)
 {
     const Privilege privilege(*this);
@@ -358,6 +368,8 @@ void Connection::rollBack() noexcept
         return;
     ++mRollBacks;
     --mDepth;
+    // Tables that were made in the transaction go with it.
+    mTables.clear();
     try {
         if (inTransaction() && mDepth == 0)
             static_cast<void>(prepare("ROLLBACK").run());

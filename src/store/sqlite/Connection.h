@@ -103,6 +103,8 @@ class Connection
     /// A number that changes when another program has changed the file. Inside a transaction of ours it stands still.
     [[nodiscard]] qint64 outsideVersion();
 
+    [[nodiscard]] bool inTransaction() const;
+
     // Transactions, one inside another. Used by Transaction only.
     /// Waits that many milliseconds for another program that writes. Error AdoError::Engine where the file cannot be
     /// locked for writing.
@@ -119,6 +121,8 @@ class Connection
     /// ended the transaction that is open, or where writes are refused: it would be written outside the transaction it
     /// belongs to. Outside a transaction the file must be at its place before and after it.
     int change(Statement &statement);
+    /// Removes all rows of a table, and runs no trigger of it.
+    void empty(const TableInfo &table);
 
     /// The first fault since the outermost transaction began.
     [[nodiscard]] StoreFault fault() const { return mSteps.firstFault(); }
@@ -131,7 +135,6 @@ class Connection
     explicit Connection(std::unique_ptr<SQLite::Database> database, const QString &path, Access access);
     void configure(Access access);
     [[nodiscard]] std::shared_ptr<const TableInfo> readTable(const QString &name);
-    [[nodiscard]] bool inTransaction() const;
     void beginOutermost(int patience);
     void commitOutermost();
     void requireLiveTransaction() const;
