@@ -79,7 +79,10 @@ QStringList rowOf(const QString &name, std::span<const FieldRun> fields)
 
 QString recordElement(QLatin1StringView field, const QString &value)
 {
-    return field + rowMarker + value;
+    // One piece of memory for all: values can be whole pages.
+    QString element;
+    element.reserve(field.size() + rowMarker.size() + value.size());
+    return element.append(field).append(rowMarker).append(value);
 }
 
 QList<QStringList> LoadTblFldNames()

@@ -6,7 +6,8 @@ using namespace Qt::StringLiterals;
 namespace {
 std::string inQuotes(const QString &text)
 {
-    return "'" + QString(text).replace(u'\'', "''"_L1).toStdString() + "'";
+    std::string quoted("'");
+    return quoted.append(QString(text).replace(u'\'', "''"_L1).toStdString()).append("'");
 }
 } // namespace
 

@@ -7,7 +7,6 @@
 #include <QScopeGuard>
 #include <QUrl>
 #include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Statement.h>
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -16,8 +15,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// The file itself and what SQLite keeps beside it while it is open.
-constexpr std::array filesOfADatabase{""_L1, "-wal"_L1, "-shm"_L1};
+// The file itself, and the log beside it that holds what was committed last.
+constexpr std::array filesWithRows{""_L1, "-wal"_L1};
 
 constexpr std::array allowedFunctions{"like", "max", "min", "count"};
 
@@ -34,7 +33,7 @@ bool isAllowedFunction(const char *name)
 
 std::unique_ptr<SQLite::Database> openFile(const std::string &name, int flags)
 {
-    auto database = std::make_unique<SQLite::Database>(name, flags, Connection::usualPatience);
+    auto database = std::make_unique<SQLite::Database>(name, flags | SQLite::OPEN_NOMUTEX, Connection::usualPatience);
     // The head is read now, so that a file that is no database is refused here.
     sqlite3_extended_result_codes(database->getHandle(), 1);
     database->exec("PRAGMA schema_version");
@@ -162,8 +161,8 @@ void Connection::prepareForWriting()
     administer("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000; PRAGMA schema_version");
     mSteps.forgetFaults();
     mPlace.clear();
-    for (const auto &ending : filesOfADatabase) {
-        const QString file = mSteps.path() + ending;
+    for (const auto &ending : filesWithRows) {
+        const QByteArray file = QFile::encodeName(mSteps.path() + ending);
         if (const auto identity = PlatformFiles::identityOf(file))
             mPlace.emplace_back(file, *identity);
     }
@@ -194,7 +193,7 @@ int Connection::authorize(void *self, int action, const char *first, const char 
 
 Statement Connection::prepare(const std::string &text)
 {
-    return {mStatements, mSteps, *mDatabase, text};
+    return {mStatements, mSteps, text};
 }
 
 void Connection::administer(const std::string &text)
@@ -358,7 +357,6 @@ void Connection::commitOutermost()
     // A row that the file refused is missing: what is left must not pass for the whole.
     if (fault() != StoreFault::None)
         fail(fault(), u"A part of the transaction could not be written."_s);
-    requireInPlace();
     static_cast<void>(prepare("COMMIT").run());
 }
 

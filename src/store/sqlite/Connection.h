@@ -1,5 +1,5 @@
 // One open database file: its prepared statements, what is known of its tables, its transaction, and what a statement
-// may do there. Held by everyone who still reads from it; the file is closed when the last one lets go.
+// may do there. Held by everyone who still reads from it; the file is closed when the last one lets go. For one thread.
 // Inside store/ only: the engine's own types stop here.
 #pragma once
 
@@ -11,6 +11,10 @@
 #include <QStringList>
 #include <memory>
 #include <vector>
+
+namespace SQLite {
+class Database;
+}
 
 /// A column of a table as the file declares it.
 struct ColumnInfo
@@ -146,7 +150,7 @@ class Connection
     std::unique_ptr<SQLite::Database> mDatabase;
     EngineSteps mSteps;
     // Each file that belongs to the database, as it was when this program began to write to it.
-    std::vector<std::pair<QString, PlatformFiles::Identity>> mPlace;
+    std::vector<std::pair<QByteArray, PlatformFiles::Identity>> mPlace;
     StatementCache mStatements;
     QHash<QString, std::shared_ptr<const TableInfo>> mTables;
     QHash<QString, std::shared_ptr<TableChanges>> mChanges;

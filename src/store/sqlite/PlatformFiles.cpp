@@ -26,10 +26,10 @@ bool may(const QString &path, int mode)
 }
 } // namespace
 
-std::optional<PlatformFiles::Identity> PlatformFiles::identityOf(const QString &path)
+std::optional<PlatformFiles::Identity> PlatformFiles::identityOf(const QByteArray &path)
 {
     struct stat state = {};
-    if (stat(QFile::encodeName(path).constData(), &state) != 0)
+    if (stat(path.constData(), &state) != 0)
         return std::nullopt;
     return Identity{state.st_dev, state.st_ino};
 }
@@ -49,9 +49,9 @@ bool PlatformFiles::meansFull(int systemError)
     return systemError == ENOSPC || systemError == EDQUOT || systemError == EFBIG;
 }
 #else
-std::optional<PlatformFiles::Identity> PlatformFiles::identityOf(const QString &path)
+std::optional<PlatformFiles::Identity> PlatformFiles::identityOf(const QByteArray &path)
 {
-    return QFile::exists(path) ? std::optional(Identity()) : std::nullopt;
+    return QFile::exists(QFile::decodeName(path)) ? std::optional(Identity()) : std::nullopt;
 }
 
 bool PlatformFiles::mayRead(const QString &path)
@@ -111,7 +111,7 @@ QStringList PlatformFiles::lockHolders(const QStringList &paths)
 {
     QList<Identity> files;
     for (const QString &path : paths) {
-        if (const auto identity = identityOf(path))
+        if (const auto identity = identityOf(QFile::encodeName(path)))
             files.append(*identity);
     }
     QFile list(u"/proc/locks"_s);

@@ -15,8 +15,8 @@ struct Identity
     [[nodiscard]] bool operator==(const Identity &) const = default;
 };
 
-/// Nothing for a file that is not there.
-[[nodiscard]] std::optional<Identity> identityOf(const QString &path);
+/// Nothing for a file that is not there. The path is in the system's encoding (QFile::encodeName).
+[[nodiscard]] std::optional<Identity> identityOf(const QByteArray &path);
 
 /// True if this user may read the file; may write it, or make files in the folder.
 [[nodiscard]] bool mayRead(const QString &path);

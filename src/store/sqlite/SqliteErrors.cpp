@@ -95,6 +95,11 @@ void EngineSteps::note(StoreFault fault)
         mFirstFault = fault;
 }
 
+void EngineSteps::raise(int code)
+{
+    raise(SQLite::Exception(mHandle, code));
+}
+
 void EngineSteps::raise(const SQLite::Exception &error)
 {
     try {

@@ -37,6 +37,10 @@ class EngineSteps
         }
     }
 
+    /// Throws what a code of SQLite means.
+    [[noreturn]] void raise(int code);
+
+    [[nodiscard]] sqlite3 *handle() const { return mHandle; }
     [[nodiscard]] const QString &path() const { return mPath; }
     void note(StoreFault fault);
     /// None where nothing happened since it was forgotten.

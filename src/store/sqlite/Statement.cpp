@@ -1,17 +1,26 @@
 #include "store/sqlite/Statement.h"
 #include "store/sqlite/SqliteErrors.h"
 
-#include <SQLiteCpp/Column.h>
-#include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Statement.h>
+#include <QStringEncoder>
 #include <sqlite3.h>
 
 namespace {
 constexpr std::size_t mostIdleStatements = 200;
-}
+// From this length on a text gets the room that is kept, as long as that does not grow beyond reason.
+constexpr qsizetype longText = 4096;
+constexpr qsizetype largestRoom = 4 * 1024 * 1024;
 
-StatementCache::StatementCache() = default;
-StatementCache::~StatementCache() = default;
+QString textOf(sqlite3_stmt *row, int column)
+{
+    const auto *const bytes = reinterpret_cast<const char *>(sqlite3_column_text(row, column));
+    return QString::fromUtf8(bytes, sqlite3_column_bytes(row, column));
+}
+} // namespace
+
+void StatementFinalizer::operator()(sqlite3_stmt *statement) const
+{
+    sqlite3_finalize(statement);
+}
 
 StatementCache::Slot &StatementCache::slotOf(const std::string &text)
 {
@@ -29,27 +38,40 @@ void StatementCache::clear() noexcept
     mSlots.clear();
 }
 
-Statement::Statement(StatementCache &cache, EngineSteps &steps, SQLite::Database &database, const std::string &text)
+void StatementCache::giveRoomBack(QByteArray room)
+{
+    if (room.size() > mRoom.size() && room.size() <= largestRoom)
+        mRoom = std::move(room);
+}
+
+Statement::Statement(StatementCache &cache, EngineSteps &steps, const std::string &text)
     : mCache(cache), mSteps(steps), mSlot(&cache.slotOf(text)), mGeneration(cache.generation()),
       mStatement(std::move(*mSlot))
 {
     // The slot is empty for a new text, and while the same statement is in use further out.
-    if (!mStatement)
-        mStatement = mSteps.run([&] { return std::make_unique<SQLite::Statement>(database, text); });
+    if (mStatement)
+        return;
+    sqlite3_stmt *prepared = nullptr;
+    require(sqlite3_prepare_v3(steps.handle(), text.data(), static_cast<int>(text.size()), SQLITE_PREPARE_PERSISTENT,
+                               &prepared, nullptr));
+    mStatement.reset(prepared);
 }
 
 Statement::~Statement()
 {
+    if (!mLongText.isEmpty())
+        mCache.giveRoomBack(std::move(mLongText));
     if (mGeneration != mCache.generation() || *mSlot)
         return;
-    try {
-        static_cast<void>(mStatement->tryReset());
-        mStatement->clearBindings();
-        *mSlot = std::move(mStatement);
-    } catch (const std::exception &) {
-        // A statement that cannot be made ready again is let go.
-        mStatement.reset();
-    }
+    sqlite3_reset(mStatement.get());
+    sqlite3_clear_bindings(mStatement.get());
+    *mSlot = std::move(mStatement);
+}
+
+void Statement::require(int code) const
+{
+    if (code != SQLITE_OK)
+        mSteps.raise(code);
 }
 
 Statement &Statement::bind(int place, const QVariant &value)
@@ -58,15 +80,16 @@ Statement &Statement::bind(int place, const QVariant &value)
     case QMetaType::QString:
         return bind(place, value.toString());
     case QMetaType::QByteArray: {
-        const QByteArray bytes = value.toByteArray();
-        mSteps.run([&] { mStatement->bind(place, bytes.constData(), static_cast<int>(bytes.size())); });
+        const QByteArray &bytes = mBytes.emplace_back(value.toByteArray());
+        require(sqlite3_bind_blob64(mStatement.get(), place, bytes.constData(), sqlite3_uint64(bytes.size()),
+                                    SQLITE_STATIC));
         return *this;
     }
     case QMetaType::Double:
-        mSteps.run([&] { mStatement->bind(place, value.toDouble()); });
+        require(sqlite3_bind_double(mStatement.get(), place, value.toDouble()));
         return *this;
     case QMetaType::UnknownType:
-        mSteps.run([&] { mStatement->bind(place); });
+        require(sqlite3_bind_null(mStatement.get(), place));
         return *this;
     default:
         return bind(place, value.toLongLong());
@@ -75,64 +98,74 @@ Statement &Statement::bind(int place, const QVariant &value)
 
 Statement &Statement::bind(int place, qint64 value)
 {
-    mSteps.run([&] { mStatement->bind(place, static_cast<int64_t>(value)); });
+    require(sqlite3_bind_int64(mStatement.get(), place, value));
     return *this;
 }
 
 Statement &Statement::bind(int place, const QString &value)
 {
-    // The text is read where it lies; one with a zero in it needs its length told, which takes another copy.
-    const QByteArray &text = mTexts.emplace_back(value.toUtf8());
-    if (text.contains('\0'))
-        mSteps.run([&] { mStatement->bind(place, text.toStdString()); });
-    else
-        mSteps.run([&] { mStatement->bindNoCopy(place, text.constData()); });
+    if (value.size() >= longText && mLongText.isEmpty())
+        return bindLong(place, value);
+    const QByteArray &text = mBytes.emplace_back(value.toUtf8());
+    return bindUtf8(place, text.constData(), text.size());
+}
+
+Statement &Statement::bindLong(int place, const QString &value)
+{
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    mLongText = mCache.takeRoom();
+    if (const qsizetype needed = encoder.requiredSpace(value.size()); mLongText.size() < needed)
+        mLongText = QByteArray(needed, Qt::Uninitialized);
+    const char *const end = encoder.appendToBuffer(mLongText.data(), value);
+    return bindUtf8(place, mLongText.constData(), end - mLongText.constData());
+}
+
+Statement &Statement::bindUtf8(int place, const char *text, qsizetype size)
+{
+    require(sqlite3_bind_text64(mStatement.get(), place, text, sqlite3_uint64(size), SQLITE_STATIC, SQLITE_UTF8));
     return *this;
 }
 
 bool Statement::step()
 {
-    return mSteps.run([&] { return mStatement->executeStep(); });
+    const int code = sqlite3_step(mStatement.get());
+    if (code != SQLITE_ROW && code != SQLITE_DONE)
+        require(code);
+    return code == SQLITE_ROW;
 }
 
 int Statement::run()
 {
-    return mSteps.run([&] { return mStatement->exec(); });
+    while (step())
+        ;
+    return sqlite3_changes(mSteps.handle());
 }
 
 qint64 Statement::integer(int column) const
 {
-    return mSteps.run([&] { return mStatement->getColumn(column).getInt64(); });
+    return sqlite3_column_int64(mStatement.get(), column);
 }
 
 QString Statement::text(int column) const
 {
-    return mSteps.run([&] {
-        const auto cell = mStatement->getColumn(column);
-        const char *bytes = cell.getText();
-        return QString::fromUtf8(bytes, cell.getBytes());
-    });
+    return textOf(mStatement.get(), column);
 }
 
 QVariant Statement::value(int column) const
 {
-    return mSteps.run([&]() -> QVariant {
-        const auto cell = mStatement->getColumn(column);
-        switch (cell.getType()) {
-        case SQLITE_INTEGER:
-            return static_cast<qlonglong>(cell.getInt64());
-        case SQLITE_FLOAT:
-            return cell.getDouble();
-        case SQLITE_TEXT: {
-            const char *bytes = cell.getText();
-            return QString::fromUtf8(bytes, cell.getBytes());
-        }
-        case SQLITE_BLOB: {
-            const auto *bytes = static_cast<const char *>(cell.getBlob());
-            return QByteArray(bytes, cell.getBytes());
-        }
-        default:
-            return {};
-        }
-    });
+    sqlite3_stmt *const row = mStatement.get();
+    switch (sqlite3_column_type(row, column)) {
+    case SQLITE_INTEGER:
+        return static_cast<qlonglong>(sqlite3_column_int64(row, column));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(row, column);
+    case SQLITE_TEXT:
+        return textOf(row, column);
+    case SQLITE_BLOB: {
+        const auto *const bytes = static_cast<const char *>(sqlite3_column_blob(row, column));
+        return QByteArray(bytes, sqlite3_column_bytes(row, column));
+    }
+    default:
+        return {};
+    }
 }

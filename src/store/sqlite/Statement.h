@@ -9,24 +9,22 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 class EngineSteps;
-namespace SQLite {
-class Database;
-class Statement;
-} // namespace SQLite
+struct sqlite3_stmt;
+
+struct StatementFinalizer
+{
+    void operator()(sqlite3_stmt *statement) const;
+};
 
 /// Prepared statements by their text, so that the same statement is prepared once.
 class StatementCache
 {
   public:
-    StatementCache();
-    ~StatementCache();
-    StatementCache(const StatementCache &) = delete;
-    StatementCache &operator=(const StatementCache &) = delete;
-
     /// A place for the statement of one text; it stays where it is until the cache is cleared.
-    using Slot = std::unique_ptr<SQLite::Statement>;
+    using Slot = std::unique_ptr<sqlite3_stmt, StatementFinalizer>;
 
     /// The slot of that text. When there are too many, all idle statements are let go first.
     [[nodiscard]] Slot &slotOf(const std::string &text);
@@ -34,16 +32,21 @@ class StatementCache
     [[nodiscard]] quint64 generation() const { return mGeneration; }
     void clear() noexcept;
 
+    /// Room for one long text at a time, kept from statement to statement: each page of a harvest needs it again.
+    [[nodiscard]] QByteArray takeRoom() { return std::exchange(mRoom, {}); }
+    void giveRoomBack(QByteArray room);
+
   private:
     std::unordered_map<std::string, Slot> mSlots;
     quint64 mGeneration = 0;
+    QByteArray mRoom;
 };
 
 class Statement
 {
   public:
     /// All outlive the statement.
-    Statement(StatementCache &cache, EngineSteps &steps, SQLite::Database &database, const std::string &text);
+    Statement(StatementCache &cache, EngineSteps &steps, const std::string &text);
     ~Statement();
     Statement(const Statement &) = delete;
     Statement &operator=(const Statement &) = delete;
@@ -65,12 +68,17 @@ class Statement
     [[nodiscard]] QVariant value(int column) const;
 
   private:
+    void require(int code) const;
+    Statement &bindLong(int place, const QString &value);
+    Statement &bindUtf8(int place, const char *text, qsizetype size);
+
     StatementCache &mCache;
     EngineSteps &mSteps;
     // Where the statement came from and goes back to, unless the cache has been cleared since.
     StatementCache::Slot *mSlot;
     quint64 mGeneration;
-    std::unique_ptr<SQLite::Statement> mStatement;
-    // Bound values that the engine reads in place.
-    std::deque<QByteArray> mTexts;
+    StatementCache::Slot mStatement;
+    // Bound values, which the engine reads where they lie.
+    std::deque<QByteArray> mBytes;
+    QByteArray mLongText;
 };
