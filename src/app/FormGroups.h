@@ -3,6 +3,7 @@
 // are unique over all groups, and the form finds any control by its name. Knows controls.
 #pragma once
 
+#include "app/OptionNumbers.h"
 #include "controls/ControlArray.h"
 #include "controls/ListControls.h"
 #include "controls/NumberBox.h"
@@ -210,7 +211,7 @@ struct ImportPage
     CheckBox chkSFIAllData, chkSFIAllSettings, chkSFIImportTable, chkSFIImportField;
 };
 
-/// The numbered switches. What each number is stands in window/options.
+/// The numbered switches. What each number is stands in OptionNumbers.h.
 struct OptionBoxes
 {
     explicit OptionBoxes(QObject *form);

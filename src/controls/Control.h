@@ -34,6 +34,17 @@ class Control : public QObject
     [[nodiscard]] Colour foreColor() const { return mForeColor; }
     void setForeColor(Colour colour) { assign(mForeColor, colour); }
 
+    // A control's value as text. What has none, as a label, neither gives nor takes one.
+    /// False while there is nothing to store, as in a list without a choice.
+    [[nodiscard]] virtual bool hasValue() const { return false; }
+    /// The text under which the value is stored.
+    [[nodiscard]] virtual QString stored() const { return {}; }
+    /// Takes a value as stored() gives it, with the events of an assignment. Error 13 or 380 for what is no such value.
+    virtual void restore(const QString &value);
+    /// Takes a value as a user writes it, for example an item's text. A RuntimeError with one clear line for what the
+    /// control does not take.
+    virtual void enter(const QString &value);
+
     // What a user does that no single kind of control owns.
     void mouseDown(MouseButton button) { Q_EMIT mousePressed(button); }
     void mouseMove() { Q_EMIT mouseMoved(); }
@@ -41,11 +52,17 @@ class Control : public QObject
 
   Q_SIGNALS:
     void changed();
+    /// The value is another one; raised ahead of the control's own event.
+    void altered();
     void mousePressed(MouseButton button);
     void mouseMoved();
     void doubleClicked();
 
   protected:
+    /// The error of enter().
+    [[noreturn]] static void refuse(const QString &reason);
+    /// Error 13 for a text that is none.
+    [[nodiscard]] static int wholeNumber(const QString &text);
     /// Stores a changed value and emits changed(). True when it differed.
     template <class Value> bool assign(Value &member, const Value &value)
     {

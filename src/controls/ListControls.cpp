@@ -33,6 +33,7 @@ void ListControl::setListIndex(int index)
     mListIndex = index;
     indexChosen();
     Q_EMIT changed();
+    Q_EMIT altered();
     Q_EMIT Click();
 }
 
@@ -108,7 +109,34 @@ void ComboBox::setText(const QString &text)
     storeIndex(-1);
     mText = text;
     Q_EMIT changed();
+    Q_EMIT altered();
     Q_EMIT Change();
+}
+
+QString ComboBox::stored() const
+{
+    return mStyle == Style::DropDownCombo ? mText : ListControl::stored();
+}
+
+void ComboBox::restore(const QString &value)
+{
+    if (mStyle == Style::DropDownCombo)
+        setText(value);
+    else
+        ListControl::restore(value);
+}
+
+void ComboBox::enter(const QString &value)
+{
+    const auto byText = items().indexOf(value);
+    bool isNumber = false;
+    const int index = byText >= 0 ? static_cast<int>(byText) : value.toInt(&isNumber);
+    if (byText >= 0 || (isNumber && index >= 0 && index < listCount()))
+        setListIndex(index);
+    else if (mStyle == Style::DropDownCombo)
+        setText(value);
+    else
+        refuse(QStringLiteral("there is no item \"%1\"").arg(value));
 }
 
 void ComboBox::clear()

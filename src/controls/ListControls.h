@@ -32,6 +32,11 @@ class ListControl : public Control
     /// The same as clear() and addItems(), with one changed().
     virtual void setItems(const QStringList &items);
 
+    /// Something is chosen.
+    [[nodiscard]] bool hasValue() const override { return mListIndex >= 0; }
+    [[nodiscard]] QString stored() const override { return QString::number(mListIndex); }
+    void restore(const QString &value) override { setListIndex(wholeNumber(value)); }
+
   Q_SIGNALS:
     void Click();
 
@@ -67,6 +72,12 @@ class ComboBox : public ListControl
     void setText(const QString &text);
     void clear() override;
     void setItems(const QStringList &items) override;
+    // The value of an editable one is its text.
+    [[nodiscard]] bool hasValue() const override { return mStyle == Style::DropDownCombo || listIndex() >= 0; }
+    [[nodiscard]] QString stored() const override;
+    void restore(const QString &value) override;
+    /// An item's text or its index; any text in an editable one.
+    void enter(const QString &value) override;
     /// The user opens the list.
     void dropDown() { Q_EMIT DropDown(); }
 
@@ -109,6 +120,8 @@ class ListBox : public ListControl
     /// The same as many calls of removeItem(), with one changed(): the items whose flag is set go. Flags that do not
     /// fit the list are error 5.
     void removeItems(const std::vector<bool> &gone);
+    /// One item more.
+    void enter(const QString &value) override { addItem(value); }
 
   private:
     std::vector<bool> mSelected;

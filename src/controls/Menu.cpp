@@ -4,10 +4,37 @@
 
 using namespace Qt::StringLiterals;
 
+void MenuItem::setChecked(bool checked)
+{
+    if (assign(mChecked, checked))
+        Q_EMIT altered();
+}
+
 void MenuItem::click()
 {
     if (isEnabled())
         Q_EMIT Click();
+}
+
+QString MenuItem::stored() const
+{
+    return mChecked ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+void MenuItem::restore(const QString &value)
+{
+    setChecked(value == QLatin1StringView("True") || value == QLatin1StringView("1"));
+}
+
+void MenuItem::enter(const QString &value)
+{
+    if (value != QLatin1StringView("0") && value != QLatin1StringView("1"))
+        refuse(QStringLiteral("a menu item takes 0 or 1, not \"%1\"").arg(value));
+    if (mChecked == (value == QLatin1StringView("1")))
+        return;
+    if (!isEnabled())
+        refuse(QStringLiteral("this menu item is disabled at the moment"));
+    click();
 }
 
 Menu::Menu(const QString &name, std::span<const MenuRow> rows, QObject *form, const QString &caption)

@@ -30,9 +30,15 @@ class MenuItem : public Control
     [[nodiscard]] const QString &parentItem() const { return mParentItem; }
     [[nodiscard]] bool isSeparator() const { return caption() == QLatin1StringView("-"); }
     [[nodiscard]] bool isChecked() const { return mChecked; }
-    void setChecked(bool checked) { assign(mChecked, checked); }
+    void setChecked(bool checked);
     /// The user's click; a disabled item has none.
     void click();
+    /// The check mark as truth text; any other text than "True" and "1" takes it away.
+    [[nodiscard]] bool hasValue() const override { return true; }
+    [[nodiscard]] QString stored() const override;
+    void restore(const QString &value) override;
+    /// 0 or 1: an item that has not the wanted check mark is clicked, and so is a command, which keeps no mark.
+    void enter(const QString &value) override;
 
   Q_SIGNALS:
     void Click();

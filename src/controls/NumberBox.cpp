@@ -40,8 +40,20 @@ void NumberBox::setStep(qint64 step)
 
 void NumberBox::setText(const QString &text)
 {
-    if (!text.isEmpty() && text.size() <= mDigits && isDigits(text))
+    if (takes(text))
         ShowIncValue(text.toLongLong());
+}
+
+bool NumberBox::takes(const QString &text) const
+{
+    return !text.isEmpty() && text.size() <= mDigits && isDigits(text);
+}
+
+void NumberBox::enter(const QString &value)
+{
+    if (!takes(value))
+        refuse(QStringLiteral("takes up to %1 digits, not \"%2\"").arg(mDigits).arg(value));
+    setText(value);
 }
 
 void NumberBox::edit(const QString &text)
@@ -66,6 +78,8 @@ void NumberBox::ShowIncValue(qint64 number)
 
 void NumberBox::show(const QString &text)
 {
-    if (assign(mText, text))
-        Q_EMIT ValueChanged(QString::number(value()));
+    if (!assign(mText, text))
+        return;
+    Q_EMIT altered();
+    Q_EMIT ValueChanged(QString::number(value()));
 }

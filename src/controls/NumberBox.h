@@ -27,6 +27,11 @@ class NumberBox : public Control
     void edit(const QString &text);
     [[nodiscard]] qint64 value() const { return mText.toLongLong(); }
 
+    [[nodiscard]] bool hasValue() const override { return true; }
+    [[nodiscard]] QString stored() const override { return mText; }
+    void restore(const QString &value) override { setText(value); }
+    void enter(const QString &value) override;
+
     enum class Direction { Up, Down };
     /// One step; past an end the value wraps to the other.
     void makeStep(Direction direction);
@@ -36,6 +41,7 @@ class NumberBox : public Control
     void ValueChanged(const QString &text);
 
   private:
+    [[nodiscard]] bool takes(const QString &text) const;
     [[nodiscard]] qint64 top() const;
     void ShowIncValue(qint64 number);
     void show(const QString &text);

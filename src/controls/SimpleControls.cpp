@@ -6,8 +6,17 @@ void CheckBox::setValue(int value)
 {
     if (value < 0 || value > 2)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue, QStringLiteral("Invalid property value"));
-    if (assign(mValue, value))
-        Q_EMIT Click();
+    if (!assign(mValue, value))
+        return;
+    Q_EMIT altered();
+    Q_EMIT Click();
+}
+
+void CheckBox::enter(const QString &value)
+{
+    if (value != QLatin1StringView("0") && value != QLatin1StringView("1"))
+        refuse(QStringLiteral("a box takes 0 or 1, not \"%1\"").arg(value));
+    setValue(value.toInt());
 }
 
 TextBox::TextBox(const QString &name, QObject *parent) : Control(name, parent)
@@ -18,8 +27,10 @@ TextBox::TextBox(const QString &name, QObject *parent) : Control(name, parent)
 
 void TextBox::setText(const QString &text)
 {
-    if (assign(mText, text))
-        Q_EMIT Change();
+    if (!assign(mText, text))
+        return;
+    Q_EMIT altered();
+    Q_EMIT Change();
 }
 
 void Button::click()

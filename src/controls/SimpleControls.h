@@ -18,6 +18,10 @@ class CheckBox : public Control
     void setValue(int value);
     /// The user's click: on becomes off, anything else on.
     void click() { setValue(mValue == 1 ? 0 : 1); }
+    [[nodiscard]] bool hasValue() const override { return true; }
+    [[nodiscard]] QString stored() const override { return QString::number(mValue); }
+    void restore(const QString &value) override { setValue(wholeNumber(value)); }
+    void enter(const QString &value) override;
 
   Q_SIGNALS:
     void Click();
@@ -37,6 +41,10 @@ class TextBox : public Control
     void setText(const QString &text);
     /// The user leaves the box.
     void validate() { Q_EMIT Validate(); }
+    [[nodiscard]] bool hasValue() const override { return true; }
+    [[nodiscard]] QString stored() const override { return mText; }
+    void restore(const QString &value) override { setText(value); }
+    void enter(const QString &value) override { setText(value); }
 
   Q_SIGNALS:
     void Change();
