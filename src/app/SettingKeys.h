@@ -29,6 +29,7 @@ constexpr QLatin1StringView UrlBlocking{"chkUrlBlocking"};
 constexpr QLatin1StringView EmailBlocking{"chkEmailBlocking"};
 constexpr QLatin1StringView ManualList{"cboMNList"};
 constexpr QLatin1StringView FilesSites{"optFilesSites"};
+constexpr QLatin1StringView AreaCodes{"txtSBSelAreaCodes"};
 // Commands of the Manual tab.
 constexpr QLatin1StringView FileOfUrls{"FileNFileName"};
 constexpr QLatin1StringView ItemsContaining{"FnRemove"};

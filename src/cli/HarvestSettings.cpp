@@ -1,15 +1,11 @@
 #include "cli/HarvestSettings.h"
 
+#include "app/SettingKeys.h"
 #include "util/Incr.h"
-#include "window/options/Options.h"
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-constexpr auto nameKey = "DatabaseName"_L1;
-}
 
 QString newestDatabase(const QString &folder)
 {
@@ -29,18 +25,19 @@ HarvestSettings::HarvestSettings(SettingsStore &store, const QString &databaseDi
     : BorrowedSettings(store), mStore(store), mRemembersDatabase(databaseDir.isEmpty())
 {
     if (!databaseDir.isEmpty()) {
-        const QString stored = store.GetSetting(Options::startSection, nameKey);
+        const QString stored = store.GetSetting(Sections::StartUp, Keys::DatabaseName);
         const bool isThere = !stored.isEmpty() && QFile::exists(databaseDir + stored);
-        BorrowedSettings::SaveSetting(Options::section, u"SearchKeyTxtSaveLocation Text"_s, databaseDir);
-        BorrowedSettings::SaveSetting(Options::startSection, nameKey, isThere ? stored : newestDatabase(databaseDir));
+        BorrowedSettings::SaveSetting(Sections::Main, Keys::DatabaseDir, databaseDir);
+        BorrowedSettings::SaveSetting(Sections::StartUp, Keys::DatabaseName,
+                                      isThere ? stored : newestDatabase(databaseDir));
     }
     if (browser)
-        BorrowedSettings::SaveSetting(Options::section, u"lstDCoTmr"_s, QString::number(*browser));
+        BorrowedSettings::SaveSetting(Sections::Main, Keys::Browser, QString::number(*browser));
 }
 
 void HarvestSettings::SaveSetting(const QString &section, const QString &key, const QString &value)
 {
-    if (mRemembersDatabase && section == Options::startSection)
+    if (mRemembersDatabase && section == Sections::StartUp)
         mStore.SaveSetting(section, key, value);
     else
         BorrowedSettings::SaveSetting(section, key, value);

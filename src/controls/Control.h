@@ -44,6 +44,8 @@ class Control : public QObject
     /// Takes a value as a user writes it, for example an item's text. A RuntimeError with one clear line for what the
     /// control does not take.
     virtual void enter(const QString &value);
+    /// Raises the control's own event without a change: what follows from the value is done once more.
+    virtual void repeatEvent() {}
 
     // What a user does that no single kind of control owns.
     void mouseDown(MouseButton button) { Q_EMIT mousePressed(button); }

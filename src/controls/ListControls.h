@@ -36,6 +36,7 @@ class ListControl : public Control
     [[nodiscard]] bool hasValue() const override { return mListIndex >= 0; }
     [[nodiscard]] QString stored() const override { return QString::number(mListIndex); }
     void restore(const QString &value) override { setListIndex(wholeNumber(value)); }
+    void repeatEvent() override { Q_EMIT Click(); }
 
   Q_SIGNALS:
     void Click();

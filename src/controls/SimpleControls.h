@@ -21,6 +21,7 @@ class CheckBox : public Control
     [[nodiscard]] bool hasValue() const override { return true; }
     [[nodiscard]] QString stored() const override { return QString::number(mValue); }
     void restore(const QString &value) override { setValue(wholeNumber(value)); }
+    void repeatEvent() override { Q_EMIT Click(); }
     void enter(const QString &value) override;
 
   Q_SIGNALS:

@@ -1,6 +1,7 @@
 // trawlex: the window program. Makes the application, the ports and the skin, and wires them to the rest.
 #include "app/IniSettings.h"
 #include "app/QtEventPump.h"
+#include "app/SettingKeys.h"
 #include "desktop/DesktopBrowsers.h"
 #include "desktop/MainWindowPlace.h"
 #include "desktop/OneInstance.h"
@@ -47,7 +48,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     DesktopBrowsers browsers({dataFolder(), switches, false});
     if (browsers.sandboxOff())
         std::fputs("Running as root: the browser's sandbox is off\n", stderr);
-    settings.SaveSetting(Options::section, u"WorkingPath"_s, programFolder() + u'/');
+    settings.SaveSetting(Sections::Main, Keys::WorkingPath, programFolder() + u'/');
     Program program({pump, dialogs, desktop, clipboard, settings, place, menus, browsers, programFolder()});
     MainWindow window(program.form);
     place.set(&window);

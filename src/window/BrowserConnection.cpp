@@ -1,7 +1,7 @@
 #include "window/BrowserConnection.h"
 
+#include "app/SettingKeys.h"
 #include "util/Text.h"
-#include "window/options/Options.h"
 
 #include <QFileInfo>
 
@@ -9,9 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr auto pathKey = "IEPath"_L1;
 constexpr int internalMode = 0;
-constexpr int blockPopUps = 2;
 constexpr qint64 startLimit = 10'000;
 constexpr qint64 askAgainAfter = 200;
 constexpr qint64 smallestSize = 51;
@@ -97,7 +95,7 @@ void BrowserConnection::cmdANInitialize_Click()
 bool BrowserConnection::VerifyIEPath()
 {
     return guardedResult(mLog, {module, "Function VerifyIEPath"_L1}, false, [&](bool &found) {
-        const QString stored = mOut.settings.GetSetting(Options::section, pathKey);
+        const QString stored = mOut.settings.GetSetting(Sections::Main, Keys::BrowserProgram);
         // A browser that the user has chosen comes before the one that happens to be installed.
         if (QFileInfo(stored).isFile())
             mBrowser->setInternetExplorerPath(stored);
@@ -113,7 +111,7 @@ bool BrowserConnection::VerifyIEPath()
         if (chosen.isEmpty() || !mOut.browsers.isDrivable(QFileInfo(chosen).fileName().toLower()))
             return;
         // It takes effect at the next start.
-        mOut.settings.SaveSetting(Options::section, pathKey, chosen);
+        mOut.settings.SaveSetting(Sections::Main, Keys::BrowserProgram, chosen);
         found = true;
     });
 }
@@ -139,7 +137,7 @@ void BrowserConnection::windowClosed()
 void BrowserConnection::newWindow(bool *cancel)
 {
     // The built-in browser has no second window.
-    if (mForm.browser.mbInternalBrowser || mForm.options.chkSMV(blockPopUps).isOn())
+    if (mForm.browser.mbInternalBrowser || mForm.options.chkSMV(SMV::BlockPopUps).isOn())
         *cancel = true;
 }
 

@@ -1,44 +1,36 @@
-// Finds or makes the database file, tests it, and loads from it what the window shows.
+// Opens a database and loads from it what the window shows, in the order in which one thing depends on another.
 #pragma once
 
-#include "app/Ports.h"
-#include "app/frmSearch.h"
-#include "lists/Blocking.h"
-#include "lists/CriteriaSets.h"
-#include "lists/SavedUrls.h"
+#include "app/FormGroups.h"
+#include "window/DatabaseFile.h"
+#include "window/options/Options.h"
 
 class DatabaseLoader : public QObject
 {
     Q_OBJECT
 
   public:
-    DatabaseLoader(ErrorReceiver &log, frmSearch &form, UserDialogs &dialogs, SettingsStore &settings,
-                   DatabaseHolder &database, CriteriaSets &criteria, Blocking &blocking, SavedUrls &savedUrls);
+    DatabaseLoader(ErrorReceiver &log, DatabaseFile &file, Options &options, SavedAddresses &saved, Criteria &criteria,
+                   BlockingLists &blocking);
 
-    /// True if the caller may go on. With `useFileBox` the name is that of txtSFDBFile, else the stored one; where no
-    /// such file exists a new one is made under a vacant name.
-    [[nodiscard]] bool LoadDatabase(bool useFileBox);
-    /// LoadDatabase, then all that depends on the database's content.
+    /// Opens the database, as DatabaseFile::LoadDatabase() has it, and loads all that depends on its content.
     bool LoadDBData(bool useFileBox);
 
   Q_SIGNALS:
-    /// The database cannot be used; the main window has to go.
-    void unloadRequested();
+    // To whom the content belongs, in this order.
+    /// Lists that depend on the database alone.
+    void listsWanted();
+    /// The letter of the start addresses has been chosen: search sites, start addresses.
+    void addressesWanted();
 
   private:
-    [[nodiscard]] QString databasePath(bool useFileBox);
-    [[nodiscard]] bool isPathTaken(const QString &path) const;
-    [[nodiscard]] bool testExisting(const QString &path, bool useFileBox);
-    void fatal(const QString &path, const QString &text);
-    void choose(ComboBox &combo, QLatin1StringView key);
-    void restoreBlocking(CheckBox &box, ListBox &list, QLatin1StringView key);
+    void restoreUse();
+    void restoreBlocking(BlockedTexts &texts);
 
     ErrorReceiver &mLog;
-    frmSearch &mForm;
-    UserDialogs &mDialogs;
-    SettingsStore &mSettings;
-    DatabaseHolder &mDatabase;
-    CriteriaSets &mCriteria;
-    Blocking &mBlocking;
-    SavedUrls &mSavedUrls;
+    DatabaseFile &mFile;
+    Options &mOptions;
+    SavedAddresses &mSaved;
+    Criteria &mCriteria;
+    BlockingLists &mBlocking;
 };

@@ -1,5 +1,6 @@
 #include "window/LifeCycle.h"
 
+#include "app/SettingKeys.h"
 #include "window/WindowPlaces.h"
 
 #include <QScopedValueRollback>
@@ -10,14 +11,10 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr auto formName = "frmSearch"_L1;
-constexpr auto keepOnTopKey = "mnuANStatusKeepOnTop"_L1;
-constexpr int promptBeforeEnding = 7;
-constexpr int orientAtStart = 4;
 } // namespace
 
 LifeCycle::LifeCycle(const Parts &parts) : m(parts)
 {
-    connect(&m.loader, &DatabaseLoader::unloadRequested, this, &LifeCycle::end);
     // A run that has been told to end may still have a wait before it; that wait is over as it begins.
     connect(&m.timer, &cTimer::started, this, [this] {
         if (mEnding)
@@ -45,24 +42,24 @@ bool LifeCycle::Form_Load()
 void LifeCycle::settle()
 {
     guarded(m.log, {module, "Sub Form_Load"_L1}, [&] {
-        if (m.settings.GetSetting(Options::section, u"chkSAMoveToTopLeft"_s, u"1"_s) == "1"_L1) {
-            m.form.options.chkSMV(orientAtStart).setValue(1);
+        if (m.settings.GetSetting(Sections::Main, Keys::OrientAtStart, u"1"_s) == "1"_L1) {
+            m.form.options.chkSMV(SMV::OrientAtStart).setValue(1);
             m.connection.SetStandardPosition();
         } else {
             m.place.moveTo(AlignFF(m.settings, formName, m.place.place(), m.place.screen()));
         }
         m.form.mbMainShown = true;
-        if (m.settings.GetSetting(Options::section, keepOnTopKey, u"True"_s) != "True"_L1)
+        if (m.settings.GetSetting(Sections::Main, Keys::KeepOnTop, u"True"_s) != "True"_L1)
             return;
         m.place.putOnTop(true);
         saveOnTop(m.settings, formName, true);
-        m.settings.SaveSetting(Options::section, keepOnTopKey, u"True"_s);
+        m.settings.SaveSetting(Sections::Main, Keys::KeepOnTop, u"True"_s);
     });
 }
 
 void LifeCycle::Terminate()
 {
-    const bool asks = m.form.options.chkSMA(promptBeforeEnding).value() == 1;
+    const bool asks = m.form.options.chkSMA(SMA::PromptBeforeEnd).value() == 1;
     if (asks && m.dialogs.ask(u"Program will terminate"_s, u"Shut down Trawlex?"_s, UserDialogs::Icon::Critical,
                               UserDialogs::Answer::Yes) != UserDialogs::Answer::Yes)
         return;

@@ -10,6 +10,9 @@
 #include "window/commands/AutoTab.h"
 #include "window/commands/CriteriaPanel.h"
 #include "window/commands/PopUps.h"
+#include "window/options/AreaCodePanel.h"
+#include "window/options/OptionReports.h"
+#include "window/options/ToolTips.h"
 #include "window/states/StateOfControls.h"
 
 struct Program
@@ -48,10 +51,18 @@ struct Program
     ResultWriters writers;
     PageScreening screening;
     AutoRun autoRun;
+    Context context;
     Options options;
+    OptionReports optionReports;
+    ToolTips toolTips;
+    AreaCodePanel areaCodes;
+    DatabaseFile databaseFile;
     DatabaseLoader loader;
     BrowserConnection connection;
     LifeCycle lifeCycle;
     AutoTab autoTab;
     CriteriaPanel criteriaPanel;
+
+  private:
+    void connectDatabase();
 };

@@ -92,7 +92,8 @@ class PlainStates
         enable({"cmdANStart"}, !f.runs.mbMNRunning);
         if (f.runs.mbANRunning)
             enable({"cmdMNStart"}, false);
-        enable({"lblAutoIncrPos", "lblAutoPgUrls", "lblAutoCollect", "chkSMA(3)", "cboANList"}, idle);
+        enable({"lblAutoIncrPos", "lblAutoPgUrls", "lblAutoCollect", "mnuPopUpPassUrls", "chkSMA(3)", "cboANList"},
+               idle);
     }
 
     void withoutOutput()
@@ -208,8 +209,19 @@ class PlainStates
     void manualTab()
     {
         enable({"cboMNMCMNCFilter", "cboMNList", "cboMNMCMNC"}, true);
+        enable({"mnuMNLoadIEUrlFilters"}, idle);
         if (f.manual.cboFilesSites.listIndex() == 0)
             enable({"chkMNUseFotoBrwse"}, true);
+        if (f.runs.mbMNRunning && f.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate").isChecked())
+            enable({"cboMNList"}, false);
+        bool counted = false;
+        for (int i = 1; i <= 9; ++i)
+            counted =
+                counted || f.menus.mnuPopUpMNStatus.item(QLatin1StringView("mnuMNStatusAutoIncrPos"), i).isChecked();
+        const QString url = f.series.cboMNAutoUrl.text();
+        const bool valid = cIEText::IsThisEmailOrLink(url, true) == cIEText::TextKind::Link &&
+                           cUtility::Incr(url, 2, false, 1, u"", u"1", u"", true).toInt() > 0;
+        enable({"incMNAutoUrl", "incMNStep"}, !counted && valid && !f.runs.mbMNRunning);
         const bool runningListActive =
             f.runs.mbMNRunning && f.manual.mintMNRunningList == f.lists.cboMNList.listIndex();
         if (f.lists.shown().listCount() == 0) {

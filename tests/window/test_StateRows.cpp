@@ -33,6 +33,8 @@ void mirror(const frmSearch &from, frmSearch &to)
             qobject_cast<CheckBox *>(target)->setValue(box->value());
         else if (const auto *list = qobject_cast<const ListControl *>(source))
             copyItems(*list, *qobject_cast<ListControl *>(target));
+        else if (const auto *item = qobject_cast<const MenuItem *>(source))
+            qobject_cast<MenuItem *>(target)->setChecked(item->isChecked());
         else if (const auto *tabs = qobject_cast<const TabControl *>(source))
             qobject_cast<TabControl *>(target)->setTab(tabs->tab());
         if (const auto *combo = qobject_cast<const ComboBox *>(source); combo && combo->listIndex() < 0)
@@ -110,6 +112,10 @@ class StateRowsTest : public testing::Test
                 fillAtRandom(*list);
         }
         form.lists.cboMNList.setListIndex(number(2));
+        const QStringList urls{{}, u"www.gallery.com/page1"_s, u"www.gallery.com/page"_s, u"page 1"_s};
+        form.series.cboMNAutoUrl.setText(urls[number(4)]);
+        form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate").setChecked(number(2) == 0);
+        form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoIncrPos"_L1, 1 + number(9)).setChecked(number(4) == 0);
         if (number(3) == 0) // a number boxes' row of its own, disabled by a long command
             form.manual.incMNTiming.setEnabled(number(2) == 0);
     }
@@ -186,7 +192,8 @@ TEST_F(StateRowsTest, ACallTakesLessThanAMillisecond)
 
 TEST_F(StateRowsTest, OtherRoomsAreAskedOnTheirTabsAlone)
 {
-    int navigate = 0, editor = 0;
+    int navigate = 0, editor = 0, position = 0;
+    QObject::connect(&states, &StateOfControls::seriesPositionAsked, &form, [&] { ++position; });
     QObject::connect(&states, &StateOfControls::autoNavigateAsked, &form, [&] { ++navigate; });
     QObject::connect(&states, &StateOfControls::siteEditorAsked, &form, [&] { ++editor; });
     form.frame.sstSearch.setTab(Tab::Manual);
@@ -195,6 +202,13 @@ TEST_F(StateRowsTest, OtherRoomsAreAskedOnTheirTabsAlone)
     form.browser.mbInitialized = true;
     states.SetStateOfControls();
     EXPECT_EQ(navigate, 1);
+    EXPECT_EQ(position, 0); // nothing to count
+    form.series.cboMNAutoUrl.setText(u"www.gallery.com/page1"_s);
+    states.SetStateOfControls();
+    EXPECT_EQ(position, 1);
+    form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoIncrPos(1)").setChecked(true);
+    states.SetStateOfControls();
+    EXPECT_EQ(position, 1); // counted already
     form.frame.sstSearch.setTab(Tab::Settings);
     form.frame.sstSettings.setTab(Tab::Misc);
     states.SetStateOfControls();
@@ -202,7 +216,7 @@ TEST_F(StateRowsTest, OtherRoomsAreAskedOnTheirTabsAlone)
     form.frame.sstMiscOptions.setTab(Tab::Sites);
     states.SetStateOfControls();
     EXPECT_EQ(editor, 1);
-    EXPECT_EQ(navigate, 1);
+    EXPECT_EQ(navigate, 3);
 }
 
 TEST_F(StateRowsTest, TheSiteEditorIsAskedWhenAllOfItIsOff)

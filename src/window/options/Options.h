@@ -1,48 +1,42 @@
-// The options as the user sees them: loaded from the settings store at start, written when they are turned, reported in
-// the status bar.
+// Loads the options into their controls and stores them: at each change or at the end of the program, as their table
+// says. Nothing is stored while it is loaded, and nothing that could not be loaded and was not changed since.
 #pragma once
 
-#include "app/ErrorLog.h"
-#include "app/Ports.h"
-#include "app/StatusLine.h"
+#include "app/Context.h"
 #include "app/frmSearch.h"
+#include "window/options/OptionTable.h"
+
+#include <QSet>
 
 class Options : public QObject
 {
     Q_OBJECT
 
   public:
-    static constexpr QLatin1StringView section{"SecFrmSearch"};
-    static constexpr QLatin1StringView startSection{"mStartUp"};
+    /// The controls begin at their defaults.
+    Options(const Context &context, frmSearch &form, QString programFolder);
 
-    Options(ErrorLog &log, frmSearch &form, StatusLine &status, ControlStates &states, SettingsStore &settings,
-            QString programFolder);
-
-    /// Loads the stored values into the controls. A value that does not convert ends the loading there.
+    /// Loads what neither the database nor the window decides. A value that does not convert ends the loading of the
+    /// options behind it, which stay as they are; the directories and the database's name are loaded in any case.
     void GetSettings();
-    /// Writes what is kept at the end of the program alone.
+    /// Loads the option of `control` that depends on the database; one that does not convert leaves the control as it
+    /// is.
+    void load(const Control &control);
+    /// Writes what is written at the end alone.
     void saveAtExit();
 
   private:
-    void load(Control &control, const QString &value);
-    [[nodiscard]] QString baseFolder() const;
-    [[nodiscard]] QString directory(const QString &key, const QString &byDefault);
-    void save(QLatin1StringView key, const QString &value);
-    void connectSetting(QLatin1StringView key, Control *control);
-    void chkSwitch_Click(const CheckBox &box, QLatin1StringView on, QLatin1StringView off);
-    void chkSavePages_Click();
-    void chkSavePhone_Click();
-    void chkSaveUrl_Click();
+    [[nodiscard]] bool isReady(const Control &control) const;
+    void begin();
+    void connectStoring(const OptionRow &row);
+    void load(const OptionRow &row);
     void loadDirectories();
-    void connectToolTips();
-    void showCaseTip(CheckBox &box, const QString &items);
-    void mirrorText(TextBox &box, const QString &whenEmpty, bool keepsHelp);
+    [[nodiscard]] QString directory(QLatin1StringView key, const QString &byDefault);
+    [[nodiscard]] QString baseFolder() const;
     void txtSBSelAreaCodes_Validate();
 
-    ErrorLog &mLog;
+    Context mContext;
     frmSearch &mForm;
-    StatusLine &mStatus;
-    ControlStates &mStates;
-    SettingsStore &mSettings;
     QString mProgramFolder;
+    QSet<const OptionRow *> mKnown; ///< loaded, or changed since the start
 };

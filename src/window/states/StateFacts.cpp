@@ -65,6 +65,15 @@ void readManual(const frmSearch &form, StateFacts &facts)
     facts.opensFiles = form.manual.cboFilesSites.listIndex() == 0;
     facts.walksListOnShow = facts.manualRun && form.manual.mintMNRunningList == shown;
     facts.seriesHasNumber = facts.onManual && hasSeriesNumber(form.series.cboMNAutoUrl.text());
+    facts.seriesIsCounted = facts.onManual && isCounted(form.menus.mnuPopUpMNStatus);
+    facts.navigatesByItself = facts.onManual && form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate").isChecked();
+}
+
+/// The menu item of the number that counts, "First" to "Nine".
+bool isCounted(const Menu &menu)
+{
+    const auto positions = menu.children("mnuMNStatusAutoIncrementNumber");
+    return std::any_of(positions.begin(), positions.end(), [](const MenuItem *item) { return item->isChecked(); });
 }
 
 void readImport(const ImportPage &page, StateFacts &facts)

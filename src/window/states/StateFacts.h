@@ -28,6 +28,12 @@ struct StateFacts
     bool walksListOnShow; ///< the Manual run walks the list on show
     bool seriesHasNumber; ///< the address box holds a link with a number in it
 
+    bool seriesIsCounted;   ///< a number of the series has been chosen
+    bool navigatesByItself; ///< "Auto Navigate" is checked
+
+    /// No position counts the series yet, and one could.
+    [[nodiscard]] bool canBeginSeries() const { return !seriesIsCounted && seriesHasNumber && !manualRun; }
+
     // Importing from another database.
     bool importsAll, importsTable, importsField;
     bool importNamed; ///< a database to import from is shown

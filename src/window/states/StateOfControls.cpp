@@ -50,6 +50,8 @@ void StateOfControls::SetStateOfControls()
         for (auto state = states.begin(); state != states.end(); ++state)
             state.key()->setEnabled(state.value());
         colour(facts);
+        if (facts.initialized && facts.onManual && facts.canBeginSeries())
+            Q_EMIT seriesPositionAsked();
         if (facts.initialized && facts.onSites)
             Q_EMIT siteEditorAsked();
     });

@@ -55,7 +55,7 @@ constexpr EnablingRow enabling[] = {
     {always, "cmdANInitialize"_L1, [](F f) { return !f.initialized; }},
 
     {connected, "cmdANStart"_L1, [](F f) { return !f.manualRun; }},
-    {connected, "lblAutoIncrPos lblAutoPgUrls lblAutoCollect chkSMA(3) cboANList"_L1, idle},
+    {connected, "lblAutoIncrPos lblAutoPgUrls lblAutoCollect mnuPopUpPassUrls chkSMA(3) cboANList"_L1, idle},
     {connected, "chkMustContain chkMustNotContain"_L1, [](F f) { return f.hasOutput; }},
 
     {onAuto, "lblAutoCollect"_L1, always},
@@ -81,7 +81,10 @@ constexpr EnablingRow enabling[] = {
 
     {connected, "chkSaveEmail"_L1, idle},
 
-    {onManual, "cboMNMCMNCFilter cboMNMCMNC cboMNList"_L1, always},
+    {onManual, "mnuMNLoadIEUrlFilters"_L1, idle},
+    {onManual, "cboMNMCMNCFilter cboMNMCMNC"_L1, always},
+    {onManual, "cboMNList"_L1, [](F f) { return !(f.manualRun && f.navigatesByItself); }},
+    {onManual, "incMNAutoUrl incMNStep"_L1, [](F f) { return f.canBeginSeries(); }},
     {onManual, "chkSMOpenDownloadedGraphics chkMNUseFotoBrwse"_L1, [](F f) { return !f.listEmpty && f.opensFiles; }},
     {onManual, "cboFilesSites"_L1, [](F f) { return !f.listEmpty && f.idle; }},
     {onManual, "cmdMNStart"_L1, [](F f) { return f.idle || f.walksListOnShow; }},
