@@ -7,20 +7,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-/// A control's state as the settings store holds it.
-QString state(const Control *control)
-{
-    if (const auto *box = qobject_cast<const CheckBox *>(control))
-        return QString::number(box->value());
-    if (const auto *list = qobject_cast<const ListControl *>(control))
-        return QString::number(list->listIndex());
-    if (const auto *number = qobject_cast<const NumberBox *>(control))
-        return number->text();
-    if (const auto *text = qobject_cast<const TextBox *>(control))
-        return text->text();
-    return u"(no state)"_s;
-}
-
 class OptionsTest : public ProgramTest
 {
 };
@@ -42,7 +28,7 @@ void PrintTo(const KeyCase &row, std::ostream *out)
 class Keys : public ProgramTest, public testing::WithParamInterface<KeyCase>
 {
   protected:
-    QString stateOf(const char *name) { return state(form().control(QString::fromLatin1(name))); }
+    QString stateOf(const char *name) { return form().control(QString::fromLatin1(name))->stored(); }
 };
 } // namespace
 
@@ -114,7 +100,11 @@ INSTANTIATE_TEST_SUITE_P(
         KeyCase{"incSMDMinHtmlSize", "incSMDMinHtmlSize", "000000", "000500", "000500"},
         KeyCase{"incSmRPPause", "incSmRPPause", "010", "000", "000"},
         KeyCase{"incMNDLTiming", "incMNDLTiming", "004", "009", "009"},
-        KeyCase{"npTimimg", "incANTiming", "030", "not digits", "000"}),
+        KeyCase{"chkSMOpenDlGraphics", "chkSMOpenDownloadedGraphics", "1", "0", "0"},
+        KeyCase{"chkMNUseFotoB", "chkMNUseFotoBrwse", "0", "1", "1"},
+        KeyCase{"cboMNMCMNC", "cboMNMCMNC", "0", "2", "2"}, KeyCase{"cboMNList", "cboMNList", "0", "3", "3"},
+        KeyCase{"mnuMNLoadLinksIEUnique", "mnuMNUseSiteData", "False", "True", "True"},
+        KeyCase{"npTimimg", "incANTiming", "030", "not digits", "030"}),
     [](const auto &row) { return "row" + std::to_string(row.index); });
 
 TEST_F(OptionsTest, LoadingWritesNothingBack)
@@ -127,18 +117,56 @@ TEST_F(OptionsTest, LoadingWritesNothingBack)
     EXPECT_EQ(statuses, QStringList{u"Initialized"_s});
 }
 
-TEST_F(OptionsTest, AValueThatDoesNotConvertEndsTheLoadingThere)
+TEST_F(OptionsTest, AValueThatDoesNotConvertEndsTheLoadingThereAndWhatIsBehindItKeepsItsDefault)
 {
     settings.preset("chkSaveToFile", u"abc"_s);
     settings.preset("SearchKeyChkSavePages Value", u"1"_s); // behind it
-    settings.preset("chkMCMNCStop", u"1"_s);                // in front of it
+    settings.preset("npTimimg", u"007"_s);
+    settings.preset("chkMCMNCStop", u"1"_s); // in front of it
     settings.preset("chkSMSUniqueServers", u"1"_s);
     load();
+    EXPECT_TRUE(loaded);
     EXPECT_EQ(form().outputs.chkMCMNCStop.value(), 1);
     EXPECT_EQ(form().outputs.chkSavePages.value(), 0);
-    EXPECT_EQ(form().options.chkSMA(9).value(), 0);
-    EXPECT_TRUE(loaded); // the folder of the program stands where no other was read
-    EXPECT_EQ(form().places.txtSFDBDir.text(), folder.path() + u'/');
+    EXPECT_EQ(form().options.chkSMA(SMA::UniqueServers).value(), 0);
+    EXPECT_EQ(form().options.chkSMA(SMA::PromptBeforeEnd).value(), 1);
+    EXPECT_EQ(form().options.chkSMD(SMD::UrlWithEmail).value(), 1);
+    EXPECT_EQ(form().autoRun.incANTiming.text(), u"030"_s);
+    EXPECT_EQ(form().limits.incSMAIEWidth.text(), u"0380"_s);
+}
+
+TEST_F(OptionsTest, DirectoriesAndTheDatabasesNameAreReadInAnyCase)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"data"_s));
+    settings.preset("chkMCMNCStop", u"abc"_s);
+    settings.preset("SearchKeyTxtSaveLocation Text", folder.path() + u"/data/"_s);
+    settings.preset("txtFNSaveLocation", folder.path() + u"/"_s);
+    settings.values.insert(u"mStartUp/DatabaseName"_s, u"Mine.mdb"_s);
+    program = std::make_unique<Program>(
+        Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus, browsers, folder.path()});
+    program->options.GetSettings();
+    EXPECT_EQ(form().places.txtSFDBDir.text(), folder.path() + u"/data/"_s);
+    EXPECT_EQ(form().places.txtSFMNDir.text(), folder.path() + u'/');
+    EXPECT_EQ(form().places.txtSFDBFile.text(), u"Mine.mdb"_s);
+}
+
+TEST_F(OptionsTest, AValueThatWasNeverLoadedIsNeverStored)
+{
+    for (const auto *bad : {"chkSaveUrl", "chkMCCS"}) {
+        settings.preset("chkSaveUrl", u"0"_s);
+        settings.preset("chkMCCS", u"0"_s);
+        settings.preset(bad, std::string_view(bad) == "chkMCCS" ? QString() : u"yes"_s);
+        settings.preset("udcMNTimin", u"011"_s);
+        settings.preset("npTimimg", u"012"_s);
+        settings.preset("incSmRPPause", u"013"_s);
+        load();
+        form().limits.incSmRPPause.setText(u"014"_s); // changed by the user
+        program->lifeCycle.end();
+        program.reset();
+        EXPECT_EQ(settings.of("npTimimg"), u"012"_s) << bad;
+        EXPECT_EQ(settings.of("incSmRPPause"), u"014"_s) << bad;
+        EXPECT_EQ(settings.of("udcMNTimin"), u"011"_s) << bad;
+    }
 }
 
 TEST_F(OptionsTest, AnIndexBeyondItsListIsSuchAValueToo)
@@ -146,8 +174,73 @@ TEST_F(OptionsTest, AnIndexBeyondItsListIsSuchAValueToo)
     settings.preset("SearchKeyCboSaveItem ListIndex", u"9"_s);
     settings.preset("chkSMSUniqueServers", u"1"_s);
     load();
-    EXPECT_EQ(form().options.chkSMA(9).value(), 0);
+    EXPECT_EQ(form().outputs.cboANSaveType.listIndex(), 0);
+    EXPECT_EQ(form().options.chkSMA(SMA::UniqueServers).value(), 0);
     EXPECT_TRUE(loaded);
+}
+
+TEST_F(OptionsTest, AValueOfTheDatabasesPartThatDoesNotConvertHarmsNoOther)
+{
+    settings.preset("cboMCMNCMask", u"abc"_s);
+    settings.preset("chkMCMNCStop", u"1"_s);
+    settings.preset("SearchKeyChkMustContain Value", u"1"_s);
+    load();
+    EXPECT_EQ(form().criteria.mustContain.on.value(), 1);
+    program->lifeCycle.end();
+    EXPECT_EQ(settings.of("cboMCMNCMask"), u"abc"_s);
+}
+
+TEST_F(OptionsTest, EveryOptionComesBackAsItWasLeft)
+{
+    settings.preset("chkSMSUniqueServers", u"0"_s);
+    settings.preset("chkMCMNCStop", u"1"_s); // an output, without which the criteria go off
+    load();
+    program->lifeCycle.settle();
+    QMap<QString, QString> left;
+    // Blocking and start addresses have nothing to act on, the Manual list holds nothing to open.
+    const QStringList kept{u"chkUrlBlocking"_s, u"chkEmailBlocking"_s, u"chkUseSavedUrls"_s,
+                           u"cboANSavedUrls"_s, u"cboANMCMNCMask"_s,   u"cboANWBSelect"_s,
+                           u"lstANMCAllAny"_s,  u"lstANMNCAllAny"_s,   u"chkMCMNCStop"_s};
+    for (const OptionRow &row : optionRows()) {
+        Control *control = form().control(row.control);
+        if (kept.contains(control->name()))
+            continue;
+        control->restore(control->stored() == u"1"_s || control->stored() == u"True"_s ? u"0"_s : u"1"_s);
+        if (auto *box = qobject_cast<TextBox *>(control))
+            box->validate();
+    }
+    for (const OptionRow &row : optionRows())
+        left.insert(row.control, form().control(row.control)->stored());
+    program->lifeCycle.end();
+    program.reset();
+    load();
+    program->lifeCycle.settle();
+    for (auto option = left.begin(); option != left.end(); ++option)
+        EXPECT_EQ(form().control(option.key())->stored(), option.value()) << option.key().toStdString();
+}
+
+TEST_F(OptionsTest, EveryKeyAndEveryControlOfTheTableStandsOnce)
+{
+    QSet<QString> keys;
+    QSet<QString> controls;
+    const frmSearch form;
+    for (const OptionRow &row : optionRows()) {
+        EXPECT_NE(form.control(row.control), nullptr) << row.control.data();
+        EXPECT_FALSE(keys.contains(row.key)) << row.key.data();
+        EXPECT_TRUE(!controls.contains(row.control) || row.control == "cboANSavedUrls"_L1) << row.control.data();
+        keys.insert(row.key);
+        controls.insert(row.control);
+    }
+}
+
+TEST_F(OptionsTest, ATagOfMinusOneIsStoredAChoiceOfNothingIsNot)
+{
+    load();
+    form().outputs.txtANStartTag.setText(u"-1"_s);
+    EXPECT_EQ(settings.of("SearchKeyTxtStartTag Text"), u"-1"_s);
+    form().outputs.cboANSaveType.setListIndex(2);
+    form().outputs.cboANSaveType.setListIndex(-1);
+    EXPECT_EQ(settings.of("SearchKeyCboSaveItem ListIndex"), u"2"_s);
 }
 
 TEST_F(OptionsTest, FoldersThatAreGoneGiveWayToTheProgramsAndTheStoreSaysSo)
@@ -187,7 +280,9 @@ TEST_F(OptionsTest, EverySwitchStoresItsValueAndTellsItsStatus)
     form().options.chkSMV(1).setValue(0);
     // Outputs first, so that the criteria stay on; blocking and Saved Urls have nothing to act on and go off at once.
     const QStringList kept{u"chkUrlBlocking"_s, u"chkEmailBlocking"_s, u"chkUseSavedUrls"_s};
-    for (const SwitchRow &row : switchRows()) {
+    for (const OptionRow &row : optionRows()) {
+        if (row.on.isEmpty())
+            continue;
         auto *box = qobject_cast<CheckBox *>(form().control(row.control));
         ASSERT_NE(box, nullptr) << row.control.data();
         if (kept.contains(QString(row.control)))
@@ -201,7 +296,7 @@ TEST_F(OptionsTest, EverySwitchStoresItsValueAndTellsItsStatus)
         EXPECT_EQ(lastStatus(), before == 1 ? QString(row.on) : QString(row.off)) << row.control.data();
         box->setValue(before);
     }
-    for (const SettingRow &row : settingRows()) {
+    for (const OptionRow &row : optionRows()) {
         auto *box = qobject_cast<CheckBox *>(form().control(row.control));
         if (!box || kept.contains(QString(row.control)))
             continue;
@@ -358,6 +453,58 @@ TEST_F(OptionsTest, AreaCodesAreTidiedAndStoredWhenTheBoxIsLeft)
     form().areaCodes.txtSBSelAreaCodes.validate();
     EXPECT_EQ(form().areaCodes.txtSBSelAreaCodes.text(), u" none "_s);
     EXPECT_EQ(settings.of("txtSBSelAreaCodes"), u"none"_s);
+}
+
+namespace {
+/// Every control that has a text of its own, in the order in which they are told.
+const QStringList controlsWithTips =
+    u"lblMNDLTiming chkSMA(9) chkSMA(0) chkSMD(7) chkSMD(5) chkSMV(2) lblNotFoundMinSize lblMinHtmlSize "
+    u"lblSummarySaved "
+    "lblPageSaved lblEmailSaved lblPhoneSaved lblUrlSaved picANEnd lblTrawlexTimer lblAutoIncrPos lblAutoPgUrls "
+    "lblAutoCollect cmdANStart cmdMNStart cmdANInitialize lstANMCAllAny lstANMNCAllAny cboSDGroup cboSD(2) "
+    "cmdSFEditorSel lstANMC lstANMNC txtSFEditor cmdSDDefault cboSDLen chkSDHex cboSD(1) cboSD(3) cboSD(4) cboSD(5) "
+    "cboSD(6) cboSD(7) cboSD(8) chkSMA(1) chkSMA(2) chkSMA(3) chkSMA(4) chkSMA(5) chkSMA(6) chkSMA(7) chkSMA(8) "
+    "chkSMD(0) chkSMD(1) chkSMD(2) chkSMD(3) chkSMD(4) chkSMD(6) chkSMD(8) chkSMV(0) chkSMV(1) chkSMV(3) chkSMV(4) "
+    "cboANList lblSMRPPauseTime lblMNFileDLMinSize lblSFMinPageSize lblAutoTxtBoxElongate chkSaveSummary chkSavePages "
+    "chkSaveEmail chkSavePhone chkSaveUrl chkMCMNCStop cboSFITableIn cboSFITableExisting cboSFIFieldIn "
+    "cboSFIFieldExisting chkSFIImportTable chkSFIImportField chkSFIAllSettings chkSFIAllData lblSFIImportDatabase "
+    "cmdSFIImport cmdSFISelDatabase txtSBStateACs txtSBSelAreaCodes cboSBSelectState cboMNMCMNC cboMNMCMNCFilter "
+    "cboMNList chkSMOpenDownloadedGraphics chkMNUseFotoBrwse picMNStartStop cboMNAutoUrl incMNAutoUrl cboDBFields "
+    "txtDBQuery chkSaveToFile chkSaveToSS cboFilesSites cboDBTables lstMN(0) lstMN(1) lstMN(2) lstMN(3) lstMN(4) "
+    "cmdSFAutoDBFile cmdSFDBDirBrowse txtSFDBDir txtSFDBFile cmdSFDBFileBrowse txtSFMNDir cmdSFMNDirBrowse "
+    "lstBlockedEmailC lstBlockedUrlC cmdBlockedEC(0) cmdBlockedEC(1) cmdBlockedUrlC(0) cmdBlockedUrlC(1) "
+    "chkEmailBlocking chkUrlBlocking cmdANMCMaskAdd cmdANMCMaskMinus cboANMCMNCMask chkMustContain chkMustNotContain "
+    "cmdANAddMC cmdANAddMNC txtANStartTag txtANStopTag cboANSaveType cmdANSavedAdd cboANSavedUrls cmdANSavedGo "
+    "cmdANSavedMinus chkMCCS chkMNCCS cboANWBSelect chkUseSavedUrls incANTiming lblMCColor lblMNCColor"_s.split(u' ');
+} // namespace
+
+TEST_F(OptionsTest, EveryControlThatIsToldHasItsTip)
+{
+    load();
+    program->toolTips.ShowTootTips(true);
+    for (const QString &name : controlsWithTips) {
+        const Control *control = form().control(name);
+        ASSERT_NE(control, nullptr) << name.toStdString();
+        EXPECT_FALSE(control->toolTipText().isEmpty()) << name.toStdString();
+    }
+    for (int i = 1; i <= 16; ++i)
+        EXPECT_EQ(form().siteEditor.cmdSD(i).toolTipText(), i % 2 ? u"Add item"_s : u"Delete item"_s);
+    program->toolTips.ShowTootTips(false);
+    for (const QString &name : controlsWithTips)
+        EXPECT_EQ(form().control(name)->toolTipText(), QString()) << name.toStdString();
+}
+
+TEST_F(OptionsTest, StatesShowTheirAreaCodes)
+{
+    load();
+    const ComboBox &states = form().areaCodes.cboSBSelectState;
+    EXPECT_EQ(states.listCount(), 52);
+    EXPECT_TRUE(states.items().contains(u"New York"_s));
+    form().areaCodes.cboSBSelectState.setText(u"Alaska"_s);
+    EXPECT_EQ(form().areaCodes.txtSBStateACs.text(), u"907"_s);
+    EXPECT_EQ(form().areaCodes.txtSBStateACs.toolTipText(), u"907"_s);
+    form().areaCodes.txtSBStateACs.setText({});
+    EXPECT_EQ(form().areaCodes.txtSBStateACs.toolTipText(), u"Drag area codes to list (add commas manually)"_s);
 }
 
 TEST_F(OptionsTest, ToolTipsGoOnAndOffWithTheirOption)

@@ -192,6 +192,7 @@ void AutoTab::tab_Click(bool ofSettings)
     const bool onSettings = m.form.frame.sstSearch.tab() == settingsTabIndex;
     const QStringList path =
         ofSettings || onSettings ? settingsPath(m.form) : QStringList{caption(m.form.frame.sstSearch)};
-    m.status.UpDateStatus(ofSettings ? path.join(" - "_L1) : path.mid(0, 2).join(" - "_L1));
+    // What is set back for the new tab reports too; the last word is where the user is.
     m.states.SetStateOfControls();
+    m.status.UpDateStatus(ofSettings ? path.join(" - "_L1) : path.mid(0, 2).join(" - "_L1));
 }

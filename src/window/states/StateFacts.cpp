@@ -16,6 +16,13 @@ bool hasSeriesNumber(const QString &address)
            cIEText::IsThisEmailOrLink(address, true) == cIEText::TextKind::Link;
 }
 
+/// The menu item of the number that counts, "First" to "Nine".
+bool isCounted(const Menu &menu)
+{
+    const auto positions = menu.children("mnuMNStatusAutoIncrementNumber");
+    return std::any_of(positions.begin(), positions.end(), [](const MenuItem *item) { return item->isChecked(); });
+}
+
 void readTabs(const WindowFrame &frame, StateFacts &facts)
 {
     const int tab = frame.sstSearch.tab();
@@ -67,13 +74,6 @@ void readManual(const frmSearch &form, StateFacts &facts)
     facts.seriesHasNumber = facts.onManual && hasSeriesNumber(form.series.cboMNAutoUrl.text());
     facts.seriesIsCounted = facts.onManual && isCounted(form.menus.mnuPopUpMNStatus);
     facts.navigatesByItself = facts.onManual && form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate").isChecked();
-}
-
-/// The menu item of the number that counts, "First" to "Nine".
-bool isCounted(const Menu &menu)
-{
-    const auto positions = menu.children("mnuMNStatusAutoIncrementNumber");
-    return std::any_of(positions.begin(), positions.end(), [](const MenuItem *item) { return item->isChecked(); });
 }
 
 void readImport(const ImportPage &page, StateFacts &facts)
