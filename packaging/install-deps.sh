@@ -8,7 +8,7 @@ packages=(
   clang-format clang-tidy clang libclang-rt-14-dev
   # what the program stands on
   qt6-base-dev libqt6opengl6-dev qt6-webengine-dev qt6-svg-dev qt6-l10n-tools
-  libsqlitecpp-dev libsqlite3-dev libcurl4-openssl-dev mdbtools-dev
+  libsqlitecpp-dev libsqlite3-dev libcurl4-openssl-dev mdbtools-dev libxlsxwriter-dev
   # tests and benchmarks
   libgtest-dev libgmock-dev libbenchmark-dev python3-pyftpdlib
   # the browser that is driven, a display for the window, fonts, and eyes for the tests

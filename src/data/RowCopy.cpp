@@ -1,0 +1,74 @@
+#include "data/RowCopy.h"
+
+#include "store/AdoErrors.h"
+#include "store/FixNull.h"
+#include "util/ColumnText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int dateKind = 7;
+
+/// A value as text; a date that is not there is none, which becomes today's in the record.
+QString textOf(const Field &field)
+{
+    const bool noDate = field.Type() == dateKind && !field.Value().isValid();
+    return noDate ? QString() : FixNull(field);
+}
+
+/// A text as the table holds and compares it: cut, and the case of A to Z does not count.
+QString storeKey(const QString &text)
+{
+    QString key = cUtility::asColumnText(text);
+    for (QChar &unit : key) {
+        if (unit >= u'A' && unit <= u'Z')
+            unit = QChar(unit.unicode() + (u'a' - u'A'));
+    }
+    return key;
+}
+} // namespace
+
+/// One look at the whole table instead of one question a row.
+void RowCopy::collectKnown(const QString &testField)
+{
+    Recordset rows = mTarget.GetRecordset("SELECT ["_L1 + testField + "] FROM ["_L1 + mTable + ']'_L1);
+    const Field field = rows.Fields()[0];
+    for (; !rows.Eof(); rows.MoveNext())
+        mKnown.insert(storeKey(FixNull(field)));
+}
+
+bool RowCopy::isKnown(const QString &value, qint64 row)
+{
+    if (value.contains(u'\''))
+        throw RuntimeError(AdoError::BadSql, u"row %1 of %2 has a quote in \"%3\""_s.arg(row).arg(mTable, value));
+    const auto before = mKnown.size();
+    mKnown.insert(storeKey(value));
+    return mKnown.size() == before;
+}
+
+void RowCopy::write(const QStringList &record, qint64 row)
+{
+    if (!mTarget.AddRecord(record, -1, mTable, mDelimiter))
+        throw RuntimeError(AdoError::Engine, u"row %1 of %2 could not be written"_s.arg(row).arg(mTable));
+}
+
+void RowCopy::run(Recordset rows, const QStringList &columns, const QString &testField)
+{
+    if (!testField.isEmpty())
+        collectKnown(testField);
+    std::vector<Field> fields;
+    QStringList heads;
+    for (const QString &column : columns) {
+        fields.push_back(rows.Fields()[column]);
+        heads.append(column + mDelimiter);
+    }
+    const qsizetype tested = columns.indexOf(testField);
+    QStringList record(columns.size());
+    for (qint64 row = 1; !rows.Eof() && mWork.goOn(row); rows.MoveNext(), ++row) {
+        if (tested >= 0 && isKnown(textOf(fields[std::size_t(tested)]), row))
+            continue;
+        for (qsizetype i = 0; i < columns.size(); ++i)
+            record[i] = heads[i] + textOf(fields[std::size_t(i)]);
+        write(record, row);
+    }
+}
