@@ -68,7 +68,10 @@ KeySet::KeySet(Query query) : mQuery(std::move(query)) {}
 bool KeySet::reach(qint64 place)
 {
     while (!mComplete && place >= static_cast<qint64>(mKeys.size()))
-        fetch(mKeys.empty() ? firstFetch : laterFetch);
+        if (mQuery.order.empty())
+            fetch(mKeys.empty() ? firstFetch : laterFetch);
+        else
+            fetchSorted();
     return place >= 0 && place < static_cast<qint64>(mKeys.size());
 }
 
@@ -95,6 +98,24 @@ void KeySet::fetch(qint64 count)
         Statement last = mQuery.connection->prepare("SELECT max(" + table.key + ") FROM " + table.quoted);
         mLastKey = last.step() ? last.integer(0) : 0;
     }
+}
+
+void KeySet::fetchSorted()
+{
+    const TableInfo &table = *mQuery.table;
+    Statement keys = mQuery.connection->prepare("SELECT " + table.key + " FROM " + table.quoted + " WHERE 1" +
+                                                mQuery.condition + " ORDER BY " + mQuery.order + "," + table.key);
+    if (!mQuery.condition.empty())
+        keys.bind(1, mQuery.value);
+    while (keys.step())
+        mKeys.push_back(keys.integer(0));
+    mComplete = true;
+}
+
+qint64 KeySet::tableSize() const
+{
+    Statement count = mQuery.connection->prepare("SELECT count(*) FROM " + mQuery.table->quoted);
+    return count.step() ? count.integer(0) : 0;
 }
 
 qint64 KeySet::size()

@@ -15,6 +15,8 @@ struct Query
     /// "" or " AND ([Url]=?1)"; `value` is bound to ?1.
     std::string condition;
     QString value;
+    /// What comes before table order: "" or a column in brackets, with its direction.
+    std::string order;
 };
 
 /// Errors: AdoError::BadSql, AdoError::NoSuchTable.
@@ -23,7 +25,8 @@ struct Query
 /// Removes the rows that the query names.
 void runDelete(const Query &query);
 
-/// The keys of a query's rows in table order, fetched as far as they are asked for. Rows that are added to the table
+/// The keys of a query's rows in its order, fetched as far as they are asked for; all at once where that is not the
+/// table's. Rows that are added to the table
 /// after the set was made do not belong to it.
 class KeySet
 {
@@ -42,12 +45,15 @@ class KeySet
     void markDeleted(qint64 place);
     /// Fetches the rest. The number of places, deleted ones among them.
     [[nodiscard]] qint64 size();
+    /// How many rows the table has now, quickly.
+    [[nodiscard]] qint64 tableSize() const;
     [[nodiscard]] qint64 deleted() const { return static_cast<qint64>(mDeleted.size()); }
     /// Puts a row that was added through the set behind the others.
     qint64 append(qint64 key);
 
   private:
     void fetch(qint64 count);
+    void fetchSorted();
 
     Query mQuery;
     std::vector<qint64> mKeys;

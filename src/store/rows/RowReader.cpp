@@ -84,6 +84,8 @@ qint64 RowReader::rowsToRead(qint64 place) const
 {
     if (holds(place))
         return mFirst + mRows - place;
+    if (!mKeys->query().order.empty())
+        return 1;
     qint64 count = mRows > 0 && place == mFirst + mRows ? std::min(mRows * blockGrowth, largestBlock) : 1;
     count = std::min(count, mKeys->fetched() - place);
     while (count > 1 && mKeys->key(place + count - 1) - mKeys->key(place) > count * (mostStrangers + 1))
@@ -153,4 +155,10 @@ const QVariant &RowReader::longValue(qint64 place, int column)
     mLongPlace = place;
     mLongColumn = column;
     return mLongValue;
+}
+
+QString RowReader::beginning(qint64 place, int column, qsizetype count) const
+{
+    const Query &query = mKeys->query();
+    return query.connection->textBeginning(*query.table, info(column), mKeys->key(place), count);
 }

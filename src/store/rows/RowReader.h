@@ -14,6 +14,9 @@ class RowReader
     /// The value of a column of the set in the row at `place`, which the set has. Valid until the next call.
     /// Error AdoError::RowDeleted where the row has gone.
     [[nodiscard]] const QVariant &value(qint64 place, int column);
+    /// The first `count` characters of a text, of which no more is read; "" for every other value and a row that has
+    /// gone.
+    [[nodiscard]] QString beginning(qint64 place, int column, qsizetype count) const;
 
   private:
     [[nodiscard]] bool holds(qint64 place) const { return place >= mFirst && place < mFirst + mRows; }

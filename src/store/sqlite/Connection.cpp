@@ -1,6 +1,7 @@
 #include "store/sqlite/Connection.h"
 #include "store/rows/ColumnKinds.h"
 #include "store/sql/SqlTranslator.h"
+#include "store/sqlite/LikeFunction.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -141,6 +142,7 @@ void Connection::configure(Access access)
     // A word in double quotes is a name or nothing; the engine must not take an unknown one for a text.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    installLike(handle);
     sqlite3_set_authorizer(handle, &Connection::authorize, this);
     if (access == Access::Read)
         administer("PRAGMA query_only=ON");
@@ -194,6 +196,39 @@ int Connection::authorize(void *self, int action, const char *first, const char 
 Statement Connection::prepare(const std::string &text)
 {
     return {mStatements, mSteps, text};
+}
+
+bool Connection::isUtf8()
+{
+    if (!mUtf8)
+        mUtf8 = administerTexts("PRAGMA encoding") == QStringList{u"UTF-8"_s};
+    return *mUtf8;
+}
+
+QString Connection::wholeText(const TableInfo &table, const ColumnInfo &column, qint64 key)
+{
+    Statement row = prepare("SELECT " + column.quoted + " FROM " + table.quoted + " WHERE " + table.key + "=?1");
+    return row.bind(1, key).step() ? row.value(0).toString() : QString();
+}
+
+QString Connection::textBeginning(const TableInfo &table, const ColumnInfo &column, qint64 key, qsizetype count)
+{
+    constexpr qsizetype longestCharacter = 3; // of one unit, in bytes
+    if (!isUtf8())
+        return wholeText(table, column, key).left(count);
+    sqlite3_blob *text = nullptr;
+    const int code = sqlite3_blob_open(mDatabase->getHandle(), "main", table.name.toUtf8().constData(),
+                                       column.name.toUtf8().constData(), key, 0, &text);
+    const std::unique_ptr<sqlite3_blob, int (*)(sqlite3_blob *)> closer(text, &sqlite3_blob_close);
+    // No such row, or no text in it.
+    if (code == SQLITE_ERROR)
+        return {};
+    if (code != SQLITE_OK)
+        mSteps.raise(code);
+    QByteArray bytes(std::min<qsizetype>(sqlite3_blob_bytes(text), (count + 1) * longestCharacter), Qt::Uninitialized);
+    if (const int read = sqlite3_blob_read(text, bytes.data(), static_cast<int>(bytes.size()), 0); read != SQLITE_OK)
+        mSteps.raise(read);
+    return QString::fromUtf8(bytes).left(count);
 }
 
 void Connection::administer(const std::string &text)

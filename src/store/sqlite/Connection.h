@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace SQLite {
@@ -83,6 +84,10 @@ class Connection
     /// A statement out of the cache. It must not outlive the connection.
     [[nodiscard]] Statement prepare(const std::string &text);
 
+    /// The first `count` characters of a text in the row with that key, of which no more is read; "" where there is no
+    /// text.
+    [[nodiscard]] QString textBeginning(const TableInfo &table, const ColumnInfo &column, qint64 key, qsizetype count);
+
     /// Runs statements that only the store itself may run: schema, pragmas. No rows.
     void administer(const std::string &text);
     /// The rows' first column of such a statement, as text.
@@ -139,6 +144,8 @@ class Connection
     explicit Connection(std::unique_ptr<SQLite::Database> database, const QString &path, Access access);
     void configure(Access access);
     [[nodiscard]] std::shared_ptr<const TableInfo> readTable(const QString &name);
+    [[nodiscard]] bool isUtf8();
+    [[nodiscard]] QString wholeText(const TableInfo &table, const ColumnInfo &column, qint64 key);
     void beginOutermost(int patience);
     void commitOutermost();
     void requireLiveTransaction() const;
@@ -154,6 +161,7 @@ class Connection
     StatementCache mStatements;
     QHash<QString, std::shared_ptr<const TableInfo>> mTables;
     QHash<QString, std::shared_ptr<TableChanges>> mChanges;
+    std::optional<bool> mUtf8;
     quint64 mRollBacks = 0;
     qint64 mOutsideVersion = -1;
     int mDepth = 0;
