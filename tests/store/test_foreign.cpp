@@ -234,3 +234,77 @@ TEST(ReaderTexts, UnitsShortenedTextsDatesAndAmounts)
     EXPECT_EQ(amountText(0), "0");
     EXPECT_EQ(amountText(std::numeric_limits<std::int64_t>::min()), "-922337203685477.5808");
 }
+
+TEST_F(ForeignTest, AFileThatIsCutOffGivesAllRowsOfATableOrAnError)
+{
+    const QDir folder(inSourceTree(QStringLiteral("../shared/mdb")));
+    const QStringList names = folder.entryList({u"*.mdb"_s, u"*.accdb"_s}, QDir::Files);
+    if (names.isEmpty())
+        GTEST_SKIP() << "the sample files are not here";
+    int errors = 0;
+    for (const QString &name : names) {
+        const QByteArray whole = contentOf(folder.filePath(name));
+        QStringList tables = mDatabase.GetExternalTablesFields(folder.filePath(name), List::Tables, u""_s);
+        tables.removeAll(u""_s);
+        ASSERT_FALSE(tables.isEmpty()) << name.toStdString() << mLog.text();
+        for (const qsizetype percent : {97, 90, 70}) {
+            const QString cut = written(whole.left(whole.size() * percent / 100));
+            for (const QString &table : tables) {
+                const QString statement = u"SELECT * FROM ["_s + table + u"]"_s;
+                mLog.entries.clear();
+                const QString rows = rowsOf(cut, statement);
+                errors += mLog.entries.isEmpty() ? 0 : 1;
+                ASSERT_TRUE(rows == u"Nothing"_s || rows == rowsOf(folder.filePath(name), statement))
+                    << name.toStdString() << " " << percent;
+            }
+        }
+    }
+    EXPECT_GT(errors, 10) << "the cut was met";
+}
+
+TEST_F(ForeignTest, AFileThatLacksPagesSaysHowMany)
+{
+    SAMPLE(path, u"indexTestV2000.mdb"_s);
+    constexpr qsizetype page = 4096;
+    const QByteArray whole = contentOf(path);
+    mLog.entries.clear();
+    EXPECT_EQ(rowsOf(written(whole.left(whole.size() * 9 / 10 / page * page)), u"SELECT * FROM Table1"_s),
+              u"Nothing"_s);
+    EXPECT_EQ(mLog.entries.value(0).description, u"The file is damaged: 64 of 72 pages."_s);
+    mLog.entries.clear();
+    EXPECT_EQ(rowsOf(written(whole.chopped(1)), u"SELECT * FROM Table1"_s), u"Nothing"_s) << "half a page";
+    EXPECT_EQ(mLog.entries.value(0).description, u"The file is damaged: 71 of 72 pages."_s);
+}
+
+TEST(ReaderTexts, NumbersOfSixteenBytes)
+{
+    using namespace std::string_literals;
+    EXPECT_EQ(guidText("\x33\x22\x11\x00\x55\x44\x77\x66\x88\x99\xaa\xbb\xcc\xdd\xee\xff"s),
+              "{00112233-4455-6677-8899-AABBCCDDEEFF}");
+    EXPECT_EQ(guidText("short"), "");
+}
+
+TEST(ReaderTexts, ExtendedDates)
+{
+    EXPECT_EQ(extendedDate("0000000000000000000:0000000000000000000:7"), "0001-01-01");
+    EXPECT_EQ(extendedDate("0000000000000738000:0000000432010000000:7"), "2021-07-30T12:00:01");
+    for (const char *text :
+         {"", "0000000000000000000:0000000000000000000:8", "000000000000000000x:0000000000000000000:7",
+          "-000000000000000001:0000000000000000000:7", "0000000000003652059:0000000000000000000:7",
+          "0000000000000000000:0000000864000000000:7", "0000000000000000000 0000000000000000000:7"})
+        EXPECT_EQ(extendedDate(text), "") << text;
+}
+
+TEST(ReaderTexts, TheValueInACalculatedOne)
+{
+    using namespace std::string_literals;
+    const std::string head(16, '\x07');
+    const auto inner = calculatedValue(head + "\x03\0\0\0abcde"s);
+    ASSERT_TRUE(inner);
+    EXPECT_EQ(inner->start, 20U);
+    EXPECT_EQ(inner->length, 3U);
+    EXPECT_TRUE(calculatedValue(head + "\0\0\0\0"s));
+    EXPECT_FALSE(calculatedValue(head + "\x03\0\0\0ab"s)) << "shorter than its head says";
+    EXPECT_FALSE(calculatedValue(head + "\xff\xff\xff\xff"s + "abc"));
+    EXPECT_FALSE(calculatedValue("abc"));
+}

@@ -1,11 +1,13 @@
 #include "store/foreign/ReaderProcess.h"
 #include "store/AdoErrors.h"
+#include "store/StoreFault.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QtEndian>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -14,8 +16,13 @@ namespace {
 constexpr int patience = 10'000;
 constexpr int slice = 100;
 // A damaged file can send the library round in circles, complaining at each turn. No readable file has so many faults.
-constexpr qint64 mostComplaints = 262'144;
+constexpr qsizetype longestComplaint = 262'144;
 constexpr qsizetype headLength = 5;
+// What the library says of pages and rows that it passes over. Of properties, which are no part of the rows, it
+// complains too, with their bytes in between.
+constexpr std::array seriousComplaints{
+    "beyond EOF",          "reading page",          "not a valid table definition", "doesn't match",
+    "Invalid page buffer", "Invalid data location", "incorrect memo length",        "unrecognized usage map"};
 
 // The reader stands beside the program or, installed, in the folder for programs that only programs start.
 QString readerProgram()
@@ -32,7 +39,7 @@ QString readerProgram()
 
 [[noreturn]] void breakOff(const QString &why)
 {
-    throw RuntimeError(AdoError::Engine, why);
+    throw StoreError(StoreFault::Damaged, AdoError::Engine, why);
 }
 } // namespace
 
@@ -69,13 +76,24 @@ void ReaderProcess::fill(qsizetype count)
         const bool ended = mProcess.state() == QProcess::NotRunning;
         if (mProcess.bytesAvailable() == 0 && !ended)
             mProcess.waitForReadyRead(slice);
-        mComplaints += mProcess.readAllStandardError().size();
+        mComplaint += mProcess.readAllStandardError();
         const QByteArray arrived = mProcess.readAllStandardOutput();
         if (!arrived.isEmpty())
             silence.restart();
-        else if (ended || mComplaints > mostComplaints || silence.hasExpired(patience))
+        else if (ended || mComplaint.size() > longestComplaint || silence.hasExpired(patience))
             breakOff(u"The database cannot be read: its reader ended or does not answer."_s);
         mBytes += arrived;
+    }
+}
+
+// The library goes on after what it complains about; what it gives then is not all that there is.
+void ReaderProcess::requireNoComplaint()
+{
+    mProcess.waitForFinished(patience);
+    mComplaint += mProcess.readAllStandardError();
+    for (const char *serious : seriousComplaints) {
+        if (mComplaint.contains(serious))
+            breakOff(u"The database is damaged: %1."_s.arg(QLatin1StringView(serious)));
     }
 }
 
@@ -93,7 +111,9 @@ std::optional<ReaderProcess::Frame> ReaderProcess::next()
     mPlace += headLength + qsizetype(length);
     if (frame.kind == Frames::Failure)
         breakOff(QString::fromUtf8(frame.bytes));
-    if (frame.kind == Frames::End)
+    if (frame.kind == Frames::End) {
+        requireNoComplaint();
         return std::nullopt;
+    }
     return frame;
 }

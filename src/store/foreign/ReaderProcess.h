@@ -31,9 +31,10 @@ class ReaderProcess
 
   private:
     void fill(qsizetype count);
+    void requireNoComplaint();
 
     QProcess mProcess;
     QByteArray mBytes;
     qsizetype mPlace = 0;
-    qint64 mComplaints = 0;
+    QByteArray mComplaint;
 };

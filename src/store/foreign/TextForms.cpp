@@ -1,6 +1,7 @@
 #include "store/foreign/TextForms.h"
 
 #include <array>
+#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -64,6 +65,29 @@ bool isLow(char16_t unit)
 {
     return unit >= 0xDC00 && unit < 0xE000;
 }
+
+// A date, and behind it the time unless that is midnight.
+std::string isoText(std::chrono::sys_days date, std::int64_t seconds)
+{
+    const std::chrono::year_month_day day{date};
+    std::array<char, 64> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%04d-%02u-%02u", int(day.year()), unsigned(day.month()),
+                                     unsigned(day.day()));
+    std::string iso(text.data(), static_cast<std::size_t>(length));
+    if (seconds == 0)
+        return iso;
+    const int more = std::snprintf(text.data(), text.size(), "T%02d:%02d:%02d", int(seconds / 3600),
+                                   int(seconds / 60 % 60), int(seconds % 60));
+    return iso.append(text.data(), static_cast<std::size_t>(more));
+}
+
+// The number that all of `digits` is; -1 for any other text.
+std::int64_t wholeNumber(std::string_view digits)
+{
+    std::int64_t number = -1;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return error == std::errc() && end == digits.data() + digits.size() && number >= 0 ? number : -1;
+}
 } // namespace
 
 std::string textFromUnits(std::string_view bytes)
@@ -95,16 +119,7 @@ std::string dateFromDays(double days)
     whole += seconds / daySeconds;
     seconds %= daySeconds;
     using namespace std::chrono;
-    const year_month_day day{sys_days{year{1899} / December / 30} + std::chrono::days{whole}};
-    std::array<char, 64> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%04d-%02u-%02u", int(day.year()), unsigned(day.month()),
-                                     unsigned(day.day()));
-    std::string date(text.data(), static_cast<std::size_t>(length));
-    if (seconds == 0)
-        return date;
-    const int more = std::snprintf(text.data(), text.size(), "T%02d:%02d:%02d", int(seconds / 3600),
-                                   int(seconds / 60 % 60), int(seconds % 60));
-    return date.append(text.data(), static_cast<std::size_t>(more));
+    return isoText(sys_days{year{1899} / December / 30} + std::chrono::days{whole}, seconds);
 }
 
 std::string amountText(std::int64_t tenThousandths)
@@ -120,4 +135,54 @@ std::string amountText(std::int64_t tenThousandths)
     std::string fraction = std::to_string(unit + size % unit).substr(1);
     fraction.erase(fraction.find_last_not_of('0') + 1);
     return text.append(".").append(fraction);
+}
+
+std::string guidText(std::string_view bytes)
+{
+    // The first three groups are numbers, the lowest byte first.
+    constexpr std::array order{3, 2, 1, 0, -1, 5, 4, -1, 7, 6, -1, 8, 9, -1, 10, 11, 12, 13, 14, 15};
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    if (bytes.size() < 16)
+        return {};
+    std::string text("{");
+    for (const int place : order) {
+        if (place < 0) {
+            text.push_back('-');
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(bytes[static_cast<std::size_t>(place)]);
+        text.push_back(digits[byte >> 4U]);
+        text.push_back(digits[byte & 0xFU]);
+    }
+    return text + "}";
+}
+
+std::string extendedDate(std::string_view text)
+{
+    constexpr std::size_t numberLength = 19;
+    constexpr std::int64_t daySeconds = 86'400;
+    constexpr std::int64_t secondTicks = 10'000'000;
+    constexpr std::int64_t lastDay = 3'652'058;
+    if (text.size() < 2 * numberLength + 3 || text[numberLength] != ':' || text.substr(2 * numberLength + 1, 2) != ":7")
+        return {};
+    const std::int64_t days = wholeNumber(text.substr(0, numberLength));
+    const std::int64_t ticks = wholeNumber(text.substr(numberLength + 1, numberLength));
+    if (days < 0 || days > lastDay || ticks < 0 || ticks >= daySeconds * secondTicks)
+        return {};
+    using namespace std::chrono;
+    return isoText(sys_days{year{1} / January / 1} + std::chrono::days{days}, ticks / secondTicks);
+}
+
+std::optional<InnerValue> calculatedValue(std::string_view bytes)
+{
+    constexpr std::size_t lengthPlace = 16;
+    constexpr std::size_t headLength = 20;
+    if (bytes.size() < headLength)
+        return std::nullopt;
+    std::size_t length = 0;
+    for (std::size_t byte = 4; byte > 0; --byte)
+        length = (length << 8U) | static_cast<unsigned char>(bytes[lengthPlace + byte - 1]);
+    if (length > bytes.size() - headLength)
+        return std::nullopt;
+    return InnerValue{headLength, length};
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,3 +16,19 @@
 
 /// An amount in ten-thousandths as a decimal without needless zeros.
 [[nodiscard]] std::string amountText(std::int64_t tenThousandths);
+
+/// A number of 16 bytes as programs write it: "{8-4-4-4-12}" hexadecimal digits. "" for fewer bytes.
+[[nodiscard]] std::string guidText(std::string_view bytes);
+
+/// The extended date of newer files, "days:ticks:7" in 42 characters: days from 1 January of the year 1, ticks of a
+/// tenth of a microsecond. In ISO 8601 to the second; "" for every other text.
+[[nodiscard]] std::string extendedDate(std::string_view text);
+
+/// Where in the value of a calculated column the value itself lies: behind a head, as long as the head says.
+struct InnerValue
+{
+    std::size_t start = 0;
+    std::size_t length = 0;
+};
+/// Nothing for bytes that are shorter than their head says.
+[[nodiscard]] std::optional<InnerValue> calculatedValue(std::string_view bytes);

@@ -4,6 +4,7 @@
 // The library's header takes glib's into its C linkage, where its templates cannot be; so it comes first.
 #include <glib.h>
 
+#include <cstdint>
 #include <mdbtools.h>
 #include <memory>
 #include <string>
@@ -23,7 +24,8 @@ using MdbTablePointer = std::unique_ptr<MdbTableDef, MdbTableFreer>;
 class JetFile
 {
   public:
-    /// Throws std::runtime_error for a file that cannot be read.
+    /// Throws std::runtime_error for a file that cannot be read, and for one that is shorter than
+    /// its tables say.
     explicit JetFile(const char *path);
 
     [[nodiscard]] MdbHandle *handle() const { return mHandle.get(); }
@@ -40,5 +42,7 @@ class JetFile
     [[nodiscard]] static std::vector<MdbColumn *> columns(const MdbTableDef &table);
 
   private:
+    [[nodiscard]] std::uint64_t pagesOf(MdbCatalogEntry &entry) const;
+
     std::unique_ptr<MdbHandle, MdbCloser> mHandle;
 };

@@ -15,18 +15,23 @@ struct TypeKind
     int kind;
 };
 
+// Types of newer files that the library has no names for.
+constexpr int largeNumber = 0x13;
+constexpr int extendedDateTime = 0x14;
+
 constexpr std::array typeKinds{
-    TypeKind{MDB_BOOL, 11},  TypeKind{MDB_BYTE, 17},     TypeKind{MDB_INT, 2},     TypeKind{MDB_LONGINT, 3},
-    TypeKind{MDB_MONEY, 6},  TypeKind{MDB_FLOAT, 4},     TypeKind{MDB_DOUBLE, 5},  TypeKind{MDB_DATETIME, 7},
-    TypeKind{MDB_TEXT, 130}, TypeKind{MDB_MEMO, 203},    TypeKind{MDB_OLE, 205},   TypeKind{MDB_BINARY, 128},
-    TypeKind{MDB_REPID, 72}, TypeKind{MDB_NUMERIC, 131}, TypeKind{MDB_COMPLEX, 3},
+    TypeKind{MDB_BOOL, 11},        TypeKind{MDB_BYTE, 17},     TypeKind{MDB_INT, 2},     TypeKind{MDB_LONGINT, 3},
+    TypeKind{MDB_MONEY, 6},        TypeKind{MDB_FLOAT, 4},     TypeKind{MDB_DOUBLE, 5},  TypeKind{MDB_DATETIME, 7},
+    TypeKind{MDB_TEXT, 130},       TypeKind{MDB_MEMO, 203},    TypeKind{MDB_OLE, 205},   TypeKind{MDB_BINARY, 128},
+    TypeKind{MDB_REPID, 72},       TypeKind{MDB_NUMERIC, 131}, TypeKind{MDB_COMPLEX, 3}, TypeKind{largeNumber, 131},
+    TypeKind{extendedDateTime, 7},
 };
 
 // The least that a value of the type takes on its page.
 constexpr std::array fixedSizes{
     TypeKind{MDB_BYTE, 1},   TypeKind{MDB_INT, 2},      TypeKind{MDB_LONGINT, 4}, TypeKind{MDB_COMPLEX, 4},
     TypeKind{MDB_MONEY, 8},  TypeKind{MDB_FLOAT, 4},    TypeKind{MDB_DOUBLE, 8},  TypeKind{MDB_DATETIME, 8},
-    TypeKind{MDB_REPID, 16}, TypeKind{MDB_NUMERIC, 17},
+    TypeKind{MDB_REPID, 16}, TypeKind{MDB_NUMERIC, 17}, TypeKind{largeNumber, 8}, TypeKind{extendedDateTime, 42},
 };
 
 template <std::size_t Count> int lookedUp(const std::array<TypeKind, Count> &rows, int type, int otherwise)
@@ -48,6 +53,18 @@ std::string taken(char *text)
     std::string copy = text == nullptr ? std::string() : std::string(text);
     g_free(text);
     return copy;
+}
+
+bool isCalculated(MdbColumn &column)
+{
+    return mdb_col_get_prop(&column, "Expression") != nullptr;
+}
+
+std::string required(std::string text, const char *otherwise)
+{
+    if (text.empty())
+        throw std::runtime_error(otherwise);
+    return text;
 }
 
 std::int64_t longLong(const void *bytes)
@@ -93,6 +110,8 @@ bool ValueReader::writeNextRow()
     for (std::size_t place = 0; place < mColumns.size(); ++place) {
         if (byColumn[place] == nullptr)
             writeFrame(Frames::Null);
+        else if (isCalculated(*mColumns[place]))
+            writeCalculated(*mColumns[place], *byColumn[place]);
         else
             writeValue(*mColumns[place], *byColumn[place]);
     }
@@ -109,6 +128,32 @@ void ValueReader::requireInside(const MdbField &field) const
 std::string ValueReader::fieldBytes(const MdbField &field) const
 {
     return {reinterpret_cast<const char *>(mHandle->pg_buf) + field.start, static_cast<std::size_t>(field.siz)};
+}
+
+// The values of a calculated column lie in a wrapping; only the long ones have theirs outside of the row.
+void ValueReader::writeCalculated(MdbColumn &column, const MdbField &field)
+{
+    if (field.is_null) {
+        writeFrame(Frames::Null);
+        return;
+    }
+    requireInside(field);
+    const bool isLong = column.col_type == MDB_MEMO || column.col_type == MDB_OLE;
+    const std::string bytes = isLong ? longBytes(column, field) : fieldBytes(field);
+    const auto inner = calculatedValue(bytes);
+    if (!inner || column.col_type == MDB_NUMERIC)
+        throw std::runtime_error(std::string("The calculated column ") + column.name + " cannot be read.");
+    const std::string value = bytes.substr(inner->start, inner->length);
+    if (column.col_type == MDB_MEMO)
+        return writeFrame(Frames::Text, textFromUnits(value));
+    if (column.col_type == MDB_OLE)
+        return writeFrame(Frames::Bytes, value);
+    if (column.col_type == MDB_BOOL)
+        return writeFrame(Frames::Integer, !value.empty() && value.front() != 0 ? "1" : "0");
+    MdbField unwrapped = field;
+    unwrapped.start += static_cast<int>(inner->start);
+    unwrapped.siz = static_cast<int>(inner->length);
+    writeValue(column, unwrapped);
 }
 
 void ValueReader::writeValue(MdbColumn &column, const MdbField &field)
@@ -145,7 +190,11 @@ void ValueReader::writeValue(MdbColumn &column, const MdbField &field)
         return writeFrame(Frames::Text,
                           taken(mdb_numeric_to_string(mHandle, field.start, column.col_scale, column.col_prec)));
     case MDB_REPID:
-        return writeFrame(Frames::Text, taken(mdb_uuid_to_string(page, field.start)));
+        return writeFrame(Frames::Text, guidText(fieldBytes(field)));
+    case largeNumber:
+        return writeFrame(Frames::Text, std::to_string(longLong(page + field.start)));
+    case extendedDateTime:
+        return writeFrame(Frames::Text, required(extendedDate(fieldBytes(field)), "A date cannot be read."));
     case MDB_TEXT:
         return writeFrame(Frames::Text, mCodePage ? codePageText(column, field) : textFromUnits(fieldBytes(field)));
     case MDB_MEMO:

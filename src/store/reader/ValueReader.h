@@ -18,6 +18,7 @@ class ValueReader
     [[nodiscard]] bool writeNextRow();
 
   private:
+    void writeCalculated(MdbColumn &column, const MdbField &field);
     void writeValue(MdbColumn &column, const MdbField &field);
     [[nodiscard]] std::string codePageText(MdbColumn &column, const MdbField &field) const;
     [[nodiscard]] std::string fieldBytes(const MdbField &field) const;

@@ -46,8 +46,12 @@ void writeRows(const JetFile &file, const char *name)
     writeTable(*entry);
     writeColumns(*table);
     ValueReader rows(file, *table);
+    unsigned count = 0;
     while (rows.writeNextRow())
-        ;
+        ++count;
+    if (count < table->num_rows)
+        throw std::runtime_error("The table is damaged: " + std::to_string(count) + " of " +
+                                 std::to_string(table->num_rows) + " rows.");
 }
 
 int answer(bool catalog, int count, char **arguments)
