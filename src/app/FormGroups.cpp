@@ -115,7 +115,8 @@ SiteEditor::SiteEditor(QObject *form)
     : cboSD(u"cboSD"_s, 8, form, 1), cmdSD(u"cmdSD"_s, 16, form, 1), cmdSDDefault(u"cmdSDDefault"_s, form),
       cboSDLen(u"cboSDLen"_s, dropDownList, form, {u"="_s, u">"_s, u"<"_s, u">="_s, u"<="_s}),
       cboSDGroup(u"cboSDGroup"_s, dropDownList, form, listNames), chkSDHex(u"chkSDHex"_s, form),
-      incSDUrlLen(u"incSDUrlLen"_s, form), incSDMCMNC(u"incSDMCMNC"_s, 2, form)
+      incSDUrlLen(u"incSDUrlLen"_s, form), incSDMCMNC(u"incSDMCMNC"_s, 2, form),
+      lblSDCount(u"lblSDCount"_s, 6, form, 1)
 {
 }
 
@@ -167,7 +168,7 @@ Limits::Limits(QObject *form)
 
 DataBoxes::DataBoxes(QObject *form)
     : cboDBTables(u"cboDBTables"_s, dropDownList, form), cboDBFields(u"cboDBFields"_s, dropDownList, form),
-      txtDBQuery(u"txtDBQuery"_s, form)
+      txtDBQuery(u"txtDBQuery"_s, form), fxgTrawlex(u"fxgTrawlex"_s, form)
 {
 }
 // clang-format on

@@ -5,6 +5,7 @@
 
 #include "app/OptionNumbers.h"
 #include "controls/ControlArray.h"
+#include "controls/Grid.h"
 #include "controls/ListControls.h"
 #include "controls/NumberBox.h"
 #include "controls/SimpleControls.h"
@@ -182,6 +183,9 @@ struct SiteEditor
     CheckBox chkSDHex;
     NumberBox incSDUrlLen;
     ControlArray<NumberBox> incSDMCMNC; ///< 0 of "contains", 1 of "contains not"
+    /// What is left of the page's links, as figures: 1 all of them, 2 between first and last, 3 of the length, 4 that
+    /// contain, 5 that do not contain, 6 the results.
+    ControlArray<Label> lblSDCount;
 };
 
 /// Which phone numbers are looked for.
@@ -228,12 +232,13 @@ struct Limits
     Label lblSMAIEWidth, lblSMAIEHeight, lblSMRPPauseTime;
 };
 
-/// The choice of what the grid shows.
+/// The grid, and the choice of what it shows.
 struct DataBoxes
 {
     explicit DataBoxes(QObject *form);
     ComboBox cboDBTables, cboDBFields;
     TextBox txtDBQuery;
+    Grid fxgTrawlex;
 };
 
 /// The two kinds of run, as far as both sides must know of each other.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Ports.h"
+#include "app/SideWindows.h"
 
 /// Prints one line on standard error.
 void printError(const QString &line);
@@ -34,6 +35,15 @@ class NoMenus : public PopUpMenus
 {
   protected:
     void show(Menu &) override {}
+};
+
+class NoSideWindows : public SideWindows
+{
+  public:
+    void magnify(const QString &) override {}
+    void showAbout() override {}
+    void showHelp() override {}
+    bool chooseDirectory(const QString &, std::function<void(const QString &)>) override { return false; }
 };
 
 class NoWindow : public WindowPlace

@@ -126,6 +126,7 @@ int main(int argc, char *argv[])
     NoClipboard clipboard;
     NoWindow place;
     NoMenus menus;
+    NoSideWindows side;
     IniSettings stored(GetRKAppName(windowProgram, programFolder()));
     HarvestSettings settings(stored, arguments.databaseDir, arguments.browser);
     ConsoleBrowsers browsers({dataFolder(), switches, arguments.headless || !hasDisplay()});
@@ -133,7 +134,7 @@ int main(int argc, char *argv[])
         printError(u"Running as root: the browser's sandbox is off"_s);
     int status = OtherEnd;
     {
-        Program program({pump, dialogs, desktop, clipboard, settings, place, menus, browsers, programFolder()});
+        Program program({pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, programFolder()});
         try {
             status = run(program, pump, arguments);
         } catch (const RuntimeError &error) {

@@ -8,6 +8,8 @@
 #include <QString>
 
 enum class MouseButton { Left, Right };
+/// The keys that add to a list and delete from it.
+enum class EditKey { Insert, Delete };
 
 /// What every control has. A setter that changes something emits changed(), on which whatever shows the control
 /// makes itself match.
@@ -51,6 +53,16 @@ class Control : public QObject
     void mouseDown(MouseButton button) { Q_EMIT mousePressed(button); }
     void mouseMove() { Q_EMIT mouseMoved(); }
     void doubleClick() { Q_EMIT doubleClicked(); }
+    void keyDown(EditKey key) { Q_EMIT keyPressed(key); }
+    /// Text, or the paths of files, one a line.
+    void dropText(const QString &text) { Q_EMIT textDropped(text); }
+    /// What is dragged off the control; whoever knows writes it. "" where nothing can be dragged.
+    [[nodiscard]] QString textToDrag()
+    {
+        QString text;
+        Q_EMIT dragStarted(&text);
+        return text;
+    }
 
   Q_SIGNALS:
     void changed();
@@ -59,6 +71,9 @@ class Control : public QObject
     void mousePressed(MouseButton button);
     void mouseMoved();
     void doubleClicked();
+    void keyPressed(EditKey key);
+    void textDropped(const QString &text);
+    void dragStarted(QString *text);
 
   protected:
     /// The error of enter().

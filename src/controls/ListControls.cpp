@@ -139,6 +139,14 @@ void ComboBox::enter(const QString &value)
         refuse(QStringLiteral("there is no item \"%1\"").arg(value));
 }
 
+void ComboBox::choose(int index)
+{
+    if (index != listIndex())
+        return setListIndex(index);
+    if (index >= 0)
+        Q_EMIT Click();
+}
+
 void ComboBox::clear()
 {
     mText.clear();

@@ -79,6 +79,9 @@ class ComboBox : public ListControl
     void restore(const QString &value) override;
     /// An item's text or its index; any text in an editable one.
     void enter(const QString &value) override;
+    /// The user's choice in the open list. Click is raised for the row that is chosen already, too: whoever chooses it
+    /// wants done again what the choice does.
+    void choose(int index);
     /// The user opens the list.
     void dropDown() { Q_EMIT DropDown(); }
 

@@ -62,6 +62,11 @@ void NumberBox::edit(const QString &text)
         show(text);
 }
 
+void NumberBox::leave()
+{
+    ShowIncValue(value());
+}
+
 void NumberBox::makeStep(Direction direction)
 {
     const qint64 next = direction == Direction::Up ? value() + mStep : value() - mStep;

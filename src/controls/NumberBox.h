@@ -25,6 +25,8 @@ class NumberBox : public Control
     void setText(const QString &text);
     /// What the user types: shown as it stands, without zeros put in front.
     void edit(const QString &text);
+    /// The user leaves the box: what was typed is shown with its zeros, nothing as 0.
+    void leave();
     [[nodiscard]] qint64 value() const { return mText.toLongLong(); }
 
     [[nodiscard]] bool hasValue() const override { return true; }

@@ -1,6 +1,9 @@
 #include "desktop/DesktopBrowsers.h"
 
 #include "window/ProgramFolder.h"
+#include "window/WindowPlaces.h"
+
+#include <QScreen>
 
 DesktopBrowsers::~DesktopBrowsers()
 {
@@ -14,16 +17,29 @@ std::shared_ptr<BrowserEngine> DesktopBrowsers::internalBrowser()
             WebEngineOptions{.storageFolder = dataFolder() + QStringLiteral("/internal")});
         mobjWBare = new BareBrowserWindow(mInternal);
         QObject::connect(mInternal.get(), &BrowserEngine::WindowClosing, mInternal.get(), [this] { forget(); });
+        QObject::connect(mobjWBare, &BareBrowserWindow::closing, mobjWBare, [this] { savePlace(); });
+        placeInternal();
     }
-    placeInternal();
     mobjWBare->show();
     return mInternal;
 }
 
 void DesktopBrowsers::placeInternal()
 {
-    if (mobjWBare && mMain)
-        mobjWBare->placeBeside(*mMain);
+    if (!mobjWBare || !mMain)
+        return;
+    const QString name = mobjWBare->objectName();
+    if (mSettings == nullptr || !hasStoredPlace(*mSettings, name))
+        return mobjWBare->placeBeside(*mMain);
+    const QRect screen = mMain->screen()->availableGeometry();
+    mobjWBare->resize(storedSize(*mSettings, name, mobjWBare->size()).boundedTo(screen.size()));
+    mobjWBare->move(AlignFF(*mSettings, name, mobjWBare->frameGeometry(), screen).topLeft());
+}
+
+void DesktopBrowsers::savePlace()
+{
+    if (mSettings != nullptr)
+        SaveFF(*mSettings, mobjWBare->objectName(), QRect(mobjWBare->pos(), mobjWBare->size()));
 }
 
 /// The user has closed the window: the next connecting makes a new one.

@@ -1,6 +1,7 @@
 // The browsers as the window program has them: the built-in one stands in a window of its own.
 #pragma once
 
+#include "app/Ports.h"
 #include "engine/chromium/ChromiumFactory.h"
 #include "engine/webengine/WebEngineBrowser.h"
 #include "ui/windows/BareBrowserWindow.h"
@@ -16,13 +17,19 @@ class DesktopBrowsers : public ChromiumFactory
     [[nodiscard]] std::shared_ptr<BrowserEngine> internalBrowser() override;
     /// The window beside which the browser's window opens.
     void standBeside(QWidget *main) { mMain = main; }
-    /// Puts the window of the built-in browser, if it is open, beside the main window.
+    /// Where the browser's window keeps its place.
+    void keepPlaceIn(SettingsStore *settings) { mSettings = settings; }
+    /// Puts the window of the built-in browser, if it is open, where it stood last, the first time beside the main
+    /// window.
     void placeInternal();
 
   private:
     void forget();
 
+    void savePlace();
+
     QPointer<QWidget> mMain;
+    SettingsStore *mSettings = nullptr;
     QPointer<BareBrowserWindow> mobjWBare;
     std::shared_ptr<WebEngineBrowser> mInternal;
 };

@@ -3,6 +3,7 @@
 #include "app/QtEventPump.h"
 #include "app/SettingKeys.h"
 #include "desktop/DesktopBrowsers.h"
+#include "desktop/DesktopSideWindows.h"
 #include "desktop/MainWindowPlace.h"
 #include "desktop/OneInstance.h"
 #include "desktop/Splash.h"
@@ -16,8 +17,10 @@
 #include "window/Program.h"
 #include "window/ProgramFolder.h"
 #include "window/StartMode.h"
+#include "window/WindowPlaces.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +39,15 @@ void connectWindow(Program &program, MainWindow &window)
     QObject::connect(&program.autoRun, &AutoRun::finalized, &window, [&window] { window.setProgress(0, 0); });
 }
 
+/// The groups that show their heading alone come back so.
+void rememberFolding(MainWindow &window, SettingsStore &settings)
+{
+    window.setFoldedGroups(settings.GetSetting(Sections::Main, Keys::FoldedGroups).split(u','));
+    QObject::connect(&window, &MainWindow::foldingChanged, &window, [&window, &settings] {
+        settings.SaveSetting(Sections::Main, Keys::FoldedGroups, window.foldedGroups().join(u','));
+    });
+}
+
 int runHarvester(const QString &appName, const QStringList &switches, Splash &splash)
 {
     QtEventPump pump;
@@ -45,20 +57,26 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     MainWindowPlace place;
     QtMenus menus;
     IniSettings settings(appName);
+    DesktopSideWindows side(settings, desktop);
     DesktopBrowsers browsers({dataFolder(), switches, false});
     if (browsers.sandboxOff())
         std::fputs("Running as root: the browser's sandbox is off\n", stderr);
     settings.SaveSetting(Sections::Main, Keys::WorkingPath, programFolder() + u'/');
-    Program program({pump, dialogs, desktop, clipboard, settings, place, menus, browsers, programFolder()});
+    Program program({pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, programFolder()});
     MainWindow window(program.form);
     place.set(&window);
     menus.set(&window);
+    side.set(&window);
+    QObject::connect(&window, &MainWindow::helpRequested, &window, [&side] { side.showHelp(); });
+    rememberFolding(window, settings);
     browsers.standBeside(&window);
+    browsers.keepPlaceIn(&settings);
     connectWindow(program, window);
     if (!program.lifeCycle.Form_Load())
         return 1;
     // Placed before it is shown, so that the window manager takes our place and nothing jumps.
-    window.adjustSize();
+    window.takeUsualSize();
+    window.resize(storedSize(settings, u"frmSearch"_s, window.size()).boundedTo(window.screen()->availableSize()));
     program.lifeCycle.settle();
     splash.close();
     window.show();
@@ -66,6 +84,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     const int status = QApplication::exec();
     place.set(nullptr);
     menus.set(nullptr);
+    side.set(nullptr);
     return status;
 }
 } // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/ErrorLog.h"
+#include "app/SideWindows.h"
 #include "app/cTimer.h"
 #include "harvest/AutoRun.h"
 #include "harvest/UntilLoaded.h"
@@ -27,6 +28,7 @@ struct Program
         SettingsStore &settings;
         WindowPlace &place;
         PopUpMenus &menus;
+        SideWindows &side;
         BrowserFactory &browsers;
         QString programFolder;
     };

@@ -36,6 +36,20 @@ QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &w
     return place;
 }
 
+QSize storedSize(const SettingsStore &settings, const QString &name, QSize byDefault)
+{
+    const auto pixels = [&](const QString &key, int otherwise) {
+        const int stored = static_cast<int>(settings.GetSetting(name, key).toDouble() / twipsPerPixel);
+        return stored > 0 ? stored : otherwise;
+    };
+    return {pixels(u"NSWE_W"_s, byDefault.width()), pixels(u"NSWE_H"_s, byDefault.height())};
+}
+
+bool hasStoredPlace(const SettingsStore &settings, const QString &name)
+{
+    return !settings.GetSetting(name, u"NSWE_L"_s).isEmpty();
+}
+
 void saveOnTop(SettingsStore &settings, const QString &name, bool onTop)
 {
     settings.SaveSetting(u"Window Position"_s, name, onTop ? u"1"_s : u"0"_s);

@@ -9,5 +9,9 @@ void SaveFF(SettingsStore &settings, const QString &name, const QRect &place);
 /// without a stored place the window is centred.
 [[nodiscard]] QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &window,
                             const QRect &screen);
+/// The stored size; `byDefault` where none is stored.
+[[nodiscard]] QSize storedSize(const SettingsStore &settings, const QString &name, QSize byDefault);
+/// Whether a place is stored.
+[[nodiscard]] bool hasStoredPlace(const SettingsStore &settings, const QString &name);
 /// "Window Position": the window stands on top of all others, or not.
 void saveOnTop(SettingsStore &settings, const QString &name, bool onTop);

@@ -37,6 +37,21 @@ TEST(Combos, AChangedIndexRaisesClickOnce)
     EXPECT_EQ(combo.text(), QString());
 }
 
+TEST(Combos, AUsersChoiceRaisesClickForTheRowThatIsChosenAlreadyToo)
+{
+    ComboBox combo(u"cboANWBSelect"_s, Style::DropDownList, nullptr, {u"Internal"_s, u"IExplore"_s});
+    const SignalCount clicks(combo, &ComboBox::Click);
+    combo.choose(0);
+    EXPECT_EQ(clicks.times(), 1);
+    combo.choose(1);
+    EXPECT_EQ(clicks.times(), 2);
+    EXPECT_EQ(combo.listIndex(), 1);
+    combo.clear();
+    combo.choose(-1);
+    EXPECT_EQ(clicks.times(), 2) << "nothing is no choice";
+    EXPECT_EQ(errorOf([&] { combo.choose(0); }), 380);
+}
+
 TEST(Combos, AnIndexOutsideTheListIsError380AndChangesNothing)
 {
     ComboBox combo(u"cboANSavedUrls"_s, Style::DropDownList, nullptr);

@@ -111,3 +111,12 @@ TEST_F(NumberBoxes, ShowWhatIsTypedAsItStands)
     box.makeStep(Direction::Up);
     EXPECT_EQ(box.text(), u"010"_s) << "a step puts the zeros back";
 }
+
+TEST_F(NumberBoxes, ShowTheirZerosWhenTheyAreLeft)
+{
+    for (const auto &[typed, shown] : {std::pair{u""_s, u"000"_s}, {u"7"_s, u"007"_s}, {u"123"_s, u"123"_s}}) {
+        box.edit(typed);
+        box.leave();
+        EXPECT_EQ(box.text(), shown);
+    }
+}

@@ -138,3 +138,15 @@ TEST(ControlArrays, MembersCarryTheirIndexAndOthersAreError340)
     EXPECT_EQ(fromOne(1).name(), u"cboSD(1)"_s);
     EXPECT_EQ(errorOf([&] { (void)fromOne(0); }), 340);
 }
+
+TEST(EveryControl, TellsWhatIsDroppedAndAsksWhatIsDragged)
+{
+    TextBox box(u"txtSFDBDir"_s, nullptr);
+    QStringList dropped;
+    QObject::connect(&box, &Control::textDropped, &box, [&](const QString &text) { dropped.append(text); });
+    box.dropText(u"/data"_s);
+    EXPECT_EQ(dropped, QStringList{u"/data"_s});
+    EXPECT_EQ(box.textToDrag(), QString());
+    QObject::connect(&box, &Control::dragStarted, &box, [](QString *text) { *text = u"212"_s; });
+    EXPECT_EQ(box.textToDrag(), u"212"_s);
+}

@@ -16,7 +16,7 @@ int main(int argc, char *argv[])
     frmSearch form;
     MainWindow window(form);
     window.setAttribute(Qt::WA_DontShowOnScreen);
-    window.adjustSize();
+    window.takeUsualSize();
     window.show();
     QApplication::processEvents();
     QJsonObject positions;

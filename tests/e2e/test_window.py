@@ -12,6 +12,7 @@ import unittest
 import trawlex
 
 SAVE_BOXES = ["chkSaveSummary", "chkSavePages", "chkSaveEmail", "chkSavePhone", "chkSaveUrl"]
+RESULT_TITLE = "harbour - Findery"
 OPTIONS = {"udcNotFoundMinSize": "002000", "chkSMAMUrlIfNoData": "0", "chkShutDownPrompt": "0", "npTimimg": "002"}
 
 
@@ -97,11 +98,20 @@ class WindowCase(trawlex.Case):
         self.display.do("key", "Return")
 
 
+    def wait_for_window(self, name, seconds=20):
+        """The window whose title holds `name`, once it is there."""
+        return trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--name", name), seconds, f"a window '{name}'")[-1]
+
+    def wait_for_result_page(self):
+        """A browser shows its page's title once it has it."""
+        self.wait_for_window(RESULT_TITLE)
+
     def first_start(self):
         """Makes settings and database; the end mark ends the program after its question."""
         self.start()
         self.click("picANEnd")
-        time.sleep(1)
+        question = self.wait_for_window("Program will terminate")
+        self.display.do("windowfocus", "--sync", question)
         self.display.do("key", "alt+y")
         self.assertEqual(self.window.wait(timeout=20), 0)
 
@@ -119,10 +129,20 @@ class WindowCase(trawlex.Case):
         trawlex.wait_for(lambda: trawlex.count(self.database, "SiteSummary") >= wanted, seconds, f"{wanted} summaries")
 
     def assert_run_stands_still(self):
-        time.sleep(1)
-        stopped = trawlex.count(self.database, "SiteSummary")
-        time.sleep(5)
-        self.assertEqual(trawlex.count(self.database, "SiteSummary"), stopped, "the run goes on")
+        """The rows stop growing: for longer than two pages of a run take, nothing comes."""
+        seen = [None, 0.0]
+
+        def still():
+            count = trawlex.count(self.database, "SiteSummary")
+            if count != seen[0]:
+                seen[:] = [count, time.monotonic()]
+            return time.monotonic() - seen[1] > 5
+
+        trawlex.wait_for(still, 15, "the run stands still")
+
+    def wait_for_visit(self):
+        """The first request for something else than the result page: the run walks."""
+        trawlex.wait_for(lambda: any("findery" not in line for line in self.requests()), 30, "a page of the run")
 
 
 class FreeStandingBrowser(WindowCase):
@@ -131,7 +151,7 @@ class FreeStandingBrowser(WindowCase):
         for box in SAVE_BOXES:
             self.click(box)
         self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
-        time.sleep(3)
+        self.wait_for_result_page()
         self.click("cmdANStart")
         self.wait_for_summaries(5)
         self.click("cmdANStart")
@@ -146,7 +166,7 @@ class FreeStandingBrowser(WindowCase):
     def test_closing_the_browser_stops_the_run_and_initialize_finds_another(self):
         self.start_with(**{"chkSaveSummary": "1"})
         self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
-        time.sleep(3)
+        self.wait_for_result_page()
         self.click("cmdANStart")
         self.wait_for_summaries(3)
         browser = self.display.do("search", "--onlyvisible", "--class", "hromium")[-1]
@@ -160,9 +180,9 @@ class FreeStandingBrowser(WindowCase):
     def test_ending_in_the_middle_of_a_wait_ends_the_program(self):
         self.start_with(npTimimg="050", chkSaveSummary="1")
         self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
-        time.sleep(3)
+        self.wait_for_result_page()
         self.click("cmdANStart")
-        time.sleep(2)
+        self.wait_for_visit()
         self.click("picANEnd")
         self.assertEqual(self.window.wait(timeout=20), 0)
 
@@ -177,7 +197,7 @@ class BuiltInBrowser(WindowCase):
         self.display.do("click", "--repeat", "3", 1)
         self.display.do("type", "--delay", "5", trawlex.demo_harvest.RESULT_PAGE)
         self.display.do("key", "Return")
-        time.sleep(3)
+        self.wait_for_result_page()
         self.click("cmdANStart")
         self.wait_for_summaries(4)
         self.display.do("windowactivate", "--sync", browser)

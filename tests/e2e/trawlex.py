@@ -1,5 +1,6 @@
 """What the end-to-end tests share: a demo server, a folder of its own for each test, and ways to run the programs."""
 import contextlib
+import io
 import json
 import os
 import pathlib
@@ -77,8 +78,13 @@ class Case(unittest.TestCase):
         self.folder = tempfile.mkdtemp(prefix="trawlex-e2e-")
         self.env = dict(os.environ, XDG_CONFIG_HOME=self.folder + "/config", XDG_DATA_HOME=self.folder + "/data",
                         XDG_RUNTIME_DIR=self.folder, LOGFILES=self.folder, LC_ALL="C.UTF-8")
-        self.demo = server.start()
+        self.demo_log = io.StringIO()
+        self.demo = server.start(log=self.demo_log)
         self.addCleanup(self.clean_up)
+
+    def requests(self):
+        """What the demo was asked for, one line each: status, host, target."""
+        return self.demo_log.getvalue().splitlines()
 
     def clean_up(self):
         self.demo.shutdown()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Ports.h"
+#include "app/SideWindows.h"
 #include "util/Errors.h"
 #include "util/QtPrint.h"
 
@@ -122,6 +123,29 @@ class MemorySettings : public SettingsStore
 
     QHash<QString, QString> values;
     QStringList written;
+};
+
+/// Keeps what was shown. A directory chooser stays open until choose().
+class FakeSideWindows : public SideWindows
+{
+  public:
+    void magnify(const QString &text) override { magnified.append(text); }
+    void showAbout() override { shown.append(QStringLiteral("about")); }
+    void showHelp() override { shown.append(QStringLiteral("help")); }
+    bool chooseDirectory(const QString &directory, std::function<void(const QString &directory)> chosen) override
+    {
+        if (mChosen)
+            return false;
+        asked.append(directory);
+        mChosen = std::move(chosen);
+        return true;
+    }
+    void choose(const QString &directory) { std::exchange(mChosen, nullptr)(directory); }
+
+    QStringList magnified, shown, asked;
+
+  private:
+    std::function<void(const QString &directory)> mChosen;
 };
 
 /// Keeps which menus were shown; `choice` does what the user does in one that is open.

@@ -20,7 +20,7 @@ class ProgramTest : public testing::Test
     void load()
     {
         program = std::make_unique<Program>(
-            Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus, browsers, folder.path()});
+            Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, folder.path()});
         QObject::connect(&program->status, &StatusLine::told, &program->form,
                          [this](const QString &text) { statuses.append(text); });
         QObject::connect(&program->autoRun, &AutoRun::visiting, &program->form,
@@ -91,6 +91,7 @@ class ProgramTest : public testing::Test
     MemorySettings settings;
     FakePlace place;
     FakeMenus menus;
+    FakeSideWindows side;
     FakeFactory browsers{pump};
     std::unique_ptr<Program> program;
     QStringList statuses, visited;

@@ -7,7 +7,10 @@
 #include "ui/widgets/StatusBarLine.h"
 #include "ui/widgets/TimerLabel.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -167,6 +170,39 @@ TEST_F(Bound, ACombosChoiceIsToldAndTheWheelMakesNone)
     EXPECT_EQ(clicks.times(), 2);
 }
 
+TEST_F(Bound, ALetterWithAltIsNoSearchInACombo)
+{
+    auto &combo = widget<DropDown>("cboANWBSelect");
+    form.browser.cboANWBSelect.setListIndex(0);
+    form.browser.cmdANInitialize.setEnabled(false);
+    settle();
+    const Raised clicks(form.browser.cboANWBSelect, &ComboBox::Click);
+    combo.setFocus();
+    QTest::keyClick(&combo, Qt::Key_I, Qt::AltModifier);
+    settle();
+    EXPECT_EQ(form.browser.cboANWBSelect.text(), u"Internal"_s);
+    EXPECT_EQ(clicks.times(), 0);
+    combo.setCurrentIndex(-1);
+    for (DropDown *const other : window.findChildren<DropDown *>()) {
+        const int before = other->currentIndex();
+        QTest::keyClick(other, Qt::Key_M, Qt::AltModifier);
+        EXPECT_EQ(other->currentIndex(), before) << qPrintable(other->objectName());
+    }
+}
+
+TEST_F(Bound, TheRowThatIsChosenAlreadyCanBeChosenAgain)
+{
+    auto &combo = widget<DropDown>("cboANWBSelect");
+    form.browser.cboANWBSelect.setListIndex(1);
+    settle();
+    const Raised clicks(form.browser.cboANWBSelect, &ComboBox::Click);
+    combo.showPopup();
+    QTest::keyClick(combo.view(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(clicks.times(), 1);
+    EXPECT_EQ(form.browser.cboANWBSelect.listIndex(), 1);
+}
+
 TEST_F(Bound, AnOpeningListShowsWhatItsHandlerFills)
 {
     auto &combo = widget<DropDown>("cboANList");
@@ -280,8 +316,73 @@ TEST_F(Bound, AChipShowsItsCaptionBehindItsWord)
     EXPECT_EQ(chip.text(), u"Collect"_s);
     form.collect.lblAutoPgUrls.setCaption(u"B"_s);
     settle();
-    EXPECT_EQ(chip.text(), u"Collect B"_s);
-    EXPECT_EQ(chip.accessibleName(), u"Collect B"_s);
+    EXPECT_EQ(chip.text(), u"Collect in B"_s);
+    EXPECT_EQ(chip.accessibleName(), u"Collect in B"_s);
+    EXPECT_EQ(widget<Chip>("lblAutoPgUrls_onManual").text(), u"Collect pages in B"_s);
+    form.collect.lblAutoIncrPos.setCaption(u"2"_s);
+    settle();
+    EXPECT_EQ(widget<Chip>("lblAutoIncrPos_onManual").text(), u"Position 2"_s);
+    EXPECT_EQ(widget<Chip>("lblAutoIncrPos").text(), u"Pass Urls"_s) << "a position says nothing on the tab Auto";
+}
+
+TEST_F(Bound, AControlOfTwoTabsHasAWidgetOnEach)
+{
+    form.browser.lblTrawlexTimer.setCaption(u"12"_s);
+    settle();
+    EXPECT_EQ(widget<TimerLabel>("lblTrawlexTimer").text(), u"12"_s);
+    EXPECT_EQ(widget<TimerLabel>("lblTrawlexTimer_onManual").text(), u"12"_s);
+    form.frame.sstSearch.setTab(Tab::Manual);
+    settle();
+    const Raised presses(form.browser.lblTrawlexTimer, &Control::mousePressed);
+    click(widget<TimerLabel>("lblTrawlexTimer_onManual"));
+    EXPECT_EQ(presses.times(), 1);
+}
+
+TEST_F(Bound, ALockedPathCanBeReadAndCopied)
+{
+    auto &path = widget<QLineEdit>("txtSFDBDir");
+    form.places.txtSFDBDir.setText(u"/home/anna/harvest/"_s);
+    form.places.txtSFDBDir.setEnabled(false);
+    settle();
+    EXPECT_TRUE(path.isEnabled());
+    EXPECT_TRUE(path.isReadOnly());
+    QTest::keyClicks(&path, u"x"_s);
+    EXPECT_EQ(form.places.txtSFDBDir.text(), u"/home/anna/harvest/"_s);
+    path.selectAll();
+    path.copy();
+    EXPECT_EQ(QApplication::clipboard()->text(), u"/home/anna/harvest/"_s);
+    form.places.txtSFDBDir.setEnabled(true);
+    settle();
+    EXPECT_FALSE(path.isReadOnly());
+    EXPECT_FALSE(widget<QLineEdit>("txtSFEditor").isReadOnly());
+    form.outputs.txtANStartTag.setEnabled(false);
+    settle();
+    EXPECT_FALSE(widget<QLineEdit>("txtANStartTag").isEnabled()) << "what is no path is disabled";
+}
+
+TEST_F(Bound, AnEditableComboTakesWhatIsTypedAndAddsNothing)
+{
+    form.series.cboMNAutoUrl.addItem(u"http://www.north-harbour.example/001.jpg"_s);
+    form.frame.sstSearch.setTab(Tab::Manual);
+    settle();
+    auto &combo = widget<DropDown>("cboMNAutoUrl");
+    combo.setFocus();
+    QTest::keyClicks(combo.lineEdit(), u"http"_s);
+    EXPECT_EQ(form.series.cboMNAutoUrl.text(), u"http"_s) << "nothing is completed";
+    QTest::keyClick(combo.lineEdit(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(form.series.cboMNAutoUrl.listCount(), 1);
+    EXPECT_EQ(combo.count(), 1);
+    EXPECT_EQ(widget<DropDown>("cboMNMCMNCFilter").lineEdit()->placeholderText(), u"filter of loaded links"_s);
+}
+
+TEST_F(Bound, TheListOnShowIsTheOneThatIsChosen)
+{
+    form.frame.sstSearch.setTab(Tab::Manual);
+    form.lists.cboMNList.setListIndex(2);
+    settle();
+    EXPECT_TRUE(widget<QWidget>("lstMN_2").isVisible());
+    EXPECT_FALSE(widget<QWidget>("lstMN_0").isVisible());
 }
 
 TEST_F(Bound, TheStatusBarTellsMovesAndDoubleClicks)

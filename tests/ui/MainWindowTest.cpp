@@ -1,6 +1,9 @@
 // The window itself: no title bar, closing, the keyboard's way through it.
 #include "WindowFixture.h"
+#include "ui/widgets/EdgeGrips.h"
+#include "ui/widgets/GroupPanel.h"
 #include "ui/widgets/Mark.h"
+#include "ui/widgets/PageScroller.h"
 #include "ui/widgets/StatusBarLine.h"
 
 #include <QApplication>
@@ -19,6 +22,94 @@ TEST_F(MainWindows, HaveNoTitleBarAndAreCompact)
     EXPECT_EQ(window.windowTitle(), u"Trawlex"_s);
     EXPECT_LE(window.width(), 480);
     EXPECT_LE(window.height(), 740);
+    for (const char *const page : {"autoPage", "manualPage", "settingsPage", "dataPage"})
+        EXPECT_LE(widget<QWidget>(page).minimumSizeHint().width(), 452) << page;
+    for (const auto *const page : window.findChildren<PageScroller *>())
+        EXPECT_LE(page->minimumSizeHint().width(), 452) << qPrintable(page->objectName());
+}
+
+TEST_F(MainWindows, FitOnALowScreenWithGoAndStatusBarInSight)
+{
+    EXPECT_LE(window.minimumSizeHint().height(), 560);
+    window.resize(window.width(), 480);
+    for (int tab = 0; tab < 4; ++tab) {
+        form.frame.sstSearch.setTab(tab);
+        settle();
+        ASSERT_LE(window.height(), 480);
+        for (const char *const name : {"cmdANStart", "cmdMNStart", "picStatus"}) {
+            const auto &part = widget<QWidget>(name);
+            if (part.isVisible()) {
+                const QRect place(part.mapTo(&window, QPoint()), part.size());
+                EXPECT_TRUE(window.rect().contains(place)) << name;
+                EXPECT_EQ(part.visibleRegion(), QRegion(part.rect())) << name;
+            }
+        }
+    }
+}
+
+TEST_F(MainWindows, ScrollWhatHasTheFocusIntoSight)
+{
+    window.resize(window.width(), 420);
+    settle();
+    auto &last = widget<QWidget>("cmdANAddMNC");
+    EXPECT_TRUE(last.visibleRegion().isEmpty());
+    last.setFocus();
+    settle();
+    EXPECT_EQ(last.visibleRegion(), QRegion(last.rect()));
+}
+
+TEST_F(MainWindows, FoldTheirGroupsAndTellWhichAreFolded)
+{
+    const Raised changes(window, &MainWindow::foldingChanged);
+    auto &heading = widget<GroupHeading>("startHeading");
+    click(heading);
+    EXPECT_FALSE(widget<QWidget>("cboANSavedUrls").isVisible());
+    EXPECT_TRUE(heading.isVisible());
+    EXPECT_TRUE(widget<QWidget>("lblAutoPgUrls").isVisible()) << "what stands beside the heading stays";
+    EXPECT_EQ(window.foldedGroups(), QStringList{u"startGroup"_s});
+    EXPECT_EQ(changes.times(), 1);
+    heading.setFocus();
+    QTest::keyClick(&heading, Qt::Key_Space);
+    EXPECT_TRUE(widget<QWidget>("cboANSavedUrls").isVisible());
+    window.setFoldedGroups({u"saveGroup"_s, u"criteriaGroup"_s, u"none such"_s});
+    settle();
+    EXPECT_FALSE(widget<QWidget>("chkSavePages").isVisible());
+    EXPECT_LT(widget<QWidget>("criteriaGroup").height(), 60) << "folded, it takes no more room than its heading";
+    window.setFoldedGroups({});
+    EXPECT_TRUE(window.foldedGroups().isEmpty());
+    settle();
+    EXPECT_TRUE(widget<QWidget>("lstANMC").isVisible());
+}
+
+TEST_F(MainWindows, AreResizedByTheirEdges)
+{
+    const QRect before = window.geometry();
+    EdgeGrip *corner = nullptr;
+    for (EdgeGrip *const grip : window.findChildren<EdgeGrip *>()) {
+        if (grip->edges() == (Qt::RightEdge | Qt::BottomEdge))
+            corner = grip;
+    }
+    ASSERT_NE(corner, nullptr);
+    EXPECT_EQ(corner->geometry().bottomRight(), window.rect().bottomRight());
+    QTest::mousePress(corner, Qt::LeftButton, {}, QPoint(1, 1));
+    QTest::mouseMove(corner, QPoint(41, -59));
+    QTest::mouseRelease(corner, Qt::LeftButton);
+    settle();
+    EXPECT_EQ(window.geometry().topLeft(), before.topLeft());
+    EXPECT_EQ(window.width(), before.width() + 40);
+    EXPECT_EQ(window.height(), before.height() - 60);
+    QTest::mousePress(corner, Qt::LeftButton, {}, QPoint(1, 1));
+    QTest::mouseMove(corner, QPoint(-2000, -2000));
+    QTest::mouseRelease(corner, Qt::LeftButton);
+    settle();
+    EXPECT_EQ(window.size(), window.minimumSizeHint()) << "no smaller than its widgets";
+}
+
+TEST_F(MainWindows, AskForHelpWithF1)
+{
+    const Raised asked(window, &MainWindow::helpRequested);
+    QTest::keyClick(&window, Qt::Key_F1);
+    EXPECT_EQ(asked.times(), 1);
 }
 
 TEST_F(MainWindows, AreMovedByTheirTabStrip)

@@ -50,6 +50,21 @@ TEST_F(NumberEdits, TakeTypedDigitsAndNothingElse)
     EXPECT_EQ(box.value(), 421) << "no more than its digits";
 }
 
+TEST_F(NumberEdits, ShowTheirZerosAgainWhenTheyAreLeft)
+{
+    auto &line = *edit.findChild<QLineEdit *>();
+    for (const auto &[typed, shown] : {std::pair{u""_s, u"000"_s}, {u"42"_s, u"042"_s}}) {
+        edit.setFocus();
+        line.selectAll();
+        QTest::keyClick(&line, Qt::Key_Delete);
+        QTest::keyClicks(&line, typed);
+        widget<QWidget>("cmdANStart").setFocus();
+        settle();
+        EXPECT_EQ(edit.text(), shown);
+        EXPECT_EQ(box.text(), shown);
+    }
+}
+
 TEST_F(NumberEdits, StepOnceForAClickAndForAnArrowKey)
 {
     press(Direction::Up);

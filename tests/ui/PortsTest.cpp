@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -28,6 +29,11 @@ struct Dialogs : WindowFixture
                 return;
             timer->deleteLater();
             modality = dialog->windowModality();
+            // A dialog that its answer does not close fails the test instead of holding it up.
+            QTimer::singleShot(5000, dialog, [dialog] {
+                ADD_FAILURE() << "the dialog stands after its answer";
+                dialog->reject();
+            });
             action(*dialog);
         });
         timer->start(10);
@@ -50,7 +56,7 @@ TEST_F(Dialogs, AskYesOrNo)
                   answer);
         EXPECT_EQ(title, u"Program will terminate"_s);
         EXPECT_EQ(text, u"Shut <b>down</b> Trawlex?"_s);
-        EXPECT_EQ(modality, Qt::WindowModal);
+        EXPECT_EQ(modality, Qt::ApplicationModal) << "no other window may go on under a question";
     }
 }
 
@@ -58,6 +64,30 @@ TEST_F(Dialogs, AClosedQuestionIsNo)
 {
     whenShown<QMessageBox>([](QMessageBox &box) { box.reject(); });
     EXPECT_EQ(dialogs.ask(u"title"_s, u"text"_s, Icon::Question, Answer::Yes), Answer::No);
+}
+
+TEST_F(Dialogs, TheAnswerThatChangesNothingIsTheDefault)
+{
+    whenShown<QMessageBox>([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(dialogs.ask(u"title"_s, u"Shut down?"_s, Icon::Critical, Answer::Yes), Answer::No);
+    whenShown<QMessageBox>([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(dialogs.askAboutError(u"title"_s, u"record"_s, u"Open?"_s), Answer::No);
+}
+
+TEST_F(Dialogs, ATitleFitsAndTheSignIsOurs)
+{
+    const QString title = u"A title that is a good deal longer than what the box has to say"_s;
+    int width = 0, needed = 0;
+    QSize sign;
+    whenShown<QMessageBox>([&](QMessageBox &box) {
+        width = box.width();
+        needed = box.fontMetrics().horizontalAdvance(title);
+        sign = box.iconPixmap().deviceIndependentSize().toSize();
+        box.accept();
+    });
+    dialogs.tell(title, u"No."_s);
+    EXPECT_GE(width, needed + 100);
+    EXPECT_EQ(sign, QSize(32, 32));
 }
 
 TEST_F(Dialogs, TextIsNeverMarkup)
@@ -102,7 +132,8 @@ TEST_F(Dialogs, AFileIsChosen)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
     whenShown<QFileDialog>([&](QFileDialog &dialog) {
-        dialog.selectFile(path);
+        // As the user types it: selectFile() leaves a line alone that has the focus already.
+        dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(path);
         QMetaObject::invokeMethod(&dialog, "accept");
     });
     EXPECT_EQ(dialogs.chooseFile(folder.path(), u"Programs (*.exe)|*.exe|"_s, u"Locate"_s), path);

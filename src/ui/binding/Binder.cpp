@@ -1,8 +1,10 @@
 #include "ui/binding/Binder.h"
 
+#include "ui/binding/DragAndDrop.h"
 #include "ui/look/Tones.h"
 #include "ui/widgets/Chip.h"
 #include "ui/widgets/DropDown.h"
+#include "ui/widgets/GridTable.h"
 #include "ui/widgets/ItemList.h"
 #include "ui/widgets/Mark.h"
 #include "ui/widgets/NumberEdit.h"
@@ -10,6 +12,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,8 +24,12 @@ using namespace Qt::StringLiterals;
 using Bindings::ReturnKey;
 
 namespace {
-/// A longer tip is broken into lines.
-constexpr int longTip = 70;
+/// What stands behind a widget's name when its control has another widget elsewhere.
+constexpr QLatin1StringView place = "_on"_L1;
+/// A line of a tool tip is no longer.
+constexpr int tipLine = 60;
+/// Of a designed line: it is locked, not disabled, so that it can be read and copied at any time.
+constexpr const char *readable = "readable";
 /// How strongly a coloured text box is tinted; its text stays the desktop's.
 constexpr double tint = 0.22;
 
@@ -31,9 +38,19 @@ QString withoutMnemonic(QString text)
     return text.remove(u'&');
 }
 
+/// `tip` in lines that the eye takes in, with nothing in it taken for markup.
 QString shownTip(const QString &tip)
 {
-    return tip.size() > longTip ? u"<p>"_s + tip.toHtmlEscaped() + u"</p>"_s : tip;
+    QStringList lines;
+    QString line;
+    for (const QString &word : tip.split(u' ')) {
+        if (!line.isEmpty() && line.size() + 1 + word.size() > tipLine)
+            lines.append(std::exchange(line, QString()));
+        line += (line.isEmpty() ? QString() : u" "_s) + word;
+    }
+    lines.append(line);
+    const QString broken = lines.join(u'\n');
+    return Qt::mightBeRichText(broken) ? u"<p style='white-space:pre'>"_s + broken.toHtmlEscaped() + u"</p>"_s : broken;
 }
 
 QPalette toned(const Tone &tone)
@@ -66,7 +83,11 @@ void Binding::show()
 {
     mOutdated = false;
     mBound.show();
-    mWidget.setEnabled(mControl.isEnabled());
+    auto *const line = qobject_cast<QLineEdit *>(&mWidget);
+    if (line != nullptr && line->property(readable).toBool())
+        line->setReadOnly(!mControl.isEnabled());
+    else
+        mWidget.setEnabled(mControl.isEnabled());
     if (mWidget.isHidden() == mControl.isVisible())
         mWidget.setVisible(mControl.isVisible());
     showColours();
@@ -79,7 +100,9 @@ void Binding::showColours()
         return;
     const Shades shades = Shades::of(QApplication::palette());
     auto tone = Tones::of(mControl.backColor(), mControl.foreColor(), shades);
-    if (tone && qobject_cast<QLineEdit *>(&mWidget) != nullptr)
+    // Where one reads long, a light ground on a dark desktop is a lamp in the eye: the field takes a tint of it.
+    const bool list = qobject_cast<QAbstractItemView *>(&mWidget) != nullptr;
+    if (tone && (qobject_cast<QLineEdit *>(&mWidget) != nullptr || (list && shades.dark)))
         tone = Tone{mixed(shades.field, tone->fill, tint), shades.text};
     const bool coloured = mWidget.testAttribute(Qt::WA_SetPalette);
     if (!tone && coloured)
@@ -91,8 +114,12 @@ void Binding::showColours()
 void Binding::showWords()
 {
     const QString tip = shownTip(mControl.toolTipText());
-    if (mWidget.toolTip() != tip)
+    if (mWidget.toolTip() != tip) {
         mWidget.setToolTip(tip);
+        // A mark's description is what it reports.
+        if (qobject_cast<Mark *>(&mWidget) == nullptr)
+            mWidget.setAccessibleDescription(mControl.toolTipText());
+    }
     QString name = ownWords();
     for (const QString &other : {mControl.toolTipText(), mDesignedName}) {
         if (name.isEmpty())
@@ -176,6 +203,11 @@ bool Binding::keyPressed(const QEvent &event)
         mControl.doubleClick();
         return true;
     }
+    const bool edits = key.modifiers() == Qt::NoModifier && (key.key() == Qt::Key_Insert || key.key() == Qt::Key_Delete);
+    if (edits && qobject_cast<ListControl *>(&mControl) != nullptr) {
+        mControl.keyDown(key.key() == Qt::Key_Insert ? EditKey::Insert : EditKey::Delete);
+        return true;
+    }
     return false;
 }
 
@@ -197,27 +229,34 @@ template <class SomeControl, class SomeWidget> bool Binder::tryBind(Control &con
 
 void Binder::bindAll(const QObject &form, QWidget &root)
 {
+    QMultiHash<QString, QWidget *> widgets;
+    for (QWidget *const widget : root.findChildren<QWidget *>())
+        widgets.insert(widget->objectName().section(place, 0, 0), widget);
     for (Control *const control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly)) {
-        auto *const widget = root.findChild<QWidget *>(widgetName(control->name()));
-        if (widget == nullptr)
-            continue;
-        const bool done =
-            tryBind<CheckBox, QAbstractButton>(*control, *widget) ||
-            tryBind<Button, QAbstractButton>(*control, *widget) || tryBind<ComboBox, DropDown>(*control, *widget) ||
-            tryBind<ListBox, ItemList>(*control, *widget) || tryBind<TextBox, QLineEdit>(*control, *widget) ||
-            tryBind<NumberBox, NumberEdit>(*control, *widget) || tryBind<Label, Mark>(*control, *widget) ||
-            tryBind<Label, Chip>(*control, *widget) || tryBind<Label, QLabel>(*control, *widget) ||
-            tryBind<PictureBox, StatusBarLine>(*control, *widget) || tryBind<PictureBox, Mark>(*control, *widget) ||
-            tryBind<TabControl, QTabBar>(*control, *widget);
-        if (!done)
-            qWarning("%s: no binding for a widget of class %s", qUtf8Printable(control->name()),
-                     widget->metaObject()->className());
+        for (QWidget *const widget : widgets.values(widgetName(control->name())))
+            bindOne(*control, *widget);
     }
+}
+
+void Binder::bindOne(Control &control, QWidget &widget)
+{
+    const bool done =
+        tryBind<CheckBox, QAbstractButton>(control, widget) || tryBind<Button, QAbstractButton>(control, widget) ||
+        tryBind<ComboBox, DropDown>(control, widget) || tryBind<ListBox, ItemList>(control, widget) ||
+        tryBind<TextBox, QLineEdit>(control, widget) || tryBind<NumberBox, NumberEdit>(control, widget) ||
+        tryBind<Grid, GridTable>(control, widget) || tryBind<Label, Mark>(control, widget) ||
+        tryBind<Label, Chip>(control, widget) || tryBind<Label, QLabel>(control, widget) ||
+        tryBind<PictureBox, StatusBarLine>(control, widget) || tryBind<PictureBox, Mark>(control, widget) ||
+        tryBind<PictureBox, QFrame>(control, widget) || tryBind<TabControl, QTabBar>(control, widget);
+    if (!done)
+        qWarning("%s: no binding for a widget of class %s", qUtf8Printable(control.name()),
+                 widget.metaObject()->className());
 }
 
 void Binder::take(Control &control, QWidget &widget, Bindings::Bound bound)
 {
     auto *const binding = new Binding(control, widget, std::move(bound));
+    new DragAndDrop(control, widget);
     connect(binding, &Binding::outdated, this, &Binder::noteOutdated);
     mBindings.emplace_back(binding);
     binding->show();

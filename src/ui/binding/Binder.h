@@ -1,6 +1,7 @@
 // Binds controls to widgets by name: the objectName of a widget is its control's name, an array member's "chkSMA(9)"
-// written chkSMA_9. Each change of a control is shown once per turn of the event loop, however many changes came
-// together.
+// written chkSMA_9. A control that stands on more than one tab has a widget on each; behind the name of the second one
+// stands "_on" and where it stands ("lblTrawlexTimer_onManual"). Each change of a control is shown once per turn of the
+// event loop, however many changes came together.
 //
 // The controls outlive the widgets. A control without a widget is fine.
 #pragma once
@@ -47,7 +48,7 @@ class Binder : public QObject
     Q_OBJECT
 
   public:
-    /// The objectName of the widget for a control's name.
+    /// The objectName of the (first) widget for a control's name.
     [[nodiscard]] static QString widgetName(const QString &controlName);
 
     /// Binds all controls that are children of `form` to the widgets of their name below `root`, and shows them.
@@ -62,6 +63,7 @@ class Binder : public QObject
   private:
     void take(Control &control, QWidget &widget, Bindings::Bound bound);
     void noteOutdated(Binding *binding);
+    void bindOne(Control &control, QWidget &widget);
     template <class SomeControl, class SomeWidget> bool tryBind(Control &control, QWidget &widget);
 
     std::vector<QPointer<Binding>> mBindings, mOutdated;

@@ -63,7 +63,7 @@ void showFinding(const TextBox &control, QLineEdit &edit, QAction &sign)
     if (sign.isVisible() != reports)
         sign.setVisible(reports);
     edit.setAccessibleDescription(reports ? (found ? u"found in the last page"_s : u"not found in the last page"_s)
-                                          : QString());
+                                          : control.toolTipText());
 }
 } // namespace
 
@@ -89,7 +89,14 @@ Bound Bindings::bind(Button &control, QAbstractButton &widget)
 
 Bound Bindings::bind(ComboBox &control, DropDown &widget)
 {
-    widget.setEditable(control.style() == ComboBox::Style::DropDownCombo);
+    const bool editable = control.style() == ComboBox::Style::DropDownCombo;
+    widget.setEditable(editable);
+    if (editable) {
+        // What is typed is taken as it is typed: nothing is completed, and Return adds nothing to the list.
+        widget.setInsertPolicy(QComboBox::NoInsert);
+        widget.setCompleter(nullptr);
+        widget.lineEdit()->setPlaceholderText(widget.placeholderText());
+    }
     TextListModel &model = modelOf(widget);
     widget.setModel(&model);
     const auto show = [&control, &widget, &model] {
@@ -100,7 +107,7 @@ Bound Bindings::bind(ComboBox &control, DropDown &widget)
     };
     QObject::connect(&widget, &QComboBox::activated, &control, [&control, show](int row) {
         if (control.isEnabled() && row < control.listCount())
-            control.setListIndex(row);
+            control.choose(row);
         show();
     });
     QObject::connect(&widget, &DropDown::opening, &control, [&control, show] {
@@ -108,7 +115,7 @@ Bound Bindings::bind(ComboBox &control, DropDown &widget)
             control.dropDown();
         show();
     });
-    if (widget.isEditable())
+    if (editable)
         QObject::connect(widget.lineEdit(), &QLineEdit::textEdited, &control, &ComboBox::setText);
     return {show};
 }
@@ -119,8 +126,10 @@ Bound Bindings::bind(TextBox &control, QLineEdit &widget)
     auto *const sign = widget.addAction(QIcon(), QLineEdit::TrailingPosition);
     sign->setVisible(false);
     return {[&control, &widget, sign] {
-        if (widget.text() != control.text())
+        if (widget.text() != control.text()) {
             widget.setText(control.text());
+            widget.setCursorPosition(widget.hasFocus() ? widget.cursorPosition() : 0);
+        }
         showFinding(control, widget, *sign);
     }};
 }
@@ -128,6 +137,7 @@ Bound Bindings::bind(TextBox &control, QLineEdit &widget)
 Bound Bindings::bind(NumberBox &control, NumberEdit &widget)
 {
     QObject::connect(&widget, &NumberEdit::edited, &control, &NumberBox::edit);
+    QObject::connect(&widget, &NumberEdit::left, &control, &NumberBox::leave);
     QObject::connect(&widget, &NumberEdit::stepped, &control, &NumberBox::makeStep);
     return {[&control, &widget] {
         widget.setDigits(control.digits());
@@ -161,6 +171,11 @@ Bound Bindings::bind(PictureBox &control, StatusBarLine &widget)
 Bound Bindings::bind(PictureBox &control, Mark &widget)
 {
     return {[&control, &widget] { widget.setColour(control.backColor()); }, ReturnKey::PressesLeft};
+}
+
+Bound Bindings::bind(PictureBox &, QFrame &)
+{
+    return {[] {}};
 }
 
 Bound Bindings::bind(TabControl &control, QTabBar &widget)

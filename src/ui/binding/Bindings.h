@@ -3,6 +3,7 @@
 // Binder's.
 #pragma once
 
+#include "controls/Grid.h"
 #include "controls/ListControls.h"
 #include "controls/NumberBox.h"
 #include "controls/SimpleControls.h"
@@ -11,10 +12,12 @@
 
 class Chip;
 class DropDown;
+class GridTable;
 class ItemList;
 class Mark;
 class NumberEdit;
 class QAbstractButton;
+class QFrame;
 class QLabel;
 class QLineEdit;
 class QTabBar;
@@ -32,6 +35,7 @@ struct Bound
 
 [[nodiscard]] Bound bind(CheckBox &control, QAbstractButton &widget);
 [[nodiscard]] Bound bind(Button &control, QAbstractButton &widget);
+[[nodiscard]] Bound bind(Grid &control, GridTable &widget);
 [[nodiscard]] Bound bind(ComboBox &control, DropDown &widget);
 [[nodiscard]] Bound bind(ListBox &control, ItemList &widget);
 [[nodiscard]] Bound bind(TextBox &control, QLineEdit &widget);
@@ -41,5 +45,7 @@ struct Bound
 [[nodiscard]] Bound bind(Label &control, QLabel &widget);
 [[nodiscard]] Bound bind(PictureBox &control, StatusBarLine &widget);
 [[nodiscard]] Bound bind(PictureBox &control, Mark &widget);
+/// A picture that stands around others, or below one.
+[[nodiscard]] Bound bind(PictureBox &control, QFrame &widget);
 [[nodiscard]] Bound bind(TabControl &control, QTabBar &widget);
 } // namespace Bindings

@@ -1,5 +1,8 @@
 #include "ui/binding/MenuMirror.h"
 
+#include "ui/look/Style.h"
+
+#include <QApplication>
 #include <QCursor>
 
 using namespace Qt::StringLiterals;
@@ -48,11 +51,20 @@ std::unique_ptr<QMenu> MenuMirror::mirrored(const Menu &menu, QWidget *parent)
     return shown;
 }
 
+QPoint QtMenus::whereTheUserIs() const
+{
+    const QWidget *const focused = QApplication::focusWidget();
+    // With the keyboard in use, the pointer may lie anywhere.
+    if (focused == nullptr || !mWindow->testAttribute(Qt::WA_KeyboardFocusChange))
+        return QCursor::pos();
+    return focused->mapToGlobal(QPoint(0, qMin(focused->height(), 2 * Style::rowHeight)));
+}
+
 void QtMenus::show(Menu &menu)
 {
     if (mWindow == nullptr)
         return;
     QMenu *const shown = MenuMirror::mirrored(menu, mWindow).release();
     shown->setAttribute(Qt::WA_DeleteOnClose);
-    shown->popup(QCursor::pos());
+    shown->popup(whereTheUserIs());
 }

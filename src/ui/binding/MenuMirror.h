@@ -22,5 +22,8 @@ class QtMenus : public PopUpMenus
     void show(Menu &menu) override;
 
   private:
+    /// The pointer, or the widget with the focus while the user works with the keyboard.
+    [[nodiscard]] QPoint whereTheUserIs() const;
+
     QWidget *mWindow = nullptr;
 };

@@ -65,8 +65,8 @@ Shades Shades::of(const QPalette &palette)
                             {shades.window, shades.strip, shades.panel, shades.field});
     shades.disabled = mixed(shades.panel, shades.text, 0.40);
     shades.line = mixed(shades.panel, shades.text, 0.12);
-    shades.edge = mixed(shades.panel, shades.text, 0.24);
-    shades.mark = faintest(shades.panel, shades.text, 0.40, visibleShape, {shades.panel, shades.window});
+    shades.edge = faintest(shades.panel, shades.text, 0.24, visibleShape, {shades.panel, shades.window, shades.field});
+    shades.mark = mixed(shades.edge, shades.text, 0.3);
     shades.accent = palette.color(group, QPalette::Highlight);
     shades.onAccent = palette.color(group, QPalette::HighlightedText);
     if (contrast(shades.accent, shades.onAccent) < readableText)

@@ -15,8 +15,8 @@ struct Shades
     QColor quiet;    ///< headings, hints: at least 4.5 : 1 on window, panel and field
     QColor disabled; ///< what cannot be used now
     QColor line;     ///< around groups
-    QColor edge;     ///< around fields and buttons
-    QColor mark;     ///< around an empty check box: at least 3 : 1
+    QColor edge;     ///< around fields, buttons and empty check boxes: at least 3 : 1
+    QColor mark;     ///< the same under the mouse
     QColor accent, onAccent;
     bool dark = false;
 

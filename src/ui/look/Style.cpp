@@ -22,9 +22,15 @@ bool has(const QStyleOption &option, QStyle::StateFlag flag)
     return option.state.testFlag(flag);
 }
 
+/// A line that is locked looks like what cannot be used now; its text can be read all the same.
+bool isUsable(const QStyleOption &option)
+{
+    return has(option, QStyle::State_Enabled) && !has(option, QStyle::State_ReadOnly);
+}
+
 QColor edgeOf(const QStyleOption &option, const Shades &shades)
 {
-    if (!has(option, QStyle::State_Enabled))
+    if (!isUsable(option))
         return shades.line;
     return has(option, QStyle::State_MouseOver) ? shades.mark : shades.edge;
 }
@@ -33,7 +39,7 @@ QColor edgeOf(const QStyleOption &option, const Shades &shades)
 QColor fieldFill(const QStyleOption &option, const Shades &shades)
 {
     const QColor base = option.palette.color(QPalette::Active, QPalette::Base);
-    return has(option, QStyle::State_Enabled) ? base : mixed(base, shades.window, 0.6);
+    return isUsable(option) ? base : mixed(base, shades.window, 0.6);
 }
 
 /// Where one types shows its focus always, other widgets only while the user works with the keyboard.
@@ -95,10 +101,10 @@ void drawCheckMark(const QStyleOption &option, QPainter &painter)
     const bool enabled = has(option, QStyle::State_Enabled);
     const bool marked = has(option, QStyle::State_On) || has(option, QStyle::State_NoChange);
     QColor fill = enabled ? shades.field : mixed(shades.panel, shades.window, 0.5);
-    QColor border = enabled ? shades.mark : shades.edge;
+    QColor border = enabled ? shades.edge : shades.line;
     QColor ink = shades.onAccent;
     if (marked) {
-        fill = enabled ? shades.accent : shades.edge;
+        fill = enabled ? shades.accent : shades.disabled;
         border = fill;
         ink = enabled ? shades.onAccent : shades.panel;
     } else if (enabled && has(option, QStyle::State_MouseOver)) {
@@ -139,11 +145,30 @@ void drawScrollBar(const QStyleOptionComplex &option, QPainter &painter, const Q
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(has(option, QStyle::State_MouseOver) ? shades.quiet : shades.mark);
+    painter.setBrush(has(option, QStyle::State_MouseOver) ? shades.mark : shades.edge);
     const double round = qMin(thumb.width(), thumb.height()) / 2;
     painter.drawRoundedRect(thumb, round, round);
     painter.restore();
 }
+/// The head of a grid's column: flat, with a line below.
+void drawHeaderSection(const QStyleOption &option, QPainter &painter)
+{
+    const Shades shades = Shades::of(option.palette);
+    painter.fillRect(option.rect, shades.strip);
+    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), shades.line);
+    painter.fillRect(QRect(option.rect.right(), option.rect.top() + 5, 1, option.rect.height() - 10), shades.line);
+}
+
+/// The selection of a list that cannot be used now is there, and pale.
+QStyleOptionViewItem paled(const QStyleOptionViewItem &item)
+{
+    QStyleOptionViewItem result = item;
+    const Shades shades = Shades::of(item.palette);
+    result.palette.setColor(QPalette::Disabled, QPalette::Highlight, mixed(shades.field, shades.text, 0.13));
+    result.palette.setColor(QPalette::Disabled, QPalette::HighlightedText, shades.quiet);
+    return result;
+}
+
 /// A bar without buttons at its ends: all of it is the way of the thumb.
 QRect scrollBarPart(const QStyleOptionSlider &bar, QStyle::SubControl part)
 {
@@ -210,6 +235,13 @@ void Style::drawControl(ControlElement element, const QStyleOption *option, QPai
         const int room = proxy()->subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2;
         const QStyleOptionComboBox shown = elided(*combo, room);
         return QProxyStyle::drawControl(element, &shown, painter, widget);
+    }
+    if (element == CE_HeaderSection)
+        return drawHeaderSection(*option, *painter);
+    const auto *const item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+    if (element == CE_ItemViewItem && item != nullptr && !has(*option, State_Enabled)) {
+        const QStyleOptionViewItem pale = paled(*item);
+        return QProxyStyle::drawControl(element, &pale, painter, widget);
     }
     const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option);
     const bool ownInk = element == CE_PushButtonLabel && button != nullptr && widget != nullptr;
@@ -300,6 +332,8 @@ QRect Style::subElementRect(SubElement element, const QStyleOption *option, cons
     const auto *const frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
     if (element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0)
         return option->rect.adjusted(textInset - 2, 2, 2 - textInset, -2);
+    if (element == SE_HeaderLabel)
+        return option->rect.adjusted(textInset - 2, 0, 2 - textInset, 0);
     return QProxyStyle::subElementRect(element, option, widget);
 }
 

@@ -3,6 +3,8 @@
 #include "ui/look/Drawing.h"
 #include "ui/look/Icons.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int inset = 6;
 constexpr int iconSize = 16;
@@ -41,9 +43,19 @@ void Chip::setCaption(const QString &caption)
     update();
 }
 
+void Chip::setCaptioned(bool captioned)
+{
+    mCaptioned = captioned;
+    updateGeometry();
+    update();
+}
+
 QString Chip::text() const
 {
-    return mCaption.isEmpty() ? mWord : mWord + QChar::Space + mCaption;
+    if (mCaption.isEmpty() || !mCaptioned)
+        return mWord;
+    // A list is named by a letter, a position by a figure.
+    return mWord + (mCaption.at(0).isLetter() ? u" in "_s : u" "_s) + mCaption;
 }
 
 QSize Chip::sizeHint() const

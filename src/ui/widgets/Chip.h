@@ -9,6 +9,7 @@ class Chip : public QWidget
     Q_OBJECT
     Q_PROPERTY(QString icon READ icon WRITE setIcon)
     Q_PROPERTY(QString word READ word WRITE setWord)
+    Q_PROPERTY(bool captioned READ isCaptioned WRITE setCaptioned)
 
   public:
     explicit Chip(QWidget *parent = nullptr);
@@ -17,6 +18,9 @@ class Chip : public QWidget
     void setIcon(const QString &name);
     [[nodiscard]] const QString &word() const { return mWord; }
     void setWord(const QString &word);
+    /// A chip that is not captioned shows its word alone: the caption belongs to another tab's.
+    [[nodiscard]] bool isCaptioned() const { return mCaptioned; }
+    void setCaptioned(bool captioned);
     [[nodiscard]] const QString &caption() const { return mCaption; }
     void setCaption(const QString &caption);
 
@@ -33,4 +37,5 @@ class Chip : public QWidget
 
   private:
     QString mIcon, mWord, mCaption;
+    bool mCaptioned = true;
 };

@@ -1,5 +1,5 @@
-// A combo box that tells when its list opens, and that the mouse wheel does not change in passing: a choice here may
-// start a browser.
+// A combo box that tells when its list opens, and that neither the mouse wheel nor a key meant for another control
+// changes in passing: a choice here may start a browser.
 #pragma once
 
 #include <QComboBox>
@@ -16,5 +16,6 @@ class DropDown : public QComboBox
     void opening();
 
   protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 };

@@ -1,6 +1,7 @@
 #include "ui/widgets/ItemList.h"
 
 #include "ui/look/Shades.h"
+#include "ui/widgets/AddressDelegate.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -22,9 +23,25 @@ void ItemList::setEmptyText(const QString &text)
     viewport()->update();
 }
 
+void ItemList::setAddresses(bool addresses)
+{
+    mAddresses = addresses;
+    setItemDelegate(addresses ? new AddressDelegate(this) : new QStyledItemDelegate(this));
+}
+
+int ItemList::rowsHigh(int rows) const
+{
+    return rows * qMax(23, fontMetrics().height() + 4) + 2 * frameWidth() + 4;
+}
+
+QSize ItemList::minimumSizeHint() const
+{
+    return {80, rowsHigh(3)};
+}
+
 QSize ItemList::sizeHint() const
 {
-    return {160, 6 * qMax(23, fontMetrics().height() + 4) + 2 * frameWidth()};
+    return {160, rowsHigh(6)};
 }
 
 void ItemList::paintEvent(QPaintEvent *event)

@@ -8,12 +8,18 @@ class ItemList : public QListView
 {
     Q_OBJECT
     Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+    Q_PROPERTY(bool addresses READ showsAddresses WRITE setAddresses)
 
   public:
     explicit ItemList(QWidget *parent = nullptr);
 
     [[nodiscard]] const QString &emptyText() const { return mEmptyText; }
     void setEmptyText(const QString &text);
+    /// The items are addresses: their servers stand out.
+    [[nodiscard]] bool showsAddresses() const { return mAddresses; }
+    void setAddresses(bool addresses);
+    /// Three rows.
+    [[nodiscard]] QSize minimumSizeHint() const override;
     /// Six rows.
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -23,5 +29,8 @@ class ItemList : public QListView
     void mouseMoveEvent(QMouseEvent *event) override;
 
   private:
+    [[nodiscard]] int rowsHigh(int rows) const;
+
     QString mEmptyText;
+    bool mAddresses = false;
 };

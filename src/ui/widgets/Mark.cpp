@@ -102,7 +102,9 @@ void EndMark::paintEvent(QPaintEvent *)
     QRectF square(0, 0, 24, 24);
     square.moveCenter(QRectF(rect()).center());
     Drawing::box(painter, square, ground, QColor());
-    Drawing::sign(painter, square, Drawing::Sign::Cross, neutral ? shades.text : ink());
+    // Who comes near sees what a click does, everybody else the last page's outcome.
+    const bool ends = neutral || underMouse() || Drawing::showsFocus(*this);
+    Drawing::sign(painter, square, ends ? Drawing::Sign::Cross : sign(), neutral ? shades.text : ink());
     if (Drawing::showsFocus(*this))
         Drawing::focusRing(painter, square, shades);
 }

@@ -40,7 +40,7 @@ class Lamp : public Mark
     void paintEvent(QPaintEvent *event) override;
 };
 
-/// Ends the program; its sign stays a cross, its colour is the last page's outcome.
+/// Ends the program; its colour and sign are the last page's outcome, a cross while there is none or under the mouse.
 class EndMark : public Mark
 {
     Q_OBJECT

@@ -133,6 +133,8 @@ bool NumberEdit::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         update();
+    if (event->type() == QEvent::FocusOut && isEnabled())
+        Q_EMIT left();
     if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent *>(event)->key();

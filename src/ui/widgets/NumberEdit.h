@@ -31,6 +31,8 @@ class NumberEdit : public QWidget
 
   Q_SIGNALS:
     void edited(const QString &text);
+    /// The focus goes elsewhere.
+    void left();
     void stepped(NumberBox::Direction direction);
 
   protected:

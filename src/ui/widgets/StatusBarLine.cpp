@@ -74,7 +74,7 @@ void StatusBarLine::paintEvent(QPaintEvent *)
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                      fitted(mText, fontMetrics(), line.width()));
     if (mTotal > 0) {
-        painter.fillRect(QRect(0, 0, width(), barHeight), shades.edge);
+        painter.fillRect(QRect(0, 0, width(), barHeight), shades.line);
         painter.fillRect(QRectF(0, 0, double(width()) * mDone / mTotal, barHeight), shades.accent);
     }
     if (Drawing::showsFocus(*this))

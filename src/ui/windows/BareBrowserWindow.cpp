@@ -81,6 +81,7 @@ void BareBrowserWindow::placeBeside(const QWidget &main)
 void BareBrowserWindow::closeEvent(QCloseEvent *event)
 {
     event->accept();
+    Q_EMIT closing();
     tmrAutoRefresh.stop();
     disconnect(mBrowser.get(), nullptr, this, nullptr);
     mUi->WBOne->setPage(nullptr);

@@ -30,6 +30,10 @@ class BareBrowserWindow : public QWidget
     /// Takes the room at the right side of `main`, as far as the screen has any.
     void placeBeside(const QWidget &main);
 
+  Q_SIGNALS:
+    /// The user, or the end of the program, closes the window; it still stands where it was.
+    void closing();
+
   protected:
     void closeEvent(QCloseEvent *event) override;
 

@@ -3,12 +3,26 @@
 #include "ui/look/Drawing.h"
 #include "ui/look/Icons.h"
 #include "ui/look/Theme.h"
+#include "ui/widgets/Accessible.h"
+#include "ui/widgets/DropDown.h"
+#include "ui/widgets/EdgeGrips.h"
+#include "ui/widgets/GroupPanel.h"
+#include "ui_AutoManualPage.h"
 #include "ui_AutoTab.h"
+#include "ui_BlockingPage.h"
+#include "ui_DataTab.h"
+#include "ui_DirectoryPage.h"
+#include "ui_ImportPage.h"
 #include "ui_MainWindow.h"
+#include "ui_ManualTab.h"
+#include "ui_SavePage.h"
 #include "ui_SettingsTab.h"
+#include "ui_SitesPage.h"
+#include "ui_ViewPage.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QScreen>
 #include <QShortcut>
 #include <QWindow>
 
@@ -17,6 +31,26 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr int usualWidth = 452;
 constexpr const char *iconProperty = "iconName";
+
+template <class Page> void fill(QWidget &page)
+{
+    Page().setupUi(&page);
+}
+
+/// What stands on each page; a page comes behind the one that it stands on.
+struct PageRow
+{
+    QLatin1StringView page;
+    void (*fill)(QWidget &page);
+};
+constexpr PageRow pageRows[] = {
+    {"autoPage"_L1, fill<Ui::AutoTab>},          {"manualPage"_L1, fill<Ui::ManualTab>},
+    {"settingsPage"_L1, fill<Ui::SettingsTab>},  {"dataPage"_L1, fill<Ui::DataTab>},
+    {"blockingPage"_L1, fill<Ui::BlockingPage>}, {"directoryPage"_L1, fill<Ui::DirectoryPage>},
+    {"importPage"_L1, fill<Ui::ImportPage>},     {"amPage"_L1, fill<Ui::AutoManualPage>},
+    {"savePage"_L1, fill<Ui::SavePage>},         {"viewPage"_L1, fill<Ui::ViewPage>},
+    {"sitesPage"_L1, fill<Ui::SitesPage>},
+};
 
 /// The tabs and the stack of their pages.
 struct TabPages
@@ -29,15 +63,14 @@ constexpr TabPages tabPages[] = {{"sstSearch"_L1, "pages"_L1},
                                  {"sstMiscOptions"_L1, "miscPages"_L1}};
 } // namespace
 
-MainWindow::MainWindow(frmSearch &form)
-    : mUi(std::make_unique<Ui::MainWindow>()), mAuto(std::make_unique<Ui::AutoTab>()),
-      mSettings(std::make_unique<Ui::SettingsTab>())
+MainWindow::MainWindow(frmSearch &form) : mUi(std::make_unique<Ui::MainWindow>())
 {
     Theme::of(*qApp);
+    Accessible::install();
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
     mUi->setupUi(this);
-    mAuto->setupUi(mUi->autoPage);
-    mSettings->setupUi(mUi->settingsPage);
+    for (const PageRow &row : pageRows)
+        row.fill(*findChild<QWidget *>(row.page));
     setWindowTitle(u"Trawlex"_s);
     setWindowIcon(Icons::application());
     dressWidgets();
@@ -46,7 +79,8 @@ MainWindow::MainWindow(frmSearch &form)
     connect(mUi->minimizeButton, &QPushButton::clicked, this, &QWidget::showMinimized);
     TurnOffTabStop();
     addKeys();
-    resize(qMax(usualWidth, minimumSizeHint().width()), sizeHint().height());
+    EdgeGrip::putOn(*this);
+    takeUsualSize();
 }
 
 MainWindow::~MainWindow() = default;
@@ -59,6 +93,12 @@ void MainWindow::connectPages()
         connect(tabs, &QTabBar::currentChanged, pages, &QStackedWidget::setCurrentIndex);
         pages->setCurrentIndex(tabs->currentIndex());
     }
+    auto *const lists = findChild<QStackedWidget *>("listPages"_L1);
+    auto *const list = findChild<DropDown *>("cboMNList"_L1);
+    connect(list, &QComboBox::currentIndexChanged, lists, &QStackedWidget::setCurrentIndex);
+    lists->setCurrentIndex(list->currentIndex());
+    for (GroupPanel *const group : findChildren<GroupPanel *>())
+        connect(group, &GroupPanel::foldedChanged, this, &MainWindow::foldingChanged);
 }
 
 void MainWindow::dressWidgets()
@@ -68,14 +108,38 @@ void MainWindow::dressWidgets()
         if (!icon.isEmpty())
             button->setIcon(Icons::inked(icon));
     }
-    for (QLabel *const label : findChildren<QLabel *>()) {
-        if (label->objectName().endsWith("Empty"_L1))
-            label->setForegroundRole(QPalette::PlaceholderText);
+    for (QPushButton *const go :
+         {findChild<QPushButton *>("cmdANStart"_L1), findChild<QPushButton *>("cmdMNStart"_L1)}) {
+        QFont bold = go->font();
+        bold.setPointSizeF(bold.pointSizeF() * 1.35);
+        bold.setBold(true);
+        go->setFont(bold);
     }
-    QFont bold = mAuto->cmdANStart->font();
-    bold.setPointSizeF(bold.pointSizeF() * 1.35);
-    bold.setBold(true);
-    mAuto->cmdANStart->setFont(bold);
+}
+
+void MainWindow::takeUsualSize()
+{
+    // The tallest of all tabs would make a tower of the others: they scroll.
+    const int tab = mUi->autoPage->sizeHint().height();
+    const QSize usual(qMax(usualWidth, minimumSizeHint().width()),
+                      mUi->titleBar->sizeHint().height() + tab + mUi->picStatus->sizeHint().height() + 2);
+    resize(usual.boundedTo(screen()->availableGeometry().size()));
+}
+
+QStringList MainWindow::foldedGroups() const
+{
+    QStringList names;
+    for (const GroupPanel *const group : findChildren<GroupPanel *>()) {
+        if (group->isFolded())
+            names.append(group->objectName());
+    }
+    return names;
+}
+
+void MainWindow::setFoldedGroups(const QStringList &names)
+{
+    for (GroupPanel *const group : findChildren<GroupPanel *>())
+        group->setFolded(names.contains(group->objectName()));
 }
 
 void MainWindow::addKeys()
@@ -83,6 +147,7 @@ void MainWindow::addKeys()
     const auto onKey = [this](const QKeySequence &key, auto action) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, action);
     };
+    onKey(Qt::Key_F1, [this] { Q_EMIT helpRequested(); });
     onKey(Qt::Key_F6, [this] { moveFocus(Step::Next); });
     onKey(Qt::SHIFT | Qt::Key_F6, [this] { moveFocus(Step::Previous); });
     for (int tab = 0; tab < mUi->sstSearch->count(); ++tab)

@@ -1,5 +1,6 @@
-// The one main window. It has no title bar: the tab strip moves it. It shows the controls of a frmSearch and turns what
-// the user does into their events; what follows from them is not its business.
+// The one main window. It has no title bar: the tab strip moves it, its edges change its size. On a low screen its tabs
+// scroll and its groups fold; the row with Go and the status bar always stay in sight. It shows the controls of a
+// frmSearch and turns what the user does into their events; what follows from them is not its business.
 //
 // `form` outlives the window.
 #pragma once
@@ -11,10 +12,8 @@
 #include <memory>
 
 namespace Ui {
-class AutoTab;
 class MainWindow;
-class SettingsTab;
-} // namespace Ui
+}
 
 class MainWindow : public QWidget
 {
@@ -26,6 +25,11 @@ class MainWindow : public QWidget
 
     /// From here on the window closes when it is asked to; before, it only tells.
     void allowClose() { mMayClose = true; }
+    /// As large as the tab "Auto" needs, as far as the screen has the room.
+    void takeUsualSize();
+    /// The groups that show their heading alone, by name.
+    [[nodiscard]] QStringList foldedGroups() const;
+    void setFoldedGroups(const QStringList &names);
     /// The thin bar of the status bar: `done` of `total` is over; a total of 0 takes it away.
     void setProgress(int done, int total);
     void setKeptOnTop(bool onTop);
@@ -34,6 +38,8 @@ class MainWindow : public QWidget
   Q_SIGNALS:
     /// The user or the desktop wants the window closed.
     void closeRequested();
+    void foldingChanged();
+    void helpRequested();
 
   protected:
     void closeEvent(QCloseEvent *event) override;
@@ -49,8 +55,6 @@ class MainWindow : public QWidget
     void moveFocus(Step step);
 
     std::unique_ptr<Ui::MainWindow> mUi;
-    std::unique_ptr<Ui::AutoTab> mAuto;
-    std::unique_ptr<Ui::SettingsTab> mSettings;
     Binder mBinder;
     bool mMayClose = false;
 };

@@ -1,7 +1,10 @@
 #include "ui/windows/QtDialogs.h"
 
+#include "ui/look/Icons.h"
+
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -10,6 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int inputWidth = 336;
+constexpr QSize iconSize(32, 32);
+/// What the buttons and margins of a title bar take.
+constexpr int titleButtons = 140;
 
 QWidget *windowInUse()
 {
@@ -25,15 +31,31 @@ QWidget *windowInUse()
 void prepare(QDialog &dialog, const QString &title)
 {
     dialog.setWindowTitle(title);
-    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setWindowModality(Qt::ApplicationModal);
 }
 
-UserDialogs::Answer answerTo(QMessageBox::Icon icon, const QString &title, const QString &text,
+/// A box is as wide as its title and the buttons beside it need.
+void makeRoomForTitle(QMessageBox &box)
+{
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + titleButtons;
+    auto *const grid = qobject_cast<QGridLayout *>(box.layout());
+    if (grid != nullptr)
+        grid->addItem(new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Fixed), grid->rowCount(), 0, 1,
+                      grid->columnCount());
+}
+
+UserDialogs::Answer answerTo(const QString &icon, const QString &title, const QString &text,
                              QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(icon, title, text, buttons, windowInUse());
+    QMessageBox box(QMessageBox::NoIcon, title, text, buttons, windowInUse());
     box.setTextFormat(Qt::PlainText);
+    box.setIconPixmap(Icons::inked(icon).pixmap(iconSize, box.devicePixelRatioF()));
+    if (buttons.testFlag(QMessageBox::No)) {
+        box.setDefaultButton(QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+    }
     prepare(box, title);
+    makeRoomForTitle(box);
     const int pressed = box.exec();
     if (pressed == QMessageBox::Yes)
         return UserDialogs::Answer::Yes;
@@ -43,18 +65,18 @@ UserDialogs::Answer answerTo(QMessageBox::Icon icon, const QString &title, const
 
 void QtDialogs::tell(const QString &title, const QString &text)
 {
-    answerTo(QMessageBox::Critical, title, text, QMessageBox::Ok);
+    answerTo(u"warning"_s, title, text, QMessageBox::Ok);
 }
 
 UserDialogs::Answer QtDialogs::ask(const QString &title, const QString &text, Icon icon, Answer)
 {
-    return answerTo(icon == Icon::Critical ? QMessageBox::Critical : QMessageBox::Question, title, text,
+    return answerTo(icon == Icon::Critical ? u"warning"_s : u"question"_s, title, text,
                     QMessageBox::Yes | QMessageBox::No);
 }
 
 UserDialogs::Answer QtDialogs::askAboutError(const QString &title, const QString &record, const QString &prompt)
 {
-    return answerTo(QMessageBox::Critical, title, record + u"\n\n"_s + prompt,
+    return answerTo(u"warning"_s, title, record + u"\n\n"_s + prompt,
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
 }
 
@@ -73,7 +95,7 @@ QString QtDialogs::input(const QString &prompt, const QString &title, const QStr
 QString QtDialogs::chooseFile(const QString &directory, const QString &filter, const QString &title)
 {
     QFileDialog dialog(windowInUse(), title, directory, qtFilter(filter));
-    dialog.setWindowModality(Qt::WindowModal);
+    prepare(dialog, title);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

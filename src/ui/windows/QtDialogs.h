@@ -1,5 +1,6 @@
-// Questions to the user as boxes over the window in use. They block that window and nothing else: a run that stands
-// below on the stack goes on when the box is answered.
+// Questions to the user as boxes over the window in use. They block all windows, the built-in browser's too: what
+// stands below on the stack, a run or an open transaction, goes on when the box is answered and not before. The answer
+// that changes nothing is the default one.
 #pragma once
 
 #include "app/Ports.h"

@@ -1,0 +1,82 @@
+#include "desktop/DesktopSideWindows.h"
+
+#include "app/SettingKeys.h"
+#include "window/WindowPlaces.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+void DesktopSideWindows::magnify(const QString &text)
+{
+    if (!mMain)
+        return;
+    const bool isNew = !frmMagnify;
+    if (isNew) {
+        frmMagnify = new MagnifyWindow(mMain);
+        frmMagnify->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(frmMagnify, &MagnifyWindow::closing, frmMagnify,
+                         [this] { SaveFF(mSettings, frmMagnify->objectName(), frmMagnify->geometry()); });
+    }
+    frmMagnify->Magnify(text);
+    if (isNew)
+        placeMagnifier();
+    frmMagnify->show();
+    frmMagnify->raise();
+}
+
+void DesktopSideWindows::placeMagnifier()
+{
+    frmMagnify->placeUnder(*mMain);
+    if (mSettings.GetSetting(Sections::Main, Keys::KeepMagnifyPlace, u"0"_s) == "1"_L1)
+        frmMagnify->setGeometry(
+            AlignFF(mSettings, frmMagnify->objectName(), frmMagnify->geometry(), mMain->screen()->availableGeometry()));
+}
+
+void DesktopSideWindows::showAbout()
+{
+    if (!mMain)
+        return;
+    if (!frmAbout) {
+        frmAbout = new AboutWindow(mMain);
+        QObject::connect(frmAbout, &AboutWindow::helpRequested, frmAbout, [this] { showHelp(); });
+    }
+    frmAbout->show();
+    frmAbout->raise();
+}
+
+void DesktopSideWindows::showHelp()
+{
+    const QString page = manual();
+    if (!page.isEmpty())
+        mDesktop.open(page);
+}
+
+QString DesktopSideWindows::manual()
+{
+    for (const auto &place : {u"/manual/index.html"_s, u"/../share/doc/trawlex/manual/index.html"_s,
+                              u"/../../../docs/manual/index.html"_s}) {
+        const QFileInfo page(QCoreApplication::applicationDirPath() + place);
+        if (page.exists())
+            return page.canonicalFilePath();
+    }
+    return {};
+}
+
+bool DesktopSideWindows::chooseDirectory(const QString &directory, std::function<void(const QString &directory)> chosen)
+{
+    if (!mMain || mobjDirSel)
+        return false;
+    mobjDirSel = new DirectoryWindow(mMain);
+    mobjDirSel->InitDir(directory);
+    QObject::connect(mobjDirSel, &DirectoryWindow::DirSelectionChanged, mobjDirSel,
+                     [this, chosen = std::move(chosen)](const QString &choice) {
+                         // Whoever is told may open the next one.
+                         mobjDirSel.clear();
+                         chosen(choice);
+                     });
+    mobjDirSel->show();
+    return true;
+}

@@ -1,0 +1,25 @@
+// The view of a grid: one block of cells may be selected, long texts lose their middle, the right mouse button leaves a
+// selection that it lies in as it is. Empty, it says in grey what belongs there.
+#pragma once
+
+#include <QTableView>
+
+class GridTable : public QTableView
+{
+    Q_OBJECT
+    Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+
+  public:
+    explicit GridTable(QWidget *parent = nullptr);
+
+    [[nodiscard]] const QString &emptyText() const { return mEmptyText; }
+    void setEmptyText(const QString &text);
+    [[nodiscard]] QSize minimumSizeHint() const override { return {160, 84}; }
+
+  protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+
+  private:
+    QString mEmptyText;
+};

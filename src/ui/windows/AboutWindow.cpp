@@ -1,0 +1,82 @@
+#include "ui/windows/AboutWindow.h"
+
+#include "ui/look/Icons.h"
+#include "ui_AboutWindow.h"
+
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QSysInfo>
+#include <QtWebEngineCore/qtwebenginecoreglobal.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr QSize pictureSize(56, 56);
+constexpr double titleSize = 1.7;
+} // namespace
+
+AboutWindow::AboutWindow(QWidget *main) : QDialog(main), mUi(std::make_unique<Ui::AboutWindow>())
+{
+    mUi->setupUi(this);
+    setObjectName(u"frmAbout"_s);
+    setAttribute(Qt::WA_DeleteOnClose);
+    mUi->picDisplay->setPixmap(Icons::application().pixmap(pictureSize, devicePixelRatioF()));
+    QFont large = mUi->lblTitle->font();
+    large.setPointSizeF(large.pointSizeF() * titleSize);
+    large.setBold(true);
+    mUi->lblTitle->setFont(large);
+    mUi->lblTitle->setText(u"Trawlex"_s);
+    mUi->lblVersion->setText(u"Version "_s + QStringLiteral(TRAWLEX_VERSION));
+    mUi->systemText->setPlainText(systemInformation());
+    mUi->systemText->hide();
+    mUi->copyButton->hide();
+    for (QLabel *const link : {mUi->picDisplay, mUi->lblName}) {
+        link->setCursor(Qt::PointingHandCursor);
+        link->installEventFilter(this);
+    }
+    connect(mUi->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(mUi->cmdSysInFo, &QPushButton::toggled, this, [this](bool shown) {
+        mUi->systemText->setVisible(shown);
+        mUi->copyButton->setVisible(shown);
+        adjustSize();
+    });
+    connect(mUi->copyButton, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(mUi->systemText->toPlainText()); });
+    mUi->cmdOK->setFocus();
+}
+
+AboutWindow::~AboutWindow() = default;
+
+QString AboutWindow::systemInformation()
+{
+    QStringList lines{u"Trawlex "_s + QStringLiteral(TRAWLEX_VERSION),
+                      u"System: %1, %2"_s.arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()),
+                      u"Kernel: %1 %2"_s.arg(QSysInfo::kernelType(), QSysInfo::kernelVersion()),
+                      u"Qt: %1, windows by %2"_s.arg(QString::fromLatin1(qVersion()), QGuiApplication::platformName()),
+                      u"Built-in browser: Qt WebEngine %1, Chromium %2"_s.arg(
+                          QString::fromLatin1(qWebEngineVersion()), QString::fromLatin1(qWebEngineChromiumVersion()))};
+    for (const QScreen *const screen : QGuiApplication::screens()) {
+        const QSize size = screen->size();
+        lines.append(u"Screen: %1 x %2, scale %3"_s.arg(size.width())
+                         .arg(size.height())
+                         .arg(screen->devicePixelRatio()));
+    }
+    return lines.join(u'\n');
+}
+
+bool AboutWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+        QPalette shown = palette();
+        if (event->type() == QEvent::Enter)
+            shown.setColor(QPalette::WindowText, shown.color(QPalette::Highlight));
+        mUi->lblName->setPalette(shown);
+    }
+    if (event->type() == QEvent::MouseButtonRelease)
+        Q_EMIT helpRequested();
+    return QDialog::eventFilter(watched, event);
+}

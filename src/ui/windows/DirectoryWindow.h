@@ -1,0 +1,42 @@
+// Chooses a directory: a list of drives, a tree of folders, the path in words. It is made for one choice.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+class QFileSystemModel;
+
+namespace Ui {
+class DirectoryWindow;
+}
+
+class DirectoryWindow : public QDialog
+{
+    Q_OBJECT
+
+  public:
+    explicit DirectoryWindow(QWidget *main);
+    ~DirectoryWindow() override;
+
+    /// Begins with `directory` if it is there, else with the home directory.
+    void InitDir(const QString &directory);
+    /// The directory at hand, with a separator behind it.
+    [[nodiscard]] QString directory() const { return mDirectory; }
+    /// Where folders can be chosen: home, the root, and what is mounted for users.
+    [[nodiscard]] static QStringList drives();
+
+  Q_SIGNALS:
+    /// The choice; "" if there is none. Comes once, with the end of the window.
+    void DirSelectionChanged(const QString &directory);
+
+  private:
+    void chooseDrive(int index);
+    void takeDirectory(const QString &path);
+    void showInTree();
+    void finish(int result);
+
+    std::unique_ptr<Ui::DirectoryWindow> mUi;
+    QFileSystemModel *mFolders;
+    QString mDirectory;
+    int mGoodDrive = 0; ///< the last one that could be read
+};

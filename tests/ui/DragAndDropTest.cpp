@@ -1,0 +1,119 @@
+// Text and files dropped on widgets reach their controls; the keys that add and delete do, too.
+#include "WindowFixture.h"
+#include "ui/binding/DragAndDrop.h"
+#include "ui/widgets/DropDown.h"
+#include "ui/widgets/ItemList.h"
+
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+struct Drops : WindowFixture
+{
+    /// Whether a drag of `data` over `target` is welcome, and what its drop does.
+    bool drop(QWidget &target, const QMimeData &data)
+    {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&target, &enter);
+        if (!enter.isAccepted())
+            return false;
+        EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&target, &drop);
+        return true;
+    }
+    QStringList listenTo(Control &control)
+    {
+        QObject::connect(&control, &Control::textDropped, &form, [this](const QString &text) { dropped.append(text); });
+        return {};
+    }
+
+    QStringList dropped;
+};
+
+TEST_F(Drops, OfTextReachTheLists)
+{
+    QMimeData data;
+    data.setText(u"contact\r\nimprint"_s);
+    for (const char *const name : {"lstANMC", "lstANMNC", "lstBlockedUrlC", "lstBlockedEmailC", "lstMN_0", "lstMN_4"}) {
+        dropped.clear();
+        QString control = QString::fromLatin1(name);
+        control.replace(u"_0"_s, u"(0)"_s).replace(u"_4"_s, u"(4)"_s);
+        listenTo(*form.control(control));
+        EXPECT_TRUE(drop(*widget<ItemList>(name).viewport(), data)) << name;
+        EXPECT_EQ(dropped, QStringList{u"contact\r\nimprint"_s}) << name;
+    }
+}
+
+TEST_F(Drops, OfTextReachTheAddressOfTheSeries)
+{
+    QMimeData data;
+    data.setText(u"http://www.north-harbour.example/001.jpg"_s);
+    listenTo(form.series.cboMNAutoUrl);
+    EXPECT_TRUE(drop(widget<DropDown>("cboMNAutoUrl"), data));
+    EXPECT_EQ(dropped.size(), 1);
+}
+
+TEST_F(Drops, OfFoldersAndFilesReachThePathBoxesAsPaths)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(u"/tmp/my files#1"_s)});
+    for (const char *const name : {"txtSFDBDir", "txtSFDBFile", "txtSFMNDir", "txtSFEditor"}) {
+        dropped.clear();
+        listenTo(*form.control(QString::fromLatin1(name)));
+        EXPECT_TRUE(drop(widget<QLineEdit>(name), data)) << name;
+        EXPECT_EQ(dropped, QStringList{u"/tmp/my files#1"_s}) << name;
+        EXPECT_EQ(widget<QLineEdit>(name).text(), QString()) << "the logic decides what the box takes";
+    }
+}
+
+TEST_F(Drops, WithoutTextOrOnADisabledControlAreRefused)
+{
+    QMimeData picture;
+    picture.setData(u"image/png"_s, "x");
+    listenTo(form.criteria.mustContain.items);
+    EXPECT_FALSE(drop(*widget<ItemList>("lstANMC").viewport(), picture));
+    QMimeData text;
+    text.setText(u"contact"_s);
+    form.criteria.mustContain.items.setEnabled(false);
+    EXPECT_FALSE(drop(*widget<ItemList>("lstANMC").viewport(), text));
+    EXPECT_TRUE(dropped.isEmpty());
+}
+
+TEST(DraggedText, IsThePathOfFilesAndTheTextOfTheRest)
+{
+    QMimeData data;
+    EXPECT_EQ(DragAndDrop::textOf(data), QString());
+    data.setUrls({QUrl(u"http://www.north-harbour.example/"_s)});
+    EXPECT_EQ(DragAndDrop::textOf(data), u"http://www.north-harbour.example/"_s);
+    data.setUrls({QUrl::fromLocalFile(u"/a"_s), QUrl::fromLocalFile(u"/b c"_s)});
+    EXPECT_EQ(DragAndDrop::textOf(data), u"/a\n/b c"_s);
+}
+
+TEST_F(Drops, AreAskedForWithTheRightButtonAlone)
+{
+    auto &button = widget<QWidget>("cmdANSavedGo");
+    int asked = 0;
+    QObject::connect(&form.saved.cmdANSavedGo, &Control::dragStarted, &form, [&](QString *) { ++asked; });
+    for (const Qt::MouseButton pressed : {Qt::LeftButton, Qt::RightButton}) {
+        QTest::mousePress(&button, pressed, {}, QPoint(5, 5));
+        QMouseEvent move(QEvent::MouseMove, QPointF(60, 5), button.mapToGlobal(QPointF(60, 5)), Qt::NoButton, pressed, {});
+        QCoreApplication::sendEvent(&button, &move);
+        QTest::mouseRelease(&button, pressed, {}, QPoint(60, 5));
+        EXPECT_EQ(asked, pressed == Qt::RightButton ? 1 : 0);
+    }
+}
+
+TEST_F(Drops, TheKeysThatAddAndDeleteReachTheLists)
+{
+    QList<EditKey> keys;
+    QObject::connect(&form.criteria.mustContain.items, &Control::keyPressed, &form, [&](EditKey key) { keys.append(key); });
+    auto &list = widget<ItemList>("lstANMC");
+    QTest::keyClick(&list, Qt::Key_Insert);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QTest::keyClick(&list, Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(keys, (QList<EditKey>{EditKey::Insert, EditKey::Delete}));
+}
