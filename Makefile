@@ -1,5 +1,5 @@
 # The commands of the project; each installs what it needs first. See README.md.
-.PHONY: run test test-asan bench check format tidy fuzz deps build clean
+.PHONY: run install package test test-asan bench check format tidy fuzz deps build clean
 
 JOBS ?= $(shell nproc)
 PRESET ?= dev
@@ -37,6 +37,18 @@ format:
 
 tidy: build
 	tools/tidy.sh build/$(PRESET)
+
+# PREFIX=/usr/local unless told otherwise; DESTDIR is kept.
+PREFIX ?= /usr/local
+install: deps
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS) --target trawlex trawlex-harvest trawlex-mdb-reader
+	cmake --install build/release --prefix $(PREFIX)
+
+package: deps
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS)
+	cd build/release && cpack
 
 build: deps
 	cmake --preset $(PRESET)

@@ -20,7 +20,6 @@
 #include "window/WindowPlaces.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -76,7 +75,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
         return 1;
     // Placed before it is shown, so that the window manager takes our place and nothing jumps.
     window.takeUsualSize();
-    window.resize(storedSize(settings, u"frmSearch"_s, window.size()).boundedTo(window.screen()->availableSize()));
+    place.sizeTo(storedSize(settings, u"frmSearch"_s, place.place().size()));
     program.lifeCycle.settle();
     splash.close();
     window.show();

@@ -55,6 +55,8 @@ TEST(Contrast, TextReadsInBothThemes)
         }
         EXPECT_GE(contrast(shades.accent, shades.onAccent), 4.5);
         EXPECT_GE(contrast(shades.mark, shades.panel), 3.0);
+        for (const QColor &ground : {shades.panel, shades.window, shades.field})
+            EXPECT_GE(contrast(shades.edge, ground), 3.0);
         EXPECT_GE(contrast(shades.accent, shades.panel), 3.0);
         EXPECT_GE(contrast(palette.color(QPalette::PlaceholderText), shades.field), 4.5);
     }

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabBar>
 
 using namespace Qt::StringLiterals;
@@ -45,6 +46,13 @@ TEST_F(MainWindows, FitOnALowScreenWithGoAndStatusBarInSight)
             }
         }
     }
+}
+
+TEST_F(MainWindows, TakeAsMuchRoomAsTheTabAutoNeeds)
+{
+    window.takeUsualSize();
+    settle();
+    EXPECT_EQ(widget<PageScroller>("autoTabScroller").verticalScrollBar()->maximum(), 0) << "nothing to scroll";
 }
 
 TEST_F(MainWindows, ScrollWhatHasTheFocusIntoSight)
@@ -223,4 +231,18 @@ TEST_F(MainWindows, AreMinimizedByTheirButton)
 {
     click(widget<QPushButton>("minimizeButton"));
     EXPECT_TRUE(window.isMinimized());
+}
+
+TEST_F(MainWindows, GrowForALongAddressAndShrinkAgain)
+{
+    form.series.picMNShadow.setVisible(false);
+    form.limits.incSMAMAutoTxtElng.setText(u"1500"_s);
+    const int before = window.width();
+    form.series.picMNShadow.setVisible(true);
+    EXPECT_EQ(window.width(), before + 100);
+    form.limits.incSMAMAutoTxtElng.setText(u"3000"_s);
+    form.series.picMNShadow.setToolTipText(u"longer"_s);
+    EXPECT_EQ(window.width(), before + 100) << "until it is asked for anew";
+    form.series.picMNShadow.setVisible(false);
+    EXPECT_EQ(window.width(), before);
 }

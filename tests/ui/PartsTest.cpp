@@ -1,7 +1,9 @@
 // The small widgets by themselves: number box, status bar.
 #include "WindowFixture.h"
+#include "ui/widgets/AddressDelegate.h"
 #include "ui/widgets/NumberEdit.h"
 #include "ui/widgets/StatusBarLine.h"
+#include "ui/windows/ScreenScale.h"
 
 #include <QLineEdit>
 
@@ -185,4 +187,38 @@ TEST(StatusLines, KeepProgressWithinItsTotal)
     line.setProgress(0, 0);
     EXPECT_EQ(line.grab().toImage(), empty);
     EXPECT_EQ(line.accessibleDescription(), QString());
+}
+
+TEST(Addresses, HaveTheirServerStandOut)
+{
+    for (const auto &[address, server] :
+         {std::pair{u"http://www.north-harbour.example/team/"_s, u"www.north-harbour.example"_s},
+          {u"ftp://files.example"_s, u"files.example"_s},
+          {u"www.north-harbour.example/a/b"_s, u"www.north-harbour.example"_s},
+          {u"info@north-harbour.example"_s, u"info@north-harbour.example"_s},
+          {QString(), QString()}}) {
+        const AddressDelegate::Server found = AddressDelegate::serverOf(address);
+        EXPECT_EQ(address.mid(found.start, found.length), server);
+    }
+}
+
+TEST(ScreenScales, CountThePixelsOfOtherPrograms)
+{
+    const QByteArray before = qgetenv("QT_SCALE_FACTOR");
+    const QRect window(0, 0, 452, 703);
+    struct Row
+    {
+        const char *factor;
+        QRect others;
+    };
+    const Row rows[] = {{"", QRect(0, 0, 452, 703)},
+                        {"none", QRect(0, 0, 452, 703)},
+                        {"2", QRect(0, 0, 904, 1406)},
+                        {"1.5", QRect(0, 0, 678, 1055)}};
+    for (const Row &row : rows) {
+        qputenv("QT_SCALE_FACTOR", row.factor);
+        EXPECT_EQ(ScreenScale::toOthers(window), row.others) << row.factor;
+        EXPECT_EQ(ScreenScale::toOurs(row.others), window) << row.factor;
+    }
+    qputenv("QT_SCALE_FACTOR", before);
 }

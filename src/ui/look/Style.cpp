@@ -65,11 +65,17 @@ void drawLineEdit(const QStyleOption &option, QPainter &painter, const QWidget *
         drawField(option, painter, widget);
 }
 
+bool isAccent(const QWidget *widget)
+{
+    return widget != nullptr && widget->isEnabled() &&
+           (widget->property(Style::accentProperty).toBool() || widget->property(Style::callingProperty).toBool());
+}
+
 void drawButton(const QStyleOption &option, QPainter &painter, const QWidget *widget)
 {
     const Shades shades = Shades::of(option.palette);
     const bool enabled = has(option, QStyle::State_Enabled);
-    const bool accent = enabled && widget != nullptr && widget->property(Style::accentProperty).toBool();
+    const bool accent = isAccent(widget);
     const bool on = has(option, QStyle::State_On);
     const bool pointed = has(option, QStyle::State_MouseOver) || showsFocus(option, widget);
     if (widget != nullptr && widget->property(Style::quietProperty).toBool() && !pointed)
@@ -238,6 +244,12 @@ void Style::drawControl(ControlElement element, const QStyleOption *option, QPai
     }
     if (element == CE_HeaderSection)
         return drawHeaderSection(*option, *painter);
+    const auto *const header = qstyleoption_cast<const QStyleOptionHeaderV2 *>(option);
+    if (element == CE_HeaderLabel && header != nullptr) {
+        QStyleOptionHeaderV2 inset = *header;
+        inset.rect.adjust(textInset - 2, 0, 2 - textInset, 0);
+        return QProxyStyle::drawControl(element, &inset, painter, widget);
+    }
     const auto *const item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
     if (element == CE_ItemViewItem && item != nullptr && !has(*option, State_Enabled)) {
         const QStyleOptionViewItem pale = paled(*item);
@@ -249,7 +261,7 @@ void Style::drawControl(ControlElement element, const QStyleOption *option, QPai
         return QProxyStyle::drawControl(element, option, painter, widget);
     QStyleOptionButton inked = *button;
     const Shades shades = Shades::of(option->palette);
-    if (widget->property(accentProperty).toBool())
+    if (isAccent(widget))
         inked.palette.setColor(QPalette::ButtonText, shades.onAccent);
     else if (has(*option, State_On) && contrast(shades.accent, shades.panel) >= 4.5)
         inked.palette.setColor(QPalette::ButtonText, shades.accent);
@@ -332,8 +344,6 @@ QRect Style::subElementRect(SubElement element, const QStyleOption *option, cons
     const auto *const frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
     if (element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0)
         return option->rect.adjusted(textInset - 2, 2, 2 - textInset, -2);
-    if (element == SE_HeaderLabel)
-        return option->rect.adjusted(textInset - 2, 0, 2 - textInset, 0);
     return QProxyStyle::subElementRect(element, option, widget);
 }
 

@@ -16,6 +16,8 @@ class Style : public QProxyStyle
     /// Dynamic property of the one button that stands out.
     static constexpr const char *accentProperty = "accent";
 
+    /// Dynamic property of a button that takes the accent while it can be pressed, and keeps its size.
+    static constexpr const char *callingProperty = "calling";
     /// Dynamic property of a button that shows its shape only under the mouse.
     static constexpr const char *quietProperty = "quiet";
 

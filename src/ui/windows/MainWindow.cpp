@@ -63,7 +63,8 @@ constexpr TabPages tabPages[] = {{"sstSearch"_L1, "pages"_L1},
                                  {"sstMiscOptions"_L1, "miscPages"_L1}};
 } // namespace
 
-MainWindow::MainWindow(frmSearch &form) : mUi(std::make_unique<Ui::MainWindow>())
+MainWindow::MainWindow(frmSearch &form)
+    : mUi(std::make_unique<Ui::MainWindow>()), mElongated(form.series.picMNShadow.isVisible())
 {
     Theme::of(*qApp);
     Accessible::install();
@@ -80,6 +81,7 @@ MainWindow::MainWindow(frmSearch &form) : mUi(std::make_unique<Ui::MainWindow>()
     TurnOffTabStop();
     addKeys();
     EdgeGrip::putOn(*this);
+    connect(&form.series.picMNShadow, &Control::changed, this, [this, &form] { elongate(form); });
     takeUsualSize();
 }
 
@@ -124,6 +126,16 @@ void MainWindow::takeUsualSize()
     const QSize usual(qMax(usualWidth, minimumSizeHint().width()),
                       mUi->titleBar->sizeHint().height() + tab + mUi->picStatus->sizeHint().height() + 2);
     resize(usual.boundedTo(screen()->availableGeometry().size()));
+}
+
+/// The box for the address of a series is as wide as the window: the window grows with it.
+void MainWindow::elongate(const frmSearch &form)
+{
+    constexpr int twipsPerPixel = 15;
+    const bool grown = form.series.picMNShadow.isVisible();
+    const int wanted = grown ? static_cast<int>(form.limits.incSMAMAutoTxtElng.value()) / twipsPerPixel : 0;
+    if (std::exchange(mElongated, grown) != grown)
+        resize(width() + wanted - std::exchange(mElongation, wanted), height());
 }
 
 QStringList MainWindow::foldedGroups() const

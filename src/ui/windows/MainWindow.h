@@ -48,6 +48,7 @@ class MainWindow : public QWidget
 
   private:
     void dressWidgets();
+    void elongate(const frmSearch &form);
     void connectPages();
     void addKeys();
     void TurnOffTabStop();
@@ -57,4 +58,6 @@ class MainWindow : public QWidget
     std::unique_ptr<Ui::MainWindow> mUi;
     Binder mBinder;
     bool mMayClose = false;
+    bool mElongated;     ///< the address of a series is given more room
+    int mElongation = 0; ///< by how much the window has grown for it
 };

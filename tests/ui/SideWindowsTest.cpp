@@ -1,0 +1,187 @@
+// The small windows: magnifier, about, directory chooser.
+#include "WindowFixture.h"
+#include "ui/windows/AboutWindow.h"
+#include "ui/windows/DirectoryWindow.h"
+#include "ui/windows/MagnifyWindow.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+
+struct Magnifiers : WindowFixture
+{
+    Magnifiers() : magnifier(&window) {}
+    [[nodiscard]] QStringList lines() const
+    {
+        QStringList texts;
+        for (const QLineEdit *const box : magnifier.findChildren<QLineEdit *>())
+            texts.append(box->text());
+        return texts;
+    }
+
+    MagnifyWindow magnifier;
+};
+
+TEST_F(Magnifiers, ShowALineInABoxOfItsOwn)
+{
+    EXPECT_EQ(magnifier.windowTitle(), u"Double click to close"_s);
+    EXPECT_TRUE(magnifier.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    magnifier.Magnify(u"http://www.north-harbour.example/"_s);
+    const int one = magnifier.height();
+    EXPECT_EQ(lines(), QStringList{u"http://www.north-harbour.example/"_s});
+    magnifier.Magnify(u"a\r\nb\r\nc"_s);
+    EXPECT_EQ(lines(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    EXPECT_GT(magnifier.height(), one);
+    magnifier.Magnify(u"one\nwith a line feed"_s);
+    EXPECT_EQ(lines().size(), 1);
+    EXPECT_EQ(magnifier.height(), one);
+    EXPECT_GT(magnifier.findChild<QLineEdit *>()->font().pointSizeF(), window.font().pointSizeF() * 1.5);
+}
+
+TEST_F(Magnifiers, Show20Of25Lines)
+{
+    QStringList many;
+    for (int i = 1; i <= 25; ++i)
+        many.append(QString::number(i));
+    magnifier.Magnify(many.join(u"\r\n"_s));
+    EXPECT_EQ(lines(), many.mid(0, 20));
+}
+
+TEST_F(Magnifiers, OpenUnderTheMainWindowAsWideAsTheScreen)
+{
+    window.resize(window.width(), 400);
+    window.move(20, 20);
+    magnifier.Magnify(u"a"_s);
+    magnifier.placeUnder(window);
+    const QRect room = window.screen()->availableGeometry();
+    EXPECT_EQ(magnifier.geometry().left(), room.left());
+    EXPECT_EQ(magnifier.width(), room.width());
+    EXPECT_EQ(magnifier.geometry().top(), window.frameGeometry().bottom() + 1);
+    window.move(20, room.bottom() - 100);
+    magnifier.placeUnder(window);
+    EXPECT_LE(magnifier.geometry().bottom(), room.bottom()) << "never below the screen";
+}
+
+TEST_F(Magnifiers, CloseByADoubleClickAndByEscape)
+{
+    const Raised closings(magnifier, &MagnifyWindow::closing);
+    magnifier.Magnify(u"a"_s);
+    magnifier.show();
+    QTest::mouseDClick(magnifier.findChild<QLineEdit *>(), Qt::LeftButton);
+    EXPECT_FALSE(magnifier.isVisible());
+    magnifier.show();
+    QTest::keyClick(&magnifier, Qt::Key_Escape);
+    EXPECT_FALSE(magnifier.isVisible());
+    EXPECT_EQ(closings.times(), 2);
+}
+
+struct About : WindowFixture
+{
+    About() : about(new AboutWindow(&window)) { about->show(); }
+    template <class Kind> Kind &part(const char *name) { return *about->findChild<Kind *>(QLatin1StringView(name)); }
+
+    QPointer<AboutWindow> about;
+};
+
+TEST_F(About, TellsProgramAndVersion)
+{
+    EXPECT_EQ(about->windowTitle(), u"About"_s);
+    EXPECT_EQ(part<QLabel>("lblTitle").text(), u"Trawlex"_s);
+    EXPECT_EQ(part<QLabel>("lblVersion").text(), u"Version "_s + QStringLiteral(TRAWLEX_VERSION));
+    EXPECT_TRUE(part<QLabel>("licenceText").text().contains(u"MIT"_s));
+}
+
+TEST_F(About, ShowsAndCopiesTheSystemInformation)
+{
+    EXPECT_FALSE(part<QPlainTextEdit>("systemText").isVisible());
+    part<QPushButton>("cmdSysInFo").click();
+    EXPECT_TRUE(part<QPlainTextEdit>("systemText").isVisible());
+    part<QPushButton>("copyButton").click();
+    const QString copied = QApplication::clipboard()->text();
+    EXPECT_TRUE(copied.contains(QString::fromLatin1(qVersion())));
+    EXPECT_TRUE(copied.contains(u"Screen: "_s));
+    EXPECT_TRUE(copied.contains(u"Kernel: "_s));
+}
+
+TEST_F(About, LeadsToTheManualAndClosesByOkAndEscape)
+{
+    const Raised asked(*about, &AboutWindow::helpRequested);
+    for (const char *const link : {"lblName", "picDisplay"})
+        QTest::mouseClick(&part<QLabel>(link), Qt::LeftButton);
+    EXPECT_EQ(asked.times(), 2);
+    QTest::keyClick(about, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return about.isNull(); }, 2000)) << "it goes with its closing";
+}
+
+struct DirectoryChoosers : WindowFixture
+{
+    DirectoryChoosers() : chooser(new DirectoryWindow(&window))
+    {
+        QObject::connect(chooser, &DirectoryWindow::DirSelectionChanged, &window,
+                         [this](const QString &directory) { choices.append(directory); });
+        chooser->show();
+    }
+    void press(const char *button) { chooser->findChild<QPushButton *>(QLatin1StringView(button))->click(); }
+
+    QTemporaryDir folder;
+    QPointer<DirectoryWindow> chooser;
+    QStringList choices;
+};
+
+TEST_F(DirectoryChoosers, BeginWithTheDirectoryIfItIsThere)
+{
+    chooser->InitDir(folder.path());
+    EXPECT_EQ(chooser->directory(), folder.path() + u'/');
+    EXPECT_EQ(chooser->findChild<QLineEdit *>(u"txtDir"_s)->text(), folder.path() + u'/');
+    chooser->InitDir(folder.path() + u"/none such"_s);
+    EXPECT_EQ(chooser->directory(), QDir::homePath() + u'/');
+    chooser->InitDir(u"/"_s);
+    EXPECT_EQ(chooser->directory(), u"/"_s) << "one separator, not two";
+}
+
+TEST_F(DirectoryChoosers, TakeTheFolderThatIsChosenInTheTree)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"below"_s));
+    chooser->InitDir(folder.path());
+    auto &tree = *chooser->findChild<QTreeView *>(u"dirDirSelect"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount(tree.currentIndex()) == 1; }, 5000));
+    tree.setCurrentIndex(tree.model()->index(0, 0, tree.currentIndex()));
+    EXPECT_EQ(chooser->directory(), folder.path() + u"/below/"_s);
+    press("cmdDirList_0");
+    EXPECT_EQ(choices, QStringList{folder.path() + u"/below/"_s});
+}
+
+TEST_F(DirectoryChoosers, GiveNothingWhenTheyAreCancelled)
+{
+    chooser->InitDir(folder.path());
+    press("cmdDirList_1");
+    EXPECT_EQ(choices, QStringList{QString()});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return chooser.isNull(); }, 2000));
+}
+
+TEST_F(DirectoryChoosers, GoToADriveAndBackFromOneThatCannotBeRead)
+{
+    EXPECT_TRUE(DirectoryWindow::drives().contains(QDir::rootPath()));
+    auto &drives = *chooser->findChild<QComboBox *>(u"drvDirSelect"_s);
+    chooser->InitDir(folder.path());
+    const int root = drives.findText(QDir::rootPath());
+    drives.setCurrentIndex(root);
+    Q_EMIT drives.activated(root);
+    EXPECT_EQ(chooser->directory(), QDir::rootPath());
+    drives.addItem(folder.path() + u"/gone"_s);
+    drives.setCurrentIndex(drives.count() - 1);
+    Q_EMIT drives.activated(drives.count() - 1);
+    EXPECT_EQ(drives.currentIndex(), root);
+    EXPECT_EQ(chooser->directory(), QDir::rootPath());
+}
