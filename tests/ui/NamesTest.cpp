@@ -32,6 +32,17 @@ TEST_F(Names, EachControlOfTheAutoTabIsBoundToItsWidget)
         EXPECT_TRUE(bound.contains(name)) << qPrintable(name);
 }
 
+TEST_F(Names, EachControlOfTheFormStandsSomewhere)
+{
+    const QStringList bound = window.binder().boundControls();
+    for (const Control *const control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly)) {
+        const bool ofMenu =
+            qobject_cast<const Menu *>(control) != nullptr || qobject_cast<const MenuItem *>(control) != nullptr;
+        EXPECT_TRUE(ofMenu || bound.contains(control->name())) << qPrintable(control->name());
+    }
+    EXPECT_GE(bound.size(), 190);
+}
+
 TEST_F(Names, TheOptionSwitchesAreBoundMemberByMember)
 {
     const QStringList bound = window.binder().boundControls();

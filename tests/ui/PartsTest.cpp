@@ -196,6 +196,7 @@ TEST(Addresses, HaveTheirServerStandOut)
           {u"ftp://files.example"_s, u"files.example"_s},
           {u"www.north-harbour.example/a/b"_s, u"www.north-harbour.example"_s},
           {u"info@north-harbour.example"_s, u"info@north-harbour.example"_s},
+          {u"http://www.north-har…html"_s, u"www.north-har"_s},
           {QString(), QString()}}) {
         const AddressDelegate::Server found = AddressDelegate::serverOf(address);
         EXPECT_EQ(address.mid(found.start, found.length), server);

@@ -1,12 +1,16 @@
 // Takes the pictures of docs/images. Not a test, so it runs only when asked for:
-//   QT_SCALE_FACTOR=2 test_ui --gtest_also_run_disabled_tests --gtest_filter='*Screenshots*'
+//   [QT_SCALE_FACTOR=2] test_ui --gtest_also_run_disabled_tests --gtest_filter='*Screenshots*'
 #include "WindowFixture.h"
 #include "support/Places.h"
 #include "ui/look/Theme.h"
+#include "ui/windows/AboutWindow.h"
+#include "ui/windows/MagnifyWindow.h"
 #include "window/options/OptionTable.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QPlainTextEdit>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -14,15 +18,19 @@ struct DISABLED_Screenshots : WindowFixture
 {
     ~DISABLED_Screenshots() override { Theme::of(*qApp).setMode(Theme::Mode::Desktop); }
 
-    void take(const QString &name)
+    void take(const QString &name) { take(name, window); }
+
+    /// Pictures at another scale than 1 go into a folder of their own, named after it in per cent.
+    void take(const QString &name, QWidget &shown)
     {
+        const int percent = qRound(window.devicePixelRatioF() * 100);
         for (const auto &[mode, ending] :
              {std::pair{Theme::Mode::Light, u"-light.png"_s}, {Theme::Mode::Dark, u"-dark.png"_s}}) {
             Theme::of(*qApp).setMode(mode);
             settle();
-            const QDir images(inSourceTree(u"docs/images"_s));
+            const QDir images(inSourceTree(u"docs/images"_s) + (percent == 100 ? QString() : u"/%1"_s.arg(percent)));
             EXPECT_TRUE(images.mkpath(u"."_s));
-            EXPECT_TRUE(window.grab().save(images.filePath(name + ending)));
+            EXPECT_TRUE(shown.grab().save(images.filePath(name + ending)));
         }
     }
 
@@ -138,6 +146,21 @@ struct DISABLED_Screenshots : WindowFixture
         form.data.fxgTrawlex.select(4, 2);
     }
 
+    void showSideWindows()
+    {
+        auto *const about = new AboutWindow(&window);
+        about->findChild<QPushButton *>(u"cmdSysInFo"_s)->click();
+        about->findChild<QPlainTextEdit *>(u"systemText"_s)
+            ->setPlainText(u"Trawlex, system, kernel, Qt, screens: one a line"_s);
+        about->show();
+        take(u"about"_s, *about);
+        MagnifyWindow magnifier(&window);
+        magnifier.Magnify(u"http://www.north-harbour.example/team/people/directory/index.html?view=all&from=list"_s);
+        magnifier.resize(900, magnifier.height());
+        magnifier.show();
+        take(u"magnifier"_s, magnifier);
+    }
+
     struct Summaries : GridRows
     {
         [[nodiscard]] QStringList heads() const override { return {u"Index"_s, u"Date"_s, u"Title"_s, u"Url"_s}; }
@@ -185,4 +208,5 @@ TEST_F(DISABLED_Screenshots, AreTaken)
         form.frame.sstMiscOptions.setTab(page.misc);
         take(page.name);
     }
+    showSideWindows();
 }

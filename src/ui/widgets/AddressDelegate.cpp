@@ -25,8 +25,13 @@ AddressDelegate::Server AddressDelegate::serverOf(const QString &address)
 {
     const qsizetype protocol = address.indexOf("://"_L1);
     const qsizetype start = protocol < 0 ? 0 : protocol + 3;
-    const qsizetype end = address.indexOf(u'/', start);
-    return {start, (end < 0 ? address.size() : end) - start};
+    // What is left out ends the server, too: behind it may stand anything.
+    qsizetype end = address.size();
+    for (const QChar mark : {QChar(u'/'), QChar(u'…')}) {
+        const qsizetype at = address.indexOf(mark, start);
+        end = at < 0 ? end : qMin(end, at);
+    }
+    return {start, end - start};
 }
 
 void AddressDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

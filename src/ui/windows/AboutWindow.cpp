@@ -31,6 +31,7 @@ AboutWindow::AboutWindow(QWidget *main) : QDialog(main), mUi(std::make_unique<Ui
     mUi->lblTitle->setFont(large);
     mUi->lblTitle->setText(u"Trawlex"_s);
     mUi->lblVersion->setText(u"Version "_s + QStringLiteral(TRAWLEX_VERSION));
+    mUi->lblName->setForegroundRole(QPalette::Link);
     mUi->systemText->setPlainText(systemInformation());
     mUi->systemText->hide();
     mUi->copyButton->hide();
@@ -61,9 +62,8 @@ QString AboutWindow::systemInformation()
                           QString::fromLatin1(qWebEngineVersion()), QString::fromLatin1(qWebEngineChromiumVersion()))};
     for (const QScreen *const screen : QGuiApplication::screens()) {
         const QSize size = screen->size();
-        lines.append(u"Screen: %1 x %2, scale %3"_s.arg(size.width())
-                         .arg(size.height())
-                         .arg(screen->devicePixelRatio()));
+        lines.append(
+            u"Screen: %1 x %2, scale %3"_s.arg(size.width()).arg(size.height()).arg(screen->devicePixelRatio()));
     }
     return lines.join(u'\n');
 }
@@ -71,10 +71,9 @@ QString AboutWindow::systemInformation()
 bool AboutWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
-        QPalette shown = palette();
-        if (event->type() == QEvent::Enter)
-            shown.setColor(QPalette::WindowText, shown.color(QPalette::Highlight));
-        mUi->lblName->setPalette(shown);
+        QFont shown = mUi->lblName->font();
+        shown.setUnderline(event->type() == QEvent::Enter);
+        mUi->lblName->setFont(shown);
     }
     if (event->type() == QEvent::MouseButtonRelease)
         Q_EMIT helpRequested();

@@ -125,7 +125,8 @@ void MainWindow::takeUsualSize()
     const int tab = mUi->autoPage->sizeHint().height();
     const QSize usual(qMax(usualWidth, minimumSizeHint().width()),
                       mUi->titleBar->sizeHint().height() + tab + mUi->picStatus->sizeHint().height() + 2);
-    resize(usual.boundedTo(screen()->availableGeometry().size()));
+    mUsualSize = usual.boundedTo(screen()->availableGeometry().size());
+    resize(mUsualSize);
 }
 
 /// The box for the address of a series is as wide as the window: the window grows with it.
@@ -204,6 +205,17 @@ void MainWindow::setKeptOnTop(bool onTop)
     setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
     if (shown)
         show();
+}
+
+void MainWindow::showEvent(QShowEvent *)
+{
+    // Some widgets know what room they need only once they stand.
+    const auto fit = [this] {
+        if (size() == mUsualSize)
+            takeUsualSize();
+    };
+    if (!std::exchange(mWasShown, true))
+        QMetaObject::invokeMethod(this, fit, Qt::QueuedConnection);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

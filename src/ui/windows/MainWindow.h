@@ -42,6 +42,7 @@ class MainWindow : public QWidget
     void helpRequested();
 
   protected:
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -58,6 +59,8 @@ class MainWindow : public QWidget
     std::unique_ptr<Ui::MainWindow> mUi;
     Binder mBinder;
     bool mMayClose = false;
+    bool mWasShown = false;
+    QSize mUsualSize;
     bool mElongated;     ///< the address of a series is given more room
     int mElongation = 0; ///< by how much the window has grown for it
 };
