@@ -1,5 +1,7 @@
 #include "app/ErrorLog.h"
 
+#include "util/Text.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -41,8 +43,8 @@ void ErrorLog::ErrorLogger(qint64 number, const QString &description, const QStr
                            mProgramFolder + ": Module="_L1 + module + ": ErrLoc="_L1 + location + ": ErrDesc="_L1 +
                            oneLine(description) + ": Err#="_L1 + QString::number(number);
     try {
-        write(record);
-        show(record);
+        write(cUtility::shown(record));
+        show(cUtility::shown(record));
     } catch (const std::exception &) {
         Q_EMIT failed();
     }

@@ -1,5 +1,7 @@
 #include "app/StatusLine.h"
 
+#include "util/Text.h"
+
 using namespace Qt::StringLiterals;
 
 const QString StatusLine::standardTip =
@@ -7,9 +9,10 @@ const QString StatusLine::standardTip =
 
 void StatusLine::UpDateStatus(const QString &text, const QString &tip)
 {
-    if (!text.isEmpty())
-        mStatus.print(text + "..."_L1);
     mStatus.setToolTipText(mTips.ifShown(tip));
-    if (!text.isEmpty())
-        Q_EMIT told(text);
+    if (text.isEmpty())
+        return;
+    const QString shown = cUtility::shown(text);
+    mStatus.print(shown + "..."_L1);
+    Q_EMIT told(shown);
 }

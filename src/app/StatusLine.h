@@ -13,12 +13,12 @@ class StatusLine : public QObject
 
     StatusLine(PictureBox &picStatus, const Tips &tips) : mStatus(picStatus), mTips(tips) {}
 
-    /// Prints `text` followed by "..." and sets the tool tip, or none while tool tips are off. An empty text changes
-    /// the tool tip alone.
+    /// Prints `text`, with signs in the place of control characters, followed by "..." and sets the tool tip, or none
+    /// while tool tips are off. An empty text changes the tool tip alone.
     void UpDateStatus(const QString &text, const QString &tip = standardTip);
 
   Q_SIGNALS:
-    /// A status text as it was given.
+    /// A status text as it is shown.
     void told(const QString &text);
 
   private:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/SimpleControls.h"
+#include "util/Text.h"
 
 class Tips
 {
@@ -10,8 +11,8 @@ class Tips
     explicit Tips(const CheckBox &shown) : mShown(shown) {}
 
     [[nodiscard]] bool areShown() const { return mShown.value() == 1; }
-    /// `text`, or "" while tool tips are off.
-    [[nodiscard]] QString ifShown(const QString &text) const { return areShown() ? text : QString(); }
+    /// `text` with signs in the place of control characters, or "" while tool tips are off.
+    [[nodiscard]] QString ifShown(const QString &text) const { return areShown() ? cUtility::shown(text) : QString(); }
 
   private:
     const CheckBox &mShown;

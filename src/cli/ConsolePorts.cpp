@@ -1,12 +1,14 @@
 #include "cli/ConsolePorts.h"
 
+#include "util/Text.h"
+
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 void printError(const QString &line)
 {
-    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+    std::fprintf(stderr, "%s\n", cUtility::shown(line).toLocal8Bit().constData());
     std::fflush(stderr);
 }
 

@@ -10,8 +10,8 @@ Outcome::Outcome(Program &program)
 {
     mElapsed.start();
     connect(&program.status, &StatusLine::told, this, [this](const QString &text) { mStatus = text; });
-    connect(&program.autoRun, &AutoRun::visiting, this, [this](int, int, const QString &url) { mLinks.append(url); });
-    connect(&program.screening, &PageScreening::rowsStored, this, [this](const QMap<QString, int> &rows) {
+    connect(&program.siteVisit, &SiteVisit::visiting, this, [this](const QString &url) { mLinks.append(url); });
+    connect(&program.keeping, &PageKeeping::rowsStored, this, [this](const QMap<QString, int> &rows) {
         for (auto row = rows.begin(); row != rows.end(); ++row)
             mRows[row.key()] += row.value();
     });

@@ -33,9 +33,9 @@ void connectWindow(Program &program, MainWindow &window)
         QApplication::closeAllWindows();
         QApplication::quit();
     });
-    QObject::connect(&program.autoRun, &AutoRun::visiting, &window,
-                     [&window](int number, int count, const QString &) { window.setProgress(number - 1, count); });
-    QObject::connect(&program.autoRun, &AutoRun::finalized, &window, [&window] { window.setProgress(0, 0); });
+    QObject::connect(&program.runs, &Runs::progress, &window,
+                     [&window](int number, int count) { window.setProgress(number - 1, count); });
+    QObject::connect(&program.runs, &Runs::finalized, &window, [&window] { window.setProgress(0, 0); });
 }
 
 /// The groups that show their heading alone come back so.

@@ -19,13 +19,13 @@ QString forInternalBrowser(const QString &url)
 
 bool Navigation::OpenSite(const QString &url)
 {
-    return guardedResult(mLog, {"frmSearch"_L1, "Function OpenSite"_L1}, false, [&](bool &issued) {
+    return guardedResult(mContext.log, {"frmSearch"_L1, "Function OpenSite"_L1}, false, [&](bool &issued) {
         const bool isFile = url.size() > fileProtocol.size() && url.startsWith(fileProtocol, Qt::CaseInsensitive);
         if (!isFile && cIEText::IsThisEmailOrLink(url, true) != cIEText::TextKind::Link) {
-            mStatus.UpDateStatus("Invalid url "_L1 + url);
+            mContext.status.UpDateStatus("Invalid url "_L1 + url);
             return;
         }
-        const bool internal = mForm.browser.cboANWBSelect.listIndex() == internalBrowser;
+        const bool internal = mPanel.cboANWBSelect.listIndex() == internalBrowser;
         mBrowser->NavigateToUrl(internal ? forInternalBrowser(url) : url);
         issued = true;
     });

@@ -2,9 +2,19 @@
 
 const PageContent &PageReading::content()
 {
-    if (!mContent)
+    if (!mContent) {
         mContent = mBrowser->GetPage();
+        mReadable = mContent.has_value();
+    }
+    if (!mContent)
+        mContent.emplace();
     return *mContent;
+}
+
+bool PageReading::isReadable()
+{
+    content();
+    return mReadable;
 }
 
 const QString &PageReading::text()

@@ -11,6 +11,10 @@ class PageReading
   public:
     explicit PageReading(BrowserHolder &browser) : mBrowser(browser) {}
 
+    /// False when the browser does not give the page; everything of it is empty then.
+    [[nodiscard]] bool isReadable();
+    /// The browser has been asked for it.
+    [[nodiscard]] bool isAsked() const { return mContent.has_value(); }
     [[nodiscard]] const QString &html() { return content().html; }
     [[nodiscard]] const QString &title() { return content().title; }
     [[nodiscard]] const QString &url() { return content().url; }
@@ -24,6 +28,7 @@ class PageReading
 
     BrowserHolder &mBrowser;
     std::optional<PageContent> mContent;
+    bool mReadable = false;
     std::optional<QString> mText;
     std::optional<QStringList> mLinks;
 };

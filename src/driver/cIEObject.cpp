@@ -140,9 +140,9 @@ QString cIEObject::GetBrowserText()
                 [&](QString &text) { text = engine()->documentPart(BrowserEngine::Part::Text); });
 }
 
-PageContent cIEObject::GetPage()
+std::optional<PageContent> cIEObject::GetPage()
 {
-    return read("GetBrowserHtml"_L1, PageContent(), [&](PageContent &page) { page = engine()->content(); });
+    return read("GetBrowserHtml"_L1, std::optional<PageContent>(), [&](auto &page) { page = engine()->content(); });
 }
 
 QStringList cIEObject::GetLinksOnWebPage()

@@ -7,6 +7,8 @@
 #include "browser/BrowserEngine.h"
 #include "util/AddressList.h"
 
+#include <optional>
+
 class cIEObject : public QObject
 {
     Q_OBJECT
@@ -48,8 +50,8 @@ class cIEObject : public QObject
     [[nodiscard]] QString GetBrowserHTML();
     /// innerText of the page's root element.
     [[nodiscard]] QString GetBrowserText();
-    /// Markup, title and address as they stand at one moment.
-    [[nodiscard]] PageContent GetPage();
+    /// Markup, title and address as they stand at one moment; nothing where they cannot be read.
+    [[nodiscard]] std::optional<PageContent> GetPage();
     /// Addresses of the page's links, resolved, in document order, repeats as they stand; the empty list without any,
     /// a list without elements without a browser.
     [[nodiscard]] QStringList GetLinksOnWebPage();

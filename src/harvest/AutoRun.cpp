@@ -1,40 +1,29 @@
 #include "harvest/AutoRun.h"
 
-#include "pages/Addresses.h"
-
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr int serversOnlyOption = 0;
-constexpr int returnToStartOption = 2;
+constexpr auto kind = Runs::Kind::Auto;
 const QString goCaption = u"Go"_s;
-const QString stopCaption = u"X"_s;
 } // namespace
 
-AutoRun::AutoRun(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, EventPump &pump,
-                 cTimer &timer, BrowserHolder &browser, Navigation &navigation, SiteRecords &records,
-                 ResultLinks &links, SavedUrls &savedUrls, PageScreening &screening)
-    : mLog(log), mForm(form), mStatus(status), mStates(states), mPump(pump), mTimer(timer), mBrowser(browser),
-      mNavigation(navigation), mRecords(records), mLinks(links), mSavedUrls(savedUrls), mScreening(screening)
+AutoRun::AutoRun(const Context &context, AutoPanel &panel, const OptionBoxes &options, Runs &runs, ResultPages &pages,
+                 PageTests &tests, SiteVisit &visit)
+    : mContext(context), mPanel(panel), mOptions(options), mRuns(runs), mPages(pages), mTests(tests), mVisit(visit)
 {
 }
 
 void AutoRun::cmdANStart_Click()
 {
-    if (mForm.autoRun.cmdANStart.caption() == goCaption) {
-        // A run that was told to stop unwinds first; a second one on top of it would take its waits and its flags away.
-        if (mForm.runs.mbANRunning)
-            return;
-        mForm.autoRun.cmdANStart.setCaption(stopCaption);
-        mForm.runs.mbANCancel = false;
-        StartProcessAN();
+    if (mPanel.cmdANStart.caption() != goCaption)
+        return mRuns.cancel(kind);
+    // A run that was told to stop unwinds first; a second one on top of it would take its waits and its flags away.
+    if (!mRuns.idle())
         return;
-    }
-    mForm.autoRun.cmdANStart.setCaption(goCaption);
-    mForm.browser.lblTrawlexTimer.setCaption(u"0"_s);
-    mForm.runs.mbANCancel = true;
-    mTimer.CancelTimer();
+    mRuns.showStop(kind);
+    StartProcessAN();
 }
 
 void AutoRun::StartProcessAN()
@@ -43,78 +32,37 @@ void AutoRun::StartProcessAN()
         run();
     } catch (...) {
         const RuntimeError error = currentError();
-        FinalizeProcess(u"Stopped (ERROR, UNKNOWN)"_s);
-        mLog.ErrorLogger(error.number(), error.description(), module, u"Sub StartProcessAN"_s);
+        mRuns.FinalizeProcess(u"Stopped (ERROR, UNKNOWN)"_s);
+        mContext.log.ErrorLogger(error.number(), error.description(), module, u"Sub StartProcessAN"_s);
     }
 }
 
 void AutoRun::run()
 {
     Walk walk;
-    if (!prepare(walk))
-        return;
-    while (walkSavedPage(walk) == Next::GoOn) {
-        mForm.autoRun.mlngANLinkIndex = 0;
-        if (++walk.saved > walk.lastSaved)
+    walk.serversOnly = mOptions.chkSMA(serversOnlyOption).isOn();
+    if (!mPages.begin(walk.serversOnly)) {
+        mPanel.cmdANStart.setCaption(goCaption);
+        return mContext.status.UpDateStatus(u"No data saved for site"_s);
+    }
+    mRuns.begin(kind);
+    mPages.goToChosen();
+    mRuns.forgetPass(kind);
+    while (walkPage(walk) == Next::GoOn) {
+        mPanel.mlngANLinkIndex = 0;
+        if (!mPages.next())
             break;
     }
-    FinalizeProcess(end(walk));
+    mRuns.FinalizeProcess(end(walk));
 }
 
-/// False when there is nothing to walk: no run takes place then.
-bool AutoRun::prepare(Walk &walk)
+/// One turn of the main loop.
+AutoRun::Next AutoRun::walkPage(Walk &walk)
 {
-    walk.useSaved = mForm.saved.chkUseSavedUrls.isOn();
-    walk.serversOnly = mForm.options.chkSMA(serversOnlyOption).isOn();
-    if (!walk.useSaved && mForm.autoRun.mlngANLinkIndex == 0 && !takeLinksOfPage(walk)) {
-        mForm.autoRun.cmdANStart.setCaption(goCaption);
-        mStatus.UpDateStatus(u"No data saved for site"_s);
-        return false;
-    }
-    mForm.runs.mbANRunning = true;
-    mStates.SetStateOfControls();
-    if (walk.useSaved) {
-        walk.lastSaved = mForm.saved.cboANSavedUrls.listCount() - 1;
-        walk.saved = std::max(mForm.saved.cboANSavedUrls.listIndex(), 0);
-        if (mForm.saved.mbPassUrlsLoaded)
-            mForm.autoRun.mastrLinks = emptyList();
-    }
-    mForm.runs.mbANMCMNCStopped = false;
-    return true;
-}
-
-bool AutoRun::takeLinksOfPage(const Walk &walk)
-{
-    mForm.autoRun.mstrANStartUrl = mBrowser->GetSiteUrl();
-    if (!mRecords.IsSiteDataSaved())
-        return false;
-    readLinks(walk);
-    return true;
-}
-
-void AutoRun::readLinks(const Walk &walk)
-{
-    mForm.autoRun.mastrLinks = mLinks.GetLinks();
-    if (walk.serversOnly)
-        mForm.autoRun.mastrLinks = cIEText::GetBaseUrls(mForm.autoRun.mastrLinks);
-}
-
-QString AutoRun::savedUrl(int row)
-{
-    const QString element = mForm.saved.mastrSavedUrlIds.value(row);
-    return mSavedUrls.GetSavedUrl(SavedUrls::Answer::Url, -1, element, {}, {});
-}
-
-/// One turn of the main loop: a saved result page, a PassUrl, or the page that the run began on.
-AutoRun::Next AutoRun::walkSavedPage(Walk &walk)
-{
-    if (walk.useSaved && mForm.autoRun.mlngANLinkIndex == 0 && !mForm.saved.mbPassUrlsLoaded &&
-        openResultPage(walk) == Next::LeaveMainLoop)
+    if (!mPages.open())
         return Next::LeaveMainLoop;
-    if (walk.useSaved && mForm.saved.mbPassUrlsLoaded)
-        takePassUrl(walk);
-    walk.lastLink = upperBound(mForm.autoRun.mastrLinks);
-    if (walk.lastLink == 0 && mForm.autoRun.mastrLinks.constFirst().isEmpty()) {
+    walk.lastLink = upperBound(mPanel.mastrLinks);
+    if (walk.lastLink == 0 && mPanel.mastrLinks.constFirst().isEmpty()) {
         walk.emptyCount = walk.lastEmpty ? walk.emptyCount + 1 : 1;
         walk.lastEmpty = true;
         walk.noUrls = walk.emptyCount >= 2;
@@ -124,36 +72,11 @@ AutoRun::Next AutoRun::walkSavedPage(Walk &walk)
     return walkLinks(walk);
 }
 
-AutoRun::Next AutoRun::openResultPage(const Walk &walk)
-{
-    mForm.saved.cboANSavedUrls.setListIndex(walk.saved);
-    mStatus.UpDateStatus(mForm.saved.cboANSavedUrls.list(walk.saved));
-    mPump.doEvents();
-    if (!mNavigation.OpenSite(savedUrl(walk.saved)))
-        return Next::GoOn;
-    const qint64 pause = mForm.limits.incSmRPPause.value();
-    mTimer.TimeIt(pause != 0 ? pause : mForm.autoRun.incANTiming.value());
-    // Without a browser there is nothing to read; the user who has closed it has stopped the run.
-    if (!mForm.browser.mbInitialized)
-        return Next::LeaveMainLoop;
-    readLinks(walk);
-    mForm.autoRun.mstrANStartUrl = mBrowser->GetSiteUrl();
-    return Next::GoOn;
-}
-
-/// A PassUrl is itself the page to visit: the walk has that one link.
-void AutoRun::takePassUrl(const Walk &walk)
-{
-    mForm.saved.cboANSavedUrls.setListIndex(walk.saved);
-    static_cast<void>(firstOf(mForm.autoRun.mastrLinks));
-    mForm.autoRun.mastrLinks[0] = savedUrl(walk.saved);
-}
-
 AutoRun::Next AutoRun::walkLinks(const Walk &walk)
 {
-    for (int i = mForm.autoRun.mlngANLinkIndex; i <= walk.lastLink; ++i) {
-        mForm.autoRun.mlngANLinkIndex = i;
-        if (!mayGoOn() || visit(walk, i) == Next::LeaveMainLoop)
+    for (int i = mPanel.mlngANLinkIndex; i <= walk.lastLink; ++i) {
+        mPanel.mlngANLinkIndex = i;
+        if (!mRuns.mayGoOn(kind) || visit(walk, i) == Next::LeaveMainLoop)
             return Next::LeaveMainLoop;
     }
     return Next::GoOn;
@@ -161,60 +84,44 @@ AutoRun::Next AutoRun::walkLinks(const Walk &walk)
 
 AutoRun::Next AutoRun::visit(const Walk &walk, int index)
 {
-    const QString link = mForm.autoRun.mastrLinks.value(index);
-    if (!mScreening.NotQB(link))
+    const QString link = mPanel.mastrLinks.value(index);
+    if (!mTests.NotQB(link))
         return Next::GoOn;
-    mStatus.UpDateStatus(u"%1/%2 "_s.arg(index + 1).arg(walk.lastLink + 1) + link);
-    if (!mNavigation.OpenSite(link))
-        return Next::GoOn;
-    Q_EMIT visiting(index + 1, walk.lastLink + 1, link);
-    mTimer.TimeIt(mForm.autoRun.incANTiming.value());
-    if (!mayGoOn())
-        return Next::LeaveMainLoop;
-    PageReading page(mBrowser);
-    if (mForm.limits.incNotFoundMinSize.value() >= 1 && !walk.serversOnly)
-        mScreening.PageNotFound(page);
-    mScreening.CollectData(page);
-    return Next::GoOn;
+    mContext.status.UpDateStatus(u"%1/%2 "_s.arg(index + 1).arg(walk.lastLink + 1) + link);
+    Q_EMIT mRuns.progress(index + 1, walk.lastLink + 1);
+    const SiteVisit::Order order{.url = link, .seconds = mPanel.incANTiming.value(), .fallBack = !walk.serversOnly};
+    return mVisit.visit(kind, order) == SiteVisit::Outcome::Stopped ? Next::LeaveMainLoop : Next::GoOn;
 }
 
 QString AutoRun::end(const Walk &walk)
 {
     if (walk.noUrls)
         return u"Stopped (ERROR, NO URLS)"_s;
-    if (!mForm.runs.mbANCancel) {
-        if (mForm.options.chkSMA(returnToStartOption).value() == 1)
-            mNavigation.OpenSite(mForm.autoRun.mstrANStartUrl);
+    if (!mRuns.isStopped(kind)) {
+        mVisit.returnTo(mPanel.mstrANStartUrl);
         return u"Stopped (FINISHED)"_s;
     }
-    if (!mForm.runs.mbANMCMNCStopped)
-        return u"Stopped (USER)"_s;
-    // The loop has moved on by one before it saw the stop; one more is passed over, and near the end no text is given.
-    if (mForm.autoRun.mlngANLinkIndex + 1 >= walk.lastLink)
+    if (!mRuns.reason().isEmpty()) {
+        // A walk that stands on its first link is begun anew by Go, from the page on show.
+        if (mPanel.mlngANLinkIndex == 0 && !mPages.areSaved())
+            mVisit.open(mPanel.mstrANStartUrl);
+        return mRuns.reason();
+    }
+    return mRuns.isStoppedOnPass(kind) ? endOnPass(walk) : u"Stopped (USER)"_s;
+}
+
+/// The loop has moved on by one before it saw the stop; one more is passed over, and near the end no text is given.
+QString AutoRun::endOnPass(const Walk &walk)
+{
+    if (mPanel.mlngANLinkIndex + 1 >= walk.lastLink)
         return {};
-    ++mForm.autoRun.mlngANLinkIndex;
+    ++mPanel.mlngANLinkIndex;
     return u"Stopped (MCMNC)"_s;
 }
 
 void AutoRun::ResetProcessAN()
 {
-    mForm.runs.mbANCancel = true;
-    mForm.autoRun.mlngANLinkIndex = 0;
-    mForm.autoRun.mastrLinks = emptyList();
-    mTimer.CancelTimer();
-    mForm.autoRun.cmdANStart.setCaption(goCaption);
-    mForm.browser.lblTrawlexTimer.setCaption(u"0"_s);
-}
-
-void AutoRun::FinalizeProcess(const QString &status)
-{
-    mForm.autoRun.cmdANStart.setCaption(goCaption);
-    mForm.manual.cmdMNStart.setCaption(goCaption);
-    mForm.runs.mbANRunning = false;
-    mForm.runs.mbMNRunning = false;
-    mForm.runs.mbANCancel = false;
-    mForm.runs.mbMNCancel = false;
-    mStatus.UpDateStatus(status);
-    mStates.SetStateOfControls();
-    Q_EMIT finalized(status);
+    mRuns.cancel(kind);
+    mPanel.mlngANLinkIndex = 0;
+    mPanel.mastrLinks = emptyList();
 }

@@ -28,16 +28,16 @@ QString PageData::GetStringSegment(const QString &text)
 {
     return guardedResult(mLog, {module, "Function GetStringSegment"_L1}, QString(), [&](QString &result) {
         const StringSegment segment =
-            ::GetStringSegment(text, mForm.outputs.txtANStartTag.text(), mForm.outputs.txtANStopTag.text());
-        show(mForm.outputs.txtANStartTag, segment.start);
-        show(mForm.outputs.txtANStopTag, segment.stop);
+            ::GetStringSegment(text, mOutputs.txtANStartTag.text(), mOutputs.txtANStopTag.text());
+        show(mOutputs.txtANStartTag, segment.start);
+        show(mOutputs.txtANStopTag, segment.stop);
         result = segment.text;
     });
 }
 
 QString PageData::whole(PageReading &page)
 {
-    switch (mForm.outputs.cboANSaveType.listIndex()) {
+    switch (mOutputs.cboANSaveType.listIndex()) {
     case Html:
         return GetStringSegment(page.html());
     case Text:
@@ -55,8 +55,8 @@ QString PageData::whole(PageReading &page)
 
 bool PageData::goesTo(Target target) const
 {
-    const bool toSummary = mForm.outputs.chkSaveToSS.value() == 1;
-    const bool toFile = mForm.outputs.chkSaveToFile.value() == 1;
+    const bool toSummary = mOutputs.chkSaveToSS.value() == 1;
+    const bool toFile = mOutputs.chkSaveToFile.value() == 1;
     if (toSummary == toFile)
         return true;
     return target == Target::SiteSummary ? toSummary : toFile;
@@ -65,10 +65,10 @@ bool PageData::goesTo(Target target) const
 QString PageData::GetPageData(PageReading &page, Target target)
 {
     return guardedResult(mLog, {module, "Function GetPageData"_L1}, QString(), [&](QString &result) {
-        if (mForm.outputs.chkSavePages.value() != 1)
+        if (mOutputs.chkSavePages.value() != 1)
             return;
         const QString data = whole(page);
-        const qint64 least = mForm.limits.incSFMinFileSize.value();
+        const qint64 least = mLimits.incSFMinFileSize.value();
         if (!(least >= 1 && data.size() < least) && goesTo(target))
             result = data;
     });

@@ -1,7 +1,7 @@
 // The text of a page that is stored: its markup, its text or its links, cut to the part between two tags.
 #pragma once
 
-#include "app/frmSearch.h"
+#include "app/FormGroups.h"
 #include "driver/PageReading.h"
 #include "util/Errors.h"
 
@@ -10,7 +10,9 @@ class PageData
   public:
     enum class Target { File = 0, SiteSummary = 1 };
 
-    PageData(ErrorReceiver &log, frmSearch &form) : mLog(log), mForm(form) {}
+    PageData(ErrorReceiver &log, Outputs &outputs, const Limits &limits) : mLog(log), mOutputs(outputs), mLimits(limits)
+    {
+    }
 
     /// What is stored for `target`; "" where nothing is to be stored there, or the text is too short.
     [[nodiscard]] QString GetPageData(PageReading &page, Target target);
@@ -22,5 +24,6 @@ class PageData
     [[nodiscard]] bool goesTo(Target target) const;
 
     ErrorReceiver &mLog;
-    frmSearch &mForm;
+    Outputs &mOutputs;
+    const Limits &mLimits;
 };

@@ -1,7 +1,8 @@
-// Turns an accepted page into rows and files, each new thing once.
+// Turns an accepted page into rows, each new thing once. What is longer than a column is cut before it is looked up, so
+// that it is found again. Knows lists.
 #pragma once
 
-#include "app/frmSearch.h"
+#include "harvest/Findings.h"
 #include "harvest/PageData.h"
 #include "lists/SavedUrls.h"
 #include "store/SiteSummaryIndex.h"
@@ -14,12 +15,11 @@ class ResultWriters
     /// What SaveSummary answers.
     enum Summary { NothingSaved = 0, AddedWithoutPage = 1, AlreadyThere = 2, AddedWithPage = 3 };
 
-    ResultWriters(ErrorReceiver &log, frmSearch &form, DatabaseHolder &database, SavedUrls &savedUrls, PageData &data);
+    ResultWriters(ErrorReceiver &log, const Outputs &outputs, const OptionBoxes &options, DatabaseHolder &database,
+                  SavedUrls &savedUrls, PageData &data, const Findings &findings);
 
     /// A row in SiteSummary, unless its address (or server) is in the table.
     [[nodiscard]] int SaveSummary(PageReading &page);
-    /// The page as a file of its own, or at the end of the one file. True if it was written.
-    [[nodiscard]] bool SaveFile(PageReading &page);
     /// The page's address in the PassUrls of the list in force. These three: True if at least one row was added; an
     /// error on the way is False, whatever was added before it.
     [[nodiscard]] bool SavePassUrl(PageReading &page);
@@ -34,12 +34,15 @@ class ResultWriters
     [[nodiscard]] bool exists(const QString &sql);
     [[nodiscard]] bool add(const QString &table, const QStringList &row);
     [[nodiscard]] bool summaryIndex(PageReading &page, const QString &url, QString &index);
+    [[nodiscard]] bool isOn(int dataOption) const { return mOptions.chkSMD(dataOption).value() == 1; }
 
     ErrorReceiver &mLog;
-    frmSearch &mForm;
+    const Outputs &mOutputs;
+    const OptionBoxes &mOptions;
     DatabaseHolder &mDatabase;
     SavedUrls &mSavedUrls;
     PageData &mData;
+    const Findings &mFindings;
     SiteSummaryIndex mSummaryIndex;
     QMap<QString, int> mAdded;
 };

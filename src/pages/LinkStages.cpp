@@ -118,7 +118,7 @@ QStringList LinkStages::minMax(const QStringList &links, const QString &rule)
     return orEmptyList(std::move(kept));
 }
 
-void LinkStages::countedTexts(const QStringList &links, const QStringList &values, Wanted wanted, QStringList &result)
+void LinkStages::countedTexts(const QStringList &links, const QStringList &values, Keeping keeping, QStringList &result)
 {
     if (isEmptyField(values)) {
         result = links;
@@ -129,7 +129,7 @@ void LinkStages::countedTexts(const QStringList &links, const QStringList &value
     for (const QString &link : links) {
         const bool hit = std::any_of(values.begin(), values.end(),
                                      [&](const QString &value) { return !value.isEmpty() && hits(link, value); });
-        if (hit != (wanted == Wanted::Containing))
+        if (hit != (keeping == Keeping::Containing))
             continue;
         if (first)
             result.clear();

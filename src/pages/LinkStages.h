@@ -19,10 +19,10 @@ namespace LinkStages {
 [[nodiscard]] QStringList cnvHex(const QStringList &links);
 /// Links whose length fits `rule`: comparison 0 to 4 (=, >, <, >=, <=), marker, length. Not a number counts as 0.
 [[nodiscard]] QStringList minMax(const QStringList &links, const QString &rule);
-enum class Wanted { Containing, NotContaining };
+enum class Keeping { Containing, NotContaining };
 /// Links that hold one of the texts as often as its count says (0: at least once), or those that hold none so.
 /// A count that is no number raises error 13; `result` then holds what was decided until there.
-void countedTexts(const QStringList &links, const QStringList &values, Wanted wanted, QStringList &result);
+void countedTexts(const QStringList &links, const QStringList &values, Keeping keeping, QStringList &result);
 /// Each link cut to what stands behind the begin texts and before the end texts, one after the other.
 [[nodiscard]] QStringList beginEndUrl(const QStringList &links, const QStringList &begin, const QStringList &end);
 } // namespace LinkStages

@@ -63,7 +63,7 @@ QStringList ResultLinks::SDProcessMC(const QStringList &links, const QString &si
 {
     return guardedResult(mLog, {module, "Function SDProcessMC"_L1}, emptyList(), [&](QStringList &kept) {
         LinkStages::countedTexts(links, mRecords.GetSearchSiteData(site, SiteField::UrlMC),
-                                 LinkStages::Wanted::Containing, kept);
+                                 LinkStages::Keeping::Containing, kept);
     });
 }
 
@@ -71,7 +71,7 @@ QStringList ResultLinks::SDProcessMNC(const QStringList &links, const QString &s
 {
     return guardedResult(mLog, {module, "Function SDProcessMNC"_L1}, emptyList(), [&](QStringList &kept) {
         LinkStages::countedTexts(links, mRecords.GetSearchSiteData(site, SiteField::UrlMNC),
-                                 LinkStages::Wanted::NotContaining, kept);
+                                 LinkStages::Keeping::NotContaining, kept);
     });
 }
 

@@ -11,6 +11,8 @@ class ResultLinks
         : mLog(log), mForm(form), mBrowser(browser), mRecords(records)
     {
     }
+    /// The server of the page on show belongs to a record.
+    [[nodiscard]] bool IsSiteDataSaved() { return mRecords.IsSiteDataSaved(); }
     /// The result links of the page on show; a stage that would throw away every link is left out.
     [[nodiscard]] QStringList GetLinks();
 

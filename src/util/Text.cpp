@@ -86,6 +86,23 @@ qsizetype indexFolded(QStringView text, QStringView find, qsizetype from)
 }
 } // namespace
 
+QString cUtility::shown(QString text)
+{
+    const auto sign = [](QChar c) {
+        constexpr char16_t firstPicture = 0x2400, deletePicture = 0x2421, unknown = 0xFFFD;
+        const char16_t unit = c.unicode();
+        if (unit < 0x20)
+            return QChar(char16_t(firstPicture + unit));
+        if (unit == 0x7F)
+            return QChar(deletePicture);
+        const bool turns = (unit >= 0x202A && unit <= 0x202E) || (unit >= 0x2066 && unit <= 0x2069);
+        const bool isLineEnd = unit == 0x2028 || unit == 0x2029;
+        return turns || isLineEnd || c.category() == QChar::Other_Control ? QChar(unknown) : c;
+    };
+    std::transform(text.cbegin(), text.cend(), text.begin(), sign);
+    return text;
+}
+
 QString cUtility::lowered(QStringView text)
 {
     QString result(text.size(), Qt::Uninitialized);

@@ -17,6 +17,10 @@ namespace cUtility {
 /// `text` with each unit lower-cased; always as long as `text`.
 [[nodiscard]] QString lowered(QStringView text);
 
+/// `text` with each control character, line end and change of the writing direction as a sign that stands for it, so
+/// that a text of unknown origin cannot do anything to a terminal, a log or a label: it is shown as one line, as it is.
+[[nodiscard]] QString shown(QString text);
+
 /// True for the ASCII digits, the only single characters that count as numeric.
 [[nodiscard]] constexpr bool isDigit(char16_t unit)
 {

@@ -17,12 +17,14 @@ constexpr int standardWidth = 380;
 constexpr int standardHeight = 440;
 } // namespace
 
-BrowserConnection::BrowserConnection(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states,
-                                     cTimer &timer, BrowserHolder &browser, const Outside &outside)
-    : mLog(log), mForm(form), mStatus(status), mStates(states), mTimer(timer), mBrowser(browser), mOut(outside)
+BrowserConnection::BrowserConnection(const Context &context, BrowserPanel &panel, const Limits &limits,
+                                     const OptionBoxes &options, Runs &runs, BrowserHolder &browser,
+                                     const Outside &outside)
+    : mContext(context), mPanel(panel), mLimits(limits), mOptions(options), mRuns(runs), mBrowser(browser),
+      mOut(outside)
 {
     connect(&browser, &BrowserHolder::WindowClosing, this, &BrowserConnection::windowClosed);
-    connect(&browser, &BrowserHolder::Died, this, &BrowserConnection::windowClosed);
+    connect(&browser, &BrowserHolder::Died, this, &BrowserConnection::died);
     connect(&browser, &BrowserHolder::NewWindow2, this, &BrowserConnection::newWindow, Qt::DirectConnection);
 }
 
@@ -30,24 +32,25 @@ void BrowserConnection::InitializeIE()
 {
     const int attempt = ++mAttempt;
     bool connected = false;
-    guarded(mLog, {module, "Sub InitializeIE"_L1}, [&] {
-        mForm.browser.mbInternalBrowser = false;
+    mDied = false;
+    guarded(mContext.log, {module, "Sub InitializeIE"_L1}, [&] {
+        mPanel.mbInternalBrowser = false;
         mBrowser.release();
-        mBrowser.set(std::make_unique<cIEObject>(mLog, mOut.desktop, mOut.clipboard, mOut.browsers));
-        connected = mForm.browser.cboANWBSelect.listIndex() == internalMode ? connectInternal() : connectFreeStanding();
+        mBrowser.set(std::make_unique<cIEObject>(mContext.log, mOut.desktop, mOut.clipboard, mOut.browsers));
+        connected = mPanel.cboANWBSelect.listIndex() == internalMode ? connectInternal() : connectFreeStanding();
     });
     if (attempt != mAttempt)
         return;
-    mForm.browser.mbInitialized = connected;
-    mStatus.UpDateStatus(connected ? u"Initialized"_s : u"Not initialized"_s);
-    mStates.SetStateOfControls();
+    mPanel.mbInitialized = connected;
+    mContext.status.UpDateStatus(connected ? u"Initialized"_s : u"Not initialized"_s);
+    mContext.states.SetStateOfControls();
 }
 
 bool BrowserConnection::connectInternal()
 {
     std::shared_ptr<BrowserEngine> browser = mOut.browsers.internalBrowser();
-    mForm.browser.mbInternalBrowser = browser && mBrowser->InitializeObject(std::move(browser));
-    return mForm.browser.mbInternalBrowser;
+    mPanel.mbInternalBrowser = browser && mBrowser->InitializeObject(std::move(browser));
+    return mPanel.mbInternalBrowser;
 }
 
 bool BrowserConnection::connectFreeStanding()
@@ -55,8 +58,8 @@ bool BrowserConnection::connectFreeStanding()
     std::shared_ptr<BrowserEngine> browser = mBrowser->GetActiveBrowser();
     if (!browser) {
         if (!VerifyIEPath()) {
-            mOut.dialogs.tell(u"* ERROR * Can Not Initialize * ERROR *"_s,
-                              u"Trawlex Requires Microsoft Intenet Explorer Version 5.5 Or Later."_s);
+            mContext.dialogs.tell(u"* ERROR * Can Not Initialize * ERROR *"_s,
+                                  u"Trawlex Requires Microsoft Intenet Explorer Version 5.5 Or Later."_s);
             return false;
         }
         browser = startBrowser();
@@ -84,8 +87,8 @@ std::shared_ptr<BrowserEngine> BrowserConnection::startBrowser()
 
 void BrowserConnection::cmdANInitialize_Click()
 {
-    mForm.browser.cmdANInitialize.setEnabled(false);
-    mStatus.UpDateStatus(u"Initializing browser"_s);
+    mPanel.cmdANInitialize.setEnabled(false);
+    mContext.status.UpDateStatus(u"Initializing browser"_s);
     const int attempt = mAttempt;
     mOut.pump.doEvents();
     if (attempt == mAttempt)
@@ -94,8 +97,8 @@ void BrowserConnection::cmdANInitialize_Click()
 
 bool BrowserConnection::VerifyIEPath()
 {
-    return guardedResult(mLog, {module, "Function VerifyIEPath"_L1}, false, [&](bool &found) {
-        const QString stored = mOut.settings.GetSetting(Sections::Main, Keys::BrowserProgram);
+    return guardedResult(mContext.log, {module, "Function VerifyIEPath"_L1}, false, [&](bool &found) {
+        const QString stored = mContext.settings.GetSetting(Sections::Main, Keys::BrowserProgram);
         // A browser that the user has chosen comes before the one that happens to be installed.
         if (QFileInfo(stored).isFile())
             mBrowser->setInternetExplorerPath(stored);
@@ -107,51 +110,60 @@ bool BrowserConnection::VerifyIEPath()
             found = true;
             return;
         }
-        const QString chosen = mOut.dialogs.chooseFile({}, u"Programs (*)|*|"_s, u"Locate Internet Explorer"_s);
+        const QString chosen = mContext.dialogs.chooseFile({}, u"Programs (*)|*|"_s, u"Locate Internet Explorer"_s);
         if (chosen.isEmpty() || !mOut.browsers.isDrivable(QFileInfo(chosen).fileName().toLower()))
             return;
         // It takes effect at the next start.
-        mOut.settings.SaveSetting(Sections::Main, Keys::BrowserProgram, chosen);
+        mContext.settings.SaveSetting(Sections::Main, Keys::BrowserProgram, chosen);
         found = true;
     });
 }
 
 void BrowserConnection::windowClosed()
 {
-    guarded(mLog, {module, "Sub mobjIE_WindowClosing"_L1}, [&] {
-        mForm.browser.mbInitialized = false;
-        if (mForm.runs.mbMNRunning) {
-            mForm.runs.mbMNCancel = true;
-            mTimer.CancelTimer();
-        }
-        if (mForm.runs.mbANRunning) {
-            mForm.runs.mbANCancel = true;
-            mTimer.CancelTimer();
-        }
+    guarded(mContext.log, {module, "Sub mobjIE_WindowClosing"_L1}, [&] {
+        mDied = false;
+        mPanel.mbInitialized = false;
+        mRuns.stop();
         mBrowser.release();
-        mStatus.UpDateStatus(u"Not initialized"_s);
-        mStates.SetStateOfControls();
+        mContext.status.UpDateStatus(u"Not initialized"_s);
+        mContext.states.SetStateOfControls();
     });
+}
+
+/// Between two runs nobody needs it at once; in the middle of one the run sees to it.
+void BrowserConnection::died()
+{
+    if (mRuns.idle())
+        return windowClosed();
+    mDied = true;
+    mRuns.endWait();
+}
+
+bool BrowserConnection::revive()
+{
+    InitializeIE();
+    return mPanel.mbInitialized;
 }
 
 void BrowserConnection::newWindow(bool *cancel)
 {
     // The built-in browser has no second window.
-    if (mForm.browser.mbInternalBrowser || mForm.options.chkSMV(SMV::BlockPopUps).isOn())
+    if (mPanel.mbInternalBrowser || mOptions.chkSMV(SMV::BlockPopUps).isOn())
         *cancel = true;
 }
 
 void BrowserConnection::SetStandardPosition()
 {
-    guarded(mLog, {module, "Sub SetStandardPosition"_L1}, [&] {
-        if (!mForm.browser.mbInitialized)
+    guarded(mContext.log, {module, "Sub SetStandardPosition"_L1}, [&] {
+        if (!mPanel.mbInitialized)
             return;
-        const qint64 wantedWidth = mForm.limits.incSMAIEWidth.value();
-        const qint64 wantedHeight = mForm.limits.incSMAIEHeight.value();
+        const qint64 wantedWidth = mLimits.incSMAIEWidth.value();
+        const qint64 wantedHeight = mLimits.incSMAIEHeight.value();
         QRect window = mOut.place.place();
         window.moveTopLeft(mOut.place.screen().topLeft());
         mOut.place.moveTo(window);
-        if (mForm.browser.mbInternalBrowser)
+        if (mPanel.mbInternalBrowser)
             return;
         mBrowser->IETop(0);
         mBrowser->IEWidth(wantedWidth >= smallestSize ? static_cast<int>(wantedWidth) : standardWidth);

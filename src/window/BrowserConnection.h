@@ -1,14 +1,14 @@
-// Connects a browser, takes note when it goes, and puts its window beside ours.
+// Connects a browser, takes note when it goes, starts one again that has died in a run, and puts its window beside
+// ours.
 #pragma once
 
-#include "app/ErrorLog.h"
-#include "app/Ports.h"
-#include "app/StatusLine.h"
-#include "app/cTimer.h"
-#include "app/frmSearch.h"
+#include "app/Context.h"
+#include "app/FormGroups.h"
 #include "driver/BrowserHolder.h"
+#include "driver/BrowserReviver.h"
+#include "driver/Runs.h"
 
-class BrowserConnection : public QObject
+class BrowserConnection : public QObject, public BrowserReviver
 {
     Q_OBJECT
 
@@ -16,15 +16,13 @@ class BrowserConnection : public QObject
     struct Outside
     {
         EventPump &pump;
-        UserDialogs &dialogs;
         Desktop &desktop;
         ClipboardText &clipboard;
-        SettingsStore &settings;
         WindowPlace &place;
         BrowserFactory &browsers;
     };
-    BrowserConnection(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, cTimer &timer,
-                      BrowserHolder &browser, const Outside &outside);
+    BrowserConnection(const Context &context, BrowserPanel &panel, const Limits &limits, const OptionBoxes &options,
+                      Runs &runs, BrowserHolder &browser, const Outside &outside);
 
     /// Connects the browser that cboANWBSelect names, starting it where none runs.
     void InitializeIE();
@@ -37,19 +35,25 @@ class BrowserConnection : public QObject
     /// The program is about to end: a connecting under way is given up.
     void giveUp() { ++mAttempt; }
 
+    [[nodiscard]] bool hasDied() const override { return mDied; }
+    bool revive() override;
+    void leaveDead() override { windowClosed(); }
+
   private:
     [[nodiscard]] bool connectInternal();
     [[nodiscard]] bool connectFreeStanding();
     [[nodiscard]] std::shared_ptr<BrowserEngine> startBrowser();
     void windowClosed();
+    void died();
     void newWindow(bool *cancel);
 
-    ErrorReceiver &mLog;
-    frmSearch &mForm;
-    StatusLine &mStatus;
-    ControlStates &mStates;
-    cTimer &mTimer;
+    Context mContext;
+    BrowserPanel &mPanel;
+    const Limits &mLimits;
+    const OptionBoxes &mOptions;
+    Runs &mRuns;
     BrowserHolder &mBrowser;
     Outside mOut;
     int mAttempt = 0; ///< a later attempt, made from within the wait of this one, replaces it
+    bool mDied = false;
 };

@@ -69,14 +69,7 @@ void LifeCycle::Terminate()
 void LifeCycle::stopRun()
 {
     guarded(m.log, {module, "Sub Terminate"_L1}, [&] {
-        if (m.form.runs.mbANRunning)
-            m.form.runs.mbANCancel = true;
-        else if (m.form.runs.mbMNRunning)
-            m.form.runs.mbMNCancel = true;
-        else
-            return;
-        m.timer.CancelTimer();
-        if (m.browser.isSet())
+        if (m.runs.stop() && m.browser.isSet())
             m.browser->IEStop();
     });
 }
@@ -87,7 +80,7 @@ void LifeCycle::end()
     m.connection.giveUp();
     stopRun();
     // No object goes away while a run or the connecting of a browser stands on the stack.
-    if (!m.form.runs.mbANRunning && !m.form.runs.mbMNRunning && !mConnecting)
+    if (m.runs.idle() && !mConnecting)
         Form_Unload();
 }
 

@@ -4,6 +4,7 @@
 
 #include "app/cTimer.h"
 #include "app/frmSearch.h"
+#include "driver/Runs.h"
 #include "window/BrowserConnection.h"
 #include "window/DatabaseLoader.h"
 #include "window/options/Options.h"
@@ -21,6 +22,7 @@ class LifeCycle : public QObject
         UserDialogs &dialogs;
         WindowPlace &place;
         cTimer &timer;
+        Runs &runs;
         BrowserHolder &browser;
         DatabaseHolder &database;
         Options &options;

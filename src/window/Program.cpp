@@ -7,22 +7,30 @@ using namespace Qt::StringLiterals;
 Program::Program(const Ports &ports)
     : log(ports.dialogs, ports.desktop, ports.programFolder), tips(form.options.chkSMV(0)),
       status(form.frame.picStatus, tips), popUps(form.browser, status, ports.menus), timer(ports.pump),
-      states(log, form), navigation(log, form, status, browser), records(log, database, browser),
+      states(log, form), context{log, status, states, ports.dialogs, ports.settings, tips},
+      runs(context, form.runs, form.browser, form.autoRun.cmdANStart, form.manual.cmdMNStart, timer),
+      connection(context, form.browser, form.limits, form.options, runs, browser,
+                 {ports.pump, ports.desktop, ports.clipboard, ports.place, ports.browsers}),
+      navigation(context, form.browser, browser),
+      visit(context, navigation, browser, timer, ports.pump, runs, connection), records(log, database, browser),
       links(log, form, browser, records),
       savedUrls(log, form, status, states, ports.settings, database, browser, records, navigation),
       criteria(log, form, status, states, ports.dialogs, database),
-      blocking(log, form, status, states, ports.dialogs, ports.settings, database, browser), pageData(log, form),
-      writers(log, form, database, savedUrls, pageData),
-      screening(log, form, status, timer, database, navigation, writers),
-      autoRun(log, form, status, states, ports.pump, timer, browser, navigation, records, links, savedUrls, screening),
-      context{log, status, states, ports.dialogs, ports.settings, tips}, options(context, form, ports.programFolder),
-      optionReports(context, form), toolTips(context, form), areaCodes(log, form.areaCodes),
-      databaseFile(context, form.places, form.import.cboSFITableExisting, database),
+      blocking(log, form, status, states, ports.dialogs, ports.settings, database, browser),
+      pageData(log, form.outputs, form.limits), pageFiles(log, form.outputs, form.places, pageData),
+      findings(log, form.blocking.email, form.areaCodes, form.options),
+      writers(log, form.outputs, form.options, database, savedUrls, pageData, findings),
+      keeping(context, form.options, database, writers, pageFiles, runs, ports.pump),
+      pageTests(log, form.criteria, form.blocking),
+      screening(context, form.outputs, form.browser.picANEnd, form.limits, pageTests, keeping, runs),
+      errorPages(context, form.limits, form.autoRun, visit),
+      siteVisit(context, form.options, runs, visit, errorPages, screening),
+      resultPages(context, form.autoRun, form.saved, form.limits, visit, links, savedUrls),
+      autoRun(context, form.autoRun, form.options, runs, resultPages, pageTests, siteVisit),
+      options(context, form, ports.programFolder), optionReports(context, form), toolTips(context, form),
+      areaCodes(log, form.areaCodes), databaseFile(context, form.places, form.import.cboSFITableExisting, database),
       loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
-      connection(
-          log, form, status, states, timer, browser,
-          {ports.pump, ports.dialogs, ports.desktop, ports.clipboard, ports.settings, ports.place, ports.browsers}),
-      lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, browser, database, options, loader,
+      lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, runs, browser, database, options, loader,
                  connection}),
       autoTab({log, form, status, states, timer, ports.desktop, savedUrls, blocking, autoRun, connection, lifeCycle}),
       criteriaPanel(form, status, states, criteria)
@@ -37,7 +45,7 @@ Program::Program(const Ports &ports)
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
             control->setEnabled(true);
     });
-    QObject::connect(&autoRun, &AutoRun::finalized, &lifeCycle, &LifeCycle::runEnded);
+    QObject::connect(&runs, &Runs::finalized, &lifeCycle, &LifeCycle::runEnded);
 }
 
 /// Who reads what from a database that has been opened, in the order in which one thing depends on another.

@@ -30,6 +30,15 @@ TEST_F(StatusTest, PrintsTheTextWithThreeDots)
     EXPECT_EQ(told, QStringList{u"Working"_s});
 }
 
+TEST_F(StatusTest, WhatAPageSendsIsShownAndNotDone)
+{
+    form.options.chkSMV(0).setValue(1);
+    status.UpDateStatus(u"1/2 http://a.com/\nStopped (FINISHED)\x1b[2J"_s, u"a\ttip"_s);
+    EXPECT_EQ(told, QStringList{u"1/2 http://a.com/\u240AStopped (FINISHED)\u241B[2J"_s});
+    EXPECT_EQ(form.frame.picStatus.printed(), told[0] + u"..."_s);
+    EXPECT_EQ(form.frame.picStatus.toolTipText(), u"a\u2409tip"_s);
+}
+
 TEST_F(StatusTest, NearlyAllTextsHaveTheSameTip)
 {
     form.options.chkSMV(0).setValue(1);

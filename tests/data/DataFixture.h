@@ -1,6 +1,7 @@
 // The Data tab's state with a real database, fake time and a fake user.
 #pragma once
 
+#include "app/frmSearch.h"
 #include "data/Exports.h"
 #include "data/Imports.h"
 #include "support/Database.h"
@@ -91,7 +92,7 @@ class DataTest : public testing::Test
     Context context{log, status, states, dialogs, settings, tips};
     DatabaseHolder database;
     BrowserHolder browser;
-    Navigation navigation{log, form, status, browser};
+    Navigation navigation{context, form.browser, browser};
     LongWork work{pump, status};
     Exports exports{context, form.data, form.places, form.options.chkSMD(0), database, navigation, work};
     Imports imports{log, database, work};

@@ -1,4 +1,5 @@
 // The one gate through which every run navigates.
+#include "app/frmSearch.h"
 #include "driver/Navigation.h"
 #include "support/FakeBrowser.h"
 #include "support/Fakes.h"
@@ -34,7 +35,10 @@ class NavigationTest : public testing::Test
     frmSearch form;
     Tips tips{form.options.chkSMV(0)};
     StatusLine status{form.frame.picStatus, tips};
-    Navigation navigation{log, form, status, holder};
+    CountingStates states;
+    FakeDialogs dialogs;
+    MemorySettings settings;
+    Navigation navigation{{log, status, states, dialogs, settings, tips}, form.browser, holder};
     QStringList told;
 };
 

@@ -51,7 +51,7 @@ TEST_F(NoBrowserTest, EveryOperationGivesItsEmptyValueAndNoneRaises)
     EXPECT_EQ(empty.GetSiteTitle(), QString());
     EXPECT_EQ(empty.GetBrowserHTML(), QString());
     EXPECT_EQ(empty.GetBrowserText(), QString());
-    EXPECT_EQ(empty.GetPage().html, QString());
+    EXPECT_FALSE(empty.GetPage().has_value());
     EXPECT_TRUE(empty.GetLinksOnWebPage().isEmpty());
     EXPECT_TRUE(empty.GetLinksOnAllFrames(false).isEmpty());
     EXPECT_EQ(empty.GetHTMLFromAllFrames(), QString());
@@ -180,7 +180,7 @@ TEST_F(DriverTest, GivesThePagesContent)
     EXPECT_EQ(driver.GetBrowserHTML(), u"<p>Tea</p>"_s);
     EXPECT_EQ(driver.GetBrowserText(), u"Tea"_s);
     EXPECT_EQ(driver.GetLinksOnWebPage(), (QStringList{u"http://a.com/"_s, u"mailto:x@y.com"_s, u"http://a.com/"_s}));
-    const PageContent content = driver.GetPage();
+    const PageContent content = driver.GetPage().value();
     EXPECT_EQ(content.html, u"<p>Tea</p>"_s);
     EXPECT_EQ(content.title, u"Title"_s);
     EXPECT_EQ(content.url, address);

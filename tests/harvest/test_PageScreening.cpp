@@ -30,12 +30,12 @@ class ScreeningTest : public RunTest
     bool mustContain()
     {
         PageReading reading(program->browser);
-        return program->screening.IsMCGo(reading);
+        return program->pageTests.IsMCGo(reading);
     }
     bool mustNotContain()
     {
         PageReading reading(program->browser);
-        return program->screening.IsMNCGo(reading);
+        return program->pageTests.IsMNCGo(reading);
     }
     static void fill(ListBox &list, const QStringList &items)
     {
@@ -398,7 +398,7 @@ TEST_F(ScreeningTest, RowsThatDoNotReachTheFileAreRedAndAreNotTold)
     EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Red);
     EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Red);
     EXPECT_EQ(form().outputs.lblUrlSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Green); // the file is there
+    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Red); // the page is stored whole or not at all
 }
 
 // Error pages.
@@ -478,8 +478,7 @@ TEST_F(NotFoundTest, CalledWithALimitOfZeroItTestsPagesOfEveryLength)
     form().limits.incNotFoundMinSize.setText(u"0"_s);
     page().html = u"404 "_s + QString(5000, u'x');
     browser().show(address);
-    PageReading reading(program->browser);
-    program->screening.PageNotFound(reading);
+    program->errorPages.PageNotFound();
     EXPECT_EQ(browser().navigated, QStringList{u"http://www.site1.com"_s});
 }
 

@@ -33,7 +33,7 @@ class WritersTest : public RunTest
     bool saveFile()
     {
         PageReading reading = page();
-        return program->writers.SaveFile(reading);
+        return program->pageFiles.SaveFile(reading);
     }
     bool savePassUrl()
     {

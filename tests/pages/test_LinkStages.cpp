@@ -158,9 +158,9 @@ const QStringList countedLinks{u"x"_s, u"=x"_s, u"=x="_s, u"aaa"_s, u"A"_s};
 TEST_P(Counts, KeepOrDropTheLinks)
 {
     QStringList kept;
-    LinkStages::countedTexts(countedLinks, GetParam().values, LinkStages::Wanted::Containing, kept);
+    LinkStages::countedTexts(countedLinks, GetParam().values, LinkStages::Keeping::Containing, kept);
     EXPECT_EQ(kept, GetParam().containing);
-    LinkStages::countedTexts(countedLinks, GetParam().values, LinkStages::Wanted::NotContaining, kept);
+    LinkStages::countedTexts(countedLinks, GetParam().values, LinkStages::Keeping::NotContaining, kept);
     EXPECT_EQ(kept, GetParam().notContaining);
 }
 
@@ -190,7 +190,7 @@ TEST(LinkStages, ACountThatIsNoNumberEndsTheStageWithWhatItHas)
     QStringList kept;
     // The first link hits the first value; the second one comes to the value without a count.
     EXPECT_THROW(LinkStages::countedTexts({u"yes"_s, u"other"_s, u"yes"_s}, {counted(u"yes"_s, u"1"_s), u"no marker"_s},
-                                          LinkStages::Wanted::Containing, kept),
+                                          LinkStages::Keeping::Containing, kept),
                  RuntimeError);
     EXPECT_EQ(kept, QStringList{u"yes"_s});
 }

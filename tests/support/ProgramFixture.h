@@ -23,11 +23,11 @@ class ProgramTest : public testing::Test
             Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, folder.path()});
         QObject::connect(&program->status, &StatusLine::told, &program->form,
                          [this](const QString &text) { statuses.append(text); });
-        QObject::connect(&program->autoRun, &AutoRun::visiting, &program->form,
-                         [this](int, int, const QString &url) { visited.append(url); });
-        QObject::connect(&program->autoRun, &AutoRun::finalized, &program->form, [this] { ++runs; });
+        QObject::connect(&program->siteVisit, &SiteVisit::visiting, &program->form,
+                         [this](const QString &url) { visited.append(url); });
+        QObject::connect(&program->runs, &Runs::finalized, &program->form, [this] { ++runs; });
         QObject::connect(&program->lifeCycle, &LifeCycle::ended, &program->form, [this] { ++ends; });
-        QObject::connect(&program->screening, &PageScreening::rowsStored, &program->form,
+        QObject::connect(&program->keeping, &PageKeeping::rowsStored, &program->form,
                          [this](const QMap<QString, int> &rows) { stored.append(rows); });
         loaded = program->lifeCycle.Form_Load();
     }

@@ -150,3 +150,23 @@ TEST(Hexadecimal, ReadsUpToTheLastEightDigits)
     EXPECT_EQ(cUtility::ConvertHex(u""), 0U);
 }
 } // namespace
+
+TEST(Text, ATextOfUnknownOriginIsShownAsOneLineThatDoesNothing)
+{
+    struct Row
+    {
+        QString text;
+        QString shown;
+    };
+    const Row rows[] = {
+        {QString(), QString()},
+        {u"plain äöü 日本 😀"_s, u"plain äöü 日本 😀"_s},
+        {u"a\r\nb"_s, u"a\u240D\u240Ab"_s},
+        {u"\x1b[31mred\x07"_s, u"\u241B[31mred\u2407"_s},
+        {QString(QChar(0)) + u'\x7f', u"\u2400\u2421"_s},
+        {u"\u009b2J\u0085"_s, u"\ufffd2J\ufffd"_s},
+        {u"moc.\u202eevil\u2066\u2028"_s, u"moc.\ufffdevil\ufffd\ufffd"_s},
+    };
+    for (const Row &row : rows)
+        EXPECT_EQ(cUtility::shown(row.text), row.shown);
+}

@@ -1,0 +1,36 @@
+#include "harvest/Findings.h"
+
+#include "controls/cLstBx.h"
+#include "pages/EmailFinder.h"
+#include "pages/PhoneFinder.h"
+#include "util/Arrays.h"
+#include "util/Text.h"
+
+namespace {
+constexpr int faxOnlyOption = 6;
+constexpr int shortestPage = 10;
+} // namespace
+
+QStringList Findings::emails(PageReading &page) const
+{
+    const QString &html = page.html();
+    QStringList found =
+        html.size() < shortestPage ? QStringList() : cIEText::CollectEmail(html, u"@", mLog.ifListening());
+    if (firstOf(found).isEmpty())
+        return emptyList();
+    found = cUtility::RemoveRepeatsFromArray(found);
+    return mBlocking.on.isOn() ? cUtility::FilterArray(found, cLstBx::GetItems(mBlocking.items, cLstBx::Which::All))
+                               : found;
+}
+
+QStringList Findings::phones(PageReading &page) const
+{
+    const QStringList found =
+        cAreaCode::FindPhoneNumbers(page.html(), cUtility::Trim(mAreaCodes.txtSBSelAreaCodes.text()), faxOnly());
+    return firstOf(found).isEmpty() ? emptyList() : cUtility::RemoveRepeatsFromArray(found);
+}
+
+bool Findings::faxOnly() const
+{
+    return mOptions.chkSMD(faxOnlyOption).isOn();
+}
