@@ -1,30 +1,74 @@
-// Prints where the widgets of the main window stand, as JSON of objectName to centre in the window's pixels. The
-// end-to-end tests click there; both programs lay the window out the same way on the same display.
+// Prints where the widgets of the main window stand, as JSON of objectName to centre in the window's pixels: those of
+// all tabs, and each tab as "sstSearch(0)". The end-to-end tests click there; both programs lay the window out the same
+// way on the same display.
 #include "app/frmSearch.h"
 #include "ui/windows/MainWindow.h"
+#include "window/options/OptionTable.h"
 
 #include <QApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTabBar>
 #include <cstdio>
+
+namespace {
+void note(QJsonObject &positions, const QWidget &window, const QWidget &widget, const QString &name, const QRect &rect)
+{
+    const QPoint centre = widget.mapTo(&window, rect.center());
+    positions.insert(name, QJsonArray{centre.x(), centre.y(), rect.width(), rect.height()});
+}
+
+/// What can be seen now and has not been noted yet.
+void noteVisible(QJsonObject &positions, const QWidget &window)
+{
+    // Layouts within layouts settle one after the other.
+    for (int turn = 0; turn < 4; ++turn)
+        QApplication::processEvents();
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        const QString name = widget->objectName();
+        if (name.isEmpty() || positions.contains(name) || !widget->visibleRegion().contains(widget->rect().center()))
+            continue;
+        note(positions, window, *widget, name, widget->rect());
+        const auto *const tabs = qobject_cast<const QTabBar *>(widget);
+        for (int i = 0; tabs != nullptr && i < tabs->count(); ++i)
+            note(positions, window, *tabs, QStringLiteral("%1(%2)").arg(name).arg(i), tabs->tabRect(i));
+    }
+}
+
+/// Every one of `tabs`, and on each what `onTab` does.
+template <class OnTab> void visit(TabControl &tabs, OnTab onTab)
+{
+    for (int tab = 0; tab < tabs.captions().size(); ++tab) {
+        tabs.setTab(tab);
+        onTab(tab);
+    }
+}
+} // namespace
 
 int main(int argc, char *argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     const QApplication application(argc, argv);
     frmSearch form;
+    for (const OptionRow &row : optionRows()) {
+        if (!row.caption.isEmpty())
+            form.control(row.control)->setCaption(row.caption);
+    }
     MainWindow window(form);
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.takeUsualSize();
     window.show();
     QApplication::processEvents();
     QJsonObject positions;
-    for (const QWidget *widget : window.findChildren<QWidget *>()) {
-        if (widget->objectName().isEmpty() || !widget->isVisible())
-            continue;
-        const QPoint centre = widget->mapTo(&window, widget->rect().center());
-        positions.insert(widget->objectName(), QJsonArray{centre.x(), centre.y(), widget->width(), widget->height()});
+    WindowFrame &frame = form.frame;
+    const auto noteTab = [&](int) { noteVisible(positions, window); };
+    visit(frame.sstSearch, noteTab);
+    frame.sstSearch.setTab(Tab::Settings);
+    visit(frame.sstSettings, noteTab);
+    for (const auto &[outer, tabs] : {std::pair{Tab::Files, &frame.sstFiles}, {Tab::Misc, &frame.sstMiscOptions}}) {
+        frame.sstSettings.setTab(outer);
+        visit(*tabs, noteTab);
     }
     std::puts(QJsonDocument(positions).toJson(QJsonDocument::Compact).constData());
     return 0;

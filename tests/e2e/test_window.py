@@ -1,5 +1,6 @@
 """The window under a virtual display, driven by real clicks and keys: a harvest stopped with X in the middle and resumed
 with Go, and the end of the program. The browser stands in its own window, as a user has it."""
+import contextlib
 import json
 import os
 import pathlib
@@ -84,8 +85,11 @@ class WindowCase(trawlex.Case):
                 return window
         return None
 
-    def click(self, name, button=1):
-        x, y = self.positions[name][:2]
+    def click(self, name, button=1, left=None):
+        """Presses the middle of a widget, or so far from its left edge."""
+        x, y, width, _ = self.positions[name]
+        if left is not None:
+            x += left - width // 2
         self.display.do("mousemove", "--window", self.id, x, y)
         self.display.do("click", button)
 
@@ -185,6 +189,57 @@ class FreeStandingBrowser(WindowCase):
         self.wait_for_visit()
         self.click("picANEnd")
         self.assertEqual(self.window.wait(timeout=20), 0)
+
+
+class Options(WindowCase):
+    """Every switch of the option pages, clicked; and clicked again after a restart, which finds them as they were left."""
+    PAGES = [((2, 2, 0), [f"chkSMA_{i}" for i in range(10)]),
+             ((2, 2, 1), [f"chkSMD_{i}" for i in range(9)] + ["chkSaveToSS", "chkSaveToFile"]),
+             ((2, 2, 2), [f"chkSMV_{i}" for i in range(5)])]
+    KEYS = ["chkOpenServersOnly", "chkMNCnvHex", "chkSMReturnToSearchPg", "chkSMAMUseFTP", "chkAutoNavToNextPassUrl",
+            "chkSMAPassUrlAutoIncr", "chkSMASavedUrlAutoIncr", "chkShutDownPrompt", "chkSTmrRCDir", "chkSMSUniqueServers",
+            "chkOpenHtmlExports", "chkUniqueBaseUrls", "chkUniqueSelectUrls", "chkSMSaveUrlWithEmail", "chkSMSaveUrlWithPhone",
+            "chkSUUseSiteTitle", "chkSMFindFax", "chkSMAMUrlIfNoData", "chkSMAMAutoAddAutoUrl", "chkSaveToSS", "chkSaveToFile",
+            "chkShowToolTips", "chkSMVTurnOffErrorMsg", "chkSMVBlockPopUpWindows", "chkSMAAllignmagnify", "chkSAMoveToTopLeft"]
+
+    def stored(self):
+        """The switches in the settings, by key."""
+        found = re.findall(r"^.*SecFrmSearch\\(\w+)=(.*)$", self.settings_file().read_text(encoding="utf-8"), re.MULTILINE)
+        return {key: value.strip('"') for key, value in found if key in self.KEYS}
+
+    def click_every_switch(self):
+        for (search, settings, misc), boxes in self.PAGES:
+            self.click(f"sstSearch({search})")
+            self.click(f"sstSettings({settings})")
+            self.click(f"sstMiscOptions({misc})")
+            for box in boxes:
+                self.click(box, left=10)    # on its square: how far its words go is the font's business
+
+    def flip(self, before):
+        """Clicks every switch once; the settings hold the other value of each."""
+        self.click_every_switch()
+        other = {key: "0" if value == "1" else "1" for key, value in before.items()}
+        with contextlib.suppress(AssertionError):   # what differs is told below
+            trawlex.wait_for(lambda: self.stored() == other, 20, "the other value of every switch")
+        self.assertEqual(self.stored(), other)
+
+    def end(self):
+        self.click("picANEnd")
+        if self.stored().get("chkShutDownPrompt") == "1":
+            self.display.do("windowfocus", "--sync", self.wait_for_window("Program will terminate"))
+            self.display.do("key", "alt+y")
+        self.assertEqual(self.window.wait(timeout=20), 0)
+
+    def test_every_switch_is_kept_and_comes_back(self):
+        self.start_with(**{key: "0" for key in self.KEYS})
+        first = {key: "0" for key in self.KEYS}
+        for tab in range(4):
+            self.click(f"sstSearch({tab})")
+        self.flip(first)
+        self.end()
+        self.start()
+        self.flip({key: "1" for key in self.KEYS})
+        self.end()
 
 
 class BuiltInBrowser(WindowCase):
