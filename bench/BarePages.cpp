@@ -74,6 +74,13 @@ void BareDatabase::fill(int rows, int pageLength)
     run("COMMIT; PRAGMA wal_checkpoint(TRUNCATE); PRAGMA synchronous=FULL");
 }
 
+void BareDatabase::dropIndexes()
+{
+    for (const char *index : {"ByUrlInSiteSummary", "ByAddressInEmailAddress", "ByNumberInPhoneNumber",
+                              "ByUrlInPassUrlsA", "ByMaskNameInPassUrlsA"})
+        run((std::string("DROP INDEX ") + index).c_str());
+}
+
 bool BareDatabase::exists(sqlite3_stmt *query, const std::string &value)
 {
     sqlite3_bind_text(query, 1, value.data(), static_cast<int>(value.size()), SQLITE_STATIC);

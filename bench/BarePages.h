@@ -30,6 +30,8 @@ class BareDatabase
 
     /// Fills the four tables that a page writes to with that many rows, pages of `pageLength` among them.
     void fill(int rows, int pageLength);
+    /// Takes all indexes away, so that the mark has neither their help nor their cost.
+    void dropIndexes();
     /// Stores one page with its uniqueness queries.
     void store(const BarePage &page);
 

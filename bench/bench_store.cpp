@@ -1,280 +1,231 @@
-// The database. Storing one harvested page is measured against the same rows written by bare prepared statements: page
-// by page in turn, in the same run, each in a database of its own, with a thousand rows in each table and with a
-// million. The other figures: opening a file of 1 GB, the first look for a summary row, counting and walking a million
-// rows.
-#include "BarePages.h"
-#include "pages/Addresses.h"
+// The database at the sizes that matter, each figure beside the one that is wanted. Storing a harvested page is
+// measured against the same rows written by bare prepared statements, page by page in turn, in the same run, each in a
+// database of its own. TMPDIR says on which disk; in a memory file system (TMPDIR=/dev/shm) only the work is left.
+#include "StorePages.h"
 #include "store/FixNull.h"
-#include "store/MaskNames.h"
-#include "store/Schema.h"
-#include "store/SiteSummaryIndex.h"
+#include "store/TablePages.h"
 #include "store/Transaction.h"
-#include "store/cAdoMdb.h"
-#include "store/rows/StoredDates.h"
 #include "util/Memory.h"
 
 #include <QFile>
-#include <QTemporaryDir>
-#include <algorithm>
-#include <benchmark/benchmark.h>
 #include <chrono>
+#include <cstdlib>
+#include <ctime>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-class StandardError : public ErrorReceiver
-{
-  public:
-    void ErrorLogger(qint64 number, const QString &description, const QString &, const QString &location) override
-    {
-        std::fprintf(stderr, "bench: %lld %s (%s)\n", static_cast<long long>(number), qUtf8Printable(description),
-                     qUtf8Printable(location));
-        std::exit(1);
-    }
-};
-
-StandardError errors;
-
-QTemporaryDir &folder()
-{
-    static QTemporaryDir made;
-    return made;
-}
-
-QString serverOf(const QString &url)
-{
-    return cIEText::GetServerFromUrl(url, cIEText::hostOnly);
-}
-
-/// A new file of the system's schema with that many rows in the tables that a page writes to.
-QString makeDatabase(const QString &name, int rows, int pageLength)
-{
-    cAdoMdb database(errors);
-    database.setDatabasePath(folder().filePath(name));
-    declareSchema(database);
-    static_cast<void>(database.CreateDatabase(true));
-    database.CloseConnection();
-    BareDatabase(database.DatabasePath().toStdString()).fill(rows, pageLength);
-    return database.DatabasePath();
-}
-
-std::unique_ptr<cAdoMdb> openDatabase(const QString &path)
-{
-    auto database = std::make_unique<cAdoMdb>(errors);
-    database->setDatabasePath(path);
-    declareSchema(*database);
-    if (!database->TestDatabase(true))
-        std::exit(1);
-    return database;
-}
-
-/// What the page `number` (from 0) brings to a database of that many rows in each table.
-BarePage barePage(int number, int rows)
-{
-    const std::string text = std::to_string(number);
-    BarePage page;
-    page.title = "A page of the harvest " + text;
-    page.url = "http://www.harvest" + text + ".example/contact/index" + text + ".html";
-    page.page.reserve(100'000);
-    while (page.page.size() < 100'000)
-        page.page +=
-            "<p class=\"entry\">Some text of an ordinary page, \xC3\xA4 bit of it with umlauts. " + text + "</p>\n";
-    page.page.resize(100'000, ' ');
-    for (std::size_t place = 0; place < page.addresses.size(); ++place)
-        page.addresses[place] = "person" + std::to_string(place) + "@harvest" + text + ".example";
-    for (std::size_t place = 0; place < page.numbers.size(); ++place)
-        page.numbers[place] = "(0" + std::to_string(place) + "0) 555-" + text;
-    page.mask = "PassUrl-" + std::to_string(100 + rows + number);
-    page.date = StoredDates::today().toStdString();
-    return page;
-}
-
-/// The same page in the form in which the program has it.
-struct Page
-{
-    explicit Page(const BarePage &bare)
-        : title(QString::fromStdString(bare.title)), url(QString::fromStdString(bare.url)),
-          page(QString::fromStdString(bare.page))
-    {
-        for (const std::string &address : bare.addresses)
-            addresses.append(QString::fromStdString(address));
-        for (const std::string &number : bare.numbers)
-            numbers.append(QString::fromStdString(number));
-    }
-
-    QString title;
-    QString url;
-    QString page;
-    QStringList addresses;
-    QStringList numbers;
-};
-
-/// Stores pages through the database object, statement by statement as the writers do.
-class PageWriter
-{
-  public:
-    explicit PageWriter(cAdoMdb &database) : mDatabase(database) {}
-
-    void store(const Page &page)
-    {
-        Transaction transaction(mDatabase);
-        if (isNew(u"SELECT * FROM SiteSummary WHERE Url='"_s + page.url + u"'"_s))
-            write(u"SiteSummary"_s, {recordElement("Title"_L1, page.title), recordElement("Url"_L1, page.url),
-                                     recordElement("FullPage"_L1, page.page)});
-        const QString forAddresses = summaryIndex(page.url);
-        for (const QString &address : page.addresses) {
-            if (isNew(u"SELECT Address FROM EmailAddress WHERE address='"_s + address + u"'"_s))
-                write(u"EmailAddress"_s, {recordElement("SSIndex"_L1, forAddresses),
-                                          recordElement("Address"_L1, address), recordElement("Url"_L1, page.url)});
-        }
-        const QString forNumbers = summaryIndex(page.url);
-        for (const QString &number : page.numbers) {
-            if (isNew(u"SELECT Number FROM PhoneNumber WHERE Number='"_s + number + u"'"_s))
-                write(u"PhoneNumber"_s, {recordElement("SSIndex"_L1, forNumbers), recordElement("Number"_L1, number),
-                                         recordElement("Type"_L1, u"Any"_s), recordElement("Url"_L1, page.url)});
-        }
-        if (isNew(u"SELECT Url FROM PassUrlsA WHERE Url='"_s + page.url + u"'"_s))
-            write(u"PassUrlsA"_s,
-                  {recordElement("SSIndex"_L1, summaryIndex(page.url)),
-                   recordElement("MaskName"_L1, mNames.find(mDatabase, u"PassUrlsA"_s, u"PassUrl-99"_s)),
-                   recordElement("Url"_L1, page.url)});
-        if (!transaction.commit())
-            std::exit(1);
-    }
-
-  private:
-    bool isNew(const QString &statement) { return mDatabase.GetRecordset(statement).isEmpty(); }
-
-    void write(const QString &table, const QStringList &elements)
-    {
-        if (!mDatabase.AddRecord(elements, -1, table, rowMarker))
-            std::exit(1);
-    }
-
-    QString summaryIndex(const QString &url) { return QString::number(mIndex.find(mDatabase, url, serverOf(url))); }
-
-    cAdoMdb &mDatabase;
-    SiteSummaryIndex mIndex{serverOf};
-    NewMaskNames mNames;
-};
-
+constexpr int million = 1'000'000;
 using Clock = std::chrono::steady_clock;
 
-template <class Work> double microseconds(Work &&work)
+template <class Work> double milliseconds(Work &&work)
 {
     const auto start = Clock::now();
     work();
-    return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-double median(std::vector<double> values)
+template <class Work> double processorMilliseconds(Work &&work)
 {
-    std::nth_element(values.begin(), values.begin() + std::ptrdiff_t(values.size() / 2), values.end());
-    return values[values.size() / 2];
+    const std::clock_t start = std::clock();
+    work();
+    return 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-/// One page through the database object and one bare, in turn. The figure of a run is the ratio of the medians.
-void storePage(benchmark::State &state)
+void row(const QString &what, const QString &wanted, const QString &now, bool met)
 {
-    const int rows = static_cast<int>(state.range(0));
+    std::printf("| %s | %s | %s | %s |\n", qUtf8Printable(what), qUtf8Printable(wanted), qUtf8Printable(now),
+                wanted.isEmpty() ? ""
+                : met            ? "met"
+                                 : "not met");
+    std::fflush(stdout);
+}
+
+QString number(double value, const char *unit)
+{
+    return QString::number(value, 'g', 3) + u' ' + QLatin1StringView(unit);
+}
+
+// A busy machine gives figures that nobody can compare.
+void tellHowQuietTheMachineIs()
+{
+    std::array<double, 1> load{};
+    if (getloadavg(load.data(), 1) == 1 && load[0] > 0.5)
+        std::printf("The machine is not quiet: %.1f programs want its %u processors. Ratios and processor times hold, "
+                    "other times are too long.\n\n",
+                    load[0], std::thread::hardware_concurrency());
+}
+
+/// One page through the database object and one bare, in turn.
+void storePages(int rows, const char *marksIndexes)
+{
+    constexpr int pages = 600;
+    const bool indexed = *marksIndexes == '\0';
     const QString own = makeDatabase(u"own.mdb"_s, rows, 0);
-    const QString bare = folder().filePath(u"bare.mdb"_s);
+    const QString bare = benchFile(u"bare.mdb"_s);
     QFile::remove(bare);
     QFile::copy(own, bare);
     const auto database = openDatabase(own);
     PageWriter writer(*database);
     BareDatabase mark(bare.toStdString());
-    int number = 0;
-    const BarePage warm = barePage(number, rows);
+    if (!indexed)
+        mark.dropIndexes();
+    const BarePage warm = barePage(0, rows);
     mark.store(warm);
     writer.store(Page(warm));
     std::vector<double> ownTimes;
     std::vector<double> bareTimes;
-    for (auto _ : state) {
-        const BarePage page = barePage(++number, rows);
-        const Page text(page);
-        const auto storeOwn = [&] { ownTimes.push_back(microseconds([&] { writer.store(text); })); };
-        const auto storeBare = [&] { bareTimes.push_back(microseconds([&] { mark.store(page); })); };
+    for (int page = 1; page <= pages; ++page) {
+        const BarePage bytes = barePage(page, rows);
+        const Page text(bytes);
+        const auto storeOwn = [&] { ownTimes.push_back(milliseconds([&] { writer.store(text); })); };
+        const auto storeBare = [&] { bareTimes.push_back(milliseconds([&] { mark.store(bytes); })); };
         // Who goes first changes, so that neither always finds the disk busy with the other.
-        if (number % 2 == 0) {
+        if (page % 2 == 0)
             storeOwn();
-            storeBare();
-        } else {
-            storeBare();
+        storeBare();
+        if (page % 2 != 0)
             storeOwn();
-        }
-        state.SetIterationTime(ownTimes.back() / 1e6);
     }
-    state.counters["own_us"] = median(ownTimes);
-    state.counters["bare_us"] = median(bareTimes);
-    state.counters["ratio"] = median(ownTimes) / median(bareTimes);
+    const double ratio = median(ownTimes) / median(bareTimes);
+    row(u"storing one page, %1 rows in each table, against bare statements%2"_s.arg(rows).arg(
+            QLatin1StringView(marksIndexes)),
+        indexed ? u"1.3"_s : QString(),
+        u"%1 (%2 ms to %3 ms; worst %4 to %5)"_s.arg(ratio, 0, 'f', 2)
+            .arg(median(ownTimes), 0, 'f', 3)
+            .arg(median(bareTimes), 0, 'f', 3)
+            .arg(worst(ownTimes), 0, 'f', 2)
+            .arg(worst(bareTimes), 0, 'f', 2),
+        ratio < 1.3);
 }
 
-qint64 residentKilobytes()
+void storeBesideAnotherWriter()
 {
-    QFile file(u"/proc/self/statm"_s);
-    constexpr qint64 pageKilobytes = 4;
-    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toLongLong() * pageKilobytes : 0;
+    constexpr int rows = 100'000;
+    const auto database = openDatabase(makeDatabase(u"own.mdb"_s, rows, 0));
+    PageWriter writer(*database);
+    BareDatabase other(database->DatabasePath().toStdString());
+    writer.store(Page(barePage(0, rows)));
+    std::vector<double> times;
+    for (int page = 1; page <= 100; ++page) {
+        other.store(barePage(1000 + page, rows));
+        const Page text(barePage(page, rows));
+        times.push_back(milliseconds([&] { writer.store(text); }));
+    }
+    row(u"each page while another program writes to the same database, 100,000 rows"_s, u"5 ms"_s,
+        number(median(times), "ms") + u" (worst of 100: "_s + number(worst(times), "ms") + u')', median(times) < 5);
 }
 
-/// Opening a file of 1 GB, with its test and the first row of its largest table.
-void openLargeFile(benchmark::State &state)
+void firstPageOfARun(const QString &path)
+{
+    {
+        const auto database = openDatabase(path);
+        const double once = milliseconds([&] { PageWriter(*database).store(Page(barePage(0, million))); });
+        row(u"the first page that a database of 1,000,000 rows ever gets (its index is made)"_s, {}, number(once, "ms"),
+            true);
+    }
+    const qint64 before = residentKilobytes();
+    const auto database = openDatabase(path);
+    PageWriter writer(*database);
+    const Page text(barePage(1, million));
+    const double first = milliseconds([&] { writer.store(text); });
+    const double megabytes = double(residentKilobytes() - before) / 1000;
+    row(u"first page of a run at 1,000,000 rows in each table"_s, u"50 ms, 80 MB"_s,
+        number(first, "ms") + u", "_s + number(megabytes, "MB"), first < 50 && megabytes < 80);
+}
+
+void walk(cAdoMdb &database)
+{
+    qint64 characters = 0;
+    const double time = processorMilliseconds([&] {
+        Recordset rows = database.GetRecordset(u"SELECT Url FROM SiteSummary"_s);
+        for (; !rows.Eof(); rows.MoveNext())
+            characters += FixNull(rows.Fields()[0]).size();
+    });
+    if (characters < million)
+        std::exit(1);
+    row(u"walking 1,000,000 rows, processor time a row"_s, u"0.5 us"_s, number(time * 1000 / million, "us"),
+        time * 1000 / million < 0.5);
+}
+
+void showGrid(cAdoMdb &database)
+{
+    const auto screen = [](const TablePages &pages, qint64 from) {
+        qsizetype characters = 0;
+        for (qint64 place = from; place < from + 40; ++place)
+            for (int column = 0; column < static_cast<int>(pages.columns().size()); ++column)
+                characters += pages.cell(place, column).size();
+        return characters;
+    };
+    double first = milliseconds([&] { screen(TablePages(database, u"SiteSummary"_s), 0); });
+    row(u"a grid's first 40 rows of 1,000,000"_s, u"100 ms"_s, number(first, "ms"), first < 100);
+    const TablePages pages(database, u"SiteSummary"_s);
+    row(u"how many rows there are"_s, {}, number(milliseconds([&] { static_cast<void>(pages.rowCount()); }), "ms"),
+        true);
+    row(u"its last 40 rows"_s, {}, number(milliseconds([&] { screen(pages, million - 40); }), "ms"), true);
+    const auto shown = [&](const TablePages::Filter &filter, const TablePages::Sorting &sorting) {
+        return number(milliseconds([&] {
+                          const TablePages chosen(database, u"SiteSummary"_s, filter, sorting);
+                          static_cast<void>(chosen.rowCount());
+                          screen(chosen, 0);
+                      }),
+                      "ms");
+    };
+    row(u"filtered by a text that a tenth of them holds, all counted"_s, {}, shown({u"Url"_s, u"site77"_s}, {}), true);
+    row(u"sorted by an address (has an index)"_s, {}, shown({}, {u"Url"_s, Qt::DescendingOrder}), true);
+    row(u"sorted by a title (has none)"_s, {}, shown({}, {u"Title"_s}), true);
+    QList<qint64> keys;
+    for (qint64 key = 1; keys.size() < 10'000; key += 97)
+        keys.append(key);
+    const double removing = milliseconds([&] { static_cast<void>(removeRows(database, u"SiteSummary"_s, keys)); });
+    row(u"removing 10,000 rows of it"_s, u"2000 ms"_s, number(removing, "ms"), removing < 2000);
+}
+
+void readTitlesBesidePages()
+{
+    const auto database = openDatabase(makeDatabase(u"wide.mdb"_s, 40, 1'000'000));
+    const auto titles = [&](const QString &statement) {
+        return processorMilliseconds([&] {
+            Recordset rows = database->GetRecordset(statement);
+            for (; !rows.Eof(); rows.MoveNext())
+                static_cast<void>(FixNull(rows.Fields()["Title"_L1]));
+        });
+    };
+    const double few = titles(u"SELECT Title FROM SiteSummary"_s);
+    const double all = titles(u"SELECT * FROM SiteSummary"_s);
+    row(u"40 titles beside pages of 1 MB, all columns chosen"_s, u"1 ms"_s,
+        number(all, "ms") + u" ("_s + number(few, "ms") + u" where only the titles are)"_s, all < 1);
+}
+
+void openLargeFile()
 {
     const QString path = makeDatabase(u"large.mdb"_s, 10'000, 100'000);
     const qint64 before = residentKilobytes();
-    for (auto _ : state) {
+    const double time = milliseconds([&] {
         const auto database = openDatabase(path);
-        const Recordset rows = database->GetRecordset(u"SELECT * FROM SiteSummary"_s);
-        benchmark::DoNotOptimize(rows.Fields()["Url"_L1].Value());
-    }
-    state.counters["file_MB"] = static_cast<double>(QFile(path).size()) / 1e6;
-    state.counters["memory_KB"] = static_cast<double>(residentKilobytes() - before);
+        static_cast<void>(database->GetRecordset(u"SELECT * FROM SiteSummary"_s).Fields()["Url"_L1].Value());
+    });
+    row(u"opening a file of 1 GB, with the test of its tables and the first row"_s, {},
+        number(time, "ms") + u", "_s + number(double(residentKilobytes() - before) / 1000, "MB"), true);
+    QFile::remove(path);
 }
-
-/// The first look for a summary row, which reads all addresses, and the memory that it takes for good.
-void firstSummaryLook(benchmark::State &state)
-{
-    const QString path = makeDatabase(u"own.mdb"_s, static_cast<int>(state.range(0)), 0);
-    const auto database = openDatabase(path);
-    const qint64 before = residentKilobytes();
-    qint64 after = before;
-    for (auto _ : state) {
-        SiteSummaryIndex index(serverOf);
-        benchmark::DoNotOptimize(index.find(*database, u"http://none.example/"_s, u"none.example"_s));
-        after = residentKilobytes();
-    }
-    state.counters["memory_KB"] = static_cast<double>(after - before);
-}
-
-void countRows(benchmark::State &state)
-{
-    const auto database = openDatabase(makeDatabase(u"own.mdb"_s, static_cast<int>(state.range(0)), 0));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(database->GetRecordset(u"SELECT * FROM EmailAddress"_s).RecordCount());
-}
-
-void walkRows(benchmark::State &state)
-{
-    const auto database = openDatabase(makeDatabase(u"own.mdb"_s, static_cast<int>(state.range(0)), 0));
-    for (auto _ : state) {
-        Recordset rows = database->GetRecordset(u"SELECT Url FROM SiteSummary"_s);
-        for (; !rows.Eof(); rows.MoveNext())
-            benchmark::DoNotOptimize(FixNull(rows.Fields()[0]));
-    }
-}
-
-BENCHMARK(storePage)->Arg(1'000)->Arg(1'000'000)->Iterations(600)->UseManualTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(openLargeFile)->Unit(benchmark::kMillisecond);
-BENCHMARK(firstSummaryLook)->Arg(1'000)->Arg(1'000'000)->Iterations(3)->Unit(benchmark::kMillisecond);
-BENCHMARK(countRows)->Arg(1'000'000)->Iterations(3)->Unit(benchmark::kMillisecond);
-BENCHMARK(walkRows)->Arg(1'000'000)->Iterations(1)->Unit(benchmark::kMillisecond);
 } // namespace
 
-int main(int argc, char *argv[])
+int main()
 {
     keepFreedMemory(); // as the programs do
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
+    tellHowQuietTheMachineIs();
+    std::puts("| Work | wanted under | now | |\n|---|---|---|---|");
+    storePages(1000, "");
+    storePages(1000, " without indexes");
+    storePages(million, "");
+    storeBesideAnotherWriter();
+    const QString path = makeDatabase(u"own.mdb"_s, million, 0);
+    firstPageOfARun(path);
+    const auto database = openDatabase(path);
+    walk(*database);
+    showGrid(*database);
+    readTitlesBesidePages();
+    openLargeFile();
 }

@@ -5,6 +5,8 @@
 #include "store/rows/SummaryKeys.h"
 #include "util/Text.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -90,24 +92,32 @@ bool SiteSummaryIndex::beginTail(Connection &connection, const TableInfo &table)
     if (!mark)
         mark = marks.set(markName(), {});
     mTail.clear();
-    mTailRows.clear();
+    mRowKeyss.clear();
     mLastRow = keys.lastRow();
     mState.mark = mark->id;
     return true;
 }
 
+SiteSummaryIndex::RowKeys SiteSummaryIndex::keysOf(qint64 row, const QString &url) const
+{
+    return {row, SummaryKeys::keyOf(cUtility::lowered(url)), SummaryKeys::keyOf(cUtility::lowered(mServerOf(url)))};
+}
+
 void SiteSummaryIndex::makeKeys(Connection &connection, const TableInfo &table) const
 {
-    SummaryKeys keys(connection, table);
-    keys.make();
+    // They come from the index of the addresses, in its order, since the table itself holds the pages; the keys go in
+    // by row, one behind the other.
+    std::vector<RowKeys> all;
     {
         Statement rows = connection.prepare("SELECT " + table.key + ",[Url] FROM " + table.quoted);
-        while (rows.step()) {
-            const QString url = rows.text(1);
-            keys.add(rows.integer(0), SummaryKeys::keyOf(cUtility::lowered(url)),
-                     SummaryKeys::keyOf(cUtility::lowered(mServerOf(url))));
-        }
+        while (rows.step())
+            all.push_back(keysOf(rows.integer(0), rows.text(1)));
     }
+    std::sort(all.begin(), all.end(), [](const RowKeys &left, const RowKeys &right) { return left.row < right.row; });
+    SummaryKeys keys(connection, table);
+    keys.make();
+    for (const RowKeys &row : all)
+        keys.add(row.row, row.urlKey, row.serverKey);
     keys.finish();
 }
 
@@ -117,28 +127,26 @@ void SiteSummaryIndex::takeRows(Connection &connection, const TableInfo &table)
                                         ">?1 ORDER BY " + table.key);
     rows.bind(1, mLastRow);
     while (rows.step()) {
-        const QString url = rows.text(1);
         mLastRow = rows.integer(0);
-        mTail.push_back({mLastRow, SummaryKeys::keyOf(cUtility::lowered(url)),
-                         SummaryKeys::keyOf(cUtility::lowered(mServerOf(url)))});
-        mTailRows.insert(mTail.back().urlKey, mLastRow);
-        mTailRows.insert(mTail.back().serverKey, mLastRow);
+        mTail.push_back(keysOf(mLastRow, rows.text(1)));
+        mRowKeyss.insert(mTail.back().urlKey, mLastRow);
+        mRowKeyss.insert(mTail.back().serverKey, mLastRow);
     }
 }
 
 void SiteSummaryIndex::moveTail(Connection &connection, const TableInfo &table)
 {
     SummaryKeys keys(connection, table);
-    for (const TailRow &row : mTail)
+    for (const RowKeys &row : mTail)
         keys.add(row.row, row.urlKey, row.serverKey);
     mTail.clear();
-    mTailRows.clear();
+    mRowKeyss.clear();
 }
 
 qint64 SiteSummaryIndex::firstInTail(quint32 key, qint64 after) const
 {
     qint64 first = SummaryKeys::noRow;
-    const auto [begin, end] = mTailRows.equal_range(key);
+    const auto [begin, end] = mRowKeyss.equal_range(key);
     for (auto row = begin; row != end; ++row) {
         if (*row > after)
             first = std::min(first, *row);

@@ -47,7 +47,7 @@ class SiteSummaryIndex
         qint64 mark = 0;
         [[nodiscard]] bool operator==(const State &) const = default;
     };
-    struct TailRow
+    struct RowKeys
     {
         qint64 row;
         quint32 urlKey;
@@ -58,6 +58,7 @@ class SiteSummaryIndex
     [[nodiscard]] bool refresh(const std::shared_ptr<Connection> &connection, const TableInfo &table);
     [[nodiscard]] bool isUpToDate(const std::shared_ptr<Connection> &connection, const TableInfo &table) const;
     [[nodiscard]] bool beginTail(Connection &connection, const TableInfo &table);
+    [[nodiscard]] RowKeys keysOf(qint64 row, const QString &url) const;
     void makeKeys(Connection &connection, const TableInfo &table) const;
     void takeRows(Connection &connection, const TableInfo &table);
     void moveTail(Connection &connection, const TableInfo &table);
@@ -73,8 +74,8 @@ class SiteSummaryIndex
     State mState;
     quint64 mAdditions = 0;
     // The rows behind the kept index's end, and where they stand by their keys.
-    std::vector<TailRow> mTail;
-    QMultiHash<quint32, qint64> mTailRows;
+    std::vector<RowKeys> mTail;
+    QMultiHash<quint32, qint64> mRowKeyss;
     qint64 mLastRow = 0;
     // The last question and its answer, which hold while nothing changes: a page asks the same for each kind of row.
     std::unique_ptr<Keys> mAsked;

@@ -2,11 +2,11 @@
 #include "store/rows/ColumnKinds.h"
 #include "store/sql/SqlTranslator.h"
 #include "store/sqlite/LikeFunction.h"
+#include "store/sqlite/OpenFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
-#include <QUrl>
 #include <SQLiteCpp/Database.h>
 #include <algorithm>
 #include <array>
@@ -30,57 +30,6 @@ bool isAllowedFunction(const char *name)
 {
     return name != nullptr && std::any_of(allowedFunctions.begin(), allowedFunctions.end(),
                                           [name](const char *allowed) { return sqlite3_stricmp(name, allowed) == 0; });
-}
-
-std::unique_ptr<SQLite::Database> openFile(const std::string &name, int flags)
-{
-    auto database = std::make_unique<SQLite::Database>(name, flags | SQLite::OPEN_NOMUTEX, Connection::usualPatience);
-    // The head is read now, so that a file that is no database is refused here.
-    sqlite3_extended_result_codes(database->getHandle(), 1);
-    database->exec("PRAGMA schema_version");
-    return database;
-}
-
-// A file in a folder where nothing can be made is read as it stands, which is right as long as no log lies beside it.
-std::unique_ptr<SQLite::Database> openForReading(const QString &path)
-{
-    try {
-        return openFile(path.toStdString(), SQLite::OPEN_READONLY);
-    } catch (const SQLite::Exception &error) {
-        const int code = error.getErrorCode() & 0xFF;
-        const bool logged = QFileInfo(path + "-wal"_L1).size() > 0 || QFile::exists(path + "-journal"_L1);
-        if ((code != SQLITE_CANTOPEN && code != SQLITE_READONLY) || logged || !QFile::exists(path))
-            throw;
-    }
-    const QByteArray address = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded() + "?immutable=1";
-    return openFile(address.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
-}
-
-// A file that is only to be read is opened to write too where it may be: the last one who can write clears away what
-// the engine keeps beside the file.
-std::unique_ptr<SQLite::Database> openExisting(const QString &path)
-{
-    try {
-        return openFile(path.toStdString(), SQLite::OPEN_READWRITE);
-    } catch (const SQLite::Exception &error) {
-        if ((error.getErrorCode() & 0xFF) != SQLITE_CANTOPEN && (error.getErrorCode() & 0xFF) != SQLITE_READONLY)
-            throw;
-    }
-    return openForReading(path);
-}
-
-std::unique_ptr<SQLite::Database> openAs(const QString &path, Connection::Access access)
-{
-    switch (access) {
-    case Connection::Access::Create:
-        return openFile(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    case Connection::Access::Temporary:
-        return openFile(std::string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    case Connection::Access::Read:
-    case Connection::Access::Write:
-        break;
-    }
-    return openExisting(path);
 }
 } // namespace
 
@@ -118,7 +67,7 @@ std::shared_ptr<Connection> Connection::open(const QString &path, Access access)
     const QString place = path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
     return openingStep(place, [&] {
         // The constructor is private: nobody makes a connection without the settings that keep it safe.
-        return std::shared_ptr<Connection>(new Connection(openAs(path, access), place, access));
+        return std::shared_ptr<Connection>(new Connection(openDatabaseFile(path, access), place, access));
     });
 }
 
