@@ -8,6 +8,8 @@
 #include "util/Memory.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QProcess>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -117,22 +119,35 @@ void storeBesideAnotherWriter()
         number(median(times), "ms") + u" (worst of 100: "_s + number(worst(times), "ms") + u')', median(times) < 5);
 }
 
+/// The part of another process: opens the file, stores one page, and tells how long that took and what it has in
+/// memory.
+int storeFirstPage(const QString &path)
+{
+    const auto database = openDatabase(path);
+    PageWriter writer(*database);
+    const Page text(barePage(1, million));
+    const double time = milliseconds([&] { writer.store(text); });
+    std::printf("%f %lld", time, static_cast<long long>(residentKilobytes()));
+    return 0;
+}
+
 void firstPageOfARun(const QString &path)
 {
     {
         const auto database = openDatabase(path);
-        const double once = milliseconds([&] { PageWriter(*database).store(Page(barePage(0, million))); });
-        row(u"the first page that a database of 1,000,000 rows ever gets (its index is made)"_s, {}, number(once, "ms"),
-            true);
+        const double once = processorMilliseconds([&] { PageWriter(*database).store(Page(barePage(0, million))); });
+        row(u"the first page that a database of 1,000,000 rows ever gets (its index is made), processor time"_s, {},
+            number(once, "ms"), true);
     }
-    const qint64 before = residentKilobytes();
-    const auto database = openDatabase(path);
-    PageWriter writer(*database);
-    const Page text(barePage(1, million));
-    const double first = milliseconds([&] { writer.store(text); });
-    const double megabytes = double(residentKilobytes() - before) / 1000;
-    row(u"first page of a run at 1,000,000 rows in each table"_s, u"50 ms, 80 MB"_s,
-        number(first, "ms") + u", "_s + number(megabytes, "MB"), first < 50 && megabytes < 80);
+    QProcess run;
+    run.start(QFileInfo(u"/proc/self/exe"_s).symLinkTarget(), {u"--first-page"_s, path});
+    if (!run.waitForFinished(-1) || run.exitCode() != 0)
+        std::exit(1);
+    const QList<QByteArray> told = run.readAllStandardOutput().split(' ');
+    const double time = told.value(0).toDouble();
+    const double megabytes = told.value(1).toDouble() / 1000;
+    row(u"first page of a run at 1,000,000 rows in each table; all memory of the process"_s, u"50 ms, 80 MB"_s,
+        number(time, "ms") + u", "_s + number(megabytes, "MB"), time < 50 && megabytes < 80);
 }
 
 void walk(cAdoMdb &database)
@@ -212,9 +227,11 @@ void openLargeFile()
 }
 } // namespace
 
-int main()
+int main(int count, char **arguments)
 {
     keepFreedMemory(); // as the programs do
+    if (count == 3)
+        return storeFirstPage(QString::fromLocal8Bit(arguments[2]));
     tellHowQuietTheMachineIs();
     std::puts("| Work | wanted under | now | |\n|---|---|---|---|");
     storePages(1000, "");
