@@ -76,9 +76,14 @@ std::optional<qint64> TablePages::key(qint64 row) const
     return mKeys->reach(row) ? std::optional(mKeys->key(row)) : std::nullopt;
 }
 
+bool TablePages::hasCell(qint64 row, int column) const
+{
+    return column >= 0 && column < static_cast<int>(mKeys->query().columns.size()) && mKeys->reach(row);
+}
+
 QVariant TablePages::value(qint64 row, int column) const
 {
-    if (!mKeys->reach(row) || column < 0 || column >= static_cast<int>(mKeys->query().columns.size()))
+    if (!hasCell(row, column))
         return {};
     try {
         return mReader->value(row, column);
@@ -91,7 +96,7 @@ QVariant TablePages::value(qint64 row, int column) const
 
 QString TablePages::cell(qint64 row, int column) const
 {
-    if (!mKeys->reach(row) || column < 0 || column >= static_cast<int>(mKeys->query().columns.size()))
+    if (!hasCell(row, column))
         return {};
     switch (kind(column)) {
     case ColumnKind::LongVarWChar:

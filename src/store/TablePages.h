@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <memory>
+#include <optional>
 
 class KeySet;
 class RowReader;
@@ -56,7 +57,7 @@ class TablePages
     static constexpr int longestCell = 1000;
 
   private:
-    [[nodiscard]] bool hasRow(qint64 row, int column) const;
+    [[nodiscard]] bool hasCell(qint64 row, int column) const;
 
     std::shared_ptr<KeySet> mKeys;
     std::unique_ptr<RowReader> mReader;

@@ -133,6 +133,23 @@ TEST_F(MaskNamesTest, ALaterRunGoesOnWhereTheLastOneEnded)
     EXPECT_EQ(NewMaskNames().find(*mDatabase, table, start), u"PassUrl-200"_s);
 }
 
+TEST_F(MaskNamesTest, TwoProgramsNeverGiveTheSameName)
+{
+    auto other = declared(u"Trawlex-0.mdb"_s);
+    ASSERT_TRUE(other->TestDatabase(true));
+    NewMaskNames otherNames;
+    std::mt19937 random(3);
+    for (int row = 0; row < 300; ++row) {
+        const bool first = random() % 3 != 0;
+        cAdoMdb &database = first ? *mDatabase : *other;
+        Transaction transaction(database);
+        const QString name = (first ? mNames : otherNames).find(database, table, start);
+        ASSERT_EQ(name, u"PassUrl-%1"_s.arg(100 + row));
+        add(database, table, {{"MaskName"_L1, name}});
+        ASSERT_TRUE(transaction.commit());
+    }
+}
+
 TEST_F(MaskNamesTest, ANumberMayStandAnywhereInTheStart)
 {
     for (const auto *name : {u"a100-x", u"A101-X", u"a0102-x", u"a102", u"a-102-x"})

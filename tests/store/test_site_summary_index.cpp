@@ -225,6 +225,25 @@ TEST_F(SummaryIndexTest, TheIndexIsKeptAndALaterRunReadsOnlyWhatWasAddedBehindIt
     sqlite3_close(other);
 }
 
+TEST_F(SummaryIndexTest, TwoProgramsKeepTheSameIndex)
+{
+    auto other = declared(u"Trawlex-0.mdb"_s);
+    ASSERT_TRUE(other->TestDatabase(true));
+    SiteSummaryIndex otherIndex(serverOf);
+    std::mt19937 random(3);
+    for (int page = 0; page < 400; ++page) {
+        const bool first = random() % 3 != 0;
+        cAdoMdb &database = first ? *mDatabase : *other;
+        SiteSummaryIndex &index = first ? mIndex : otherIndex;
+        Transaction transaction(database);
+        const QString url = u"http://s%1.de/p%2"_s.arg(random() % 300).arg(page);
+        add(database, u"SiteSummary"_s, {{"Url"_L1, url}});
+        ASSERT_EQ(index.find(database, url, serverOf(url)), plainWalk(database, url, serverOf(url))) << mLog.text();
+        ASSERT_TRUE(transaction.commit()) << mLog.text();
+    }
+    EXPECT_TRUE(mLog.entries.isEmpty()) << mLog.text();
+}
+
 TEST_F(SummaryIndexTest, OutsideATransactionNothingIsMade)
 {
     addPage(u"http://a.de/"_s);

@@ -31,7 +31,7 @@ qint64 SummaryKeys::lastRow()
 
 void SummaryKeys::add(qint64 row, quint32 urlKey, quint32 serverKey)
 {
-    mConnection.prepare("INSERT INTO " + keysTable + " VALUES(?1,?2,?3)")
+    mConnection.prepare("INSERT OR IGNORE INTO " + keysTable + " VALUES(?1,?2,?3)")
         .bind(1, row)
         .bind(2, qint64(urlKey))
         .bind(3, qint64(serverKey))

@@ -22,6 +22,7 @@ class SummaryKeys
     /// The following four are for an index that exists.
     /// The last row that it knows; all before it are known too. The least number where it knows none.
     [[nodiscard]] qint64 lastRow();
+    /// Adds a row, unless another program has done so.
     void add(qint64 row, quint32 urlKey, quint32 serverKey);
     /// The first row behind `after` with one of the keys, or noRow.
     [[nodiscard]] qint64 firstRow(quint32 key, quint32 otherKey, qint64 after);
