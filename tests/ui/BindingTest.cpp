@@ -376,6 +376,27 @@ TEST_F(Bound, AnEditableComboTakesWhatIsTypedAndAddsNothing)
     EXPECT_EQ(widget<DropDown>("cboMNMCMNCFilter").lineEdit()->placeholderText(), u"filter of loaded links"_s);
 }
 
+TEST_F(Bound, TheLineInsideAComboTellsTheMouseAndKeepsItsKeys)
+{
+    form.frame.sstSearch.setTab(Tab::Manual);
+    form.urlFilter.cboMNMCMNCFilter.setText(u"team"_s);
+    settle();
+    QLineEdit &line = *widget<DropDown>("cboMNMCMNCFilter").lineEdit();
+    const Raised doubles(form.urlFilter.cboMNMCMNCFilter, &Control::doubleClicked);
+    const Raised presses(form.urlFilter.cboMNMCMNCFilter, &Control::mousePressed);
+    const Raised keys(form.urlFilter.cboMNMCMNCFilter, &Control::keyPressed);
+    QTest::mouseClick(&line, Qt::LeftButton);
+    QTest::mouseDClick(&line, Qt::LeftButton);
+    EXPECT_EQ(presses.times(), 1);
+    EXPECT_EQ(doubles.times(), 1);
+    line.setFocus();
+    line.setCursorPosition(0);
+    line.deselect();
+    QTest::keyClick(&line, Qt::Key_Delete);
+    EXPECT_EQ(form.urlFilter.cboMNMCMNCFilter.text(), u"eam"_s);
+    EXPECT_EQ(keys.times(), 0);
+}
+
 TEST_F(Bound, TheListOnShowIsTheOneThatIsChosen)
 {
     form.frame.sstSearch.setTab(Tab::Manual);

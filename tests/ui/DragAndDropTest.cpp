@@ -1,6 +1,6 @@
 // Text and files dropped on widgets reach their controls; the keys that add and delete do, too.
-#include "WindowFixture.h"
 #include "ui/binding/DragAndDrop.h"
+#include "WindowFixture.h"
 #include "ui/widgets/DropDown.h"
 #include "ui/widgets/ItemList.h"
 
@@ -55,6 +55,9 @@ TEST_F(Drops, OfTextReachTheAddressOfTheSeries)
     listenTo(form.series.cboMNAutoUrl);
     EXPECT_TRUE(drop(widget<DropDown>("cboMNAutoUrl"), data));
     EXPECT_EQ(dropped.size(), 1);
+    EXPECT_TRUE(drop(*widget<DropDown>("cboMNAutoUrl").lineEdit(), data));
+    EXPECT_EQ(dropped.size(), 2) << "the line inside is the box for who drops on it";
+    EXPECT_EQ(form.series.cboMNAutoUrl.text(), QString());
 }
 
 TEST_F(Drops, OfFoldersAndFilesReachThePathBoxesAsPaths)
@@ -100,7 +103,8 @@ TEST_F(Drops, AreAskedForWithTheRightButtonAlone)
     QObject::connect(&form.saved.cmdANSavedGo, &Control::dragStarted, &form, [&](QString *) { ++asked; });
     for (const Qt::MouseButton pressed : {Qt::LeftButton, Qt::RightButton}) {
         QTest::mousePress(&button, pressed, {}, QPoint(5, 5));
-        QMouseEvent move(QEvent::MouseMove, QPointF(60, 5), button.mapToGlobal(QPointF(60, 5)), Qt::NoButton, pressed, {});
+        QMouseEvent move(QEvent::MouseMove, QPointF(60, 5), button.mapToGlobal(QPointF(60, 5)), Qt::NoButton, pressed,
+                         {});
         QCoreApplication::sendEvent(&button, &move);
         QTest::mouseRelease(&button, pressed, {}, QPoint(60, 5));
         EXPECT_EQ(asked, pressed == Qt::RightButton ? 1 : 0);
@@ -110,7 +114,8 @@ TEST_F(Drops, AreAskedForWithTheRightButtonAlone)
 TEST_F(Drops, TheKeysThatAddAndDeleteReachTheLists)
 {
     QList<EditKey> keys;
-    QObject::connect(&form.criteria.mustContain.items, &Control::keyPressed, &form, [&](EditKey key) { keys.append(key); });
+    QObject::connect(&form.criteria.mustContain.items, &Control::keyPressed, &form,
+                     [&](EditKey key) { keys.append(key); });
     auto &list = widget<ItemList>("lstANMC");
     QTest::keyClick(&list, Qt::Key_Insert);
     QTest::keyClick(&list, Qt::Key_Delete);

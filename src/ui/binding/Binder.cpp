@@ -77,6 +77,9 @@ Binding::Binding(Control &control, QWidget &widget, Bindings::Bound bound)
         view->viewport()->installEventFilter(this);
     else
         widget.setMouseTracking(true);
+    // Where one types into a combo, the line inside gets the mouse.
+    if (const auto *const combo = qobject_cast<QComboBox *>(&widget); combo != nullptr && combo->isEditable())
+        combo->lineEdit()->installEventFilter(this);
 }
 
 void Binding::show()
@@ -146,6 +149,7 @@ bool Binding::eventFilter(QObject *watched, QEvent *event)
 {
     if (!mControl.isEnabled() || !mWidget.isEnabled())
         return QObject::eventFilter(watched, event);
+    const bool inner = watched != &mWidget && qobject_cast<QLineEdit *>(watched) != nullptr;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -154,12 +158,12 @@ bool Binding::eventFilter(QObject *watched, QEvent *event)
         mControl.mouseMove();
         return false;
     case QEvent::KeyPress:
-        return keyPressed(*event);
+        return !inner && keyPressed(*event);
     case QEvent::ContextMenu:
         if (static_cast<QContextMenuEvent *>(event)->reason() != QContextMenuEvent::Keyboard)
             return false;
         mControl.mouseDown(MouseButton::Right);
-        return qobject_cast<QLineEdit *>(&mWidget) == nullptr;
+        return !inner && qobject_cast<QLineEdit *>(&mWidget) == nullptr;
     case QEvent::FocusOut: {
         const auto reason = static_cast<QFocusEvent *>(event)->reason();
         auto *const box = qobject_cast<TextBox *>(&mControl);
@@ -203,8 +207,11 @@ bool Binding::keyPressed(const QEvent &event)
         mControl.doubleClick();
         return true;
     }
-    const bool edits = key.modifiers() == Qt::NoModifier && (key.key() == Qt::Key_Insert || key.key() == Qt::Key_Delete);
-    if (edits && qobject_cast<ListControl *>(&mControl) != nullptr) {
+    const bool edits =
+        key.modifiers() == Qt::NoModifier && (key.key() == Qt::Key_Insert || key.key() == Qt::Key_Delete);
+    const auto *const combo = qobject_cast<ComboBox *>(&mControl);
+    const bool typed = combo != nullptr && combo->style() == ComboBox::Style::DropDownCombo;
+    if (edits && !typed && qobject_cast<ListControl *>(&mControl) != nullptr) {
         mControl.keyDown(key.key() == Qt::Key_Insert ? EditKey::Insert : EditKey::Delete);
         return true;
     }

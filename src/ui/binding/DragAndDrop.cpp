@@ -2,8 +2,10 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QComboBox>
 #include <QDrag>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QUrl>
 
@@ -16,6 +18,9 @@ DragAndDrop::DragAndDrop(Control &control, QWidget &widget)
     auto *const area = qobject_cast<QAbstractScrollArea *>(&widget);
     if (area != nullptr)
         area->viewport()->installEventFilter(this);
+    // The line inside a combo would take a drop into its text.
+    if (const auto *const combo = qobject_cast<QComboBox *>(&widget); combo != nullptr && combo->isEditable())
+        combo->lineEdit()->installEventFilter(this);
     if (!mTakes)
         return;
     widget.setAcceptDrops(true);
@@ -26,7 +31,8 @@ DragAndDrop::DragAndDrop(Control &control, QWidget &widget)
 QString DragAndDrop::textOf(const QMimeData &data)
 {
     const QList<QUrl> urls = data.urls();
-    const bool files = !urls.isEmpty() && std::all_of(urls.begin(), urls.end(), [](const QUrl &url) { return url.isLocalFile(); });
+    const bool files =
+        !urls.isEmpty() && std::all_of(urls.begin(), urls.end(), [](const QUrl &url) { return url.isLocalFile(); });
     if (!files)
         return data.text();
     QStringList paths;
