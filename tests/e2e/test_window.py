@@ -259,6 +259,7 @@ class BuiltInBrowser(WindowCase):
         self.display.do("key", "alt+F4")
         self.assert_run_stands_still()
         self.assertIsNone(self.window.poll())
+        self.assertIn("frmWBare", self.settings_file().read_text(encoding="utf-8"), "its place is kept")
         summaries = trawlex.rows(self.database, "SiteSummary", ["Title", "Url"])
         self.assertEqual(summaries, trawlex.expected_rows("SiteSummary")[:len(summaries)])
 
