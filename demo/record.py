@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Teaches a Trawlex database how to read the demo's search service.
+"""Teaches a Trawlex database how to read the demo's search services.
 
     python3 record.py PATH/Trawlex-0.mdb
 
-Writes searchsite.json as one row of SearchSites, unless a row of that name stands there already.
+Writes searchsite.json and the records of services.json as rows of SearchSites, unless a row of that name stands there already.
 """
 import datetime
 import json
@@ -12,17 +12,21 @@ import sys
 from contextlib import closing
 from pathlib import Path
 
-RECORD = Path(__file__).resolve().parent / "searchsite.json"
+HERE = Path(__file__).resolve().parent
+
+
+def records():
+    first = json.loads((HERE / "searchsite.json").read_text(encoding="utf-8"))
+    return [first] + [service["record"] for service in json.loads((HERE / "services.json").read_text(encoding="utf-8"))]
 
 
 def quoted(name):
     return '"' + name.replace('"', '""') + '"'
 
 
-def write(database):
+def write(database, record):
     """True if the row was added."""
-    record = json.loads(RECORD.read_text(encoding="utf-8"))
-    record["Date"] = datetime.date.today().isoformat()
+    record = dict(record, Date=datetime.date.today().isoformat())
     uri = Path(database).resolve().as_uri() + "?mode=rw"          # a missing file is an error, not a new database
     with closing(sqlite3.connect(uri, uri=True, timeout=10)) as db, db:
         db.execute("BEGIN IMMEDIATE")
@@ -40,7 +44,8 @@ def main():
     if len(sys.argv) != 2:
         sys.exit(__doc__.strip())
     try:
-        print("added" if write(sys.argv[1]) else "stands there already")
+        for record in records():
+            print(f"{record['SiteName']}: {'added' if write(sys.argv[1], record) else 'stands there already'}")
     except sqlite3.Error as error:
         sys.exit(f"{sys.argv[1]}: {error}")
 

@@ -21,6 +21,7 @@ import derive
 import record
 import server
 
+SERVICES = json.loads((HERE / "services.json").read_text(encoding="utf-8"))
 EXPECTED = json.loads((HERE / "expected.json").read_text(encoding="utf-8"))
 
 
@@ -151,7 +152,7 @@ class Program(unittest.TestCase):
 
 class Expectations(unittest.TestCase):
     def test_thirty_sites_thirty_links(self):
-        self.assertEqual(len(server.HOSTS), 31)
+        self.assertEqual(len(server.HOSTS), 31 + len(SERVICES))
         self.assertEqual(len(EXPECTED["links"]), 30)
         self.assertEqual(len(set(EXPECTED["links"])), 30)
 
@@ -164,6 +165,16 @@ class Expectations(unittest.TestCase):
             with self.subTest(left_out):
                 links = derive.result_links(derive.START, {**record_, left_out: ""})
                 self.assertNotEqual(links, EXPECTED["links"])
+
+    def test_each_of_the_other_services_needs_each_field_of_its_record(self):
+        for service in SERVICES:
+            self.assertEqual(derive.result_links(service["page"], service["record"]), service["results"])
+            fields = [name for name, value in service["record"].items()
+                      if name not in ("SiteName", "Group", "Url-1") and value != "0"]
+            for left_out in fields:
+                with self.subTest(service["kind"], left_out=left_out):
+                    links = derive.result_links(service["page"], {**service["record"], left_out: ""})
+                    self.assertNotEqual(links, service["results"])
 
     def test_no_address_is_too_long_to_be_stored(self):
         for table in ("SiteSummary", "EmailAddress", "PhoneNumber", "PassUrlsA"):
@@ -185,8 +196,9 @@ class Record(unittest.TestCase):
             return db.execute("SELECT * FROM SearchSites").fetchall()
 
     def test_one_row_with_blanks_for_the_rest(self):
-        self.assertTrue(record.write(self.file))
-        self.assertFalse(record.write(self.file))
+        first = record.records()[0]
+        self.assertTrue(record.write(self.file, first))
+        self.assertFalse(record.write(self.file, first))
         (row,) = self.rows()
         told = dict(zip(["Index"] + self.columns, row))
         self.assertEqual(told["Index"], 1)
@@ -198,7 +210,7 @@ class Record(unittest.TestCase):
     def test_a_missing_database_is_not_made(self):
         missing = os.path.join(self.folder, "none.mdb")
         with self.assertRaises(sqlite3.Error):
-            record.write(missing)
+            record.write(missing, record.records()[0])
         self.assertFalse(os.path.exists(missing))
 
 

@@ -81,6 +81,7 @@ class WindowPlace
     /// The part of the screen that windows may use.
     [[nodiscard]] virtual QRect screen() const = 0;
     virtual void putOnTop(bool onTop) = 0;
+    virtual void minimize() = 0;
 };
 
 /// Pop-up menus.

@@ -53,4 +53,5 @@ class NoWindow : public WindowPlace
     void moveTo(const QRect &) override {}
     [[nodiscard]] QRect screen() const override { return {}; }
     void putOnTop(bool) override {}
+    void minimize() override {}
 };

@@ -35,6 +35,11 @@ class MainWindowPlace : public WindowPlace
         if (mWindow)
             mWindow->setKeptOnTop(onTop);
     }
+    void minimize() override
+    {
+        if (mWindow)
+            mWindow->showMinimized();
+    }
 
   private:
     MainWindow *mWindow = nullptr;

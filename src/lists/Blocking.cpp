@@ -1,11 +1,16 @@
 #include "lists/Blocking.h"
 
 #include "controls/cLstBx.h"
+#include "lists/BlockedRows.h"
 #include "lists/ChosenItem.h"
+#include "lists/Entry.h"
 #include "pages/Addresses.h"
 #include "store/FixNull.h"
 #include "store/Schema.h"
+#include "store/Transaction.h"
 #include "util/AddressList.h"
+
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -32,27 +37,20 @@ struct Blocking::Row
     QLatin1StringView adding, removing;
 };
 
-Blocking::Blocking(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, UserDialogs &dialogs,
-                   SettingsStore &settings, DatabaseHolder &database, BrowserHolder &browser)
-    : mLog(log), mForm(form), mStatus(status), mStates(states), mDialogs(dialogs), mSettings(settings),
-      mDatabase(database), mBrowser(browser)
-{
-}
-
 Blocking::Row Blocking::row(Kind kind) const
 {
     if (kind == Kind::Url)
         return {urlField,
                 emailField,
-                mForm.blocking.urls.items,
-                mForm.blocking.urls.on,
+                mLists.urls.items,
+                mLists.urls.on,
                 "Urls Must Not contain"_L1,
                 "Sub AddBlockedUrl"_L1,
                 "Sub RemoveBlockedUrl"_L1};
     return {emailField,
             urlField,
-            mForm.blocking.email.items,
-            mForm.blocking.email.on,
+            mLists.email.items,
+            mLists.email.on,
             "Emails Must Not contain"_L1,
             "Sub AddBlockedEC"_L1,
             "Sub RemoveBlockedEC"_L1};
@@ -60,9 +58,9 @@ Blocking::Row Blocking::row(Kind kind) const
 
 void Blocking::LoadBlocked()
 {
-    guarded(mLog, {module, "Sub LoadBlocked"_L1}, [&] {
-        mForm.blocking.urls.items.clear();
-        mForm.blocking.email.items.clear();
+    guarded(mContext.log, {module, "Sub LoadBlocked"_L1}, [&] {
+        mLists.urls.items.clear();
+        mLists.email.items.clear();
         Recordset rows = mDatabase->GetRecordset(allRows());
         for (; !rows.Eof(); rows.MoveNext()) {
             for (const Kind kind : {Kind::Url, Kind::Email}) {
@@ -78,136 +76,157 @@ QString Blocking::askFor(Kind kind)
     QString proposal;
     if (kind == Kind::Url && mBrowser.isSet())
         proposal = cIEText::GetServerFromUrl(mBrowser->GetSiteUrl(), cIEText::hostOnly);
-    return mDialogs.input(u"Enter new item"_s, row(kind).title, proposal);
+    return mContext.dialogs.input(u"Enter new item"_s, row(kind).title, proposal);
 }
 
 /// Into the first row that has room in its column, or into a new one.
-bool Blocking::store(const Row &target, const QString &item)
+/// Rows without a text of this list take the items first; what is left gets rows of its own.
+bool Blocking::store(const Row &row, const QStringList &items)
 {
+    Transaction transaction(*mDatabase);
+    QStringList left = items;
     Recordset rows = mDatabase->GetRecordset(allRows());
-    for (; !rows.Eof(); rows.MoveNext()) {
-        if (!FixNull(rows.Fields()[target.field]).isEmpty())
+    for (; !rows.Eof() && !left.isEmpty(); rows.MoveNext()) {
+        if (!FixNull(rows.Fields()[row.field]).isEmpty())
             continue;
-        rows.Fields()[target.field].setValue(item);
+        rows.Fields()[row.field].setValue(left.takeFirst());
         rows.Update();
-        return true;
     }
-    return mDatabase->AddRecord({recordElement(target.field, item), recordElement(target.otherField, {})}, -1,
-                                u"Block"_s, rowMarker);
+    for (const QString &item : std::as_const(left))
+        mDatabase->AddRecord({recordElement(row.field, item), recordElement(row.otherField, {})}, -1, u"Block"_s,
+                             rowMarker);
+    return transaction.commit();
+}
+
+/// Adds what does not stand in the list; what did not reach the table is neither shown nor told.
+void Blocking::addNew(const Row &row, const QStringList &items)
+{
+    if (!items.isEmpty() && store(row, items)) {
+        row.list.addItems(items);
+        mContext.status.UpDateStatus(items.constLast() + " added"_L1);
+    }
+    if (row.list.listCount() == 0)
+        return;
+    row.list.setListIndex(0);
+    row.box.setValue(mContext.settings.GetSetting(section, row.box.name(), u"0"_s).toInt());
 }
 
 void Blocking::add(Kind kind, const QString &item)
 {
     const Row target = row(kind);
-    guarded(mLog, {module, target.adding}, [&] {
-        const QString added = (item.isEmpty() ? askFor(kind) : QString(item)).remove(u',');
+    guarded(mContext.log, {module, target.adding}, [&] {
+        const QString added = Entry::asItem(item.isEmpty() ? askFor(kind) : item).remove(u',');
         if (added.isEmpty())
             return;
-        if (target.list.items().contains(added)) {
-            mStatus.UpDateStatus(added + " exists"_L1);
-        } else if (store(target, added)) {
-            target.list.addItem(added);
-            mStatus.UpDateStatus(added + " added"_L1);
-        }
-        if (target.list.listCount() == 0)
-            return;
-        target.list.setListIndex(0);
-        target.box.setValue(mSettings.GetSetting(section, target.box.name(), u"0"_s).toInt());
+        const bool exists = target.list.items().contains(added);
+        if (exists)
+            mContext.status.UpDateStatus(added + " exists"_L1);
+        addNew(target, exists ? QStringList() : QStringList{added});
     });
-    mStates.SetStateOfControls();
+    mContext.states.SetStateOfControls();
 }
 
-void Blocking::removeFromTable(Kind kind, const QString &item)
+void Blocking::drop(Kind kind, const QString &text)
 {
     const Row target = row(kind);
+    guarded(mContext.log, {module, "Sub OLEDragDrop"_L1}, [&] {
+        QSet<QString> standing;
+        for (const QString &item : target.list.items())
+            standing.insert(cUtility::lowered(item));
+        QStringList added;
+        for (QString item : Entry::lines(text)) {
+            item.remove(u',');
+            const QString key = cUtility::lowered(item);
+            if (item.isEmpty() || standing.contains(key))
+                continue;
+            standing.insert(key);
+            added.append(item);
+        }
+        addNew(target, added);
+    });
+    mContext.states.SetStateOfControls();
+}
+
+bool Blocking::removeFromTable(Kind kind, const QStringList &items)
+{
+    const Row target = row(kind);
+    Transaction transaction(*mDatabase);
+    BlockedRows fates;
     Recordset rows = mDatabase->GetRecordset(allRows());
-    for (; !rows.Eof(); rows.MoveNext()) {
-        const QString text = FixNull(rows.Fields()[target.field]);
-        const bool otherIsEmpty = FixNull(rows.Fields()[target.otherField]).isEmpty();
-        // A row on the way that holds no link text goes, whatever else it holds; one without an address text only if it
-        // is empty. The unlike treatment of the two is relied upon.
-        if (text.isEmpty() && (kind == Kind::Url || otherIsEmpty)) {
+    for (; !rows.Eof(); rows.MoveNext())
+        fates.append(FixNull(rows.Fields()[target.field]), !FixNull(rows.Fields()[target.otherField]).isEmpty());
+    // The unlike treatment of the two lists is relied upon.
+    const auto onTheWay = kind == Kind::Url ? BlockedRows::OnTheWay::WithoutText : BlockedRows::OnTheWay::WhollyEmpty;
+    for (const QString &item : items)
+        fates.remove(item, onTheWay);
+    if (fates.size() > 0)
+        rows.MoveFirst();
+    for (std::size_t i = 0; i < fates.size(); ++i, rows.MoveNext()) {
+        if (fates.fate(i) == BlockedRows::Fate::Gone) {
             rows.Delete();
-        } else if (text == item && otherIsEmpty) {
-            rows.Delete();
-            return;
-        } else if (text == item) {
+        } else if (fates.fate(i) == BlockedRows::Fate::Emptied) {
             rows.Fields()[target.field].setValue(QString());
             rows.Update();
-            return;
         }
     }
+    return transaction.commit();
 }
 
-void Blocking::removeChosen(Kind kind, Batch batch)
+/// Takes `items` out of table and list. What the table refuses stays in the list and is not told.
+void Blocking::remove(Kind kind, const QStringList &items)
 {
     const Row target = row(kind);
-    guarded(mLog, {module, target.removing}, [&] {
-        const QString item = chosenItem(target.list);
-        if (item.isEmpty())
-            return;
-        removeFromTable(kind, item);
-        target.list.removeItem(static_cast<int>(target.list.items().indexOf(item)));
-        target.list.setListIndex(target.list.listCount() - 1);
-        if (target.list.listCount() == 0)
-            target.box.setValue(0);
-        mStatus.UpDateStatus(item + " removed"_L1);
-    });
-    if (batch == Batch::No)
-        mStates.SetStateOfControls();
+    if (firstOf(items).isEmpty() || !removeFromTable(kind, items))
+        return;
+    QHash<QString, int> left;
+    for (const QString &item : items)
+        ++left[item];
+    std::vector<bool> gone;
+    for (const QString &item : target.list.items())
+        gone.push_back(left.value(item) > 0 && left[item]-- > 0);
+    target.list.removeItems(gone);
+    target.list.setListIndex(target.list.listCount() - 1);
+    if (target.list.listCount() == 0)
+        target.box.setValue(0);
+    mContext.status.UpDateStatus(items.constLast() + " removed"_L1);
 }
 
 void Blocking::RemoveBlocked(Kind kind)
 {
-    ListBox &list = row(kind).list;
-    if (list.selCount() < 2)
-        return removeChosen(kind, Batch::No);
-    guarded(mLog, {module, "Sub RemoveBlocked"_L1}, [&] {
-        const QStringList selected = cLstBx::GetItems(list, cLstBx::Which::Selected);
-        cLstBx::UnSelect(list);
-        for (const QString &item : selected) {
-            const auto index = list.items().indexOf(item);
-            if (item.isEmpty() || index < 0)
-                continue;
-            list.setListIndex(static_cast<int>(index));
-            removeChosen(kind, Batch::Yes);
-        }
+    const Row target = row(kind);
+    guarded(mContext.log, {module, target.removing}, [&] {
+        const bool several = target.list.selCount() > 1;
+        remove(kind,
+               several ? cLstBx::GetItems(target.list, cLstBx::Which::Selected) : QStringList{chosenItem(target.list)});
     });
-    mStates.SetStateOfControls();
+    mContext.states.SetStateOfControls();
 }
 
 void Blocking::ClearBlockedList(Kind kind)
 {
-    guarded(mLog, {module, "Sub ClearBlockedList"_L1}, [&] {
-        ListBox &list = row(kind).list;
-        cLstBx::UnSelect(list);
-        // A removal that fails leaves its item in the list; it is not tried for ever.
-        for (int left = list.listCount(); left > 0 && list.listCount() > 0; --left) {
-            list.setListIndex(0);
-            removeChosen(kind, Batch::Yes);
-        }
-    });
-    mStates.SetStateOfControls();
+    const Row target = row(kind);
+    guarded(mContext.log, {module, "Sub ClearBlockedList"_L1}, [&] { remove(kind, orEmptyList(target.list.items())); });
+    mContext.states.SetStateOfControls();
 }
 
 void Blocking::addQuickBlock()
 {
-    guarded(mLog, {module, "Sub lblAutoCollect_MouseDown"_L1}, [&] {
-        QStringList &blocked = mForm.blocking.mastrQB;
+    guarded(mContext.log, {module, "Sub lblAutoCollect_MouseDown"_L1}, [&] {
+        QStringList &blocked = mLists.mastrQB;
         const QString server = cIEText::GetServerFromUrl(mBrowser->GetSiteUrl(), nameAlone);
         if (server.isEmpty())
-            return mStatus.UpDateStatus(u"Nothing to add"_s);
+            return mContext.status.UpDateStatus(u"Nothing to add"_s);
         if (blocked.contains(server))
-            return mStatus.UpDateStatus("Exists "_L1 + server);
+            return mContext.status.UpDateStatus("Exists "_L1 + server);
         if (firstOf(blocked).isEmpty())
             blocked.clear();
         blocked.append(server);
-        mStatus.UpDateStatus("QB added "_L1 + server);
+        mContext.status.UpDateStatus("QB added "_L1 + server);
     });
 }
 
 void Blocking::clearQuickBlock()
 {
-    mForm.blocking.mastrQB = emptyList();
-    mStatus.UpDateStatus(u"Quick Block Cleared"_s);
+    mLists.mastrQB = emptyList();
+    mContext.status.UpDateStatus(u"Quick Block Cleared"_s);
 }

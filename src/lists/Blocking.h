@@ -2,9 +2,8 @@
 // with each other but their rows; and the Quick Block list of servers, which is kept in memory alone. Knows sites.
 #pragma once
 
-#include "app/Ports.h"
-#include "app/StatusLine.h"
-#include "app/frmSearch.h"
+#include "app/Context.h"
+#include "app/FormGroups.h"
 #include "driver/BrowserHolder.h"
 #include "store/DatabaseHolder.h"
 
@@ -12,23 +11,20 @@ class Blocking
 {
   public:
     enum class Kind { Url, Email };
-    /// A removal of its own brings the control states up to date; one of several leaves that to the caller.
-    enum class Batch { No, Yes };
 
-    Blocking(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, UserDialogs &dialogs,
-             SettingsStore &settings, DatabaseHolder &database, BrowserHolder &browser);
+    Blocking(const Context &context, BlockingLists &lists, DatabaseHolder &database, BrowserHolder &browser)
+        : mContext(context), mLists(lists), mDatabase(database), mBrowser(browser)
+    {
+    }
 
     /// Fills both lists.
     void LoadBlocked();
     /// Adds `item`, asking for one with "".
-    void AddBlockedUrl(const QString &item = {}) { add(Kind::Url, item); }
-    void AddBlockedEC(const QString &item = {}) { add(Kind::Email, item); }
-    /// Takes the chosen item out. A row without a link text that stands before it goes too, with the address text it
-    /// holds.
-    void RemoveBlockedUrl(Batch batch) { removeChosen(Kind::Url, batch); }
-    /// The same for addresses; rows that hold a link text stay.
-    void RemoveBlockedEC(Batch batch) { removeChosen(Kind::Email, batch); }
-    /// Takes out every selected item.
+    void add(Kind kind, const QString &item = {});
+    /// What was dropped on a list, one item a line; items that stand there already (ignoring case) are left out.
+    void drop(Kind kind, const QString &text);
+    /// Takes out every selected item, or the one with the focus. Of link texts, a row without one that stands before an
+    /// item's row goes too, with the address text that it holds; of address texts, only a row that is empty.
     void RemoveBlocked(Kind kind);
     void ClearBlockedList(Kind kind);
 
@@ -39,18 +35,14 @@ class Blocking
   private:
     struct Row;
     [[nodiscard]] Row row(Kind kind) const;
-    void add(Kind kind, const QString &item);
     [[nodiscard]] QString askFor(Kind kind);
-    [[nodiscard]] bool store(const Row &row, const QString &item);
-    void removeChosen(Kind kind, Batch batch);
-    void removeFromTable(Kind kind, const QString &item);
+    void addNew(const Row &row, const QStringList &items);
+    [[nodiscard]] bool store(const Row &row, const QStringList &items);
+    void remove(Kind kind, const QStringList &items);
+    [[nodiscard]] bool removeFromTable(Kind kind, const QStringList &items);
 
-    ErrorReceiver &mLog;
-    frmSearch &mForm;
-    StatusLine &mStatus;
-    ControlStates &mStates;
-    UserDialogs &mDialogs;
-    SettingsStore &mSettings;
+    Context mContext;
+    BlockingLists &mLists;
     DatabaseHolder &mDatabase;
     BrowserHolder &mBrowser;
 };

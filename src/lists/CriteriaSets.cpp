@@ -2,6 +2,7 @@
 
 #include "controls/cLstBx.h"
 #include "lists/ChosenItem.h"
+#include "lists/Entry.h"
 #include "store/FixNull.h"
 #include "store/Schema.h"
 #include "store/Transaction.h"
@@ -24,11 +25,6 @@ QString columnName(int number)
     return u"Item-%1"_s.arg(number);
 }
 
-bool isEmpty(const Recordset &rows)
-{
-    return rows.Bof() && rows.Eof();
-}
-
 /// The first column whose value equals `item` without regard to case; 0 if there is none.
 int columnOf(const Recordset &set, const QString &item)
 {
@@ -49,40 +45,36 @@ struct CriteriaSets::Row
     ComboBox &demand;
 };
 
-CriteriaSets::CriteriaSets(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states,
-                           UserDialogs &dialogs, DatabaseHolder &database)
-    : mLog(log), mForm(form), mStatus(status), mStates(states), mDialogs(dialogs), mDatabase(database)
-{
-}
-
 CriteriaSets::Row CriteriaSets::row(List list) const
 {
     if (list == List::MustContain)
-        return {u"MC"_s, u"Must Contain"_s, mForm.criteria.mustContain.items, mForm.criteria.mustContain.demand};
-    return {u"MNC"_s, u"Must Not Contain"_s, mForm.criteria.mustNotContain.items, mForm.criteria.mustNotContain.demand};
+        return {u"MC"_s, u"Must Contain"_s, mCriteria.mustContain.items, mCriteria.mustContain.demand};
+    return {u"MNC"_s, u"Must Not Contain"_s, mCriteria.mustNotContain.items, mCriteria.mustNotContain.demand};
 }
 
 Recordset CriteriaSets::openSet(const Row &row)
 {
     return mDatabase->GetRecordset("SELECT * FROM "_L1 + row.table + " WHERE MaskName='"_L1 +
-                                   mForm.criteria.cboANMCMNCMask.text() + u'\'');
+                                   mCriteria.cboANMCMNCMask.text() + u'\'');
 }
 
 bool CriteriaSets::exists(const QString &name)
 {
-    return !isEmpty(mDatabase->GetRecordset("SELECT MaskName FROM MC WHERE MaskName='"_L1 + name + u'\''));
+    return !mDatabase->GetRecordset("SELECT MaskName FROM MC WHERE MaskName='"_L1 + name + u'\'').isEmpty();
 }
 
 void CriteriaSets::LoadMCMNC()
 {
-    guarded(mLog, {module, "Sub LoadMCMNC"_L1}, [&] {
-        mForm.criteria.cboANMCMNCMask.clear();
-        mForm.criteria.mustContain.items.clear();
-        mForm.criteria.mustNotContain.items.clear();
+    guarded(mContext.log, {module, "Sub LoadMCMNC"_L1}, [&] {
+        mCriteria.cboANMCMNCMask.clear();
+        mCriteria.mustContain.items.clear();
+        mCriteria.mustNotContain.items.clear();
         for (const QString &name : mDatabase->GetFieldData(u"MaskName"_s, u"MC"_s)) {
             if (!name.isEmpty())
-                mForm.criteria.cboANMCMNCMask.addItem(name);
+                mCriteria.cboANMCMNCMask.addItem(name);
         }
+        withoutSelection(row(List::MustContain));
+        withoutSelection(row(List::MustNotContain));
     });
 }
 
@@ -91,7 +83,7 @@ void CriteriaSets::fill(const Row &row, const QString &name)
     row.list.clear();
     const Recordset set =
         mDatabase->GetRecordset("SELECT * FROM "_L1 + row.table + " WHERE MaskName='"_L1 + name + u'\'');
-    for (int column = 1; column <= columns && !isEmpty(set); ++column) {
+    for (int column = 1; column <= columns && !set.isEmpty(); ++column) {
         if (const QString item = FixNull(set.Fields()[columnName(column)]); !item.isEmpty())
             row.list.addItem(item);
     }
@@ -99,12 +91,14 @@ void CriteriaSets::fill(const Row &row, const QString &name)
 
 void CriteriaSets::AssignMaskElements(const QString &name)
 {
-    guarded(mLog, {module, "Sub AssignMaskElements"_L1}, [&] {
-        const QString chosen = name.isEmpty() ? mForm.criteria.cboANMCMNCMask.text() : name;
+    guarded(mContext.log, {module, "Sub AssignMaskElements"_L1}, [&] {
+        const QString chosen = name.isEmpty() ? mCriteria.cboANMCMNCMask.text() : name;
         if (chosen.isEmpty())
             return;
-        fill(row(List::MustContain), chosen);
-        fill(row(List::MustNotContain), chosen);
+        for (const List list : {List::MustContain, List::MustNotContain}) {
+            fill(row(list), chosen);
+            withoutSelection(row(list));
+        }
     });
 }
 
@@ -114,15 +108,18 @@ QString CriteriaSets::askForName()
     QString name = firstName;
     while (exists(name))
         name = cUtility::Incr(name, 4, false, 1, u"", u"1", u"", false);
-    name = mDialogs.input(namePrompt, u"New MC - MNC Set"_s, name).remove(u',');
+    const auto ask = [&](const QString &title) {
+        name = Entry::asItem(mContext.dialogs.input(namePrompt, title, name)).remove(u',');
+    };
+    ask(u"New MC - MNC Set"_s);
     while (!name.isEmpty() && exists(name))
-        name = mDialogs.input(namePrompt, u"Item Exists"_s, name).remove(u',');
+        ask(u"Item Exists"_s);
     return name;
 }
 
 QString CriteriaSets::AddMCMNCSet()
 {
-    return guardedResult(mLog, {module, "Sub AddMCMNCSet"_L1}, QString(), [&](QString &status) {
+    return guardedResult(mContext.log, {module, "Sub AddMCMNCSet"_L1}, QString(), [&](QString &status) {
         const QString name = askForName();
         status = u"Nothing Added"_s;
         if (name.isEmpty())
@@ -132,45 +129,52 @@ QString CriteriaSets::AddMCMNCSet()
         if (!mDatabase->AddRecord(record, -1, u"MC"_s, rowMarker) ||
             !mDatabase->AddRecord(record, -1, u"MNC"_s, rowMarker) || !transaction.commit())
             return;
-        mForm.criteria.cboANMCMNCMask.addItem(name);
-        mForm.criteria.cboANMCMNCMask.setListIndex(mForm.criteria.cboANMCMNCMask.listCount() - 1);
+        mCriteria.cboANMCMNCMask.addItem(name);
+        mCriteria.cboANMCMNCMask.setListIndex(mCriteria.cboANMCMNCMask.listCount() - 1);
         status = u"Group Added"_s;
     });
 }
 
 QString CriteriaSets::RemoveMCMNCSet()
 {
-    return guardedResult(mLog, {module, "Sub RemoveMCMNCSet"_L1}, QString(), [&](QString &status) {
-        const QString name = mForm.criteria.cboANMCMNCMask.text();
+    return guardedResult(mContext.log, {module, "Sub RemoveMCMNCSet"_L1}, QString(), [&](QString &status) {
+        const QString name = mCriteria.cboANMCMNCMask.text();
         status = u"Nothing Selected"_s;
         if (name.isEmpty())
             return;
+        status = name + " Not Removed"_L1;
+        Transaction transaction(*mDatabase);
         for (const List list : {List::MustContain, List::MustNotContain})
             static_cast<void>(
                 mDatabase->GetRecordset("DELETE * FROM "_L1 + row(list).table + " WHERE MaskName='"_L1 + name + u'\''));
-        const int index = mForm.criteria.cboANMCMNCMask.listIndex();
-        mForm.criteria.cboANMCMNCMask.removeItem(index);
-        mForm.criteria.mustContain.items.clear();
-        mForm.criteria.mustNotContain.items.clear();
-        mForm.criteria.cboANMCMNCMask.setListIndex(index - 1);
+        if (exists(name) || !transaction.commit())
+            return;
+        const int index = mCriteria.cboANMCMNCMask.listIndex();
+        mCriteria.cboANMCMNCMask.removeItem(index);
+        mCriteria.mustContain.items.clear();
+        mCriteria.mustNotContain.items.clear();
+        mCriteria.cboANMCMNCMask.setListIndex(index - 1);
+        withoutSelection(row(List::MustContain));
+        withoutSelection(row(List::MustNotContain));
         status = name + " Removed"_L1;
     });
 }
 
 QString CriteriaSets::AddMC(List list, const QString &item)
 {
-    return guardedResult(mLog, {module, "Sub AddMC"_L1}, QString(), [&](QString &status) {
-        if (mForm.criteria.cboANMCMNCMask.text().isEmpty())
+    return guardedResult(mContext.log, {module, "Sub AddMC"_L1}, QString(), [&](QString &status) {
+        if (mCriteria.cboANMCMNCMask.text().isEmpty())
             return;
         const Row target = row(list);
-        const QString added =
-            !item.isEmpty() ? item : mDialogs.input("Enter new "_L1 + target.label + " text"_L1, u"New Item"_s, {});
+        const QString added = Entry::asItem(
+            !item.isEmpty() ? item
+                            : mContext.dialogs.input("Enter new "_L1 + target.label + " text"_L1, u"New Item"_s, {}));
         if (added.isEmpty()) {
             status = u"Add Canceled"_s;
             return;
         }
         Recordset set = openSet(target);
-        if (isEmpty(set))
+        if (set.isEmpty())
             return;
         if (columnOf(set, added) > 0) {
             status = added + " Exists"_L1;
@@ -190,8 +194,8 @@ QString CriteriaSets::AddMC(List list, const QString &item)
 
 QString CriteriaSets::RemoveMC(List list, const QString &item)
 {
-    return guardedResult(mLog, {module, "Sub RemoveMC"_L1}, QString(), [&](QString &status) {
-        if (mForm.criteria.cboANMCMNCMask.text().isEmpty())
+    return guardedResult(mContext.log, {module, "Sub RemoveMC"_L1}, QString(), [&](QString &status) {
+        if (mCriteria.cboANMCMNCMask.text().isEmpty())
             return;
         const Row target = row(list);
         const QString removed = item.isEmpty() ? chosenItem(target.list) : item;
@@ -200,7 +204,7 @@ QString CriteriaSets::RemoveMC(List list, const QString &item)
             return;
         }
         Recordset set = openSet(target);
-        if (isEmpty(set))
+        if (set.isEmpty())
             return;
         const int column = columnOf(set, removed);
         if (column == 0) {
@@ -215,19 +219,20 @@ QString CriteriaSets::RemoveMC(List list, const QString &item)
         });
         if (shown != items.end())
             target.list.removeItem(static_cast<int>(shown - items.begin()));
+        withoutSelection(target);
         status = removed + " Removed"_L1;
     });
 }
 
 QString CriteriaSets::ClearMC(List list)
 {
-    return guardedResult(mLog, {module, "Sub ClearMC"_L1}, QString(), [&](QString &status) {
-        const QString name = mForm.criteria.cboANMCMNCMask.text();
+    return guardedResult(mContext.log, {module, "Sub ClearMC"_L1}, QString(), [&](QString &status) {
+        const QString name = mCriteria.cboANMCMNCMask.text();
         if (name.isEmpty())
             return;
         const Row target = row(list);
         Recordset set = openSet(target);
-        if (isEmpty(set)) {
+        if (set.isEmpty()) {
             status = u"No Data Exists"_s;
             return;
         }
@@ -235,13 +240,14 @@ QString CriteriaSets::ClearMC(List list)
             set.Fields()[columnName(column)].setValue(QString());
         set.Update();
         target.list.clear();
+        withoutSelection(target);
         status = u"%1 (%2) Cleared"_s.arg(name, target.table);
     });
 }
 
 void CriteriaSets::RemoveMCMNC(List list)
 {
-    guarded(mLog, {module, "Sub RemoveMCMNC"_L1}, [&] {
+    guarded(mContext.log, {module, "Sub RemoveMCMNC"_L1}, [&] {
         ListBox &box = row(list).list;
         if (box.selCount() < 2) {
             RemoveMC(list);
@@ -258,36 +264,40 @@ void CriteriaSets::RemoveMCMNC(List list)
 
 void CriteriaSets::drop(List list, const QString &text)
 {
-    constexpr auto lineEnd = "\r\n"_L1;
-    guarded(mLog, {module, "Sub OLEDragDrop"_L1}, [&] {
-        if (text.isEmpty())
+    guarded(mContext.log, {module, "Sub OLEDragDrop"_L1}, [&] {
+        const QStringList lines = Entry::lines(text);
+        if (lines.isEmpty())
             return;
+        const ListBox &box = row(list).list;
         int count = 0;
-        if (!text.contains(lineEnd)) {
-            AddMC(list, text);
-            count = 1;
-        } else {
-            for (const QString &line : text.split(lineEnd, Qt::SkipEmptyParts)) {
-                if (cLstBx::DoesItemExist(row(list).list, line))
-                    continue;
-                AddMC(list, line);
+        for (const QString &line : lines) {
+            // A single line counts whatever becomes of it, as long as the table was not in the way.
+            if (lines.size() > 1 && cLstBx::DoesItemExist(box, line))
+                continue;
+            if (box.listCount() >= columns || !AddMC(list, line).isEmpty())
                 ++count;
-            }
         }
-        mStatus.UpDateStatus(u"%1 Added"_s.arg(count));
-        mStates.SetStateOfControls();
+        mContext.status.UpDateStatus(u"%1 Added"_s.arg(count));
+        mContext.states.SetStateOfControls();
     });
+}
+
+/// "Select" needs something selected; where nothing is, all items count again.
+void CriteriaSets::withoutSelection(const Row &row)
+{
+    if (row.demand.listIndex() == selectDemand && row.list.selCount() == 0)
+        row.demand.setListIndex(allDemand);
 }
 
 void CriteriaSets::demandChosen(List list)
 {
-    guarded(mLog, {module, "Sub lstANMCAllAny_Click"_L1}, [&] {
+    guarded(mContext.log, {module, "Sub lstANMCAllAny_Click"_L1}, [&] {
         const Row target = row(list);
-        if (!mForm.mbFormReady || target.demand.listIndex() != selectDemand)
+        if (target.demand.listIndex() != selectDemand)
             return;
         if (target.list.listCount() == 0) {
             target.demand.setListIndex(allDemand);
-            mStatus.UpDateStatus(target.table + " Not selected"_L1);
+            mContext.status.UpDateStatus(target.table + " Not selected"_L1);
         } else if (target.list.selCount() == 0) {
             target.list.setSelected(0, true);
         }
@@ -296,7 +306,7 @@ void CriteriaSets::demandChosen(List list)
 
 void CriteriaSets::showTip(List list)
 {
-    if (mForm.options.chkSMV(0).value() != 1)
+    if (!mContext.tips.areShown())
         return;
     const Row target = row(list);
     target.list.setToolTipText(target.list.selCount() == 1

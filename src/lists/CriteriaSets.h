@@ -3,9 +3,8 @@
 // sites.
 #pragma once
 
-#include "app/Ports.h"
-#include "app/StatusLine.h"
-#include "app/frmSearch.h"
+#include "app/Context.h"
+#include "app/FormGroups.h"
 #include "store/DatabaseHolder.h"
 
 class CriteriaSets
@@ -14,8 +13,10 @@ class CriteriaSets
     /// The two lists of a set.
     enum class List { MustContain, MustNotContain };
 
-    CriteriaSets(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, UserDialogs &dialogs,
-                 DatabaseHolder &database);
+    CriteriaSets(const Context &context, Criteria &criteria, DatabaseHolder &database)
+        : mContext(context), mCriteria(criteria), mDatabase(database)
+    {
+    }
 
     /// The names of all sets into their box; the lists are empty until one is chosen.
     void LoadMCMNC();
@@ -47,12 +48,10 @@ class CriteriaSets
     [[nodiscard]] Recordset openSet(const Row &row);
     [[nodiscard]] bool exists(const QString &name);
     void fill(const Row &row, const QString &name);
+    void withoutSelection(const Row &row);
     [[nodiscard]] QString askForName();
 
-    ErrorReceiver &mLog;
-    frmSearch &mForm;
-    StatusLine &mStatus;
-    ControlStates &mStates;
-    UserDialogs &mDialogs;
+    Context mContext;
+    Criteria &mCriteria;
     DatabaseHolder &mDatabase;
 };

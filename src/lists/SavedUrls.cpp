@@ -3,6 +3,7 @@
 #include "store/FixNull.h"
 #include "store/Schema.h"
 #include "util/Arrays.h"
+#include "util/ColumnText.h"
 #include "util/Text.h"
 
 #include <optional>
@@ -45,23 +46,22 @@ void appendTo(QStringList &array, const QString &element)
 }
 } // namespace
 
-SavedUrls::SavedUrls(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states,
-                     SettingsStore &settings, DatabaseHolder &database, BrowserHolder &browser, SiteRecords &records,
-                     Navigation &navigation)
-    : mLog(log), mForm(form), mStatus(status), mStates(states), mSettings(settings), mDatabase(database),
-      mBrowser(browser), mRecords(records), mNavigation(navigation)
+SavedUrls::SavedUrls(const Context &context, SavedAddresses &saved, const OptionBoxes &options,
+                     DatabaseHolder &database, BrowserHolder &browser, SiteRecords &records, Navigation &navigation)
+    : mContext(context), mSaved(saved), mOptions(options), mDatabase(database), mBrowser(browser), mRecords(records),
+      mNavigation(navigation)
 {
 }
 
 QString SavedUrls::table(Kind kind) const
 {
-    return row(kind).family + mForm.saved.cboANList.list(mForm.saved.cboANList.listIndex());
+    return row(kind).family + mSaved.cboANList.list(mSaved.cboANList.listIndex());
 }
 
 QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, const QString &name, const QString &url)
 {
-    return guardedResult(mLog, {module, "Function GetSavedUrl"_L1}, QString(), [&](QString &result) {
-        const QStringList &array = mForm.saved.mastrSavedUrlIds;
+    return guardedResult(mContext.log, {module, "Function GetSavedUrl"_L1}, QString(), [&](QString &result) {
+        const QStringList &array = mSaved.mastrSavedUrlIds;
         for (int i = 0; i <= upperBound(array); ++i) {
             const QStringList parts = array[i].split(lineEnd);
             const QString address = parts.value(1);
@@ -79,16 +79,16 @@ QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, co
 
 QString SavedUrls::GetNewMaskName(Kind kind, const QString &otherTable)
 {
-    return guardedResult(mLog, {module, "Function GetNewMaskName"_L1}, QString(), [&](QString &result) {
+    return guardedResult(mContext.log, {module, "Function GetNewMaskName"_L1}, QString(), [&](QString &result) {
         result = mNewNames.find(*mDatabase, otherTable.isEmpty() ? table(kind) : otherTable, row(kind).firstName);
     });
 }
 
 void SavedUrls::LoadSavedUrls(Kind kind)
 {
-    guarded(mLog, {module, "Sub LoadSavedUrls"_L1}, [&] {
-        mForm.saved.cboANSavedUrls.clear();
-        mForm.saved.mastrSavedUrlIds = emptyList();
+    guarded(mContext.log, {module, "Sub LoadSavedUrls"_L1}, [&] {
+        mSaved.cboANSavedUrls.clear();
+        mSaved.mastrSavedUrlIds = emptyList();
         Recordset rows = mDatabase->GetRecordset("SELECT MaskName,Url FROM "_L1 + table(kind));
         std::optional<MaskNames> names; // read when the first row without a name asks for it
         for (; !rows.Eof(); rows.MoveNext()) {
@@ -100,114 +100,128 @@ void SavedUrls::LoadSavedUrls(Kind kind)
                 rows.Fields()["MaskName"_L1].setValue(name);
                 rows.Update();
             }
-            appendTo(mForm.saved.mastrSavedUrlIds, name + lineEnd + FixNull(rows.Fields()["Url"_L1]));
-            mForm.saved.cboANSavedUrls.addItem(name);
+            appendTo(mSaved.mastrSavedUrlIds, name + lineEnd + FixNull(rows.Fields()["Url"_L1]));
+            mSaved.cboANSavedUrls.addItem(name);
         }
     });
-    mStates.SetStateOfControls();
+    mContext.states.SetStateOfControls();
 }
 
 QString SavedUrls::ExistsSavedUrl(const QString &url, const QString &name)
 {
-    return guardedResult(mLog, {module, "Function ExistsSavedUrl"_L1}, QString(), [&](QString &result) {
+    return guardedResult(mContext.log, {module, "Function ExistsSavedUrl"_L1}, QString(), [&](QString &result) {
         const Recordset rows = mDatabase->GetRecordset("SELECT Url FROM "_L1 + name + " WHERE Url='"_L1 + url + u'\'');
-        if (rows.Bof() && rows.Eof())
+        if (rows.isEmpty())
             result = GetNewMaskName(Kind::SavedUrl, name);
     });
 }
 
 void SavedUrls::AddSavedUrl(bool report, const QString &letter)
 {
-    guarded(mLog, {module, "Sub AddSavedUrl"_L1}, [&] {
-        if (mForm.saved.mbPassUrlsLoaded)
-            return mStatus.UpDateStatus(u"Can't Add PassUrls"_s);
+    guarded(mContext.log, {module, "Sub AddSavedUrl"_L1}, [&] {
+        if (mSaved.mbPassUrlsLoaded)
+            return mContext.status.UpDateStatus(u"Can't Add PassUrls"_s);
         if (!mRecords.IsSiteDataSaved())
-            return mStatus.UpDateStatus(u"No data saved for site"_s);
-        const QString onShow = mForm.saved.cboANList.list(mForm.saved.cboANList.listIndex());
+            return mContext.status.UpDateStatus(u"No data saved for site"_s);
+        const QString onShow = mSaved.cboANList.list(mSaved.cboANList.listIndex());
         const QString target = savedUrls.family + (letter.isEmpty() ? onShow : letter);
-        const QString url = mBrowser->GetSiteUrl();
+        const QString url = cUtility::asColumnText(mBrowser->GetSiteUrl());
         const QString name = ExistsSavedUrl(url, target);
         if (name.isEmpty())
-            return mStatus.UpDateStatus(report ? u"Url Exists (%1)"_s.arg(target) : QString());
+            return mContext.status.UpDateStatus(report ? u"Url Exists (%1)"_s.arg(target) : QString());
+        // What did not reach the table is neither shown nor told as saved.
+        if (!mDatabase->AddRecord({recordElement("MaskName"_L1, name), recordElement("Url"_L1, url)}, -1, target,
+                                  rowMarker))
+            return;
         if (letter.isEmpty() || letter == onShow) {
-            appendTo(mForm.saved.mastrSavedUrlIds, name + lineEnd + url);
-            mForm.saved.cboANSavedUrls.addItem(name);
-            mForm.saved.cboANSavedUrls.setListIndex(mForm.saved.cboANSavedUrls.listCount() - 1);
+            appendTo(mSaved.mastrSavedUrlIds, name + lineEnd + url);
+            mSaved.cboANSavedUrls.addItem(name);
+            mSaved.cboANSavedUrls.setListIndex(mSaved.cboANSavedUrls.listCount() - 1);
         }
-        // What did not reach the table is not told as saved.
-        if (mDatabase->AddRecord({recordElement("MaskName"_L1, name), recordElement("Url"_L1, url)}, -1, target,
-                                 rowMarker))
-            mStatus.UpDateStatus(u"%1 Saved (%2)"_s.arg(name, target));
+        mContext.status.UpDateStatus(u"%1 Saved (%2)"_s.arg(name, target));
     });
 }
 
 void SavedUrls::refillBox()
 {
-    mForm.saved.cboANSavedUrls.clear();
-    for (const QString &element : std::as_const(mForm.saved.mastrSavedUrlIds)) {
+    mSaved.cboANSavedUrls.clear();
+    for (const QString &element : std::as_const(mSaved.mastrSavedUrlIds)) {
         if (!element.isEmpty())
-            mForm.saved.cboANSavedUrls.addItem(element.section(lineEnd, 0, 0));
+            mSaved.cboANSavedUrls.addItem(element.section(lineEnd, 0, 0));
     }
 }
 
 void SavedUrls::RemoveSavedUrl()
 {
-    const int index = mForm.saved.cboANSavedUrls.listIndex();
-    const Kind kind = mForm.saved.mbPassUrlsLoaded ? Kind::PassUrl : Kind::SavedUrl;
-    guarded(mLog, {module, "Sub RemoveSavedUrl"_L1}, [&] {
+    const int index = mSaved.cboANSavedUrls.listIndex();
+    const Kind kind = mSaved.mbPassUrlsLoaded ? Kind::PassUrl : Kind::SavedUrl;
+    guarded(mContext.log, {module, "Sub RemoveSavedUrl"_L1}, [&] {
         if (index < 0)
             return;
-        mDatabase->DeleteRecords(table(kind), u"MaskName"_s,
-                                 cUtility::Trim(mForm.saved.cboANSavedUrls.text()).toString(), false);
-        if (index > upperBound(mForm.saved.mastrSavedUrlIds))
+        const QString name = cUtility::Trim(mSaved.cboANSavedUrls.text()).toString();
+        mDatabase->DeleteRecords(table(kind), u"MaskName"_s, name, false);
+        const QString standing = "SELECT Url FROM "_L1 + table(kind) + " WHERE MaskName='"_L1 + name + u'\'';
+        if (!mDatabase->GetRecordset(standing).isEmpty())
+            return;
+        if (index > upperBound(mSaved.mastrSavedUrlIds))
             throw RuntimeError(ErrorNumber::SubscriptOutOfRange, u"Subscript out of range"_s);
-        mForm.saved.mastrSavedUrlIds[index].clear();
-        mForm.saved.mastrSavedUrlIds = orEmptyList(cUtility::RemoveEmptyItemsFromArray(mForm.saved.mastrSavedUrlIds));
+        mSaved.mastrSavedUrlIds[index].clear();
+        mSaved.mastrSavedUrlIds = orEmptyList(cUtility::RemoveEmptyItemsFromArray(mSaved.mastrSavedUrlIds));
         refillBox();
-        const int count = mForm.saved.cboANSavedUrls.listCount();
+        const int count = mSaved.cboANSavedUrls.listCount();
         if (count > 0) {
-            mForm.saved.cboANSavedUrls.setListIndex(std::min(index, count - 1));
+            mSaved.cboANSavedUrls.setListIndex(std::min(index, count - 1));
         } else {
-            if (mForm.saved.mbPassUrlsLoaded) {
-                mForm.saved.mbPassUrlsLoaded = false;
-                mForm.saved.cboANSavedUrls.setToolTipText(mForm.options.chkSMV(0).value() == 1 ? u"Saved Urls"_s
-                                                                                               : QString());
+            if (mSaved.mbPassUrlsLoaded) {
+                mSaved.mbPassUrlsLoaded = false;
+                mSaved.cboANSavedUrls.setToolTipText(mContext.tips.ifShown(u"Saved Urls"_s));
                 LoadSavedUrls(Kind::SavedUrl);
             }
-            mForm.saved.chkUseSavedUrls.setValue(0);
+            mSaved.chkUseSavedUrls.setValue(0);
         }
-        mStatus.UpDateStatus(QString::number(count) + row(kind).label);
-        if (count > 0 && kind == Kind::PassUrl && mForm.options.chkSMA(openNextOnDelete).value() == 1)
+        mContext.status.UpDateStatus(QString::number(count) + row(kind).label);
+        if (count > 0 && kind == Kind::PassUrl && mOptions.chkSMA(openNextOnDelete).value() == 1)
             cmdANSavedGo_Click();
     });
-    mStates.SetStateOfControls();
+    mContext.states.SetStateOfControls();
 }
 
 void SavedUrls::cmdANSavedGo_Click()
 {
-    guarded(mLog, {module, "Sub cmdANSavedGo_Click"_L1}, [&] {
-        const int index = mForm.saved.cboANSavedUrls.listIndex();
+    guarded(mContext.log, {module, "Sub cmdANSavedGo_Click"_L1}, [&] {
+        const int index = mSaved.cboANSavedUrls.listIndex();
         if (index < 0)
             return;
-        const QString url = GetSavedUrl(Answer::Url, -1, mForm.saved.mastrSavedUrlIds.value(index), {}, {});
+        const QString url = GetSavedUrl(Answer::Url, -1, mSaved.mastrSavedUrlIds.value(index), {}, {});
         if (url.isEmpty())
             return;
         mNavigation.OpenSite(url);
-        const int option = mForm.saved.mbPassUrlsLoaded ? incrementPassUrl : incrementSavedUrl;
-        if (mForm.options.chkSMA(option).value() == 1 && index + 1 < mForm.saved.cboANSavedUrls.listCount())
-            mForm.saved.cboANSavedUrls.setListIndex(index + 1);
+        const int option = mSaved.mbPassUrlsLoaded ? incrementPassUrl : incrementSavedUrl;
+        if (mOptions.chkSMA(option).value() == 1 && index + 1 < mSaved.cboANSavedUrls.listCount())
+            mSaved.cboANSavedUrls.setListIndex(index + 1);
     });
 }
 
 void SavedUrls::SaveSavedUrlPos()
 {
-    if (const int index = mForm.saved.cboANSavedUrls.listIndex(); index >= 0)
-        mSettings.SaveSetting(section, "ANListIndex"_L1 + mForm.saved.cboANList.text(), QString::number(index));
+    if (const int index = mSaved.cboANSavedUrls.listIndex(); index >= 0)
+        mContext.settings.SaveSetting(section, "ANListIndex"_L1 + mSaved.cboANList.text(), QString::number(index));
 }
 
 void SavedUrls::SetSavedUrlPos()
 {
-    const int index = mSettings.GetSetting(section, "ANListIndex"_L1 + mForm.saved.cboANList.text(), u"0"_s).toInt();
-    if (index >= 0 && index < mForm.saved.cboANSavedUrls.listCount())
-        mForm.saved.cboANSavedUrls.setListIndex(index);
+    const int index = mContext.settings.GetSetting(section, "ANListIndex"_L1 + mSaved.cboANList.text(), u"0"_s).toInt();
+    if (index >= 0 && index < mSaved.cboANSavedUrls.listCount())
+        mSaved.cboANSavedUrls.setListIndex(index);
+}
+
+void SavedUrls::ResetSavedUrlPos()
+{
+    mContext.settings.SaveSetting(section, "ANListIndex"_L1 + mSaved.cboANList.text(), u"0"_s);
+}
+
+QString SavedUrls::chosenAddress()
+{
+    const QString name = mSaved.cboANSavedUrls.text();
+    return name.isEmpty() ? QString() : GetSavedUrl(Answer::Url, -1, {}, name, {});
 }

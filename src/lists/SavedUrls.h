@@ -2,8 +2,8 @@
 // cboANSavedUrls shows one kind at a time, with mastrSavedUrlIds beside it. Knows sites.
 #pragma once
 
-#include "app/StatusLine.h"
-#include "app/frmSearch.h"
+#include "app/Context.h"
+#include "app/FormGroups.h"
 #include "driver/Navigation.h"
 #include "sites/SiteRecords.h"
 #include "store/MaskNames.h"
@@ -16,8 +16,8 @@ class SavedUrls
     /// The two kinds, as GetNewMaskName numbers them.
     enum class Kind { PassUrl = 1, SavedUrl = 2 };
 
-    SavedUrls(ErrorReceiver &log, frmSearch &form, StatusLine &status, ControlStates &states, SettingsStore &settings,
-              DatabaseHolder &database, BrowserHolder &browser, SiteRecords &records, Navigation &navigation);
+    SavedUrls(const Context &context, SavedAddresses &saved, const OptionBoxes &options, DatabaseHolder &database,
+              BrowserHolder &browser, SiteRecords &records, Navigation &navigation);
 
     /// Looks into mastrSavedUrlIds: the element at `index`, or with a negative one the element equal to `item`, else
     /// the one named `name`, else the one of address `url`; "" if there is none.
@@ -38,6 +38,10 @@ class SavedUrls
     /// Remembers the position in the Saved Urls of the list on show.
     void SaveSavedUrlPos();
     void SetSavedUrlPos();
+    /// The next SetSavedUrlPos() begins at the first item.
+    void ResetSavedUrlPos();
+    /// The address of the chosen item; "" if none is.
+    [[nodiscard]] QString chosenAddress();
 
     /// The family name joined with the list letter in force.
     [[nodiscard]] QString table(Kind kind) const;
@@ -45,11 +49,9 @@ class SavedUrls
   private:
     void refillBox();
 
-    ErrorReceiver &mLog;
-    frmSearch &mForm;
-    StatusLine &mStatus;
-    ControlStates &mStates;
-    SettingsStore &mSettings;
+    Context mContext;
+    SavedAddresses &mSaved;
+    const OptionBoxes &mOptions;
     DatabaseHolder &mDatabase;
     BrowserHolder &mBrowser;
     SiteRecords &mRecords;

@@ -2,6 +2,7 @@
 
 #include "pages/Addresses.h"
 #include "util/AddressList.h"
+#include "util/ColumnText.h"
 #include "util/Text.h"
 
 #include <QRegularExpression>
@@ -73,6 +74,15 @@ QString SeparateSD(int part, const QString &value)
         return value;
     const QStringList parts = value.split(valueMarker);
     return part > 1 || part < 0 || parts[0].isEmpty() ? QString() : parts[part];
+}
+
+QString JoinSD(const QString &text, qint64 number)
+{
+    const QString behind = valueMarker + QString::number(number);
+    QString front = text.left(cUtility::columnLength - behind.size());
+    if (front.size() < text.size() && front.back().isHighSurrogate())
+        front.chop(1);
+    return front + behind;
 }
 
 QStringList LinkStages::startStop(const QStringList &links, const QStringList &begin, const QStringList &end)

@@ -10,6 +10,8 @@
 /// Takes a value of two parts apart at its marker. A value without the marker comes back whole, whichever part is asked
 /// for; an empty first part gives "" for both; a part above 1 is "". Part 1 ends at a second marker.
 [[nodiscard]] QString SeparateSD(int part, const QString &value);
+/// The value of `text` and `number`; the text is cut so that all of it fits into a column.
+[[nodiscard]] QString JoinSD(const QString &text, qint64 number);
 
 namespace LinkStages {
 /// The links between those that hold a begin text and those that hold an end text (ignoring case). Without begin texts

@@ -27,11 +27,11 @@ QStringList ResultLinks::GetLinks()
             if (QStringList kept = (this->*stage)(links, site); !firstOf(kept).isEmpty())
                 links = std::move(kept);
         }
-        if (mForm.options.chkSMA(uniqueServersOption).value() == 1)
+        if (mOptions.chkSMA(uniqueServersOption).value() == 1)
             links = cIEText::GetUniqueServers(links);
         links = cUtility::RemoveRepeatsFromArray(links);
-        if (mForm.blocking.urls.on.value() == 1)
-            links = cUtility::FilterArray(links, cLstBx::GetItems(mForm.blocking.urls.items, cLstBx::Which::All));
+        if (mBlocked.on.value() == 1)
+            links = cUtility::FilterArray(links, cLstBx::GetItems(mBlocked.items, cLstBx::Which::All));
     });
 }
 
@@ -47,7 +47,7 @@ QStringList ResultLinks::SDProcessCnvHex(const QStringList &links, const QString
 {
     return guardedResult(mLog, {module, "Function SDProcessCnvHex"_L1}, emptyList(), [&](QStringList &kept) {
         const bool active = firstOf(mRecords.GetSearchSiteData(site, SiteField::CnvHex)) == "1"_L1 ||
-                            mForm.options.chkSMA(convertHexOption).value() == 1;
+                            mOptions.chkSMA(convertHexOption).value() == 1;
         kept = active ? LinkStages::cnvHex(links) : links;
     });
 }

@@ -1,14 +1,16 @@
 // Takes the result links out of the page on show: the page's links through the chain of its site's record.
 #pragma once
 
-#include "app/frmSearch.h"
+#include "app/FormGroups.h"
 #include "sites/SiteRecords.h"
 
 class ResultLinks
 {
   public:
-    ResultLinks(ErrorReceiver &log, frmSearch &form, BrowserHolder &browser, SiteRecords &records)
-        : mLog(log), mForm(form), mBrowser(browser), mRecords(records)
+    /// `blocked` are the texts that a link must not hold.
+    ResultLinks(ErrorReceiver &log, const OptionBoxes &options, const BlockedTexts &blocked, BrowserHolder &browser,
+                SiteRecords &records)
+        : mLog(log), mOptions(options), mBlocked(blocked), mBrowser(browser), mRecords(records)
     {
     }
     /// The server of the page on show belongs to a record.
@@ -26,7 +28,8 @@ class ResultLinks
     [[nodiscard]] QStringList SDProcessBeginEndUrl(const QStringList &links, const QString &site);
 
     ErrorReceiver &mLog;
-    frmSearch &mForm;
+    const OptionBoxes &mOptions;
+    const BlockedTexts &mBlocked;
     BrowserHolder &mBrowser;
     SiteRecords &mRecords;
 };

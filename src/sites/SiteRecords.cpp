@@ -27,29 +27,47 @@ constexpr FieldRow fieldRows[] = {
     {SiteField::BUrlCol, true, "BUrlCol"_L1},   {SiteField::EUrlCol, true, "EUrlCol"_L1},
 };
 
-QString slotName(QLatin1StringView family, int slot)
+const FieldRow *rowOf(SiteField field)
 {
-    return u"%1-%2"_s.arg(family).arg(slot);
+    const auto *row = std::find_if(std::begin(fieldRows), std::end(fieldRows),
+                                   [&](const FieldRow &candidate) { return candidate.number == field; });
+    return row == std::end(fieldRows) ? nullptr : row;
 }
 } // namespace
+
+QLatin1StringView SiteRecords::fieldName(SiteField field)
+{
+    const FieldRow *row = rowOf(field);
+    return row ? row->name : QLatin1StringView();
+}
+
+bool SiteRecords::isFamily(SiteField field)
+{
+    const FieldRow *row = rowOf(field);
+    return row && row->family;
+}
+
+QString SiteRecords::slotName(SiteField field, int slot)
+{
+    return u"%1-%2"_s.arg(fieldName(field)).arg(slot);
+}
 
 QStringList SiteRecords::GetSearchSiteData(const QString &site, SiteField field)
 {
     constexpr Place place{module, "Function GetSearchSiteData"_L1};
     return guardedResult(mLog, place, emptyList(), [&](QStringList &result) {
-        const auto *row = std::find_if(std::begin(fieldRows), std::end(fieldRows),
-                                       [&](const FieldRow &candidate) { return candidate.number == field; });
-        if (row == std::end(fieldRows))
+        const QLatin1StringView name = fieldName(field);
+        if (name.isEmpty() || site.isEmpty())
             return;
         const Recordset record =
             mDatabase->GetRecordset("SELECT * FROM SearchSites WHERE SiteName='"_L1 + site + u'\'');
-        if (record.Bof() && record.Eof())
+        if (record.isEmpty())
             return;
         QStringList found;
-        if (!row->family)
-            found.append(FixNull(record.Fields()[row->name]));
-        for (int slot = 1; row->family && slot <= slots; ++slot) {
-            if (const QString value = FixNull(record.Fields()[slotName(row->name, slot)]); !value.isEmpty())
+        if (!isFamily(field))
+            found.append(FixNull(record.Fields()[name]));
+        for (int slot = 1; isFamily(field) && slot <= slots; ++slot) {
+            if (const QString value = FixNull(record.Fields()[slotName(field, slot)]); !value.isEmpty())
                 found.append(value);
         }
         result = orEmptyList(std::move(found));
@@ -67,7 +85,7 @@ template <class Visit> bool SiteRecords::findServer(const QString &server, Visit
     Recordset records = mDatabase->GetRecordset(u"SELECT * FROM SearchSites"_s);
     for (; !records.Eof(); records.MoveNext()) {
         for (int slot = 1; slot <= slots; ++slot) {
-            const QString value = FixNull(records.Fields()[slotName("Url"_L1, slot)]);
+            const QString value = FixNull(records.Fields()[slotName(SiteField::Url, slot)]);
             if (!value.isEmpty() && cUtility::equalIgnoringCase(value, server)) {
                 visit(records);
                 return true;

@@ -27,6 +27,12 @@ class SiteRecords
     {
     }
 
+    /// The name of a field, of a family without its slot; "" for what is no field of a record.
+    [[nodiscard]] static QLatin1StringView fieldName(SiteField field);
+    [[nodiscard]] static bool isFamily(SiteField field);
+    /// The name of slot 1 to 5 of a family.
+    [[nodiscard]] static QString slotName(SiteField field, int slot);
+
     /// The values of `field` in the record of `site`: the filled slots of a family in slot order, packed. The empty
     /// list without a record or for a field that cannot be read.
     [[nodiscard]] QStringList GetSearchSiteData(const QString &site, SiteField field);

@@ -13,11 +13,12 @@ Program::Program(const Ports &ports)
                  {ports.pump, ports.desktop, ports.clipboard, ports.place, ports.browsers}),
       navigation(context, form.browser, browser),
       visit(context, navigation, browser, timer, ports.pump, runs, connection), records(log, database, browser),
-      links(log, form, browser, records),
-      savedUrls(log, form, status, states, ports.settings, database, browser, records, navigation),
-      criteria(log, form, status, states, ports.dialogs, database),
-      blocking(log, form, status, states, ports.dialogs, ports.settings, database, browser),
-      pageData(log, form.outputs, form.limits), pageFiles(log, form.outputs, form.places, pageData),
+      siteEditing(log, form.siteEditor, form.runs, database, records), defaultSites(log, database),
+      links(log, form.options, form.blocking.urls, browser, records),
+      savedUrls(context, form.saved, form.options, database, browser, records, navigation),
+      criteria(context, form.criteria, database), blocking(context, form.blocking, database, browser),
+      longWork(ports.pump, status), deletedRows(log, database, longWork), pageData(log, form.outputs, form.limits),
+      pageFiles(log, form.outputs, form.places, pageData),
       findings(log, form.blocking.email, form.areaCodes, form.options),
       writers(log, form.outputs, form.options, database, savedUrls, pageData, findings),
       keeping(context, form.options, database, writers, pageFiles, runs, ports.pump),
@@ -32,14 +33,26 @@ Program::Program(const Ports &ports)
       loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
       lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, runs, browser, database, options, loader,
                  connection}),
-      autoTab({log, form, status, states, timer, ports.desktop, savedUrls, blocking, autoRun, connection, lifeCycle}),
-      criteriaPanel(form, status, states, criteria)
+      runEvents(context, form, timer, ports.desktop, autoRun, connection, lifeCycle),
+      savedPanel(context, form, savedUrls, autoRun),
+      passUrlsMenu(context, form, savedUrls, deletedRows, database, popUps),
+      listMenu(context, form.menus.mnuPopUpANMCMNC, popUps), criteriaPanel(context, form, criteria, listMenu),
+      blockingPanel(context, form, blocking, listMenu), tabEvents(context, form.frame),
+      statusBarEvents(context, form, popUps), statusMenu(context, form, ports.place, browser, navigation, records),
+      siteMenu(context, form, records, navigation, popUps),
+      sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form),
+      siteCount(context, form.frame, form.siteEditor, form.runs, browser, records)
 {
     const CheckBox &errorMessages = form.options.chkSMV(SMV::ErrorMessages);
     log.ToggleErrMsg(ports.settings.GetSetting(Sections::Main, Keys::ErrorMessages, u"0"_s) == "1"_L1);
     QObject::connect(&errorMessages, &CheckBox::Click, &log, [&] { log.ToggleErrMsg(errorMessages.value() == 1); });
     areaCodes.LoadStates();
     connectDatabase();
+    connectSites();
+    QObject::connect(&statusMenu, &StatusMenu::resetWanted, &form, [this] { autoRun.ResetProcessAN(); });
+    QObject::connect(&statusMenu, &StatusMenu::helpWanted, &form, [&side = ports.side] { side.showHelp(); });
+    QObject::connect(&statusMenu, &StatusMenu::aboutWanted, &form, [&side = ports.side] { side.showAbout(); });
+    QObject::connect(&statusMenu, &StatusMenu::endWanted, &lifeCycle, &LifeCycle::Terminate);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -56,6 +69,26 @@ void Program::connectDatabase()
         criteria.LoadMCMNC();
         blocking.LoadBlocked();
     });
-    QObject::connect(&loader, &DatabaseLoader::addressesWanted, &form,
-                     [this] { savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl); });
+    QObject::connect(&loader, &DatabaseLoader::addressesWanted, &form, [this] {
+        loadSites();
+        savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
+    });
+}
+
+/// A database without records gets those of the start; the editor and the menu show what there is.
+void Program::loadSites()
+{
+    if (!defaultSites.IsDefaultSDLoaded())
+        defaultSites.AddDefaultSSData();
+    siteEditing.LoadSearchSiteData(SiteEditing::allNames);
+    form.siteEditor.cboSDLen.setListIndex(0);
+    form.siteEditor.cboSDGroup.setListIndex(0);
+    siteMenu.LoadSearchEngineMenu();
+}
+
+void Program::connectSites()
+{
+    QObject::connect(&states, &StateOfControls::siteEditorAsked, &form, [this] { siteEditing.SetSDState(true); });
+    QObject::connect(&statusBarEvents, &StatusBarEvents::siteOfPageWanted, &sitePanel, &SitePanel::takePage);
+    QObject::connect(&siteOffer, &SiteOffer::accepted, &sitePanel, &SitePanel::takePage);
 }

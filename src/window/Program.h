@@ -3,14 +3,24 @@
 #pragma once
 
 #include "app/ErrorLog.h"
+#include "app/LongWork.h"
 #include "app/SideWindows.h"
 #include "app/cTimer.h"
 #include "harvest/AutoRun.h"
 #include "harvest/UntilLoaded.h"
+#include "sites/SiteCount.h"
 #include "window/LifeCycle.h"
-#include "window/commands/AutoTab.h"
+#include "window/commands/BlockingPanel.h"
 #include "window/commands/CriteriaPanel.h"
-#include "window/commands/PopUps.h"
+#include "window/commands/PassUrlsMenu.h"
+#include "window/commands/RunEvents.h"
+#include "window/commands/SavedPanel.h"
+#include "window/commands/SiteMenu.h"
+#include "window/commands/SiteOffer.h"
+#include "window/commands/SitePanel.h"
+#include "window/commands/StatusBarEvents.h"
+#include "window/commands/StatusMenu.h"
+#include "window/commands/TabEvents.h"
 #include "window/options/AreaCodePanel.h"
 #include "window/options/OptionReports.h"
 #include "window/options/ToolTips.h"
@@ -41,18 +51,22 @@ struct Program
     PopUps popUps;
     cTimer timer;
     StateOfControls states;
+    Context context;
     DatabaseHolder database;
     BrowserHolder browser;
-    Context context;
     Runs runs;
     BrowserConnection connection;
     Navigation navigation;
     PageVisit visit;
     SiteRecords records;
+    SiteEditing siteEditing;
+    DefaultSites defaultSites;
     ResultLinks links;
     SavedUrls savedUrls;
     CriteriaSets criteria;
     Blocking blocking;
+    LongWork longWork;
+    DeletedRows deletedRows;
     PageData pageData;
     PageFiles pageFiles;
     Findings findings;
@@ -71,9 +85,22 @@ struct Program
     DatabaseFile databaseFile;
     DatabaseLoader loader;
     LifeCycle lifeCycle;
-    AutoTab autoTab;
+    RunEvents runEvents;
+    SavedPanel savedPanel;
+    PassUrlsMenu passUrlsMenu;
+    ListMenu listMenu;
     CriteriaPanel criteriaPanel;
+    BlockingPanel blockingPanel;
+    TabEvents tabEvents;
+    StatusBarEvents statusBarEvents;
+    StatusMenu statusMenu;
+    SiteMenu siteMenu;
+    SitePanel sitePanel;
+    SiteOffer siteOffer;
+    SiteCount siteCount;
 
   private:
     void connectDatabase();
+    void connectSites();
+    void loadSites();
 };

@@ -1,11 +1,13 @@
 // Blocked texts: two lists that share the rows of one table.
 #include "support/ProgramFixture.h"
+#include "util/Arrays.h"
+
+#include <QElapsedTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 using Kind = Blocking::Kind;
-using Batch = Blocking::Batch;
 
 class BlockingTest : public ProgramTest
 {
@@ -62,11 +64,11 @@ TEST_F(BlockingTest, AStartWithTextsRestoresTheBoxAndTheFirstItem)
 
 TEST_F(BlockingTest, AnAddedTextTakesTheFirstRowThatHasRoom)
 {
-    blocking().AddBlockedUrl(u"ads"_s);
+    blocking().add(Kind::Url, u"ads"_s);
     EXPECT_EQ(lastStatus(), u"ads added"_s);
-    blocking().AddBlockedEC(u"spam"_s);
-    blocking().AddBlockedEC(u"noreply"_s);
-    blocking().AddBlockedUrl(u"banner"_s);
+    blocking().add(Kind::Email, u"spam"_s);
+    blocking().add(Kind::Email, u"noreply"_s);
+    blocking().add(Kind::Url, u"banner"_s);
     EXPECT_EQ(table(), (QStringList{u"ads|spam"_s, u"banner|noreply"_s}));
     EXPECT_EQ(form().blocking.urls.items.items(), (QStringList{u"ads"_s, u"banner"_s}));
     EXPECT_EQ(form().blocking.urls.items.listIndex(), 0);
@@ -74,18 +76,18 @@ TEST_F(BlockingTest, AnAddedTextTakesTheFirstRowThatHasRoom)
 
 TEST_F(BlockingTest, CommasAreTakenOutAndNothingLeftAddsNothing)
 {
-    blocking().AddBlockedUrl(u"a,b"_s);
+    blocking().add(Kind::Url, u"a,b"_s);
     EXPECT_EQ(form().blocking.urls.items.items(), QStringList{u"ab"_s});
-    blocking().AddBlockedUrl(u",,"_s);
+    blocking().add(Kind::Url, u",,"_s);
     EXPECT_EQ(table().size(), 1);
 }
 
 TEST_F(BlockingTest, ATextIsAddedOnceButMayDifferInCase)
 {
-    blocking().AddBlockedUrl(u"ads"_s);
-    blocking().AddBlockedUrl(u"ads"_s);
+    blocking().add(Kind::Url, u"ads"_s);
+    blocking().add(Kind::Url, u"ads"_s);
     EXPECT_EQ(lastStatus(), u"ads exists"_s);
-    blocking().AddBlockedUrl(u"ADS"_s);
+    blocking().add(Kind::Url, u"ADS"_s);
     EXPECT_EQ(form().blocking.urls.items.items(), (QStringList{u"ads"_s, u"ADS"_s}));
 }
 
@@ -93,8 +95,8 @@ TEST_F(BlockingTest, AsksForATextAndProposesThePagesServerForLinks)
 {
     browser().show(u"http://www.ads.com/x"_s);
     dialogs.inputAnswers = {u"ads.com"_s, u"@spam"_s};
-    blocking().AddBlockedUrl();
-    blocking().AddBlockedEC();
+    blocking().add(Kind::Url);
+    blocking().add(Kind::Email);
     ASSERT_EQ(dialogs.inputs.size(), 2);
     EXPECT_EQ(dialogs.inputs[0].title, u"Urls Must Not contain"_s);
     EXPECT_EQ(dialogs.inputs[0].text, u"Enter new item"_s);
@@ -106,11 +108,11 @@ TEST_F(BlockingTest, AsksForATextAndProposesThePagesServerForLinks)
 
 TEST_F(BlockingTest, TheFirstTextDoesNotInItselfTurnBlockingOn)
 {
-    blocking().AddBlockedUrl(u"ads"_s);
+    blocking().add(Kind::Url, u"ads"_s);
     EXPECT_EQ(form().blocking.urls.on.value(), 0);
     form().blocking.urls.on.setValue(1);
     EXPECT_EQ(lastStatus(), u"Url blocking ON"_s);
-    blocking().AddBlockedUrl(u"banner"_s);
+    blocking().add(Kind::Url, u"banner"_s);
     EXPECT_EQ(form().blocking.urls.on.value(), 1);
 }
 
@@ -120,7 +122,7 @@ TEST_F(BlockingTest, RemovingALinkTextKeepsTheAddressTextOfItsRow)
     addBlock(u"banner"_s, {});
     reload();
     choose(form().blocking.urls.items, 0);
-    blocking().RemoveBlockedUrl(Batch::No);
+    blocking().RemoveBlocked(Kind::Url);
     EXPECT_EQ(lastStatus(), u"ads removed"_s);
     EXPECT_EQ(table(), (QStringList{u"|spam"_s, u"banner|"_s}));
     EXPECT_EQ(form().blocking.urls.items.items(), QStringList{u"banner"_s});
@@ -132,10 +134,10 @@ TEST_F(BlockingTest, ARowSharedByBothGoesWithItsSecondText)
     addBlock(u"ads"_s, u"spam"_s);
     reload();
     choose(form().blocking.email.items, 0);
-    blocking().RemoveBlockedEC(Batch::No);
+    blocking().RemoveBlocked(Kind::Email);
     EXPECT_EQ(table(), QStringList{u"ads|"_s});
     choose(form().blocking.urls.items, 0);
-    blocking().RemoveBlockedUrl(Batch::No);
+    blocking().RemoveBlocked(Kind::Url);
     EXPECT_TRUE(table().isEmpty());
 }
 
@@ -146,7 +148,7 @@ TEST_F(BlockingTest, AnEarlierRowWithAnAddressTextAloneGoesWithALinkTextUntilThe
     addBlock({}, u"later"_s);
     reload();
     choose(form().blocking.urls.items, 0);
-    blocking().RemoveBlockedUrl(Batch::No);
+    blocking().RemoveBlocked(Kind::Url);
     EXPECT_EQ(table(), QStringList{u"|later"_s});
     EXPECT_EQ(form().blocking.email.items.items(), (QStringList{u"spam"_s, u"later"_s}));
     reload();
@@ -159,25 +161,25 @@ TEST_F(BlockingTest, AnEarlierRowWithALinkTextAloneStaysWhenAnAddressTextGoes)
     addBlock({}, u"spam"_s);
     reload();
     choose(form().blocking.email.items, 0);
-    blocking().RemoveBlockedEC(Batch::No);
+    blocking().RemoveBlocked(Kind::Email);
     EXPECT_EQ(table(), QStringList{u"ads|"_s});
 }
 
 TEST_F(BlockingTest, RemovingTheLastTextClearsTheBoxAndItStaysOff)
 {
-    blocking().AddBlockedUrl(u"ads"_s);
+    blocking().add(Kind::Url, u"ads"_s);
     form().blocking.urls.on.setValue(1);
     choose(form().blocking.urls.items, 0);
-    blocking().RemoveBlockedUrl(Batch::No);
+    blocking().RemoveBlocked(Kind::Url);
     EXPECT_EQ(form().blocking.urls.on.value(), 0);
-    blocking().AddBlockedUrl(u"banner"_s);
+    blocking().add(Kind::Url, u"banner"_s);
     EXPECT_EQ(form().blocking.urls.on.value(), 0);
 }
 
 TEST_F(BlockingTest, AllSelectedTextsAreRemoved)
 {
     for (const auto *text : {"a", "b", "c", "d"})
-        blocking().AddBlockedUrl(QString::fromLatin1(text));
+        blocking().add(Kind::Url, QString::fromLatin1(text));
     form().blocking.urls.items.choose(0, {true, false, true, true});
     blocking().RemoveBlocked(Kind::Url);
     EXPECT_EQ(form().blocking.urls.items.items(), QStringList{u"b"_s});
@@ -199,4 +201,67 @@ TEST_F(BlockingTest, ClearingAnEmptyListDoesNothing)
     statuses.clear();
     blocking().ClearBlockedList(Kind::Email);
     EXPECT_TRUE(statuses.isEmpty());
+}
+
+TEST_F(BlockingTest, BlockingAPartOfAWordDropsALinkThatEndsInAnotherCase)
+{
+    EXPECT_EQ(cUtility::FilterArray({u"http://a.com/Downloads/x"_s, u"http://a.com/y"_s}, {u"ads"_s}),
+              QStringList{u"http://a.com/y"_s});
+}
+
+TEST_F(BlockingTest, ATextLongerThanAColumnIsCutAtEntryAndCanBeRemoved)
+{
+    blocking().add(Kind::Url, QString(300, u'a'));
+    const QString cut(255, u'a');
+    EXPECT_EQ(form().blocking.urls.items.items(), QStringList{cut});
+    EXPECT_EQ(table(), QStringList{cut + u'|'});
+    choose(form().blocking.urls.items, 0);
+    blocking().RemoveBlocked(Kind::Url);
+    EXPECT_TRUE(table().isEmpty());
+    EXPECT_EQ(form().blocking.urls.items.listCount(), 0);
+}
+
+TEST_F(BlockingTest, LineBreaksInATypedTextBecomeOneBlank)
+{
+    dialogs.inputAnswers = {u"two\r\nlines"_s};
+    blocking().add(Kind::Email);
+    EXPECT_EQ(form().blocking.email.items.items(), QStringList{u"two lines"_s});
+}
+
+TEST_F(BlockingTest, ADropAddsEachNewLineWhateverEndsIt)
+{
+    blocking().add(Kind::Url, u"ads"_s);
+    blocking().drop(Kind::Url, u"one\r\n\r\nADS\ntwo,three\rOne"_s);
+    EXPECT_EQ(form().blocking.urls.items.items(), (QStringList{u"ads"_s, u"one"_s, u"twothree"_s}));
+    EXPECT_EQ(table(), (QStringList{u"ads|"_s, u"one|"_s, u"twothree|"_s}));
+    EXPECT_EQ(lastStatus(), u"twothree added"_s);
+}
+
+TEST_F(BlockingTest, WhatTheTableRefusesIsNeitherShownNorTold)
+{
+    addBlock(u"ads"_s, {});
+    reload();
+    choose(form().blocking.urls.items, 0);
+    statuses.clear();
+    database().CloseConnection();
+    blocking().RemoveBlocked(Kind::Url);
+    blocking().add(Kind::Url, u"banner"_s);
+    blocking().ClearBlockedList(Kind::Url);
+    EXPECT_EQ(form().blocking.urls.items.items(), QStringList{u"ads"_s});
+    EXPECT_TRUE(statuses.isEmpty());
+}
+
+TEST_F(BlockingTest, ListsOfAHundredThousandTextsStayUsable)
+{
+    QStringList lines;
+    for (int i = 0; i < 100'000; ++i)
+        lines.append(u"text%1"_s.arg(i));
+    QElapsedTimer time;
+    time.start();
+    blocking().drop(Kind::Url, lines.join(u'\n'));
+    EXPECT_EQ(form().blocking.urls.items.listCount(), 100'000);
+    blocking().ClearBlockedList(Kind::Url);
+    EXPECT_EQ(form().blocking.urls.items.listCount(), 0);
+    EXPECT_TRUE(table().isEmpty());
+    EXPECT_LT(time.elapsed(), 20'000);
 }

@@ -318,3 +318,56 @@ TEST_F(CriteriaTest, AChangeBetweenTwoPagesActsFromTheNextPageOn)
     clickStart();
     EXPECT_EQ(rows(u"SiteSummary"_s), (QStringList{u"http://www.site1.com/"_s, u"http://www.site2.com/"_s}));
 }
+
+TEST_F(CriteriaTest, TextsAreCutAtEntryAndOneLine)
+{
+    addSet(QString(300, u's'));
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.text().size(), 255);
+    sets().AddMC(List::MustContain, QString(300, u'a'));
+    const QString cut(255, u'a');
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{cut});
+    EXPECT_EQ(sets().RemoveMC(List::MustContain, cut), cut + u" Removed"_s);
+    dialogs.inputAnswers = {u"two\nlines"_s};
+    EXPECT_EQ(sets().AddMC(List::MustContain), u"two lines Added"_s);
+    EXPECT_EQ(sets().RemoveMCMNCSet(), QString(255, u's') + u" Removed"_s);
+    EXPECT_TRUE(rows(u"MC"_s, u"MaskName"_s).isEmpty());
+}
+
+TEST_F(CriteriaTest, ADropTakesLinesOfEitherEnd)
+{
+    addSet(u"Tea"_s);
+    sets().drop(List::MustContain, u"one\r\ntwo\nthree\n"_s);
+    EXPECT_EQ(form().criteria.mustContain.items.items(), (QStringList{u"one"_s, u"two"_s, u"three"_s}));
+    EXPECT_EQ(lastStatus(), u"3 Added"_s);
+}
+
+TEST_F(CriteriaTest, WhatTheTableRefusesIsNotReportedAsDone)
+{
+    addSet(u"Tea"_s);
+    addItems(List::MustContain, {u"green"_s});
+    database().CloseConnection();
+    EXPECT_EQ(sets().RemoveMC(List::MustContain, u"green"_s), QString());
+    EXPECT_EQ(sets().RemoveMCMNCSet(), u"Tea Not Removed"_s);
+    EXPECT_EQ(sets().ClearMC(List::MustContain), QString());
+    sets().drop(List::MustContain, u"black"_s);
+    EXPECT_EQ(lastStatus(), u"0 Added"_s);
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.text(), u"Tea"_s);
+    EXPECT_EQ(form().criteria.mustContain.items.items(), QStringList{u"green"_s});
+}
+
+TEST_F(CriteriaTest, SelectGoesBackToAllWhenNothingIsSelectedAnyMore)
+{
+    addSet(u"Tea"_s);
+    addItems(List::MustContain, {u"green"_s, u"black"_s});
+    ComboBox &demand = form().criteria.mustContain.demand;
+    demand.setListIndex(2);
+    EXPECT_EQ(form().criteria.mustContain.items.selCount(), 1);
+    sets().RemoveMCMNC(List::MustContain);
+    EXPECT_EQ(demand.listIndex(), 0);
+    demand.setListIndex(2);
+    sets().AssignMaskElements();
+    EXPECT_EQ(demand.listIndex(), 0);
+    demand.setListIndex(2);
+    sets().ClearMC(List::MustContain);
+    EXPECT_EQ(demand.listIndex(), 0);
+}

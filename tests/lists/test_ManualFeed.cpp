@@ -19,7 +19,7 @@ class ManualFeedTest : public ManualTest
     }
 
     SiteRecords records{log, database, browser};
-    ResultLinks results{log, form, browser, records};
+    ResultLinks results{log, form.options, form.blocking.urls, browser, records};
     DiscoveredLinks links{log, form.urlFilter, form.blocking, form.options, browser, records, results};
     ManualFeed feed{context, desk, form.options, links, clipboard, work};
 };

@@ -283,3 +283,25 @@ TEST_F(SavedUrlsTest, AChangeOfTheListKeepsTheFlagOfPassUrls)
     EXPECT_TRUE(form().saved.mbPassUrlsLoaded);
     EXPECT_EQ(form().saved.cboANSavedUrls.listCount(), 0);
 }
+
+TEST_F(SavedUrlsTest, WhatTheTableRefusesIsNeitherShownNorTold)
+{
+    fill(Kind::SavedUrl, 2);
+    form().saved.cboANSavedUrls.setListIndex(0);
+    statuses.clear();
+    database().CloseConnection();
+    urls().RemoveSavedUrl();
+    EXPECT_EQ(form().saved.cboANSavedUrls.listCount(), 2);
+    EXPECT_TRUE(statuses.isEmpty());
+}
+
+TEST_F(SavedUrlsTest, ALongAddressIsFoundAgain)
+{
+    const QString address = u"http://www.seek.com/?q="_s + QString(300, u'a');
+    showResults({}, address);
+    urls().AddSavedUrl(true, {});
+    urls().AddSavedUrl(true, {});
+    EXPECT_EQ(rows(u"RPgUrlsA"_s).size(), 1);
+    EXPECT_EQ(lastStatus(), u"Url Exists (RPgUrlsA)"_s);
+    EXPECT_EQ(form().saved.cboANSavedUrls.listCount(), 1);
+}

@@ -1,4 +1,5 @@
 // Search-site records as the runs read them, and the chain that a record drives.
+#include "app/frmSearch.h"
 #include "sites/ResultLinks.h"
 #include "support/Database.h"
 #include "support/FakeBrowser.h"
@@ -38,7 +39,7 @@ class SitesTest : public testing::Test
     frmSearch form;
     DatabaseHolder database;
     SiteRecords records{log, database, holder};
-    ResultLinks links{log, form, holder, records};
+    ResultLinks links{log, form.options, form.blocking.urls, holder, records};
 };
 } // namespace
 
@@ -234,4 +235,12 @@ TEST_F(ChainTest, WithoutABrowserTheListWasNeverDimensioned)
     holder.set(std::make_unique<cIEObject>(log, desktop, clipboard, browsers));
     EXPECT_TRUE(links.GetLinks().isEmpty());
     EXPECT_EQ(log.locations(), QStringList{u"Function GetLinks"_s});
+}
+
+TEST_F(SitesTest, ARecordWithoutANameFiltersNoPage)
+{
+    add({{u"SiteName"_s, QString()}, {u"UrlMC-1"_s, u"tea<~Dorv~>0"_s}});
+    EXPECT_EQ(records.GetSearchSiteData({}, SiteField::UrlMC), QStringList{QString()});
+    show(u"http://elsewhere.com/"_s, {u"http://a.com/tea"_s, u"http://b.com/"_s});
+    EXPECT_EQ(links.GetLinks(), (QStringList{u"http://a.com/tea"_s, u"http://b.com/"_s}));
 }

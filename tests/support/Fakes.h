@@ -171,9 +171,11 @@ class FakePlace : public WindowPlace
     void moveTo(const QRect &place) override { rect = place; }
     [[nodiscard]] QRect screen() const override { return {0, 0, 1920, 1080}; }
     void putOnTop(bool onTop) override { onTopCalls.append(onTop); }
+    void minimize() override { ++minimized; }
 
     QRect rect{300, 200, 400, 560};
     QList<bool> onTopCalls;
+    int minimized = 0;
 };
 
 /// Counts the calls instead of deciding about controls.

@@ -1,32 +1,38 @@
 #include "window/commands/CriteriaPanel.h"
 
-CriteriaPanel::CriteriaPanel(frmSearch &form, StatusLine &status, ControlStates &states, CriteriaSets &criteria)
-    : mForm(form), mStatus(status), mStates(states), mCriteria(criteria)
+CriteriaPanel::CriteriaPanel(const Context &context, frmSearch &form, CriteriaSets &criteria, ListMenu &menu)
+    : mContext(context), mForm(form), mCriteria(criteria)
 {
     connect(&form.criteria.cboANMCMNCMask, &ComboBox::Click, this, [this] {
         mCriteria.AssignMaskElements();
-        mStates.SetStateOfControls();
+        mContext.states.SetStateOfControls();
     });
     connect(&form.criteria.cmdANMCMaskAdd, &Button::Click, this, [this] {
-        mStatus.UpDateStatus(mCriteria.AddMCMNCSet());
-        mStates.SetStateOfControls();
+        mContext.status.UpDateStatus(mCriteria.AddMCMNCSet());
+        mContext.states.SetStateOfControls();
     });
     connect(&form.criteria.cmdANMCMaskMinus, &Button::Click, this, [this] {
-        mStatus.UpDateStatus(mCriteria.RemoveMCMNCSet());
-        mStates.SetStateOfControls();
+        mContext.status.UpDateStatus(mCriteria.RemoveMCMNCSet());
+        mContext.states.SetStateOfControls();
     });
-    connectList(CriteriaSets::List::MustContain, form.criteria.mustContain.items, form.criteria.mustContain.add,
-                form.criteria.mustContain.demand);
-    connectList(CriteriaSets::List::MustNotContain, form.criteria.mustNotContain.items,
-                form.criteria.mustNotContain.add, form.criteria.mustNotContain.demand);
+    connectList(CriteriaSets::List::MustContain, form.criteria.mustContain, menu);
+    connectList(CriteriaSets::List::MustNotContain, form.criteria.mustNotContain, menu);
 }
 
-void CriteriaPanel::connectList(CriteriaSets::List list, ListBox &box, Button &add, ComboBox &demand)
+void CriteriaPanel::connectList(CriteriaSets::List list, Criterion &criterion, ListMenu &menu)
 {
-    connect(&add, &Button::Click, this, [this, list] {
-        mCriteria.AddMC(list); // what it answers is not told
-        mStates.SetStateOfControls();
+    // What the commands answer is not told.
+    menu.serve({criterion.items, [this, list] { mCriteria.AddMC(list); }, [this, list] { mCriteria.RemoveMCMNC(list); },
+                [this, list] { mCriteria.ClearMC(list); },
+                [this, list](const QString &text) { mCriteria.drop(list, text); }});
+    connect(&criterion.add, &Button::Click, this, [this, list] {
+        mCriteria.AddMC(list);
+        mContext.states.SetStateOfControls();
     });
-    connect(&demand, &ComboBox::Click, this, [this, list] { mCriteria.demandChosen(list); });
-    connect(&box, &ListBox::Click, this, [this, list] { mCriteria.showTip(list); });
+    // Before the form is ready the list may still be on its way.
+    connect(&criterion.demand, &ComboBox::Click, this, [this, list] {
+        if (mForm.mbFormReady)
+            mCriteria.demandChosen(list);
+    });
+    connect(&criterion.items, &ListBox::Click, this, [this, list] { mCriteria.showTip(list); });
 }

@@ -1,21 +1,22 @@
 // The events of the criteria on the Auto tab, each led to the operation that answers it.
 #pragma once
 
+#include "app/Context.h"
 #include "app/frmSearch.h"
 #include "lists/CriteriaSets.h"
+#include "window/commands/ListMenu.h"
 
 class CriteriaPanel : public QObject
 {
     Q_OBJECT
 
   public:
-    CriteriaPanel(frmSearch &form, StatusLine &status, ControlStates &states, CriteriaSets &criteria);
+    CriteriaPanel(const Context &context, frmSearch &form, CriteriaSets &criteria, ListMenu &menu);
 
   private:
-    void connectList(CriteriaSets::List list, ListBox &box, Button &add, ComboBox &demand);
+    void connectList(CriteriaSets::List list, Criterion &criterion, ListMenu &menu);
 
-    frmSearch &mForm;
-    StatusLine &mStatus;
-    ControlStates &mStates;
+    Context mContext;
+    const frmSearch &mForm;
     CriteriaSets &mCriteria;
 };

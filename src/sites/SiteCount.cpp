@@ -1,0 +1,144 @@
+#include "sites/SiteCount.h"
+
+#include "pages/LinkStages.h"
+#include "util/AddressList.h"
+#include "util/Arrays.h"
+#include "util/Text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int typingPause = 150;
+constexpr qsizetype linksInTip = 30;
+
+/// A stage that would leave nothing is left out, as in a run.
+QStringList unlessEmpty(QStringList kept, const QStringList &before)
+{
+    return firstOf(kept).isEmpty() ? before : kept;
+}
+
+QStringList counted(const QStringList &links, const QStringList &texts, LinkStages::Keeping keeping)
+{
+    QStringList kept;
+    LinkStages::countedTexts(links, texts, keeping, kept);
+    return unlessEmpty(kept, links);
+}
+
+QString tipOf(const QStringList &links)
+{
+    QStringList shown = links.mid(0, linksInTip);
+    if (links.size() > linksInTip)
+        shown.append(u"(and %1 more)"_s.arg(links.size() - linksInTip));
+    return shown.join(u'\n');
+}
+} // namespace
+
+SiteCount::SiteCount(const Context &context, const WindowFrame &frame, SiteEditor &editor, const RunFlags &runs,
+                     BrowserHolder &browser, SiteRecords &records)
+    : mContext(context), mFrame(frame), mEditor(editor), mRuns(runs), mBrowser(browser), mRecords(records)
+{
+    mSoon.setSingleShot(true);
+    mSoon.setInterval(typingPause);
+    connect(&mSoon, &QTimer::timeout, this, &SiteCount::show);
+    connect(&browser, &BrowserHolder::loadingEnded, this, &SiteCount::pageChanged);
+    for (const TabControl *tabs : {&frame.sstSearch, &frame.sstSettings, &frame.sstMiscOptions})
+        connect(tabs, &TabControl::Click, this, &SiteCount::pageChanged);
+    for (int box = editor.cboSD.first(); box <= editor.cboSD.last(); ++box)
+        connect(&editor.cboSD(box), &ComboBox::changed, this, &SiteCount::changed);
+    for (const NumberBox *number : {&editor.incSDMCMNC(0), &editor.incSDMCMNC(1), &editor.incSDUrlLen})
+        connect(number, &NumberBox::changed, this, &SiteCount::changed);
+    connect(&editor.cboSDLen, &ComboBox::Click, this, &SiteCount::changed);
+    connect(&editor.chkSDHex, &CheckBox::Click, this, &SiteCount::changed);
+}
+
+std::array<QStringList, SiteCount::figures> SiteCount::stagesOf(const QStringList &links, const Values &values)
+{
+    std::array<QStringList, figures> left;
+    left[0] = links;
+    if (firstOf(links).isEmpty()) {
+        left.fill(links);
+        return left;
+    }
+    left[1] = unlessEmpty(LinkStages::startStop(links, values.firstLink, values.lastLink), links);
+    const QStringList resolved = values.convertHex ? LinkStages::cnvHex(left[1]) : left[1];
+    left[2] = unlessEmpty(LinkStages::minMax(resolved, values.length), resolved);
+    left[3] = counted(left[2], values.contains, LinkStages::Keeping::Containing);
+    left[4] = counted(left[3], values.containsNot, LinkStages::Keeping::NotContaining);
+    left[5] = cUtility::RemoveRepeatsFromArray(
+        unlessEmpty(LinkStages::beginEndUrl(left[4], values.begin, values.end), left[4]));
+    return left;
+}
+
+bool SiteCount::isShown() const
+{
+    return mFrame.sstSearch.tab() == Tab::Settings && mFrame.sstSettings.tab() == Tab::Misc &&
+           mFrame.sstMiscOptions.tab() == Tab::Sites;
+}
+
+void SiteCount::pageChanged()
+{
+    mLinksOutdated = true;
+    changed();
+}
+
+void SiteCount::changed()
+{
+    if (isShown())
+        mSoon.start();
+}
+
+/// The stored values of the chosen record's field, and the one that is being typed.
+QStringList SiteCount::family(SiteField field, int box)
+{
+    const ComboBox &combo = mEditor.cboSD(box);
+    const QString typed = combo.text();
+    const auto stands = [](const QStringList &items, const QString &text) {
+        return std::any_of(items.begin(), items.end(),
+                           [&](const QString &item) { return cUtility::equalIgnoringCase(item, text); });
+    };
+    const ComboBox &names = mEditor.cboSD(1);
+    QStringList values =
+        stands(names.items(), names.text()) ? mRecords.GetSearchSiteData(names.text(), field) : emptyList();
+    if (typed.isEmpty() || stands(combo.items(), typed))
+        return values;
+    if (firstOf(values).isEmpty())
+        values.clear();
+    if (field == SiteField::UrlMC || field == SiteField::UrlMNC)
+        values.append(JoinSD(typed, mEditor.incSDMCMNC(field == SiteField::UrlMC ? 0 : 1).value()));
+    else
+        values.append(typed);
+    return values;
+}
+
+SiteCount::Values SiteCount::values()
+{
+    Values values;
+    values.begin = family(SiteField::BeginUrl, 3);
+    values.end = family(SiteField::EndUrl, 4);
+    values.contains = family(SiteField::UrlMC, 5);
+    values.containsNot = family(SiteField::UrlMNC, 6);
+    values.firstLink = family(SiteField::BUrlCol, 7);
+    values.lastLink = family(SiteField::EUrlCol, 8);
+    if (mEditor.cboSDLen.listIndex() >= 0 && mEditor.incSDUrlLen.value() > 0)
+        values.length = JoinSD(QString::number(mEditor.cboSDLen.listIndex()), mEditor.incSDUrlLen.value());
+    values.convertHex = mEditor.chkSDHex.value() == 1;
+    return values;
+}
+
+/// Only while the editor is on show and nothing runs: the page of a run belongs to the run.
+void SiteCount::show()
+{
+    if (!isShown() || !mRuns.idle() || !mBrowser.isSet())
+        return;
+    guarded(mContext.log, {"SiteCount"_L1, "Sub show"_L1}, [&] {
+        if (std::exchange(mLinksOutdated, false))
+            mLinks = mBrowser->GetLinksOnWebPage();
+        const auto stages = stagesOf(mLinks, values());
+        for (int figure = 0; figure < figures; ++figure) {
+            const QStringList &left = stages[static_cast<std::size_t>(figure)];
+            Label &label = mEditor.lblSDCount(figure + 1);
+            label.setCaption(QString::number(firstOf(left).isEmpty() ? 0 : left.size()));
+            label.setToolTipText(tipOf(left));
+        }
+    });
+}

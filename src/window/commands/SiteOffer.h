@@ -1,0 +1,25 @@
+// Where a site's result pages cannot be read yet, offers the way to the editor. A newcomer meets this with the first
+// Go; whoever has no window answers nothing and goes on.
+#pragma once
+
+#include "app/Context.h"
+#include "app/frmSearch.h"
+
+class SiteOffer : public QObject
+{
+    Q_OBJECT
+
+  public:
+    SiteOffer(const Context &context, frmSearch &form);
+
+  Q_SIGNALS:
+    /// The editor is on show, and a record is to be begun for the page on show.
+    void accepted();
+
+  private:
+    void offer();
+
+    Context mContext;
+    frmSearch &mForm;
+    bool mAsking = false;
+};
