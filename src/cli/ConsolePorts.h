@@ -53,4 +53,6 @@ class NoWindow : public WindowPlace
     void moveTo(const QRect &) override {}
     [[nodiscard]] QRect screen() const override { return {}; }
     void putOnTop(bool) override {}
+    void minimize() override {}
+    [[nodiscard]] double scale() const override { return 1; }
 };

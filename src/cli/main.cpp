@@ -65,7 +65,7 @@ int run(Program &program, EventPump &pump, const Arguments &arguments)
     Outcome outcome(program);
     StopSignals stopSignals;
     QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.lifeCycle, &LifeCycle::end);
-    if (!program.lifeCycle.Form_Load())
+    if (!program.startUp.Form_Load())
         return OtherEnd;
     applySettings(program, arguments.settings);
     harvest(program, pump, arguments);

@@ -35,6 +35,12 @@ class MainWindowPlace : public WindowPlace
         if (mWindow)
             mWindow->setKeptOnTop(onTop);
     }
+    void minimize() override
+    {
+        if (mWindow)
+            mWindow->showMinimized();
+    }
+    [[nodiscard]] double scale() const override { return mWindow ? mWindow->devicePixelRatioF() : 1; }
 
   private:
     MainWindow *mWindow = nullptr;

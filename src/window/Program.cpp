@@ -1,6 +1,7 @@
 #include "window/Program.h"
 
 #include "app/SettingKeys.h"
+#include "window/WindowPlaces.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +31,11 @@ Program::Program(const Ports &ports)
       options(context, form, ports.programFolder), optionReports(context, form), toolTips(context, form),
       areaCodes(log, form.areaCodes), databaseFile(context, form.places, form.import.cboSFITableExisting, database),
       loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
-      lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, runs, browser, database, options, loader,
-                 connection}),
+      lifeCycle(context, form, timer, runs, browser, connection),
+      startUp(context, form, options, loader, connection, ports.place, lifeCycle),
+      placeCommands(context, form.places, form.runs, database, loader, ports.desktop, ports.side),
+      windowCommands(context, form.menus, ports.place, ports.side), filesSites(context, form),
+      manualColours(form.lists, form.collect, form.series, form.blocking, form.menus.mnuPopUpMNStatus),
       autoTab({log, form, status, states, timer, ports.desktop, savedUrls, blocking, autoRun, connection, lifeCycle}),
       criteriaPanel(form, status, states, criteria)
 {
@@ -40,6 +44,7 @@ Program::Program(const Ports &ports)
     QObject::connect(&errorMessages, &CheckBox::Click, &log, [&] { log.ToggleErrMsg(errorMessages.value() == 1); });
     areaCodes.LoadStates();
     connectDatabase();
+    connectLife(ports);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -58,4 +63,22 @@ void Program::connectDatabase()
     });
     QObject::connect(&loader, &DatabaseLoader::addressesWanted, &form,
                      [this] { savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl); });
+}
+
+/// What the start and the end ask of others.
+void Program::connectLife(const Ports &ports)
+{
+    QObject::connect(&startUp, &StartUp::formLoaded, &form, [this] { manualColours.SetMNColors(); });
+    QObject::connect(&startUp, &StartUp::settled, &windowCommands, &WindowCommands::tmrKeepOnTop_Timer);
+    QObject::connect(&filesSites, &FilesSitesEvents::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
+    QObject::connect(&placeCommands, &PlaceCommands::unloadRequested, &lifeCycle, &LifeCycle::end);
+    QObject::connect(&windowCommands, &WindowCommands::endWanted, &lifeCycle, &LifeCycle::Terminate);
+    QObject::connect(&lifeCycle, &LifeCycle::saving, &form, [this, &settings = ports.settings, &place = ports.place] {
+        options.saveAtExit();
+        SaveFF(settings, mainWindowName, place.place());
+    });
+    QObject::connect(&lifeCycle, &LifeCycle::releasing, &form, [this] {
+        browser.release();
+        database.reset();
+    });
 }

@@ -7,13 +7,17 @@
 #include "app/cTimer.h"
 #include "harvest/AutoRun.h"
 #include "harvest/UntilLoaded.h"
-#include "window/LifeCycle.h"
+#include "window/StartUp.h"
 #include "window/commands/AutoTab.h"
 #include "window/commands/CriteriaPanel.h"
+#include "window/commands/FilesSitesEvents.h"
+#include "window/commands/PlaceCommands.h"
 #include "window/commands/PopUps.h"
+#include "window/commands/WindowCommands.h"
 #include "window/options/AreaCodePanel.h"
 #include "window/options/OptionReports.h"
 #include "window/options/ToolTips.h"
+#include "window/states/ManualColours.h"
 #include "window/states/StateOfControls.h"
 
 struct Program
@@ -71,9 +75,15 @@ struct Program
     DatabaseFile databaseFile;
     DatabaseLoader loader;
     LifeCycle lifeCycle;
+    StartUp startUp;
+    PlaceCommands placeCommands;
+    WindowCommands windowCommands;
+    FilesSitesEvents filesSites;
+    ManualColours manualColours;
     AutoTab autoTab;
     CriteriaPanel criteriaPanel;
 
   private:
     void connectDatabase();
+    void connectLife(const Ports &ports);
 };
