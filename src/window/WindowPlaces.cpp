@@ -44,7 +44,7 @@ QSize storedSize(const SettingsStore &settings, const QString &name, QSize byDef
         const int stored = static_cast<int>(settings.GetSetting(name, key).toDouble() / twipsPerPixel);
         return stored > 0 ? stored : otherwise;
     };
-    return {pixels(u"NSWE_W"_s, byDefault.width()), pixels(u"NSWE_H"_s, byDefault.height())};
+    return {pixels(Keys::Width, byDefault.width()), pixels(Keys::Height, byDefault.height())};
 }
 
 bool hasStoredPlace(const SettingsStore &settings, const QString &name)
