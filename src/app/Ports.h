@@ -7,6 +7,7 @@
 #include <QRect>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 /// Time and the pump of the event loop.
 class EventPump
@@ -82,6 +83,8 @@ class WindowPlace
     [[nodiscard]] virtual QRect screen() const = 0;
     virtual void putOnTop(bool onTop) = 0;
     virtual void minimize() = 0;
+    /// Pixels of the screen for each of ours.
+    [[nodiscard]] virtual double scale() const = 0;
 };
 
 /// Pop-up menus.

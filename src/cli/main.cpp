@@ -38,15 +38,11 @@ void waitUntilLoaded(Program &program, EventPump &pump)
 
 void applySettings(Program &program, const QList<Arguments::Setting> &settings)
 {
-    // While the form is not ready no value changes another, so the order of the arguments does not matter.
-    program.form.mbFormReady = false;
     for (const Arguments::Setting &setting : settings) {
         if (setting.control == program.form.browser.cboANWBSelect.name())
             throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"--set cboANWBSelect: use --browser"_s);
-        setControl(program.form, setting.control, setting.value);
     }
-    program.form.mbFormReady = true;
-    program.states.SetStateOfControls();
+    setControls(program.form, program.states, settings);
 }
 
 void harvest(Program &program, EventPump &pump, const Arguments &arguments)
@@ -69,7 +65,7 @@ int run(Program &program, EventPump &pump, const Arguments &arguments)
     Outcome outcome(program);
     StopSignals stopSignals;
     QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.lifeCycle, &LifeCycle::end);
-    if (!program.lifeCycle.Form_Load())
+    if (!program.startUp.Form_Load())
         return OtherEnd;
     applySettings(program, arguments.settings);
     harvest(program, pump, arguments);

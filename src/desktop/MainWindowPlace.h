@@ -40,6 +40,7 @@ class MainWindowPlace : public WindowPlace
         if (mWindow)
             mWindow->showMinimized();
     }
+    [[nodiscard]] double scale() const override { return mWindow ? mWindow->devicePixelRatioF() : 1; }
 
   private:
     MainWindow *mWindow = nullptr;

@@ -71,12 +71,12 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     browsers.standBeside(&window);
     browsers.keepPlaceIn(&settings);
     connectWindow(program, window);
-    if (!program.lifeCycle.Form_Load())
+    if (!program.startUp.Form_Load())
         return 1;
     // Placed before it is shown, so that the window manager takes our place and nothing jumps.
     window.takeUsualSize();
     place.sizeTo(storedSize(settings, u"frmSearch"_s, place.place().size()));
-    program.lifeCycle.settle();
+    program.startUp.settle();
     splash.close();
     window.show();
     browsers.placeInternal();

@@ -1,40 +1,34 @@
-// The life of the program between its start and its end: what is loaded in which order, and how it all ends, also in
-// the middle of a run.
+// The end of the program, in every moment: it waits for what stands on the stack, has everything written, lets
+// everything go.
 #pragma once
 
+#include "app/Context.h"
 #include "app/cTimer.h"
 #include "app/frmSearch.h"
 #include "driver/Runs.h"
 #include "window/BrowserConnection.h"
-#include "window/DatabaseLoader.h"
-#include "window/options/Options.h"
 
 class LifeCycle : public QObject
 {
     Q_OBJECT
 
   public:
-    struct Parts
-    {
-        ErrorReceiver &log;
-        frmSearch &form;
-        SettingsStore &settings;
-        UserDialogs &dialogs;
-        WindowPlace &place;
-        cTimer &timer;
-        Runs &runs;
-        BrowserHolder &browser;
-        DatabaseHolder &database;
-        Options &options;
-        DatabaseLoader &loader;
-        BrowserConnection &connection;
-    };
-    explicit LifeCycle(const Parts &parts);
+    LifeCycle(const Context &context, frmSearch &form, cTimer &timer, Runs &runs, BrowserHolder &browser,
+              BrowserConnection &connection);
 
-    /// Builds the form's state, opens the database, connects a browser. False when there is no usable database.
-    bool Form_Load();
-    /// Just before the window is shown: its place, and that it stands on top.
-    void settle();
+    /// While one lives the end waits: something stands on the stack that must not lose its objects.
+    class Hold
+    {
+      public:
+        explicit Hold(LifeCycle &life) : mLife(life) { ++life.mHolds; }
+        ~Hold() { --mLife.mHolds; }
+        Hold(const Hold &) = delete;
+        Hold &operator=(const Hold &) = delete;
+
+      private:
+        LifeCycle &mLife;
+    };
+
     /// The user wants to end; asks first where the option says so.
     void Terminate();
     /// Ends without asking: at once, or as soon as the run on the stack has unwound.
@@ -46,6 +40,10 @@ class LifeCycle : public QObject
     void runEnded();
 
   Q_SIGNALS:
+    /// What is kept of this time is to be written now.
+    void saving();
+    /// What was opened is to be let go.
+    void releasing();
     /// All is written and released; the process may go.
     void ended();
 
@@ -53,9 +51,14 @@ class LifeCycle : public QObject
     void stopRun();
     void Form_Unload();
 
-    Parts m;
+    Context mContext;
+    frmSearch &mForm;
+    cTimer &mTimer;
+    Runs &mRuns;
+    BrowserHolder &mBrowser;
+    BrowserConnection &mConnection;
+    int mHolds = 0;
     bool mEnding = false;
     bool mSaving = true;
     bool mUnloaded = false;
-    bool mConnecting = false;
 };

@@ -1,6 +1,7 @@
 #include "window/Program.h"
 
 #include "app/SettingKeys.h"
+#include "window/WindowPlaces.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,14 +32,17 @@ Program::Program(const Ports &ports)
       options(context, form, ports.programFolder), optionReports(context, form), toolTips(context, form),
       areaCodes(log, form.areaCodes), databaseFile(context, form.places, form.import.cboSFITableExisting, database),
       loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
-      lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, runs, browser, database, options, loader,
-                 connection}),
+      lifeCycle(context, form, timer, runs, browser, connection),
+      startUp(context, form, options, loader, connection, ports.place, lifeCycle),
+      placeCommands(context, form.places, form.runs, database, loader, ports.desktop, ports.side),
+      windowCommands(context, form.menus, ports.place, ports.side), filesSites(context, form),
+      manualColours(form.lists, form.collect, form.series, form.blocking, form.menus.mnuPopUpMNStatus),
       runEvents(context, form, timer, ports.desktop, autoRun, connection, lifeCycle),
       savedPanel(context, form, savedUrls, autoRun),
       passUrlsMenu(context, form, savedUrls, deletedRows, database, popUps),
       listMenu(context, form.menus.mnuPopUpANMCMNC, popUps), criteriaPanel(context, form, criteria, listMenu),
       blockingPanel(context, form, blocking, listMenu), tabEvents(context, form.frame),
-      statusBarEvents(context, form, popUps), statusMenu(context, form, ports.place, browser, navigation, records),
+      statusBarEvents(context, form, popUps), statusMenu(context, form, browser, navigation, records),
       siteMenu(context, form, records, navigation, popUps),
       sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form),
       siteCount(context, form.frame, form.siteEditor, form.runs, browser, records)
@@ -49,10 +53,8 @@ Program::Program(const Ports &ports)
     areaCodes.LoadStates();
     connectDatabase();
     connectSites();
+    connectLife(ports);
     QObject::connect(&statusMenu, &StatusMenu::resetWanted, &form, [this] { autoRun.ResetProcessAN(); });
-    QObject::connect(&statusMenu, &StatusMenu::helpWanted, &form, [&side = ports.side] { side.showHelp(); });
-    QObject::connect(&statusMenu, &StatusMenu::aboutWanted, &form, [&side = ports.side] { side.showAbout(); });
-    QObject::connect(&statusMenu, &StatusMenu::endWanted, &lifeCycle, &LifeCycle::Terminate);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -91,4 +93,22 @@ void Program::connectSites()
     QObject::connect(&states, &StateOfControls::siteEditorAsked, &form, [this] { siteEditing.SetSDState(true); });
     QObject::connect(&statusBarEvents, &StatusBarEvents::siteOfPageWanted, &sitePanel, &SitePanel::takePage);
     QObject::connect(&siteOffer, &SiteOffer::accepted, &sitePanel, &SitePanel::takePage);
+}
+
+/// What the start and the end ask of others.
+void Program::connectLife(const Ports &ports)
+{
+    QObject::connect(&startUp, &StartUp::formLoaded, &form, [this] { manualColours.SetMNColors(); });
+    QObject::connect(&startUp, &StartUp::settled, &windowCommands, &WindowCommands::tmrKeepOnTop_Timer);
+    QObject::connect(&filesSites, &FilesSitesEvents::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
+    QObject::connect(&placeCommands, &PlaceCommands::unloadRequested, &lifeCycle, &LifeCycle::end);
+    QObject::connect(&windowCommands, &WindowCommands::endWanted, &lifeCycle, &LifeCycle::Terminate);
+    QObject::connect(&lifeCycle, &LifeCycle::saving, &form, [this, &settings = ports.settings, &place = ports.place] {
+        options.saveAtExit();
+        SaveFF(settings, mainWindowName, place.place());
+    });
+    QObject::connect(&lifeCycle, &LifeCycle::releasing, &form, [this] {
+        browser.release();
+        database.reset();
+    });
 }

@@ -10,9 +10,13 @@
 #include "harvest/UntilLoaded.h"
 #include "sites/SiteCount.h"
 #include "window/LifeCycle.h"
+#include "window/StartUp.h"
 #include "window/commands/BlockingPanel.h"
 #include "window/commands/CriteriaPanel.h"
+#include "window/commands/FilesSitesEvents.h"
 #include "window/commands/PassUrlsMenu.h"
+#include "window/commands/PlaceCommands.h"
+#include "window/commands/PopUps.h"
 #include "window/commands/RunEvents.h"
 #include "window/commands/SavedPanel.h"
 #include "window/commands/SiteMenu.h"
@@ -21,9 +25,11 @@
 #include "window/commands/StatusBarEvents.h"
 #include "window/commands/StatusMenu.h"
 #include "window/commands/TabEvents.h"
+#include "window/commands/WindowCommands.h"
 #include "window/options/AreaCodePanel.h"
 #include "window/options/OptionReports.h"
 #include "window/options/ToolTips.h"
+#include "window/states/ManualColours.h"
 #include "window/states/StateOfControls.h"
 
 struct Program
@@ -85,6 +91,11 @@ struct Program
     DatabaseFile databaseFile;
     DatabaseLoader loader;
     LifeCycle lifeCycle;
+    StartUp startUp;
+    PlaceCommands placeCommands;
+    WindowCommands windowCommands;
+    FilesSitesEvents filesSites;
+    ManualColours manualColours;
     RunEvents runEvents;
     SavedPanel savedPanel;
     PassUrlsMenu passUrlsMenu;
@@ -103,4 +114,5 @@ struct Program
     void connectDatabase();
     void connectSites();
     void loadSites();
+    void connectLife(const Ports &ports);
 };

@@ -1,5 +1,7 @@
 #include "window/WindowPlaces.h"
 
+#include "app/SettingKeys.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -20,10 +22,10 @@ int position(const QString &stored, int bound)
 
 void SaveFF(SettingsStore &settings, const QString &name, const QRect &place)
 {
-    settings.SaveSetting(name, u"NSWE_W"_s, twips(place.width()));
-    settings.SaveSetting(name, u"NSWE_H"_s, twips(place.height()));
-    settings.SaveSetting(name, u"NSWE_L"_s, twips(place.left()));
-    settings.SaveSetting(name, u"NSWE_T"_s, twips(place.top()));
+    settings.SaveSetting(name, Keys::Width, twips(place.width()));
+    settings.SaveSetting(name, Keys::Height, twips(place.height()));
+    settings.SaveSetting(name, Keys::Left, twips(place.left()));
+    settings.SaveSetting(name, Keys::Top, twips(place.top()));
 }
 
 QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &window, const QRect &screen)
@@ -31,8 +33,8 @@ QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &w
     const QString left = twips((screen.width() - window.width()) / 2);
     const QString top = twips((screen.height() - window.height()) / 2);
     QRect place = window;
-    place.moveTo(position(settings.GetSetting(name, u"NSWE_L"_s, left), screen.width()),
-                 position(settings.GetSetting(name, u"NSWE_T"_s, top), screen.height()));
+    place.moveTo(position(settings.GetSetting(name, Keys::Left, left), screen.width()),
+                 position(settings.GetSetting(name, Keys::Top, top), screen.height()));
     return place;
 }
 
@@ -42,7 +44,7 @@ QSize storedSize(const SettingsStore &settings, const QString &name, QSize byDef
         const int stored = static_cast<int>(settings.GetSetting(name, key).toDouble() / twipsPerPixel);
         return stored > 0 ? stored : otherwise;
     };
-    return {pixels(u"NSWE_W"_s, byDefault.width()), pixels(u"NSWE_H"_s, byDefault.height())};
+    return {pixels(Keys::Width, byDefault.width()), pixels(Keys::Height, byDefault.height())};
 }
 
 bool hasStoredPlace(const SettingsStore &settings, const QString &name)
@@ -52,5 +54,5 @@ bool hasStoredPlace(const SettingsStore &settings, const QString &name)
 
 void saveOnTop(SettingsStore &settings, const QString &name, bool onTop)
 {
-    settings.SaveSetting(u"Window Position"_s, name, onTop ? u"1"_s : u"0"_s);
+    settings.SaveSetting(Sections::WindowPosition, name, onTop ? u"1"_s : u"0"_s);
 }

@@ -3,6 +3,9 @@
 
 #include "app/Ports.h"
 
+/// The main window's name in the store.
+inline constexpr QLatin1StringView mainWindowName{"frmSearch"};
+
 /// Writes the window's place into the section of its name.
 void SaveFF(SettingsStore &settings, const QString &name, const QRect &place);
 /// The stored place: left and top, and the size of `window` as it is. What lies off the screen comes back to its edge;

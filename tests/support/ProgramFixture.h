@@ -29,7 +29,7 @@ class ProgramTest : public testing::Test
         QObject::connect(&program->lifeCycle, &LifeCycle::ended, &program->form, [this] { ++ends; });
         QObject::connect(&program->keeping, &PageKeeping::rowsStored, &program->form,
                          [this](const QMap<QString, int> &rows) { stored.append(rows); });
-        loaded = program->lifeCycle.Form_Load();
+        loaded = program->startUp.Form_Load();
     }
     [[nodiscard]] frmSearch &form() { return program->form; }
     [[nodiscard]] FakeBrowser &browser() { return *browsers.running; }

@@ -41,7 +41,7 @@ class PlainStates
                 return true;
         }
         for (const char *kept : {"cboDBFields", "cboANWBSelect", "chkPutInOneFile", "chkSFIAllSettings",
-                                 "txtSBStateACs", "chkSFIAllData", "chkSFIImportTable", "chkSFIImportField"}) {
+                                 "txtSBStateACs", "fxgTrawlex", "chkSFIAllData", "chkSFIImportTable", "chkSFIImportField"}) {
             if (name == QLatin1StringView(kept))
                 return true;
         }

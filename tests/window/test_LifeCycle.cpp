@@ -55,7 +55,7 @@ TEST_F(LifeTest, WithTheOptionAtOneTheWindowGoesToTheStandardPositionAndTheBoxSh
     settings.preset("chkSAMoveToTopLeft", u"1"_s);
     load();
     EXPECT_EQ(form().options.chkSMV(4).value(), 0);
-    program->lifeCycle.settle();
+    program->startUp.settle();
     EXPECT_EQ(form().options.chkSMV(4).value(), 1);
     EXPECT_EQ(place.rect, QRect(0, 0, 400, 560));
     EXPECT_EQ(browser().geometry, (QStringList{u"top 0"_s, u"width 380"_s, u"height 440"_s, u"left 400"_s}));
@@ -67,7 +67,7 @@ TEST_F(LifeTest, TheOptionsDefaultIsOne)
 {
     settings.values.remove(u"SecFrmSearch/chkSAMoveToTopLeft"_s);
     load();
-    program->lifeCycle.settle();
+    program->startUp.settle();
     EXPECT_EQ(form().options.chkSMV(4).value(), 1);
 }
 
@@ -76,7 +76,7 @@ TEST_F(LifeTest, OtherwiseTheWindowComesBackToWhereItWasSaved)
     settings.values.insert(u"frmSearch/NSWE_L"_s, u"1500"_s);
     settings.values.insert(u"frmSearch/NSWE_T"_s, u"300"_s);
     load();
-    program->lifeCycle.settle();
+    program->startUp.settle();
     EXPECT_EQ(place.rect, QRect(100, 20, 400, 560));
     EXPECT_EQ(form().options.chkSMV(4).value(), 0);
     EXPECT_TRUE(browser().geometry.isEmpty());
@@ -85,7 +85,7 @@ TEST_F(LifeTest, OtherwiseTheWindowComesBackToWhereItWasSaved)
 TEST_F(LifeTest, AFirstStartComesUpOnTop)
 {
     load();
-    program->lifeCycle.settle();
+    program->startUp.settle();
     pump.doEvents();
     EXPECT_EQ(place.onTopCalls, QList<bool>{true});
     EXPECT_EQ(settings.values.value(u"Window Position/frmSearch"_s), u"1"_s);
@@ -96,7 +96,7 @@ TEST_F(LifeTest, ItDoesNotComeUpOnTopWhereTheUserHasTakenItDown)
 {
     settings.preset("mnuANStatusKeepOnTop", u"False"_s);
     load();
-    program->lifeCycle.settle();
+    program->startUp.settle();
     pump.doEvents();
     EXPECT_TRUE(place.onTopCalls.isEmpty());
 }

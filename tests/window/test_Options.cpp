@@ -195,7 +195,7 @@ TEST_F(OptionsTest, EveryOptionComesBackAsItWasLeft)
     settings.preset("chkSMSUniqueServers", u"0"_s);
     settings.preset("chkMCMNCStop", u"1"_s); // an output, without which the criteria go off
     load();
-    program->lifeCycle.settle();
+    program->startUp.settle();
     QMap<QString, QString> left;
     // Blocking and start addresses have nothing to act on, the Manual list holds nothing to open.
     const QStringList kept{u"chkUrlBlocking"_s, u"chkEmailBlocking"_s, u"chkUseSavedUrls"_s,
@@ -214,7 +214,7 @@ TEST_F(OptionsTest, EveryOptionComesBackAsItWasLeft)
     program->lifeCycle.end();
     program.reset();
     load();
-    program->lifeCycle.settle();
+    program->startUp.settle();
     for (auto option = left.begin(); option != left.end(); ++option)
         EXPECT_EQ(form().control(option.key())->stored(), option.value()) << option.key().toStdString();
 }
@@ -276,7 +276,7 @@ TEST_F(OptionsTest, AnEmptyFolderCountsAsTheProgramsOwn)
 TEST_F(OptionsTest, EverySwitchStoresItsValueAndTellsItsStatus)
 {
     load();
-    program->lifeCycle.settle();
+    program->startUp.settle();
     form().options.chkSMV(1).setValue(0);
     // Outputs first, so that the criteria stay on; blocking and Saved Urls have nothing to act on and go off at once.
     const QStringList kept{u"chkUrlBlocking"_s, u"chkEmailBlocking"_s, u"chkUseSavedUrls"_s};
@@ -388,7 +388,7 @@ TEST_F(OptionsTest, OrientAtStartIsStoredOnlyOnceTheWindowIsShown)
     load();
     form().options.chkSMV(4).setValue(1);
     EXPECT_EQ(settings.of("chkSAMoveToTopLeft"), u"0"_s);
-    program->lifeCycle.settle();
+    program->startUp.settle();
     form().options.chkSMV(4).setValue(0);
     form().options.chkSMV(4).setValue(1);
     EXPECT_EQ(settings.of("chkSAMoveToTopLeft"), u"1"_s);

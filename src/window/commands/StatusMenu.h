@@ -1,4 +1,4 @@
-// The commands of the status bar's menu on the tabs Auto and Settings.
+// The commands of the status bar's menu on the tabs Auto and Settings that concern the run and the page on show.
 #pragma once
 
 #include "app/Context.h"
@@ -11,8 +11,8 @@ class StatusMenu : public QObject
     Q_OBJECT
 
   public:
-    StatusMenu(const Context &context, frmSearch &form, WindowPlace &place, BrowserHolder &browser,
-               Navigation &navigation, SiteRecords &records);
+    StatusMenu(const Context &context, frmSearch &form, BrowserHolder &browser, Navigation &navigation,
+               SiteRecords &records);
 
     /// What happens to the lists of "Auto Save".
     enum class AutoSave { AsItIs, Off, On };
@@ -26,19 +26,13 @@ class StatusMenu : public QObject
   Q_SIGNALS:
     void resetWanted();
     void autoSaveDecided(bool enabled);
-    void helpWanted();
-    void aboutWanted();
-    void endWanted();
 
   private:
     void prepare();
     void getServer();
-    void keepOnTop();
-    [[nodiscard]] bool isKeptOnTop() const;
 
     Context mContext;
     frmSearch &mForm;
-    WindowPlace &mPlace;
     BrowserHolder &mBrowser;
     Navigation &mNavigation;
     SiteRecords &mRecords;
