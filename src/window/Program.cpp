@@ -2,6 +2,7 @@
 
 #include "app/SettingKeys.h"
 #include "window/WindowPlaces.h"
+#include "window/commands/EditFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -45,7 +46,19 @@ Program::Program(const Ports &ports)
       statusBarEvents(context, form, popUps), statusMenu(context, form, browser, navigation, records),
       siteMenu(context, form, records, navigation, popUps),
       sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form),
-      siteCount(context, form.frame, form.siteEditor, form.runs, browser, records)
+      siteCount(context, form.frame, form.siteEditor, form.runs, browser, records),
+      manual(context, form, ports.pump, ports.clipboard, database, browser, links),
+      transfers([&pump = ports.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }), inet(transfers, log),
+      downloads(context, form.places, form.limits, form.options, browser, transfers, inet),
+      manualItems(context, form.manual, manual.desk, downloads, navigation),
+      manualWalk(form.manual, form.series, form.options, form.collect, manual.desk, manual.series, manual.tables),
+      autoNavigate(form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate"_L1), form.manual, form.limits, runs,
+                   manualWalk, siteVisit, manual.links),
+      manualRun(context, form.manual, runs, manualWalk, manualItems, autoNavigate, siteVisit),
+      collectChoice(context, form.collect, form.menus, form.lists, form.saved, form.options, manual.desk),
+      pageCollecting(log, browser, findings, manual.desk),
+      autoCollect(context, collectChoice, pageCollecting, manual.feed, savedUrls, links, manual.desk),
+      collectCommands(context, form, collectChoice, manual.series, links)
 {
     const CheckBox &errorMessages = form.options.chkSMV(SMV::ErrorMessages);
     log.ToggleErrMsg(ports.settings.GetSetting(Sections::Main, Keys::ErrorMessages, u"0"_s) == "1"_L1);
@@ -55,6 +68,9 @@ Program::Program(const Ports &ports)
     connectSites();
     connectLife(ports);
     QObject::connect(&statusMenu, &StatusMenu::resetWanted, &form, [this] { autoRun.ResetProcessAN(); });
+    connectManual(ports.desktop, ports.side);
+    connectManualRun();
+    connectCollecting();
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -70,6 +86,7 @@ void Program::connectDatabase()
     QObject::connect(&loader, &DatabaseLoader::listsWanted, &form, [this] {
         criteria.LoadMCMNC();
         blocking.LoadBlocked();
+        manual.takeDatabase();
     });
     QObject::connect(&loader, &DatabaseLoader::addressesWanted, &form, [this] {
         loadSites();
@@ -111,4 +128,46 @@ void Program::connectLife(const Ports &ports)
         browser.release();
         database.reset();
     });
+}
+
+void Program::connectManual(Desktop &desktop, SideWindows &side)
+{
+    manual.connectTo(states);
+    QObject::connect(&manual.tab, &ManualTab::menuWanted, &form, [this](Menu &menu) { popUps.ShowPopUp(menu); });
+    QObject::connect(&manual.tab, &ManualTab::openWanted, &form,
+                     [this](const QString &url) { navigation.OpenSite(url); });
+    const auto navigate = [this](int mode) { manualItems.NavFileOrSite(mode, {}, false); };
+    QObject::connect(&manual.edit, &ManualEdit::navigateWanted, &form, navigate);
+    QObject::connect(&manual.statusCommands, &ManualStatusCommands::navigateWanted, &form, navigate);
+    QObject::connect(&manual.edit, &ManualEdit::editWanted, &form, [this, &desktop](const QString &text) {
+        WriteEditFile(text, form.places.txtSFEditor.text(), desktop);
+    });
+    const auto magnify = [&side](const QString &text) { side.magnify(text); };
+    QObject::connect(&manual.edit, &ManualEdit::magnifyWanted, &form, magnify);
+    QObject::connect(&manual.statusCommands, &ManualStatusCommands::magnifyWanted, &form, magnify);
+    QObject::connect(&lifeCycle, &LifeCycle::ended, &manual.work, &LongWork::cancel);
+}
+
+void Program::connectManualRun()
+{
+    QObject::connect(&form.manual.cmdMNStart, &Button::Click, &form, [this] { manualRun.cmdMNStart_Click(); });
+    QObject::connect(&inet, &cInetWS::InetStatus, &form,
+                     [this](int state) { status.UpDateStatus(inetStateText(state)); });
+    QObject::connect(&runs, &Runs::stopping, &downloads, &Downloads::cancel);
+}
+
+/// An Auto run takes no part in series, nor in collecting into the Saved Urls.
+void Program::connectCollecting()
+{
+    QObject::connect(&runs, &Runs::starting, &form, [this](Runs::Kind kind) {
+        if (kind != Runs::Kind::Auto)
+            return;
+        if (const int position = manual.desk.GetAutoIncrChecked(); position > 0)
+            manual.series.SetAutoIncrPos(position);
+        collectChoice.DisableANAutoC(false);
+    });
+    QObject::connect(&browser, &BrowserHolder::DocumentComplete, &form, [this] { autoCollect.DocumentComplete(); });
+    QObject::connect(&manual.series, &AutoIncr::baseSwitchedOff, &collectChoice,
+                     [this] { collectChoice.SetAutoCollectState(CollectState::Kind::EmailPhone, true); });
+    QObject::connect(&collectChoice, &CollectChoice::coloursAsked, &manual.series, &AutoIncr::coloursAsked);
 }

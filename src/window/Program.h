@@ -6,14 +6,18 @@
 #include "app/LongWork.h"
 #include "app/SideWindows.h"
 #include "app/cTimer.h"
+#include "harvest/AutoCollect.h"
 #include "harvest/AutoRun.h"
+#include "harvest/ManualRun.h"
 #include "harvest/UntilLoaded.h"
 #include "sites/SiteCount.h"
 #include "window/LifeCycle.h"
 #include "window/StartUp.h"
 #include "window/commands/BlockingPanel.h"
+#include "window/commands/CollectCommands.h"
 #include "window/commands/CriteriaPanel.h"
 #include "window/commands/FilesSitesEvents.h"
+#include "window/commands/ManualSide.h"
 #include "window/commands/PassUrlsMenu.h"
 #include "window/commands/PlaceCommands.h"
 #include "window/commands/PopUps.h"
@@ -109,10 +113,25 @@ struct Program
     SitePanel sitePanel;
     SiteOffer siteOffer;
     SiteCount siteCount;
+    ManualSide manual;
+    Transfers transfers;
+    cInetWS inet;
+    Downloads downloads;
+    ManualItems manualItems;
+    ManualWalk manualWalk;
+    AutoNavigate autoNavigate;
+    ManualRun manualRun;
+    CollectChoice collectChoice;
+    PageCollecting pageCollecting;
+    AutoCollect autoCollect;
+    CollectCommands collectCommands;
 
   private:
     void connectDatabase();
     void connectSites();
     void loadSites();
     void connectLife(const Ports &ports);
+    void connectManual(Desktop &desktop, SideWindows &side);
+    void connectManualRun();
+    void connectCollecting();
 };
