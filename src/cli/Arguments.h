@@ -1,6 +1,8 @@
 // The command line of trawlex-harvest.
 #pragma once
 
+#include "cli/DataArguments.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -24,6 +26,7 @@ struct Arguments
     bool untilLoaded = false;
     std::optional<Run> run;
     bool json = false;
+    DataArguments data;
     bool help = false;
 };
 

@@ -29,7 +29,8 @@ Program::Program(const Ports &ports)
       autoRun(context, form.autoRun, form.options, runs, resultPages, pageTests, siteVisit),
       options(context, form, ports.programFolder), optionReports(context, form), toolTips(context, form),
       areaCodes(log, form.areaCodes), databaseFile(context, form.places, form.import.cboSFITableExisting, database),
-      loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
+      loader(log, databaseFile, options, form.saved, form.criteria, form.blocking), work(ports.pump, status),
+      dataSide(context, form, database, navigation, work, ports.clipboard, ports.menus),
       lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, runs, browser, database, options, loader,
                  connection}),
       autoTab({log, form, status, states, timer, ports.desktop, savedUrls, blocking, autoRun, connection, lifeCycle}),
@@ -40,6 +41,7 @@ Program::Program(const Ports &ports)
     QObject::connect(&errorMessages, &CheckBox::Click, &log, [&] { log.ToggleErrMsg(errorMessages.value() == 1); });
     areaCodes.LoadStates();
     connectDatabase();
+    connectData(ports.side);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -58,4 +60,13 @@ void Program::connectDatabase()
     });
     QObject::connect(&loader, &DatabaseLoader::addressesWanted, &form,
                      [this] { savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl); });
+}
+
+void Program::connectData(SideWindows &side)
+{
+    const auto magnify = [&side](const QString &text) { side.magnify(text); };
+    QObject::connect(&dataSide.commands, &DataCommands::magnifyWanted, &form, magnify);
+    QObject::connect(&dataSide.window, &DataWindow::magnifyWanted, &form, magnify);
+    QObject::connect(&loader, &DatabaseLoader::addressesWanted, &dataSide.view, &DataView::LoadTableSelectData);
+    QObject::connect(&dataSide.import, &DataImport::reloadWanted, &form, [this] { loader.LoadDBData(false); });
 }

@@ -7,6 +7,7 @@
 #include "app/cTimer.h"
 #include "harvest/AutoRun.h"
 #include "harvest/UntilLoaded.h"
+#include "window/DataSide.h"
 #include "window/LifeCycle.h"
 #include "window/commands/AutoTab.h"
 #include "window/commands/CriteriaPanel.h"
@@ -70,10 +71,13 @@ struct Program
     AreaCodePanel areaCodes;
     DatabaseFile databaseFile;
     DatabaseLoader loader;
+    LongWork work;
+    DataSide dataSide;
     LifeCycle lifeCycle;
     AutoTab autoTab;
     CriteriaPanel criteriaPanel;
 
   private:
     void connectDatabase();
+    void connectData(SideWindows &side);
 };

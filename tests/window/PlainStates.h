@@ -40,7 +40,7 @@ class PlainStates
             if (name.startsWith(QLatin1StringView(array)))
                 return true;
         }
-        for (const char *kept : {"cboDBFields", "cboANWBSelect", "chkPutInOneFile", "chkSFIAllSettings",
+        for (const char *kept : {"cboDBFields", "fxgTrawlex", "cboANWBSelect", "chkPutInOneFile", "chkSFIAllSettings",
                                  "txtSBStateACs", "chkSFIAllData", "chkSFIImportTable", "chkSFIImportField"}) {
             if (name == QLatin1StringView(kept))
                 return true;
