@@ -169,6 +169,11 @@ constexpr MenuRow mnuPopUpDBStatus[] = {
     {"mnuDBStatusCommaDelimited"_L1, "mnuDBStatusExportTable"_L1, "Comma Delimited"_L1},
     {"mnuDBStatusSepOne"_L1, "mnuDBStatusExportTable"_L1, "-"_L1},
     {"mnuDBStatusReloadableRS"_L1, "mnuDBStatusExportTable"_L1, "Reloadable RS File"_L1},
+    {"mnuDBStatusSepTwo"_L1, "mnuDBStatusExportTable"_L1, "-"_L1},
+    {"mnuDBStatusCsv"_L1, "mnuDBStatusExportTable"_L1, "CSV"_L1},
+    {"mnuDBStatusJsonLines"_L1, "mnuDBStatusExportTable"_L1, "JSON Lines"_L1},
+    {"mnuDBStatusSpreadsheet"_L1, "mnuDBStatusExportTable"_L1, "Excel Workbook"_L1},
+    {"mnuDBStatusSqlite"_L1, "mnuDBStatusExportTable"_L1, "SQLite Database"_L1},
     {"mnuDBStatusReLoadRSFile"_L1, {}, "ReLoad RS File"_L1},
 };
 

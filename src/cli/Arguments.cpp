@@ -76,6 +76,15 @@ const Option options[] = {
     {"--auto"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Auto); }, "                      run the Auto tab"_L1},
     {"--manual"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Manual); }, "                    run the Manual tab"_L1},
     {"--browse"_L1, true, takeBrowse, "SECONDS             collect from the pages that the browser shows, for so long"_L1},
+    {"--export"_L1, true, [](Arguments &a, const QString &v) { a.data.takeExport(v); }, "TABLE               write a table to a file, without a browser"_L1},
+    {"--format"_L1, true, [](Arguments &a, const QString &v) { a.data.takeFormat(v); }, "html|comma|tab|dat|csv|jsonl|xlsx|sqlite  the form of the file"_L1},
+    {"--where"_L1, true, [](Arguments &a, const QString &v) { a.data.takeWhere(v); }, "FIELD=TEXT           only the rows that hold the text there, or equal the number"_L1},
+    {"--to"_L1, true, [](Arguments &a, const QString &v) { a.data.takeTo(v); }, "FILE                    the file; one that is there is refused"_L1},
+    {"--import"_L1, true, [](Arguments &a, const QString &v) { a.data.takeImport(v); }, "FILE                copy from another database file, without a browser"_L1},
+    {"--data"_L1, false, [](Arguments &a, const QString &) { a.data.allData = true; }, "                      all its data"_L1},
+    {"--settings"_L1, false, [](Arguments &a, const QString &) { a.data.allSettings = true; }, "                  all its settings"_L1},
+    {"--table"_L1, true, [](Arguments &a, const QString &v) { a.data.table = v; }, "TABLE                one of its tables"_L1},
+    {"--field"_L1, true, [](Arguments &a, const QString &v) { a.data.takeField(v); }, "TABLE.FIELD=TABLE.FIELD  one of its fields into one of the database"_L1},
     {"--json"_L1, false, [](Arguments &a, const QString &) { a.json = true; }, "                      print the outcome as one JSON object"_L1},
     {"--help"_L1, false, [](Arguments &a, const QString &) { a.help = true; }, "                      print this"_L1},
 };
@@ -87,7 +96,8 @@ QString usage()
     QString text = u"trawlex-harvest: a harvest without a window\n\n"_s;
     for (const Option &option : options)
         text += u"  %1 %2\n"_s.arg(option.name, option.help);
-    return text + u"\nExit status: 0 after \"Stopped (FINISHED)\", 1 after any other end, 2 for bad arguments.\n"_s;
+    return text + u"\nExit status: 0 after \"Stopped (FINISHED)\", 1 after any other end, 2 for bad arguments.\n"
+                  "Of an export or import: 0 when all was done, 1 when not.\n"_s;
 }
 
 Arguments parseArguments(const QStringList &words)
@@ -106,7 +116,10 @@ Arguments parseArguments(const QStringList &words)
             refuse(u"%1 takes no value"_s.arg(name));
         option->take(arguments, !option->hasValue ? QString() : attached ? words[i].section(u'=', 1) : words[++i]);
     }
-    if (!arguments.run && !arguments.help)
-        refuse(u"one of --auto, --manual and --browse is wanted (see --help)"_s);
+    arguments.data.check();
+    if (arguments.data.isWanted() && arguments.run)
+        refuse(u"--export and --import go without a run"_s);
+    if (!arguments.run && !arguments.help && !arguments.data.isWanted())
+        refuse(u"one of --auto, --manual, --browse, --export and --import is wanted (see --help)"_s);
     return arguments;
 }

@@ -1,6 +1,8 @@
 // The command line of trawlex-harvest.
 #pragma once
 
+#include "cli/DataArguments.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -25,6 +27,7 @@ struct Arguments
     std::optional<Run> run;
     int browseSeconds = 0; ///< how long the browser is followed
     bool json = false;
+    DataArguments data;
     bool help = false;
 };
 

@@ -4,6 +4,7 @@
 #include "cli/ConsoleBrowsers.h"
 #include "cli/ConsolePorts.h"
 #include "cli/ControlSetter.h"
+#include "cli/DataCommands.h"
 #include "cli/HarvestSettings.h"
 #include "cli/Outcome.h"
 #include "cli/StopSignals.h"
@@ -92,9 +93,16 @@ void harvest(Program &program, EventPump &pump, const Arguments &arguments)
 
 int run(Program &program, EventPump &pump, const Arguments &arguments)
 {
+    StopSignals stopSignals;
+    if (arguments.data.isWanted()) {
+        printStatuses(program);
+        QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.work, &LongWork::cancel);
+        const bool done = runDataCommand(program, arguments.data);
+        program.lifeCycle.end();
+        return done ? Finished : OtherEnd;
+    }
     QObject::connect(&program.status, &StatusLine::told, &program.form, &printError);
     Outcome outcome(program);
-    StopSignals stopSignals;
     QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.lifeCycle, &LifeCycle::end);
     if (!program.startUp.Form_Load())
         return OtherEnd;

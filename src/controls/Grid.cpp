@@ -22,7 +22,7 @@ void Grid::setDataSource(std::shared_ptr<const GridRows> rows)
 QString Grid::textMatrix(int row, int column) const
 {
     const bool there = row >= 0 && row < rows() && column >= 0 && column < cols();
-    return there ? mRows->text(row, column) : QString();
+    return there ? mRows->wholeText(row, column) : QString();
 }
 
 void Grid::select(int row, int column, const CellBlock &block)

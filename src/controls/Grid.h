@@ -17,6 +17,8 @@ class GridRows
     [[nodiscard]] virtual int rowCount() const = 0;
     /// "" for what is not there.
     [[nodiscard]] virtual QString text(int row, int column) const = 0;
+    /// The same where a cell shows the beginning of a long text alone.
+    [[nodiscard]] virtual QString wholeText(int row, int column) const { return text(row, column); }
 };
 
 /// A block of cells, both ends included. Without cells all four are -1.
@@ -59,8 +61,12 @@ class Grid : public Control
     [[nodiscard]] int colWidth(int column) const;
     void setColWidth(int column, int twips);
 
+    /// The user's click on a column's head.
+    void clickHead(int column) { Q_EMIT headClicked(column); }
+
   Q_SIGNALS:
     void selectionMoved();
+    void headClicked(int column);
 
   private:
     std::shared_ptr<const GridRows> mRows;

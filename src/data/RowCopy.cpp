@@ -15,17 +15,6 @@ QString textOf(const Field &field)
     const bool noDate = field.Type() == dateKind && !field.Value().isValid();
     return noDate ? QString() : FixNull(field);
 }
-
-/// A text as the table holds and compares it: cut, and the case of A to Z does not count.
-QString storeKey(const QString &text)
-{
-    QString key = cUtility::asColumnText(text);
-    for (QChar &unit : key) {
-        if (unit >= u'A' && unit <= u'Z')
-            unit = QChar(unit.unicode() + (u'a' - u'A'));
-    }
-    return key;
-}
 } // namespace
 
 /// One look at the whole table instead of one question a row.
@@ -34,7 +23,7 @@ void RowCopy::collectKnown(const QString &testField)
     Recordset rows = mTarget.GetRecordset("SELECT ["_L1 + testField + "] FROM ["_L1 + mTable + ']'_L1);
     const Field field = rows.Fields()[0];
     for (; !rows.Eof(); rows.MoveNext())
-        mKnown.insert(storeKey(FixNull(field)));
+        mKnown.insert(cUtility::columnKey(FixNull(field)));
 }
 
 bool RowCopy::isKnown(const QString &value, qint64 row)
@@ -42,7 +31,7 @@ bool RowCopy::isKnown(const QString &value, qint64 row)
     if (value.contains(u'\''))
         throw RuntimeError(AdoError::BadSql, u"row %1 of %2 has a quote in \"%3\""_s.arg(row).arg(mTable, value));
     const auto before = mKnown.size();
-    mKnown.insert(storeKey(value));
+    mKnown.insert(cUtility::columnKey(value));
     return mKnown.size() == before;
 }
 

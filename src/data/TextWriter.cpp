@@ -5,8 +5,8 @@
 #include "util/Errors.h"
 #include "util/Text.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -77,18 +77,36 @@ void csvRow(QString &text, const DataColumns &columns, const DataRow &values)
     text += lineEnd;
 }
 
-QString json(const QJsonValue &value)
+QString json(const QString &text)
 {
-    const QByteArray inBrackets = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(inBrackets.mid(1, inBrackets.size() - 2));
+    QString written = u"\""_s;
+    for (const QChar unit : text) {
+        if (unit == u'"' || unit == u'\\')
+            written.append(u'\\').append(unit);
+        else if (unit < u' ')
+            written += u"\\u%1"_s.arg(unit.unicode(), 4, 16, QChar(u'0'));
+        else
+            written += unit;
+    }
+    return written + u'"';
 }
 
-QJsonValue jsonValue(const DataColumn &column, const QVariant &value)
+QString jsonValue(const DataColumn &column, const QVariant &value)
 {
-    if (value.typeId() == QMetaType::QByteArray)
-        return QString::fromLatin1(value.toByteArray().toBase64());
-    const bool asText = column.isDate() || value.typeId() == QMetaType::QString;
-    return asText && !value.isNull() ? QJsonValue(Cells::text(column, value)) : QJsonValue::fromVariant(value);
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return u"null"_s;
+    case QMetaType::Bool:
+        return value.toBool() ? u"true"_s : u"false"_s;
+    case QMetaType::LongLong:
+        return value.toString();
+    case QMetaType::Double:
+        return std::isfinite(value.toDouble()) ? Cells::text(column, value) : u"null"_s;
+    case QMetaType::QByteArray:
+        return json(QString::fromLatin1(value.toByteArray().toBase64()));
+    default:
+        return json(Cells::text(column, value));
+    }
 }
 
 void jsonRow(QString &text, const DataColumns &columns, const DataRow &values)
@@ -97,7 +115,7 @@ void jsonRow(QString &text, const DataColumns &columns, const DataRow &values)
         text.append(i == 0 ? u'{' : u',')
             .append(json(columns[i].name))
             .append(u':')
-            .append(json(jsonValue(columns[i], values[i])));
+            .append(jsonValue(columns[i], values[i]));
     text += "}\n"_L1;
 }
 

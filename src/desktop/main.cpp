@@ -3,6 +3,7 @@
 #include "app/QtEventPump.h"
 #include "app/SettingKeys.h"
 #include "desktop/DesktopBrowsers.h"
+#include "desktop/DesktopGridWindow.h"
 #include "desktop/DesktopSideWindows.h"
 #include "desktop/MainWindowPlace.h"
 #include "desktop/OneInstance.h"
@@ -20,6 +21,7 @@
 #include "window/WindowPlaces.h"
 
 #include <QApplication>
+#include <QShortcut>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +35,7 @@ void connectWindow(Program &program, MainWindow &window)
         QApplication::closeAllWindows();
         QApplication::quit();
     });
+    QObject::connect(new QShortcut(Qt::Key_Escape, &window), &QShortcut::activated, &program.work, &LongWork::cancel);
     QObject::connect(&program.runs, &Runs::progress, &window,
                      [&window](int number, int count) { window.setProgress(number - 1, count); });
     QObject::connect(&program.runs, &Runs::finalized, &window, [&window] { window.setProgress(0, 0); });
@@ -66,6 +69,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     place.set(&window);
     menus.set(&window);
     side.set(&window);
+    const DesktopGridWindow gridWindow(program.dataSide.gridForm, settings, window);
     QObject::connect(&window, &MainWindow::helpRequested, &window, [&side] { side.showHelp(); });
     rememberFolding(window, settings);
     browsers.standBeside(&window);

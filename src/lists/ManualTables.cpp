@@ -17,17 +17,6 @@ constexpr cIEText::ServerParts withoutType{false, true, true};
 /// Rows of one transaction: between two of them others may write, and the user may cancel.
 constexpr qsizetype portion = 5000;
 
-/// A text as the database compares it: the case of A to Z does not count.
-QString storeKey(const QString &text)
-{
-    QString key = text;
-    for (QChar &unit : key) {
-        if (unit >= u'A' && unit <= u'Z')
-            unit = QChar(unit.unicode() + (u'a' - u'A'));
-    }
-    return key;
-}
-
 QString selectUrls(const QString &table)
 {
     return "SELECT Url FROM "_L1 + table;
@@ -50,14 +39,14 @@ QStringList ManualTables::newItems(const ListBox &list, const QString &table)
 {
     QSet<QString> known;
     for (const QString &url : urls(table))
-        known.insert(storeKey(url));
+        known.insert(cUtility::columnKey(url));
     QStringList found;
     for (const QString &item : list.items()) {
         if (item.isEmpty() || item.contains(u'\''))
             continue;
         const QString stored = cUtility::asColumnText(item);
         const auto before = known.size();
-        known.insert(storeKey(stored));
+        known.insert(cUtility::columnKey(stored));
         if (known.size() != before)
             found.append(stored);
     }
@@ -116,8 +105,7 @@ QString ManualTables::SaveMNLastUrl(const ListBox &list, const QString &table, b
 
 void ManualTables::addNew(ListBox &list, const QString &table)
 {
-    guarded(mLog, {module, "Sub LoadDBItemsMN"_L1},
-            [&] { cLstBx::PopulateListBox(list, urls(table), true, false); });
+    guarded(mLog, {module, "Sub LoadDBItemsMN"_L1}, [&] { cLstBx::PopulateListBox(list, urls(table), true, false); });
 }
 
 bool ManualTables::hasRows(const QString &table)
@@ -134,7 +122,7 @@ QString ManualTables::summary(const QString &table)
         if (rows.isEmpty())
             return;
         rows.MoveLast();
-        text = u"%1 saved: "_s.arg(rows.RecordCount()) +
-               cIEText::GetServerFromUrl(FixNull(rows.Fields()[0]), withoutType);
+        text =
+            u"%1 saved: "_s.arg(rows.RecordCount()) + cIEText::GetServerFromUrl(FixNull(rows.Fields()[0]), withoutType);
     });
 }

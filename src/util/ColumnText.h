@@ -14,4 +14,15 @@ inline constexpr qsizetype columnLength = 255;
         return text;
     return text.left(text[columnLength - 1].isHighSurrogate() ? columnLength - 1 : columnLength);
 }
+
+/// A text as a column holds and compares it: cut, and the case of A to Z does not count.
+[[nodiscard]] inline QString columnKey(const QString &text)
+{
+    QString key = asColumnText(text);
+    for (QChar &unit : key) {
+        if (unit >= u'A' && unit <= u'Z')
+            unit = QChar(unit.unicode() + (u'a' - u'A'));
+    }
+    return key;
+}
 } // namespace cUtility

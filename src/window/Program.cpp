@@ -33,6 +33,7 @@ Program::Program(const Ports &ports)
       options(context, form, ports.programFolder), optionReports(context, form), toolTips(context, form),
       areaCodes(log, form.areaCodes), databaseFile(context, form.places, form.import.cboSFITableExisting, database),
       loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
+      dataSide(context, form, database, navigation, longWork, ports.clipboard, ports.menus),
       lifeCycle(context, form, timer, runs, browser, connection),
       startUp(context, form, options, loader, connection, ports.place, lifeCycle),
       placeCommands(context, form.places, form.runs, database, loader, ports.desktop, ports.side),
@@ -71,6 +72,7 @@ Program::Program(const Ports &ports)
     connectManual(ports.desktop, ports.side);
     connectManualRun();
     connectCollecting();
+    connectData(ports.side);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -170,4 +172,13 @@ void Program::connectCollecting()
     QObject::connect(&manual.series, &AutoIncr::baseSwitchedOff, &collectChoice,
                      [this] { collectChoice.SetAutoCollectState(CollectState::Kind::EmailPhone, true); });
     QObject::connect(&collectChoice, &CollectChoice::coloursAsked, &manual.series, &AutoIncr::coloursAsked);
+}
+
+void Program::connectData(SideWindows &side)
+{
+    const auto magnify = [&side](const QString &text) { side.magnify(text); };
+    QObject::connect(&dataSide.commands, &DataCommands::magnifyWanted, &form, magnify);
+    QObject::connect(&dataSide.window, &DataWindow::magnifyWanted, &form, magnify);
+    QObject::connect(&loader, &DatabaseLoader::addressesWanted, &dataSide.view, &DataView::LoadTableSelectData);
+    QObject::connect(&dataSide.import, &DataImport::reloadWanted, &form, [this] { loader.LoadDBData(false); });
 }

@@ -11,6 +11,7 @@
 #include "harvest/ManualRun.h"
 #include "harvest/UntilLoaded.h"
 #include "sites/SiteCount.h"
+#include "window/DataSide.h"
 #include "window/LifeCycle.h"
 #include "window/StartUp.h"
 #include "window/commands/BlockingPanel.h"
@@ -94,6 +95,7 @@ struct Program
     AreaCodePanel areaCodes;
     DatabaseFile databaseFile;
     DatabaseLoader loader;
+    DataSide dataSide;
     LifeCycle lifeCycle;
     StartUp startUp;
     PlaceCommands placeCommands;
@@ -134,4 +136,5 @@ struct Program
     void connectManual(Desktop &desktop, SideWindows &side);
     void connectManualRun();
     void connectCollecting();
+    void connectData(SideWindows &side);
 };

@@ -95,8 +95,9 @@ TEST(Menus, TheTreesReadAsTheUserSeesThem)
     EXPECT_EQ(outline(menus.mnuPopUpANMCMNC), u"Remove|Clear"_s);
     EXPECT_EQ(outline(menus.mnuPopUpPassUrls), u"Load Pass Urls|UnLoad Pass Urls|Delete Pass Urls|Delete Save Urls"_s);
     EXPECT_EQ(outline(menus.mnuPopUpDB), u"Navigate To|Copy|Magnify|New Window|-|Delete"_s);
-    EXPECT_EQ(outline(menus.mnuPopUpDBStatus),
-              u"Export[Html Table|Tab Delimited|Comma Delimited|-|Reloadable RS File]|ReLoad RS File"_s);
+    EXPECT_EQ(
+        outline(menus.mnuPopUpDBStatus),
+        u"Export[Html Table|Tab Delimited|Comma Delimited|-|Reloadable RS File|-|CSV|JSON Lines|Excel Workbook|SQLite Database]|ReLoad RS File"_s);
     QObject otherForm;
     EXPECT_EQ(outline(Menu(u"fxg"_s, MenuTables::mnuFxgPopUpMenu, &otherForm)),
               u"Navigate To|-|Magnify|-|Copy|-|Close"_s);

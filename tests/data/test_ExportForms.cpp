@@ -1,6 +1,8 @@
 // Each form of an export to the byte.
 #include "DataFixture.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -80,6 +82,22 @@ TEST_F(ExportFormsTest, JsonLinesAreOneObjectARowInTheOrderOfTheColumns)
     EXPECT_EQ(lines[0], R"({"Index":1,"Date":"2024-05-01","SSIndex":1,"Address":"a@b.com","Url":"http://a.com"})");
     EXPECT_EQ(lines[2],
               "{\"Index\":3,\"Date\":\"2024-05-01\",\"SSIndex\":0,\"Address\":\"\\\"q\\\"\xC3\xA9\",\"Url\":\"\"}");
+}
+
+TEST_F(ExportFormsTest, JsonIsReadBackByAnyReader)
+{
+    const QString odd = u"a\"b\\c\r\n\t\u0001\u00e9\U0001F600/</script>"_s;
+    const DataColumns columns{{u"T\"x"_s, 130}, {u"N"_s, 3}, {u"D"_s, 5}, {u"B"_s, 11}, {u"P"_s, 205}, {u"Z"_s, 130}};
+    const auto writer = RowWriters::text(DataFormat::JsonLines, pathOf(u"odd.jsonl"_s), columns);
+    writer->row({odd, qlonglong(-7), 1.5, true, QByteArray("\x00\xff", 2), QVariant()});
+    writer->finish();
+    const QJsonObject read = QJsonDocument::fromJson(bytes(pathOf(u"odd.jsonl"_s))).object();
+    EXPECT_EQ(read.value(u"T\"x"_s).toString(), odd);
+    EXPECT_EQ(read.value(u"N"_s).toInt(), -7);
+    EXPECT_EQ(read.value(u"D"_s).toDouble(), 1.5);
+    EXPECT_TRUE(read.value(u"B"_s).toBool());
+    EXPECT_EQ(read.value(u"P"_s).toString(), u"AP8="_s);
+    EXPECT_TRUE(read.value(u"Z"_s).isNull());
 }
 
 TEST_F(ExportFormsTest, ASpreadsheetHoldsTextsNumbersAndDatesAndNoFormula)

@@ -74,6 +74,16 @@ TEST_F(Grids, KeepASelectionThatTheRightButtonLiesIn)
     EXPECT_EQ(grid.selection(), (CellBlock{0, 0, 0, 0}));
 }
 
+TEST_F(Grids, HaveTheCellUnderTheRightButtonInUseWhenTheButtonIsTold)
+{
+    grid.select(5, 2);
+    settle();
+    int column = -1;
+    QObject::connect(&grid, &Control::mousePressed, &form, [&] { column = grid.col(); });
+    QTest::mouseClick(table.viewport(), Qt::RightButton, {}, centre(1, 0));
+    EXPECT_EQ(column, 0);
+}
+
 TEST_F(Grids, ShowWhatTheLogicSelectsAndSets)
 {
     grid.select(5, 2, {5, 1, 6, 2});

@@ -40,8 +40,8 @@ class PlainStates
             if (name.startsWith(QLatin1StringView(array)))
                 return true;
         }
-        for (const char *kept : {"cboDBFields", "cboANWBSelect", "chkPutInOneFile", "chkSFIAllSettings",
-                                 "txtSBStateACs", "fxgTrawlex", "chkSFIAllData", "chkSFIImportTable", "chkSFIImportField"}) {
+        for (const char *kept : {"cboDBFields", "fxgTrawlex", "cboANWBSelect", "chkPutInOneFile", "chkSFIAllSettings",
+                                 "txtSBStateACs", "chkSFIAllData", "chkSFIImportTable", "chkSFIImportField"}) {
             if (name == QLatin1StringView(kept))
                 return true;
         }

@@ -2,7 +2,9 @@
 #include "ui/widgets/GridModel.h"
 #include "ui/widgets/GridTable.h"
 
+#include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QMouseEvent>
 
 namespace {
 constexpr int twipsPerPixel = 15;
@@ -23,10 +25,17 @@ class GridLink : public QObject
         };
         connect(mView.selectionModel(), &QItemSelectionModel::selectionChanged, this, userChose);
         connect(mView.selectionModel(), &QItemSelectionModel::currentChanged, this, userChose);
+        connect(mView.horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+            if (mControl.isEnabled())
+                mControl.clickHead(column);
+        });
     }
 
     void show()
     {
+        // The filter that was put on last is asked first.
+        if (!std::exchange(mFirst, true))
+            mView.viewport()->installEventFilter(this);
         mShowing = true;
         if (mModel.source() != mControl.dataSource()) {
             mModel.setRows(mControl.dataSource());
@@ -35,6 +44,19 @@ class GridLink : public QObject
         showWidths();
         showSelection();
         mShowing = false;
+    }
+
+  protected:
+    /// The cell under the right button is the one in use before anybody hears of the button.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress) {
+            const auto &press = static_cast<const QMouseEvent &>(*event);
+            const QModelIndex index = mView.indexAt(press.pos());
+            if (press.button() == Qt::RightButton && index.isValid() && !mView.selectionModel()->isSelected(index))
+                mView.setCurrentIndex(index);
+        }
+        return QObject::eventFilter(watched, event);
     }
 
   private:
@@ -84,7 +106,7 @@ class GridLink : public QObject
     GridTable &mView;
     GridModel mModel;
     std::vector<int> mWidths;
-    bool mShowing = false;
+    bool mShowing = false, mFirst = false;
 };
 } // namespace
 

@@ -10,8 +10,13 @@ namespace {
 constexpr int leastRow = 24;
 }
 
-GridTable::GridTable(QWidget *parent) : QTableView(parent)
+GridTable::GridTable(QWidget *parent) : QTableView(parent), mPlace(new QLabel(this)), mFind(new GridFind(*this))
 {
+    addScrollBarWidget(mPlace, Qt::AlignLeft);
+    addScrollBarWidget(mFind, Qt::AlignLeft);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    mPlace->setObjectName(QStringLiteral("gridPlace"));
+    mPlace->setMargin(2);
     setSelectionMode(ContiguousSelection);
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideMiddle);
@@ -52,4 +57,26 @@ void GridTable::mousePressEvent(QMouseEvent *event)
     const bool inSelection = selectionModel() != nullptr && selectionModel()->isSelected(indexAt(event->pos()));
     if (event->button() != Qt::RightButton || !inSelection)
         QTableView::mousePressEvent(event);
+}
+
+void GridTable::setModel(QAbstractItemModel *model)
+{
+    QTableView::setModel(model);
+    if (model != nullptr)
+        connect(model, &QAbstractItemModel::modelReset, this, &GridTable::showPlace);
+    showPlace();
+}
+
+void GridTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    showPlace();
+}
+
+/// "3 of 1,000,000", and nothing where there are no rows.
+void GridTable::showPlace()
+{
+    const int rows = model() == nullptr ? 0 : model()->rowCount();
+    const int row = currentIndex().row() + 1;
+    mPlace->setText(rows == 0 ? QString() : tr("%L1 of %L2").arg(row).arg(rows));
 }

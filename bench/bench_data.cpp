@@ -1,0 +1,199 @@
+// The grid, exports and imports: a million e-mail rows looked at, filtered, deleted from and exported in every form;
+// 100,000 rows of each table imported, against the same rows written by bare prepared statements. Each figure stands
+// beside its mark. Time is wall time; TRAWLEX_BENCH_ROWS gives another number of rows for the first part.
+#include "data/DataView.h"
+#include "data/Exports.h"
+#include "data/GridSources.h"
+#include "data/ImportLists.h"
+#include "data/Imports.h"
+#include "store/Schema.h"
+#include "support/FakePump.h"
+#include "support/Fakes.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+void report(const QString &what, double value, const char *unit, double mark)
+{
+    const QString met = mark <= 0 ? QString() : u"| %1 %2 | %3"_s.arg(mark).arg(unit, value <= mark ? "met" : "MISSED");
+    std::printf("| %-44s | %10.1f %s %s |\n", qPrintable(what), value, unit, qPrintable(met));
+}
+
+template <class Body> double milliseconds(Body &&body)
+{
+    QElapsedTimer timer;
+    timer.start();
+    body();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+/// The memory of this process that is in use now, in MB.
+double memory()
+{
+    QFile file(u"/proc/self/statm"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    constexpr double pageSize = 4096, megabyte = 1024 * 1024;
+    return file.readAll().split(' ').value(1).toDouble() * pageSize / megabyte;
+}
+
+struct Desk
+{
+    explicit Desk(const QString &folder)
+    {
+        database.set(std::make_unique<cAdoMdb>(log));
+        database->setDatabasePath(folder + u"/Trawlex-0.mdb"_s);
+        declareSchema(*database);
+        if (!database->CreateDatabase(true))
+            std::exit(1);
+    }
+    frmSearch form;
+    RecordingLog log;
+    FakePump pump;
+    FakeDialogs dialogs;
+    MemorySettings settings;
+    CountingStates states;
+    Tips tips{form.options.chkSMV(0)};
+    StatusLine status{form.frame.picStatus, tips};
+    Context context{log, status, states, dialogs, settings, tips};
+    DatabaseHolder database;
+    BrowserHolder browser;
+    Navigation navigation{context, form.browser, browser};
+    LongWork work{pump, status};
+    DataView view{context, form.data, form.lists.cboMNList, form.saved.cboANList, database};
+    Exports exports{context, form.data, form.places, form.options.chkSMD(0), database, navigation, work};
+    Imports imports{log, database, work};
+};
+
+void require(int code, sqlite3 *handle)
+{
+    if (code == SQLITE_OK || code == SQLITE_DONE || code == SQLITE_ROW)
+        return;
+    std::fprintf(stderr, "bench: %s\n", sqlite3_errmsg(handle));
+    std::exit(1);
+}
+
+/// Rows written by one prepared statement in one transaction, and nothing else.
+void insertBarely(const QString &path, const QString &table, const QStringList &columns, int rows)
+{
+    sqlite3 *handle = nullptr;
+    require(sqlite3_open(path.toUtf8().constData(), &handle), handle);
+    require(sqlite3_exec(handle, "PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; BEGIN", nullptr, nullptr, nullptr),
+            handle);
+    QStringList places(columns.size(), u"?"_s);
+    const QString text = u"INSERT INTO [%1]([%2]) VALUES(%3)"_s.arg(table, columns.join("],["_L1), places.join(u','));
+    sqlite3_stmt *statement = nullptr;
+    require(sqlite3_prepare_v2(handle, text.toUtf8().constData(), -1, &statement, nullptr), handle);
+    for (int row = 0; row < rows; ++row) {
+        for (int i = 0; i < columns.size(); ++i) {
+            const bool date = columns[i] == "Date"_L1, number = columns[i].endsWith("Index"_L1);
+            const QByteArray value =
+                date     ? QByteArray("2024-05-01")
+                : number ? QByteArray::number(row % 1000)
+                         : "http://www.site" + QByteArray::number(row) + ".com/" + columns[i].toUtf8() + ".htm";
+            if (number)
+                require(sqlite3_bind_int(statement, i + 1, row % 1000), handle);
+            else
+                require(sqlite3_bind_text(statement, i + 1, value.constData(), int(value.size()), SQLITE_TRANSIENT),
+                        handle);
+        }
+        require(sqlite3_step(statement), handle);
+        require(sqlite3_reset(statement), handle);
+    }
+    sqlite3_finalize(statement);
+    require(sqlite3_exec(handle, "COMMIT", nullptr, nullptr, nullptr), handle);
+    sqlite3_close(handle);
+}
+
+void measureGrid(Desk &desk)
+{
+    DataBoxes &data = desk.form.data;
+    desk.view.LoadTableSelectData();
+    const double before = memory();
+    const auto firstRows = [&] {
+        for (int row = 0; row < 40; ++row)
+            static_cast<void>(data.fxgTrawlex.textMatrix(row, 3));
+    };
+    report(u"choosing the table, first rows"_s, milliseconds([&] {
+               data.cboDBTables.setListIndex(1);
+               firstRows();
+           }),
+           "ms", 100);
+    report(u"scrolling to the end"_s, milliseconds([&] {
+               const int last = data.fxgTrawlex.rows() - 1;
+               for (int row = last - 40; row <= last; ++row)
+                   static_cast<void>(data.fxgTrawlex.textMatrix(row, 3));
+           }),
+           "ms", 0);
+    data.cboDBFields.setListIndex(3);
+    for (const QString &text : {u"site12345"_s, u"com"_s, u"nowhere"_s})
+        report("a keystroke, filter \""_L1 + text + '"'_L1, milliseconds([&] {
+                   data.txtDBQuery.setText(text);
+                   firstRows();
+               }),
+               "ms", 300);
+    data.txtDBQuery.setText({});
+    report(u"memory above the empty grid"_s, memory() - before, "MB", 50);
+    data.fxgTrawlex.select(0, 0, {100, 0, 10'099, 0});
+    report(u"deleting 10,000 selected rows"_s, milliseconds([&] { desk.view.deleteSelected(); }), "ms", 2000);
+}
+
+void measureExports(Desk &desk, const QString &folder)
+{
+    for (const ExportKind &kind : ExportKinds::all) {
+        const double before = memory();
+        const QString path = folder + u"/out."_s + kind.word;
+        const double time = milliseconds([&] {
+            if (!desk.exports.exportTable({u"EmailAddress"_s, {}, {}}, kind, path))
+                std::exit(1);
+        });
+        report("export: "_L1 + kind.word, time, "ms", kind.format == DataFormat::Comma ? 5000 : 0);
+        report("   memory above what it was"_L1, memory() - before, "MB", 0);
+        QFile::remove(path);
+    }
+}
+
+void measureImports()
+{
+    constexpr int rows = 100'000;
+    for (const ImportedTable &table : ImportLists::data()) {
+        if (table.name.back() > u'A' && table.name.back() <= u'E' && table.name != "SiteSummary"_L1)
+            continue; // as the first of its letters
+        QTemporaryDir folder, source, bare;
+        Desk target(folder.path()), from(source.path()), mark(bare.path());
+        insertBarely(from.database->DatabasePath(), table.name, table.columns, rows);
+        const double told = milliseconds([&] {
+            if (!target.imports.ImportAllData(from.database->DatabasePath()).isEmpty())
+                std::exit(1);
+        });
+        const double plain =
+            milliseconds([&] { insertBarely(mark.database->DatabasePath(), table.name, table.columns, rows); });
+        report("import: "_L1 + table.name, told, "ms", 0);
+        report(u"   times bare inserts"_s, told / plain, "x", 2);
+    }
+}
+} // namespace
+
+int main()
+{
+    bool wanted = false;
+    const int given = qEnvironmentVariableIntValue("TRAWLEX_BENCH_ROWS", &wanted);
+    const int rows = wanted ? given : 1'000'000;
+    {
+        QTemporaryDir folder;
+        Desk desk(folder.path());
+        insertBarely(desk.database->DatabasePath(), u"EmailAddress"_s,
+                     {u"Date"_s, u"SSIndex"_s, u"Address"_s, u"Url"_s}, rows);
+        std::printf("%d rows of EmailAddress\n", rows);
+        measureGrid(desk);
+        measureExports(desk, folder.path());
+    }
+    std::printf("100000 rows into each table\n");
+    measureImports();
+}

@@ -1,0 +1,35 @@
+// A box at the foot of a grid in which a text is looked for in its cells, from the cell in use on and around the end.
+// It looks in small portions, so that a million rows hold nothing up. Return goes on to the next cell, with Shift back.
+#pragma once
+
+#include <QLineEdit>
+#include <QTableView>
+#include <QTimer>
+
+class GridFind : public QLineEdit
+{
+    Q_OBJECT
+
+  public:
+    explicit GridFind(QTableView &grid);
+
+    [[nodiscard]] bool isLooking() const { return mTurn.isActive(); }
+
+  Q_SIGNALS:
+    /// The cell has been made the one in use, or there is none.
+    void ended(bool found);
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+  private:
+    void begin(int step);
+    void look();
+    void end(bool found);
+    [[nodiscard]] qint64 cells() const;
+
+    QTableView &mGrid;
+    QTimer mTurn;
+    qint64 mCell = 0, mLeft = 0;
+    int mStep = 1;
+};
