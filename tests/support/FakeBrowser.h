@@ -95,6 +95,7 @@ class FakeBrowser : public BrowserEngine
         return part == Part::Html ? frame.html : frame.text;
     }
     [[nodiscard]] QStringList frameLinks(int index) override { return frameAt(index).links; }
+    void setScriptLimit(std::chrono::milliseconds limit) override { scriptLimit = limit; }
     void copySelection() override { ++copies; }
     void saveAs() override { ++saves; }
     [[nodiscard]] QString userAgent() override { return agent; }
@@ -134,6 +135,7 @@ class FakeBrowser : public BrowserEngine
 
     QHash<QString, FakePage> pages;
     QHash<QString, QString> cookies;
+    std::chrono::milliseconds scriptLimit = usualScriptLimit;
     QString agent = QStringLiteral("Fake/1.0");
     QStringList navigated;
     QStringList geometry;
@@ -211,6 +213,8 @@ class FakeFactory : public BrowserFactory
     void start(const QString &programPath) override
     {
         started.append(programPath);
+        if (startFails)
+            throw RuntimeError(*startFails);
         if (startsAfter >= 0)
             mPump.after(startsAfter, [this] { running = std::make_shared<FakeBrowser>(mPump); });
     }
@@ -220,6 +224,7 @@ class FakeFactory : public BrowserFactory
     std::shared_ptr<FakeBrowser> internal, running;
     QString program;
     QStringList started;
+    std::optional<RuntimeError> startFails;
     qint64 startsAfter = -1; ///< milliseconds from start() to a window; never with -1
 
   private:
