@@ -52,7 +52,7 @@ bool import(Program &program, const DataArguments &arguments)
         return refuse(u"Not an Trawlex database"_s);
     for (const Step &step : stepsOf(imports, arguments)) {
         QString failure;
-        program.work.run(step.begins, [&] { failure = step.import(); });
+        program.longWork.run(step.begins, [&] { failure = step.import(); });
         program.status.UpDateStatus(failure.isEmpty() ? step.done : failure);
         if (!failure.isEmpty())
             return false;

@@ -96,7 +96,7 @@ int run(Program &program, EventPump &pump, const Arguments &arguments)
     StopSignals stopSignals;
     if (arguments.data.isWanted()) {
         printStatuses(program);
-        QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.work, &LongWork::cancel);
+        QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.longWork, &LongWork::cancel);
         const bool done = runDataCommand(program, arguments.data);
         program.lifeCycle.end();
         return done ? Finished : OtherEnd;
