@@ -72,5 +72,8 @@ void setControls(frmSearch &form, ControlStates &states, const QList<Arguments::
         const QScopedValueRollback<bool> ready(form.mbFormReady, turn != Turn::Value && form.mbFormReady);
         set(form, setting);
     }
+    // "Select" is not for a list in which nothing is selected: the choice is made once more, with the items in place.
+    for (Criterion *criterion : {&form.criteria.mustContain, &form.criteria.mustNotContain})
+        criterion->demand.choose(criterion->demand.listIndex());
     states.SetStateOfControls();
 }

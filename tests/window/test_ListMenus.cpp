@@ -316,15 +316,3 @@ TEST_F(StatusMenuTest, TheCommandsDoWhatTheySay)
     item("mnuANStatusEnd"_L1).click();
     EXPECT_EQ(ends, 1);
 }
-
-TEST_F(StatusMenuTest, KeepOnTopFlipsTheWindowTheMarkAndTheSetting)
-{
-    open();
-    EXPECT_TRUE(item("mnuANStatusKeepOnTop"_L1).isChecked()); // a first start comes up on top
-    item("mnuANStatusKeepOnTop"_L1).click();
-    EXPECT_FALSE(item("mnuANStatusKeepOnTop"_L1).isChecked());
-    EXPECT_EQ(place.onTopCalls.constLast(), false);
-    EXPECT_EQ(settings.of("mnuANStatusKeepOnTop"), u"False"_s);
-    item("mnuANStatusKeepOnTop"_L1).click();
-    EXPECT_EQ(settings.of("mnuANStatusKeepOnTop"), u"True"_s);
-}
