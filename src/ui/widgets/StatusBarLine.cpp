@@ -90,8 +90,9 @@ void StatusBarLine::paintEvent(QPaintEvent *)
     painter.setPen(coloured ? palette().color(QPalette::Active, QPalette::WindowText) : shades.text);
     QRect line = rect().adjusted(inset, 1, -inset, 0);
     if (!mTally.isEmpty()) {
-        // The status comes first: the tally takes what it needs, half of the line at most.
-        const QString shown = fontMetrics().elidedText(mTally, Qt::ElideRight, line.width() / 2);
+        // The status comes first: the tally takes what it leaves, half of the line at least.
+        const int left = line.width() - fontMetrics().horizontalAdvance(mText) - inset;
+        const QString shown = fontMetrics().elidedText(mTally, Qt::ElideRight, qMax(line.width() / 2, left));
         painter.drawText(line, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, shown);
         line.setRight(line.right() - fontMetrics().horizontalAdvance(shown) - inset);
     }
