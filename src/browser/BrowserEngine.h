@@ -26,6 +26,8 @@ class BrowserEngine : public QObject
 
   public:
     static constexpr std::chrono::seconds readLimit{30};
+    /// How long a script or a layout may keep a read waiting, unless setScriptLimit says otherwise.
+    static constexpr std::chrono::seconds usualScriptLimit{5};
 
     enum class Part { Html, Text };
 
@@ -64,6 +66,10 @@ class BrowserEngine : public QObject
     /// The same for the document of frame `index`, from 0. A frame of another site raises an error.
     [[nodiscard]] virtual QString framePart(int index, Part part) = 0;
     [[nodiscard]] virtual QStringList frameLinks(int index) = 0;
+
+    /// A page that keeps a read waiting for longer is made to answer: its scripts are broken off, or do without. What
+    /// it has by then is what is read.
+    virtual void setScriptLimit(std::chrono::milliseconds limit) = 0;
 
     /// Copies the page's selection to the clipboard.
     virtual void copySelection() = 0;

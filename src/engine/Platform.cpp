@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <vector>
 
 #ifdef Q_OS_WIN
@@ -40,12 +41,31 @@ bool hasGraphicsProcessor()
 }
 
 #ifdef Q_OS_WIN
-PipedProcess startPiped(const QString &program, const QStringList &)
+PipedProcess startPiped(const QString &program, const QStringList &, const QStringList &)
 {
     throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("Cannot start %1.").arg(program));
 }
 #else
 namespace {
+
+// Texts as the system takes them.
+class Words
+{
+  public:
+    explicit Words(const QStringList &texts)
+    {
+        for (const QString &each : texts)
+            mWords.push_back(each.toLocal8Bit());
+        for (QByteArray &word : mWords)
+            mPointers.push_back(word.data());
+        mPointers.push_back(nullptr);
+    }
+    [[nodiscard]] char **list() { return mPointers.data(); }
+
+  private:
+    std::vector<QByteArray> mWords;
+    std::vector<char *> mPointers;
+};
 
 // What a child is to be given: its files, and a session of its own, so that keys of our terminal do not reach it.
 class SpawnPlan
@@ -69,16 +89,11 @@ class SpawnPlan
     Q_DISABLE_COPY_MOVE(SpawnPlan)
 
     /// The error number of the system, 0 for success.
-    [[nodiscard]] int run(const QString &program, const QStringList &arguments, pid_t &pid) const
+    [[nodiscard]] int run(const QStringList &words, const QStringList &environment, pid_t &pid) const
     {
-        std::vector<QByteArray> words{QFile::encodeName(program)};
-        for (const QString &each : arguments)
-            words.push_back(each.toLocal8Bit());
-        std::vector<char *> pointers;
-        for (QByteArray &word : words)
-            pointers.push_back(word.data());
-        pointers.push_back(nullptr);
-        return ::posix_spawn(&pid, pointers.front(), &mFiles, &mAttributes, pointers.data(), environ);
+        Words command(words);
+        Words variables(environment);
+        return ::posix_spawn(&pid, command.list()[0], &mFiles, &mAttributes, command.list(), variables.list());
     }
 
   private:
@@ -89,13 +104,14 @@ class SpawnPlan
 
 } // namespace
 
-PipedProcess startPiped(const QString &program, const QStringList &arguments)
+PipedProcess startPiped(const QString &program, const QStringList &arguments, const QStringList &variables)
 {
+    const QStringList environment = QProcess::systemEnvironment() + variables;
     int ends[2] = {-1, -1};
     int error = ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0 ? 0 : errno;
     pid_t pid = 0;
     if (error == 0) {
-        error = SpawnPlan(ends[1]).run(program, arguments, pid);
+        error = SpawnPlan(ends[1]).run(QStringList{program} + arguments, environment, pid);
         ::close(ends[1]);
     }
     if (error != 0) {

@@ -2,9 +2,12 @@
 #include "ChromiumFixture.h"
 #include "support/Places.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QDirIterator>
 #include <QSslKey>
 #include <QSslServer>
+#include <QStandardPaths>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
@@ -71,6 +74,60 @@ TEST_F(ChromiumRefusals, BoxesWithoutEndAreBrokenOff)
     EXPECT_TRUE(text().startsWith("before"_L1));
     EXPECT_LT(clock.elapsed(), 20000);
     expectAllIsWell();
+}
+
+TEST_F(ChromiumRefusals, BoxesOfFramesThatNeverEndDoNotHarmTheBrowser)
+{
+    for (const QByteArray script : {"setInterval(() => alert(1), 1)", "while (true) alert(1)",
+                                    "onpagehide = onunload = () => { while (true) alert(1); }"}) {
+        server().page("/boxes", "<script>" + script + "</script>");
+        for (const QString &address : {elsewhere(u"/boxes"_s), here(u"/boxes"_s)}) {
+            const QByteArray frame = "<iframe src='" + address.toUtf8() + "'></iframe>";
+            server().page("/top", "<title>top</title><p>text" + frame + frame);
+            browser->Navigate(here(u"/top"_s));
+            ASSERT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Arrived; })) << script.constData();
+            idle(500);
+            EXPECT_EQ(str(browser->content().title), "top") << script.constData() << str(address);
+            SCOPED_TRACE(script.toStdString() + str(address));
+            expectAllIsWell();
+            open(elsewhere(u"/missing"_s));
+            EXPECT_EQ(str(browser->LocationName()), "missing");
+        }
+    }
+    EXPECT_FALSE(told.contains(u"died"_s));
+}
+
+TEST_F(ChromiumRefusals, AFloodOfMovesDoesNotHoldUpTheNextPages)
+{
+    for (const QByteArray script :
+         {"let n = 0; setInterval(() => { for (let i = 0; i < 1000; ++i) location.hash = ++n; }, 1)",
+          "let n = 0; for (;;) history.pushState(0, '', '/pushed' + ++n)",
+          "let n = 0; setInterval(() => { for (let i = 0; i < 1000; ++i) history.pushState(0, '', '/p' + ++n); }, 1)",
+          "setInterval(() => { for (let i = 0; i < 1000; ++i) location = 'http://other.test/' + i; }, 1)"}) {
+        server().page("/flood", "<title>flood</title><script>" + script + "</script>");
+        browser->Navigate(here(u"/flood"_s));
+        idle(1500);
+        QElapsedTimer clock;
+        clock.start();
+        for (int page = 0; page < 3; ++page)
+            expectAllIsWell();
+        EXPECT_LT(clock.elapsed(), 10000) << script.constData();
+    }
+}
+
+TEST_F(ChromiumRefusals, ACrashIsNotWrittenDown)
+{
+    const QDateTime before = QDateTime::currentDateTime();
+    browser->Navigate(u"chrome://crash"_s);
+    ASSERT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Failed && !browser->isLoading(); }));
+    expectAllIsWell();
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/chromium"_s;
+    for (const QString &folder : {dataFolder(), own}) {
+        QDirIterator dumps(folder, {u"*.dmp"_s}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (dumps.hasNext())
+            EXPECT_LT(QFileInfo(dumps.next()).lastModified(), before) << dumps.filePath().toStdString();
+    }
+    EXPECT_TRUE(processes("chrome_crashpad_handler").isEmpty());
 }
 
 TEST_F(ChromiumRefusals, PrintingDoesNothing)

@@ -293,7 +293,9 @@ TEST_F(WebEngineRefusals, APageThatReloadsItselfForEverCanBeReadAndLeft)
     EXPECT_TRUE(waitUntil([&] { return server.requestCount("/page") > 3; }));
     EXPECT_EQ(browser->content().url, server.address(u"/page"_s));
     browser->Navigate(server.address(u"/next"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->LocationURL().endsWith("/next"_L1) && !browser->isLoading(); }));
+    EXPECT_TRUE(waitUntil([&] { return !browser->isLoading(); }));
+    EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived);
+    EXPECT_EQ(browser->LocationURL(), server.address(u"/next"_s)) << "the old page's is not taken for the new one";
     EXPECT_EQ(browser->LocationName(), u"next");
 }
 
@@ -333,6 +335,63 @@ TEST_F(WebEngineRefusals, AScriptThatNeverEndsDoesNotHoldUpTheNextPage)
         EXPECT_EQ(browser->LocationName(), u"next");
         EXPECT_EQ(signalled.count(u"ended"_s), 1);
     }
+}
+
+TEST_F(WebEngineRefusals, AScriptThatNeverEndsIsDoneWithout)
+{
+    server.page("/next", "<title>next</title><script>document.title += ' with scripts'</script>");
+    for (const QByteArray script :
+         {"setTimeout(() => { for (;;); }, 20)", "for (;;);", "for (;;) alert(1)", "setInterval(() => alert(1), 0)",
+          "const again = () => { for (let i = 0; i < 1e6; ++i) Promise.resolve(); queueMicrotask(again); }; again()"}) {
+        server.page("/hang", "<title>hang</title><p>text</p><a href=/x>x</a><script>" + script + "</script>");
+        browser->setScriptLimit(700ms);
+        browser->Navigate(server.address(u"/hang"_s));
+        EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+        idle(200);
+        QElapsedTimer clock;
+        clock.start();
+        const PageContent content = browser->content();
+        EXPECT_EQ(content.title, u"hang") << script.constData();
+        EXPECT_TRUE(content.html.contains("<p>text</p>"_L1)) << script.constData();
+        EXPECT_EQ(content.url, server.address(u"/hang"_s));
+        EXPECT_EQ(browser->links(), QStringList{server.address(u"/x"_s)});
+        EXPECT_LT(clock.elapsed(), 8000) << script.constData();
+        EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived);
+        open(u"/next"_s);
+        EXPECT_EQ(browser->LocationName(), u"next with scripts") << script.constData();
+        EXPECT_TRUE(browser->page()->isVisible());
+    }
+}
+
+TEST_F(WebEngineRefusals, APageThatHangsOnlyWhenItIsLeftDoesNotHoldUpTheNextOne)
+{
+    server.page("/next", "<title>next</title>");
+    for (const QByteArray event : {"onpagehide", "onunload", "onbeforeunload"}) {
+        startBrowser({.leaveLimit = 1s});
+        openPage("<title>t</title><script>" + event + " = () => { for (;;); }</script>");
+        QElapsedTimer clock;
+        clock.start();
+        open(u"/next"_s);
+        EXPECT_EQ(browser->LocationName(), u"next") << event.constData();
+        EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived);
+        EXPECT_LT(clock.elapsed(), 6000) << event.constData();
+    }
+}
+
+TEST_F(WebEngineRefusals, TheViewShowsTheNextPageBehindOneThatWasReadWithoutScripts)
+{
+    server.page("/next", "<title>next</title>");
+    server.page("/hang", "<title>hang</title><script>for (;;);</script>");
+    view = std::make_unique<QWebEngineView>();
+    view->setPage(browser->page());
+    browser->setScriptLimit(500ms);
+    browser->Navigate(server.address(u"/hang"_s));
+    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    EXPECT_EQ(browser->content().title, u"hang");
+    EXPECT_NE(view->page(), browser->page()) << "what is not laid out is not shown";
+    open(u"/next"_s);
+    EXPECT_EQ(view->page(), browser->page());
+    EXPECT_EQ(view->title(), u"next");
 }
 
 TEST_F(WebEngineRefusals, ASlowServerIsNotMistakenForAPageThatHangs)

@@ -95,6 +95,7 @@ class FakeBrowser : public BrowserEngine
         return part == Part::Html ? frame.html : frame.text;
     }
     [[nodiscard]] QStringList frameLinks(int index) override { return frameAt(index).links; }
+    void setScriptLimit(std::chrono::milliseconds limit) override { scriptLimit = limit; }
     void copySelection() override { ++copies; }
     void saveAs() override { ++saves; }
     [[nodiscard]] QString userAgent() override { return agent; }
@@ -134,6 +135,7 @@ class FakeBrowser : public BrowserEngine
 
     QHash<QString, FakePage> pages;
     QHash<QString, QString> cookies;
+    std::chrono::milliseconds scriptLimit = usualScriptLimit;
     QString agent = QStringLiteral("Fake/1.0");
     QStringList navigated;
     QStringList geometry;

@@ -154,6 +154,11 @@ QStringList ChromiumBrowser::frameLinks(int index)
     return page->read("links"_L1, index);
 }
 
+void ChromiumBrowser::setScriptLimit(std::chrono::milliseconds limit)
+{
+    mPage->setScriptLimit(limit);
+}
+
 // A browser without a window has no clipboard but its own, so the text comes over and is put there from here.
 void ChromiumBrowser::copySelection()
 {

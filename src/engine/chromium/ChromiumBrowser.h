@@ -35,6 +35,7 @@ class ChromiumBrowser : public BrowserEngine
     [[nodiscard]] QString framePart(int index, Part part) override;
     [[nodiscard]] QStringList frameLinks(int index) override;
 
+    void setScriptLimit(std::chrono::milliseconds limit) override;
     void copySelection() override;
     /// Raises an error: a browser cannot be made to show its save box from outside.
     void saveAs() override;

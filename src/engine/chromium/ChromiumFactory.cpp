@@ -90,7 +90,7 @@ void ChromiumFactory::start(const QString &programPath)
                                                      .headless = mSettings.headless,
                                                      .sandboxOff = sandboxOff()});
     if (mSettings.headless) {
-        const Platform::PipedProcess started = Platform::startPiped(programPath, arguments);
+        const Platform::PipedProcess started = Platform::startPiped(programPath, arguments, chromiumEnvironment());
         mStarted = started.pid;
         auto socket = std::make_unique<QLocalSocket>();
         socket->setSocketDescriptor(started.socket);
@@ -102,6 +102,7 @@ void ChromiumFactory::start(const QString &programPath)
     QProcess process;
     process.setProgram(ChromiumProgram::holder());
     process.setArguments(QStringList{profile().socketPath(), programPath} + arguments);
+    process.setEnvironment(QProcess::systemEnvironment() + chromiumEnvironment());
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

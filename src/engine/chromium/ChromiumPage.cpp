@@ -1,5 +1,6 @@
 #include "engine/chromium/ChromiumPage.h"
 #include "engine/BrowserErrors.h"
+#include "engine/chromium/DialogAnswers.h"
 
 #include <QJsonArray>
 #include <QPointer>
@@ -36,8 +37,7 @@ const ChromiumPage::EventRow ChromiumPage::eventRows[] = {
 };
 
 ChromiumPage::ChromiumPage(std::shared_ptr<DevToolsConnection> connection)
-    : mConnection(std::move(connection)), mTargets(*mConnection), mDialogs(*mConnection), mReader(*mConnection),
-      mWatch(*mConnection)
+    : mConnection(std::move(connection)), mTargets(*mConnection), mReader(*mConnection), mWatch(*mConnection)
 {
     QObject::connect(mConnection.get(), &DevToolsConnection::event, this, &ChromiumPage::handleEvent);
     QObject::connect(mConnection.get(), &DevToolsConnection::closed, this, &ChromiumPage::onDied);
@@ -46,8 +46,6 @@ ChromiumPage::ChromiumPage(std::shared_ptr<DevToolsConnection> connection)
     QObject::connect(&mTargets, &TargetWatch::processLost, this, &ChromiumPage::onProcessLost);
     QObject::connect(&mTargets, &TargetWatch::windowReplaced, this, &ChromiumPage::onWindowReplaced);
     QObject::connect(&mTargets, &TargetWatch::windowClosed, this, &ChromiumPage::onClosed);
-    QObject::connect(&mReader, &PageReader::brokenOff, &mDialogs, &DialogAnswers::hurry);
-    QObject::connect(&mWatch, &NavigationWatch::brokenOff, &mDialogs, &DialogAnswers::hurry);
     QObject::connect(&mWatch, &NavigationWatch::pageStuck, this, &ChromiumPage::onPageStuck);
     mTargets.attach();
     mTopFrame = mTargets.target(); // the top frame of a page goes by its target's name
@@ -99,7 +97,6 @@ void ChromiumPage::breakOff()
 {
     if (mRequested.contains(u'#') && mRequested.section(u'#', 0, 0) == mAddress.section(u'#', 0, 0))
         return;
-    mDialogs.hurry();
     mConnection->send(mTargets.session(), "Runtime.terminateExecution"_L1);
     mConnection->send(mTargets.session(), "Page.stopLoading"_L1);
 }
@@ -172,7 +169,6 @@ void ChromiumPage::onWindowReplaced()
     mAddress = u"about:blank"_s;
     mUnreachable.clear();
     mDocuments.clear();
-    mDialogs.newPage();
     mReader.setPage(mTargets.session(), mTopFrame);
     if (mLoading.isLoading())
         request();
@@ -289,7 +285,7 @@ void ChromiumPage::onCrashed(const QString &, const QJsonObject &params)
 
 void ChromiumPage::onDialog(const QString &session, const QJsonObject &params)
 {
-    mDialogs.answer(session, params);
+    DialogAnswers::answer(*mConnection, session, params);
 }
 
 void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &params)
@@ -313,7 +309,6 @@ void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &p
                                                                          : PageLoading::Document::ErrorPage);
     if (!mLoading.isWaitingForDocument())
         mWatch.end();
-    mDialogs.newPage();
     mReader.documentChanged(id);
     if (!stays && mRepetitions++ < repetitionsAtMost)
         request();

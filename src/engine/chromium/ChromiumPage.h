@@ -6,7 +6,6 @@
 
 #include "browser/BrowserEngine.h"
 #include "engine/PageLoading.h"
-#include "engine/chromium/DialogAnswers.h"
 #include "engine/chromium/NavigationWatch.h"
 #include "engine/chromium/PageReader.h"
 #include "engine/chromium/TargetWatch.h"
@@ -41,6 +40,7 @@ class ChromiumPage : public QObject
     /// As PageReader::read; the address of an error page is that of the page which could not be shown.
     [[nodiscard]] QStringList read(QLatin1StringView what, int frame = -1);
     [[nodiscard]] PageContent content();
+    void setScriptLimit(std::chrono::milliseconds limit) { mReader.setPatience(limit); }
     /// Sets one edge or extent ("left", "top", "width", "height") of the window.
     void setBound(const QString &name, int pixels);
     /// As BrowserEngine has them.
@@ -101,7 +101,6 @@ class ChromiumPage : public QObject
 
     std::shared_ptr<DevToolsConnection> mConnection;
     TargetWatch mTargets;
-    DialogAnswers mDialogs;
     PageReader mReader;
     NavigationWatch mWatch;
     PageLoading mLoading;

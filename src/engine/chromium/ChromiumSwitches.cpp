@@ -1,6 +1,7 @@
 #include "engine/chromium/ChromiumSwitches.h"
 #include "engine/BrowserSwitches.h"
 
+#include <QProcess>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,7 +30,6 @@ constexpr std::array ownSwitches{
     Switch{"--disable-background-timer-throttling"_L1, "a page behind other windows works at full speed"_L1},
     Switch{"--disable-backgrounding-occluded-windows"_L1, "the same"_L1},
     Switch{"--disable-renderer-backgrounding"_L1, "the same"_L1},
-    Switch{"--disable-ipc-flooding-protection"_L1, "one page after the other is no attack"_L1},
     Switch{"--disable-background-networking"_L1, "nothing is fetched that our user has not asked for"_L1},
     Switch{"--disable-component-update"_L1, "the same"_L1},
     Switch{"--disable-domain-reliability"_L1, "the same"_L1},
@@ -71,4 +71,11 @@ QStringList chromiumArguments(const ChromiumStart &start)
         own.append(u"--no-sandbox"_s);
     own.append(u"about:blank"_s);
     return BrowserSwitches::joined(own, start.userSwitches);
+}
+
+// What a crashed page held in memory would be written to a folder of the user's own browser, whatever the switches say,
+// if that folder could be made.
+QStringList chromiumEnvironment()
+{
+    return {u"CHROME_CONFIG_HOME="_s + QProcess::nullDevice()};
 }

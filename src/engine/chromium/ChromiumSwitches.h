@@ -13,3 +13,6 @@ struct ChromiumStart
 
 /// All arguments, in order: our own, the page to begin with, those of the user.
 [[nodiscard]] QStringList chromiumArguments(const ChromiumStart &start);
+
+/// What is added to the browser's environment, as "NAME=value".
+[[nodiscard]] QStringList chromiumEnvironment();

@@ -50,10 +50,8 @@ void NavigationWatch::look()
         Q_EMIT pageStuck();
         return;
     }
-    if (mUnanswered) {
+    if (mUnanswered)
         mConnection.send(mSession, "Runtime.terminateExecution"_L1);
-        Q_EMIT brokenOff();
-    }
     mUnanswered = true;
     mTimer.start(limitOfAnswer);
     const QPointer<NavigationWatch> self(this);

@@ -22,8 +22,6 @@ class NavigationWatch : public QObject
     void end();
 
   Q_SIGNALS:
-    /// A script of the old page is being broken off.
-    void brokenOff();
     /// The old page's window can no longer be used; the watch is over.
     void pageStuck();
 

@@ -1,5 +1,4 @@
 #include "engine/chromium/PageReader.h"
-#include "browser/BrowserEngine.h"
 #include "engine/BrowserErrors.h"
 #include "engine/ReaderAnswer.h"
 #include "util/Errors.h"
@@ -179,14 +178,13 @@ PageReader::Outcome PageReader::tryEvaluate(const QString &expression, QDeadline
 // Breaking off hits whatever script runs, or the next one: only a page that leaves us waiting deserves it.
 bool PageReader::waitPatiently(const std::function<bool()> &done, QDeadlineTimer deadline, bool mayBreakOff)
 {
-    for (std::chrono::milliseconds step = patience; mayBreakOff; step = patienceAgain) {
+    for (std::chrono::milliseconds step = mPatience; mayBreakOff; step = patienceAgain) {
         const QDeadlineTimer stop = std::min(QDeadlineTimer(step), deadline);
         if (mConnection.waitUntil(done, stop))
             return true;
         if (deadline.hasExpired() || !mConnection.isOpen())
             break;
         mConnection.send(mSession, "Runtime.terminateExecution"_L1);
-        Q_EMIT brokenOff();
     }
     return mConnection.waitUntil(done, deadline);
 }

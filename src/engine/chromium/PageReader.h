@@ -1,10 +1,11 @@
 // Reads the document of one page over its DevTools session, in a script world of its own: one round trip for each read
 // while the world is known. A page that does not answer is made to.
 //
-// A script that never ends is broken off after `patience`; what the page had built by then is what is read. A read ends
+// A script that never ends is broken off after a while; what the page had built by then is what is read. A read ends
 // after BrowserEngine::readLimit at the latest, and a page that has not answered at all by then loses its process.
 #pragma once
 
+#include "browser/BrowserEngine.h"
 #include "engine/chromium/DevToolsConnection.h"
 
 #include <QStringList>
@@ -16,7 +17,6 @@ class PageReader : public QObject
     Q_OBJECT
 
   public:
-    static constexpr std::chrono::seconds patience{4};
     static constexpr std::chrono::seconds patienceAgain{2};
 
     /// `connection` must outlive the reader.
@@ -29,12 +29,11 @@ class PageReader : public QObject
     /// The page's process is gone; reads raise an error until documentChanged or setPage.
     void processLost();
 
+    /// How long a script may keep a read waiting before it is broken off.
+    void setPatience(std::chrono::milliseconds patience) { mPatience = patience; }
+
     /// Runs `what` of js/reader.js for the document of frame `index` (-1: the top document). Raises a RuntimeError.
     [[nodiscard]] QStringList read(QLatin1StringView what, int index = -1);
-
-  Q_SIGNALS:
-    /// A script of the page is being broken off.
-    void brokenOff();
 
   private:
     struct World
@@ -61,4 +60,5 @@ class PageReader : public QObject
     World mWorld;
     int mDocument = 0; // counts documents, so that a late answer is known as one
     bool mLost = false;
+    std::chrono::milliseconds mPatience = BrowserEngine::usualScriptLimit;
 };

@@ -93,6 +93,7 @@ void TargetWatch::attached(const QString &parent, const QJsonObject &params)
     const QJsonObject info = params[u"targetInfo"].toObject();
     const QString target = info[u"targetId"].toString();
     if (isOfPage(parent)) {
+        silence(session);
         preparePage(session);
     } else if (target == mTarget) {
         mSession = session;
@@ -178,6 +179,14 @@ void TargetWatch::guard(const QString &session)
     mConnection.send(session, "Page.enable"_L1);
     mConnection.send(session, "Page.addScriptToEvaluateOnNewDocument"_L1,
                      {{u"source"_s, script}, {u"worldName"_s, u"trawlex"_s}, {u"runImmediately"_s, true}});
+}
+
+// Frames of other sites only: in the page's own documents our script would be seen.
+void TargetWatch::silence(const QString &session)
+{
+    static const QString script = QString::fromUtf8(engineResource(u"js/silent-frame.js"_s));
+    mConnection.send(session, "Page.addScriptToEvaluateOnNewDocument"_L1,
+                     {{u"source"_s, script}, {u"runImmediately"_s, true}});
 }
 
 void TargetWatch::decideOnWindow(const QString &session, const QJsonObject &info, bool isNew)

@@ -54,6 +54,7 @@ class TargetWatch : public QObject
     void preparePage(const QString &session);
     void whenReady(std::function<void()> then);
     void guard(const QString &session);
+    void silence(const QString &session);
     void decideOnWindow(const QString &session, const QJsonObject &info, bool isNew);
     void refuse(const QString &session, const QJsonObject &info);
     void run(const QString &session, DevToolsConnection::Then then = {});

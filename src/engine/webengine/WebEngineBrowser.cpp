@@ -7,24 +7,24 @@
 #include "engine/webengine/WebEngineReader.h"
 #include "engine/webengine/WebEngineStage.h"
 
-#include <QClipboard>
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QTimer>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
 #include <QWebEngineScript>
+#include <QWebEngineSettings>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr std::chrono::milliseconds askAgain{100};
-constexpr QLatin1StringView partNames[] = {"html"_L1, "text"_L1};
+// How often one page is asked for once more, because the old page stood in the way.
+constexpr int repetitionsAtMost = 3;
+constexpr int looksAtLeaving = 5; // within the limit
 
 // Where the folder is given, it holds cookies: nobody else's business.
 std::unique_ptr<QWebEngineProfile> makeProfile(const QString &folder)
@@ -55,6 +55,7 @@ struct WebEngineBrowser::Kernel
 {
     std::unique_ptr<QWebEngineProfile> profile;
     std::unique_ptr<WebEngineCookies> cookies;
+    std::unique_ptr<WebEnginePage> shown; // what the view shows while the page is a plain one, which no view shows
     std::unique_ptr<WebEnginePage> page;
     QString token = WebEnginePage::newToken();
 
@@ -74,15 +75,14 @@ WebEngineBrowser::WebEngineBrowser(const WebEngineOptions &options)
     mKernel->cookies = std::make_unique<WebEngineCookies>(*mKernel->profile);
     connect(mKernel->profile.get(), &QWebEngineProfile::downloadRequested, this, &refuseDownload);
     makePage();
-    mReader = std::make_unique<WebEngineReader>(*mKernel->page, options.readLimit);
+    mReader = std::make_unique<WebEngineReader>(*mKernel->page);
     connect(mReader.get(), &WebEngineReader::unanswered, this, &WebEngineBrowser::endProcess);
-    connect(mReader.get(), &WebEngineReader::finished, this, [this] { emitLater({}); });
 }
 
 // From within a handler of NewWindow2 or a read, the page's own functions are still on the stack.
 WebEngineBrowser::~WebEngineBrowser()
 {
-    const bool inUse = mRefusing > 0 || mReader->isReading();
+    const bool inUse = mRefusing > 0 || mReads > 0;
     mReader.reset();
     if (inUse)
         mKernel->leaveLater();
@@ -91,6 +91,8 @@ WebEngineBrowser::~WebEngineBrowser()
 void WebEngineBrowser::makePage()
 {
     mKernel->page = std::make_unique<WebEnginePage>(mKernel->profile.get(), mKernel->token);
+    mKernel->page->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, !mPlain);
+    mKernel->page->settings()->setAttribute(QWebEngineSettings::AutoLoadImages, !mPlain);
     connectPage();
     page()->runJavaScript(QStringLiteral("0")); // brings the page to life, else it cannot be made visible
     keepVisible();
@@ -99,14 +101,20 @@ void WebEngineBrowser::makePage()
 // A page whose process has crashed comes back without some of what it had: our script no longer reaches all its frames.
 void WebEngineBrowser::replacePage()
 {
-    WebEnginePage *old = mKernel->page.release();
+    std::unique_ptr<WebEnginePage> old = std::move(mKernel->page);
     old->disconnect(this);
     makePage();
     mReader->setPage(*mKernel->page);
-    WebEngineStage::replacePage(*old, *mKernel->page);
     mProcess = Process::Alive;
-    Q_EMIT pageReplaced(page());
-    old->deleteLater(); // it may be on the stack
+    if (mPlain) {
+        mKernel->shown = mKernel->shown ? std::move(mKernel->shown) : std::move(old);
+    } else {
+        const std::unique_ptr<WebEnginePage> shown = std::move(mKernel->shown);
+        WebEngineStage::replacePage(shown ? *shown : *old, *mKernel->page);
+        Q_EMIT pageReplaced(page());
+    }
+    if (old)
+        old.release()->deleteLater(); // it may be on the stack
 }
 
 void WebEngineBrowser::connectPage()
@@ -117,7 +125,7 @@ void WebEngineBrowser::connectPage()
     connect(page, &QWebEnginePage::renderProcessTerminated, this, &WebEngineBrowser::onProcessGone);
     connect(page, &QWebEnginePage::visibleChanged, this, &WebEngineBrowser::keepVisible, Qt::QueuedConnection);
     connect(page, &WebEnginePage::windowRefused, this, &WebEngineBrowser::onWindowRefused);
-    connect(page, &WebEnginePage::navigationTakenUp, this, [this] { mLoading.started(mAddress.toString()); });
+    connect(page, &WebEnginePage::navigationBegun, this, &WebEngineBrowser::onNavigationBegun);
     connect(page, &WebEnginePage::documentCreated, this, &WebEngineBrowser::onDocumentCreated);
     connect(page, &WebEnginePage::documentLoaded, this, &WebEngineBrowser::onDocumentLoaded);
 }
@@ -130,7 +138,7 @@ QWebEnginePage *WebEngineBrowser::page() const
 // A page in a hidden window works on like any other: its timers keep their pace and its frames are drawn.
 void WebEngineBrowser::keepVisible()
 {
-    if (!page()->isVisible())
+    if (!mPlain && !page()->isVisible())
         page()->setVisible(true);
 }
 
@@ -140,12 +148,19 @@ void WebEngineBrowser::Navigate(const QString &address)
 {
     raiseIfClosed();
     const QUrl url = WebEngineAddress::parsed(address);
-    const bool moveWithin = isAlive() && !isLoading() && WebEngineAddress::isMoveWithin(page()->url(), url);
+    const bool moveWithin = isAlive() && !mPlain && !isLoading() && WebEngineAddress::isMoveWithin(page()->url(), url);
     mAddress = url;
-    mNavigation = mLoading.begin();
+    if (std::exchange(mPlain, false))
+        mProcess = Process::Lost; // the next page has its scripts again, in a process of its own
+    mRepetitions = 0;
+    request();
     if (isAlive() && !moveWithin)
-        watchLeaving();
+        watchLeaving(std::make_shared<bool>(true), QDeadlineTimer(mOptions.leaveLimit));
     issue();
+    QTimer::singleShot(mOptions.leaveLimit, this, [this, navigation = mNavigation] {
+        if (navigation == mNavigation)
+            onLeaveLimit();
+    });
     if (moveWithin) { // the page tells nothing more of it
         mLocation = WebEngineAddress::text(url);
         (void)mLoading.answered(mNavigation, {}, {});
@@ -163,30 +178,27 @@ void WebEngineBrowser::issue()
 }
 
 // A page whose script never ends keeps the next one from coming, as the same site's pages share a process. It is asked
-// twice, since the first question may have gone with the document.
-void WebEngineBrowser::watchLeaving()
+// again and again: it may begin to hang only when it is left.
+void WebEngineBrowser::watchLeaving(const std::shared_ptr<bool> &answered, QDeadlineTimer patience)
 {
-    const auto answered = std::make_shared<bool>(false);
-    const auto stillLeaving = [this, navigation = mNavigation] {
-        return navigation == mNavigation && mLoading.isWaitingForDocument();
-    };
+    const QDeadlineTimer rest = *answered ? QDeadlineTimer(mOptions.leaveLimit) : patience;
+    *answered = false;
     mReader->probe(answered);
-    QTimer::singleShot(mOptions.leaveLimit / 2, this, [this, answered, stillLeaving] {
-        if (stillLeaving())
-            mReader->probe(answered);
-    });
-    QTimer::singleShot(mOptions.leaveLimit, this, [this, answered, stillLeaving] {
-        if (stillLeaving())
-            onLeaveLimit(*answered);
+    QTimer::singleShot(mOptions.leaveLimit / looksAtLeaving, this, [this, answered, rest, navigation = mNavigation] {
+        if (navigation != mNavigation || !mLoading.isWaitingForDocument() || mProcess == Process::Changing)
+            return;
+        if (*answered || !rest.hasExpired())
+            watchLeaving(answered, rest);
+        else
+            Platform::endProcess(page()->renderProcessPid()); // onProcessGone() gives the address to the next process
     });
 }
 
-void WebEngineBrowser::onLeaveLimit(bool answered)
+// The page has taken the address for nothing that it can open.
+void WebEngineBrowser::onLeaveLimit()
 {
-    if (!answered)
-        Platform::endProcess(page()->renderProcessPid()); // onProcessGone() gives the address to the next process
-    else if (!page()->isLoading() && mLoading.cancel())
-        tellEnd(false); // the page has taken the address for nothing that it can open
+    if (mLoading.isWaitingForDocument() && mProcess == Process::Alive && !page()->isLoading() && mLoading.cancel())
+        tellEnd(false);
 }
 
 void WebEngineBrowser::Stop()
@@ -204,7 +216,8 @@ void WebEngineBrowser::onLoadingChanged(const QWebEngineLoadingInfo &info)
     if (mProcess == Process::Changing)
         return;
     if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
-        mLoading.started(mAddress.toString());
+        if (!mLoading.hasStarted())
+            mLoading.started(awaited());
         mLoading.resumed(); // also when the page moves on by itself
         return;
     }
@@ -255,7 +268,7 @@ void WebEngineBrowser::onDocumentLoaded(const QString &url, bool topDocument)
         emitLater([this, url] { Q_EMIT DocumentComplete(url, false); });
         return;
     }
-    mLoading.documentComplete(QString::number(mDocuments));
+    mLoading.documentComplete(mDocument);
     QTimer::singleShot(askAgain, this, [this, navigation = mNavigation] {
         const bool inPlace = isLoading() && !mLoading.isWaitingForDocument() && mProcess != Process::Changing;
         if (navigation == mNavigation && inPlace && !page()->isLoading())
@@ -270,7 +283,10 @@ void WebEngineBrowser::tellEnd(bool withDocument)
         onUrlChanged(page()->url());
         emitLater([this, url = mLocation] { Q_EMIT DocumentComplete(url, true); });
     }
-    emitLater([this] { Q_EMIT loadingEnded(); });
+    emitLater([this, navigation = mNavigation] {
+        if (navigation == mNavigation) // that of an earlier one would be taken for the end of this one
+            Q_EMIT loadingEnded();
+    });
 }
 
 // An address that is only asked for is told here too; it counts from the document's creation on.
@@ -287,10 +303,47 @@ void WebEngineBrowser::onDocumentCreated(const QString &url, bool topDocument)
         return;
     const bool errorPage = WebEngineAddress::isErrorPage(url);
     const auto kind = errorPage ? PageLoading::Document::ErrorPage : PageLoading::Document::Page;
-    (void)mLoading.committed(QString::number(++mDocuments), kind);
+    mDocument = mLoading.isWaitingForDocument() ? awaited() : QString::number(++mDocuments);
+    const bool stays = mLoading.committed(mDocument, kind);
     if (mProcess != Process::Closed)
         mProcess = Process::Alive;
     mLocation = errorPage ? WebEngineAddress::text(page()->url()) : url;
+    if (!stays)
+        repeat();
+}
+
+// What the page calls the document of the latest navigation; it tells of a document and not whose it is.
+QString WebEngineBrowser::awaited() const
+{
+    return QStringLiteral("navigation %1").arg(mNavigation);
+}
+
+void WebEngineBrowser::onNavigationBegun(bool asGiven)
+{
+    mLoading.started(asGiven ? awaited() : QStringLiteral("the page's own"));
+}
+
+// The old page has set out for another one while ours was on its way: it may be that one which has come.
+void WebEngineBrowser::repeat()
+{
+    const bool again = mRepetitions++ < repetitionsAtMost;
+    request();
+    QTimer::singleShot(0, this, [this, again, navigation = mNavigation] {
+        if (navigation != mNavigation || !mLoading.isWaitingForDocument())
+            return;
+        if (again) {
+            watchLeaving(std::make_shared<bool>(true), QDeadlineTimer(mOptions.leaveLimit));
+            issue();
+        } else {
+            Platform::endProcess(page()->renderProcessPid()); // onProcessGone() gives the address to the next process
+        }
+    });
+}
+
+void WebEngineBrowser::request()
+{
+    mNavigation = mLoading.begin();
+    (void)mLoading.answered(mNavigation, awaited(), {});
 }
 
 // The process of the page that is being left takes the navigation along when it ends; the address is then given again.
@@ -341,101 +394,6 @@ void WebEngineBrowser::windowClosed()
     emitLater([this] { Q_EMIT WindowClosing(); });
 }
 
-// --- reading -------------------------------------------------------------------------------------------------------
-
-void WebEngineBrowser::raiseIfClosed() const
-{
-    if (mProcess == Process::Closed)
-        throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The browser's window has been closed."));
-}
-
-QStringList WebEngineBrowser::read(QLatin1StringView what, int frame)
-{
-    raiseIfClosed();
-    if (!isAlive())
-        throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page's process has ended."));
-    if (mRefusing > 0)
-        throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page waits for its new window."));
-    if (mLoading.isWaitingForDocument())
-        throw RuntimeError(EngineError::NotArrived, QStringLiteral("The page has not arrived yet."));
-    return mReader->read(what, frame);
-}
-
-QString WebEngineBrowser::LocationURL()
-{
-    raiseIfClosed();
-    return mLocation;
-}
-
-QString WebEngineBrowser::LocationName()
-{
-    const QString title = read("title"_L1).constFirst();
-    return WebEngineAddress::isErrorPage(title) ? mLocation : title;
-}
-
-QString WebEngineBrowser::readPart(Part part, int frame)
-{
-    return read(partNames[int(part)], frame).constFirst();
-}
-
-QString WebEngineBrowser::documentPart(Part part)
-{
-    return readPart(part, -1);
-}
-
-PageContent WebEngineBrowser::content()
-{
-    const QStringList texts = read("content"_L1);
-    PageContent result{texts[0], texts[1], texts[2]};
-    if (WebEngineAddress::isErrorPage(result.url))
-        result.url = mLocation;
-    else
-        mLocation = result.url;
-    if (WebEngineAddress::isErrorPage(result.title))
-        result.title = mLocation;
-    return result;
-}
-
-QStringList WebEngineBrowser::links()
-{
-    return read("links"_L1);
-}
-
-int WebEngineBrowser::frameCount()
-{
-    return read("frameCount"_L1).constFirst().toInt();
-}
-
-QString WebEngineBrowser::framePart(int index, Part part)
-{
-    if (index < 0)
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange, QStringLiteral("There is no frame %1.").arg(index));
-    return readPart(part, index);
-}
-
-QStringList WebEngineBrowser::frameLinks(int index)
-{
-    if (index < 0)
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange, QStringLiteral("There is no frame %1.").arg(index));
-    return read("links"_L1, index);
-}
-
-// The browser's own command would copy only in a page that has the focus, and some time later.
-void WebEngineBrowser::copySelection()
-{
-    const QString text = read("selection"_L1).constFirst();
-    if (!text.isEmpty())
-        QGuiApplication::clipboard()->setText(text);
-}
-
-void WebEngineBrowser::saveAs()
-{
-    raiseIfClosed();
-    if (!isSignalConnected(QMetaMethod::fromSignal(&WebEngineBrowser::saveRequested)))
-        throw RuntimeError(EngineError::CannotDo, QStringLiteral("The page can be saved only from a window."));
-    Q_EMIT saveRequested();
-}
-
 QString WebEngineBrowser::userAgent()
 {
     return mKernel->profile->httpUserAgent();
@@ -460,7 +418,7 @@ void WebEngineBrowser::emitLater(std::function<void()> emission)
 void WebEngineBrowser::emitDue()
 {
     const QPointer self(this);
-    while (self && !mDue.empty() && !mReader->isReading()) {
+    while (self && !mDue.empty() && mReads == 0) {
         const auto emission = std::move(mDue.front());
         mDue.pop_front();
         emission();

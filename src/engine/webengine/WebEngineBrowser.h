@@ -1,14 +1,16 @@
 // The built-in browser: a page of its own with a profile of its own, with or without a view on it. Knows no widget.
 //
-// A page's process that does not answer within the read limit is ended; reads then raise an error, as after a crash,
-// until the next Navigate() has brought a document. The last reference to the browser may be dropped anywhere, in a
-// handler of one of its own signals too. Reads raise an error inside a handler of NewWindow2, since the page waits for
-// its end.
+// A page that does not answer a read within the script limit loses its process, and is loaded once more in another one,
+// plain: without scripts, and not laid out. One that does not answer even then within the read limit is given up; reads
+// then raise an error, as after a crash, until the next Navigate() has brought a document. The last reference to the
+// browser may be dropped anywhere, in a handler of one of its own signals too. Reads raise an error inside a handler of
+// NewWindow2, since the page waits for its end.
 #pragma once
 
 #include "browser/EmbeddedBrowser.h"
 #include "engine/PageLoading.h"
 
+#include <QDeadlineTimer>
 #include <QUrl>
 #include <deque>
 #include <functional>
@@ -62,6 +64,7 @@ class WebEngineBrowser : public EmbeddedBrowser
     [[nodiscard]] QString framePart(int index, Part part) override;
     [[nodiscard]] QStringList frameLinks(int index) override;
 
+    void setScriptLimit(std::chrono::milliseconds limit) override { mScriptLimit = limit; }
     /// The selected text goes to the clipboard; nothing happens without a selection.
     void copySelection() override;
     /// Emits saveRequested(); raises an error when nobody listens.
@@ -97,9 +100,15 @@ class WebEngineBrowser : public EmbeddedBrowser
     void onProcessGone();
     void onWindowRefused();
     void tellEnd(bool withDocument);
+    void request();
     void issue();
-    void watchLeaving();
-    void onLeaveLimit(bool answered);
+    void repeat();
+    void onNavigationBegun(bool asGiven);
+    [[nodiscard]] QString awaited() const;
+    void watchLeaving(const std::shared_ptr<bool> &answered, QDeadlineTimer patience);
+    void onLeaveLimit();
+    void loadPlain(QDeadlineTimer deadline);
+    void requireReadable() const;
     void endProcess();
     void keepVisible();
     [[nodiscard]] QStringList read(QLatin1StringView what, int frame = -1);
@@ -117,8 +126,13 @@ class WebEngineBrowser : public EmbeddedBrowser
     QUrl mAddress; ///< of the navigation under way
     PageLoading mLoading;
     Process mProcess = Process::Alive;
-    int mNavigation = 0; ///< the latest navigation, as PageLoading counts them
-    int mReissued = 0;   ///< the navigation that has been given to a second process
-    int mDocuments = 0;  ///< counts the documents that have come into being
-    int mRefusing = 0;   ///< handlers of NewWindow2 on the stack
+    int mNavigation = 0;  ///< the latest navigation, as PageLoading counts them
+    int mReissued = 0;    ///< the navigation that has been given to a second process
+    int mRepetitions = 0; ///< of the latest Navigate(), since the old page stood in the way
+    int mDocuments = 0;   ///< counts the documents that have come into being
+    QString mDocument;    ///< the name of the latest, for PageLoading
+    int mRefusing = 0;    ///< handlers of NewWindow2 on the stack
+    int mReads = 0;       ///< reads under way
+    bool mPlain = false;  ///< the page is loaded without scripts
+    std::chrono::milliseconds mScriptLimit = usualScriptLimit;
 };

@@ -108,8 +108,8 @@ void WebEnginePage::listenToFrames()
 
 bool WebEnginePage::acceptNavigationRequest(const QUrl &, NavigationType type, bool isMainFrame)
 {
-    if (isMainFrame && type == NavigationTypeTyped)
-        Q_EMIT navigationTakenUp();
+    if (isMainFrame && type != NavigationTypeRedirect)
+        Q_EMIT navigationBegun(type == NavigationTypeTyped);
     return true;
 }
 

@@ -21,8 +21,8 @@ class WebEnginePage : public QWebEnginePage
     /// The page wants a new window and does not get it. Emitted from within the browser's own work: the page must not
     /// be deleted, and nothing read from it, before the handler has returned.
     void windowRefused();
-    /// The page has begun to go to the address that it was given.
-    void navigationTakenUp();
+    /// The page has begun to go to the address that it was given, or somewhere by itself.
+    void navigationBegun(bool asGiven);
     /// A frame's document has come into being. `url` is as the document itself names it.
     void documentCreated(const QString &url, bool topDocument);
     /// A frame's document has been loaded.

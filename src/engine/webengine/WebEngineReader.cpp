@@ -21,23 +21,6 @@ RuntimeError gone()
     return {EngineError::BrowserGone, QStringLiteral("The browser is gone.")};
 }
 
-// Counts one read for as long as it lasts, unless the reader goes first.
-class Reading
-{
-  public:
-    Reading(WebEngineReader &reader, int &count) : mReader(&reader), mCount(count) { ++mCount; }
-    ~Reading()
-    {
-        if (mReader && --mCount == 0)
-            Q_EMIT mReader->finished();
-    }
-    Q_DISABLE_COPY_MOVE(Reading)
-
-  private:
-    QPointer<WebEngineReader> mReader;
-    int &mCount;
-};
-
 } // namespace
 
 struct WebEngineReader::Question
@@ -56,36 +39,35 @@ struct WebEngineReader::Question
     }
 };
 
-WebEngineReader::WebEngineReader(QWebEnginePage &page, std::chrono::milliseconds limit) : mPage(&page), mLimit(limit) {}
-
 WebEngineReader::~WebEngineReader()
 {
     fail(gone());
 }
 
-QStringList WebEngineReader::read(QLatin1StringView what, int frame)
+QStringList WebEngineReader::read(QLatin1StringView what, int frame, QDeadlineTimer deadline,
+                                  std::chrono::milliseconds patience)
 {
-    const Reading reading(*this, mReading);
-    const QDeadlineTimer deadline(mLimit);
     while (true) {
-        ReaderAnswer answer(ask(ReaderAnswer::readCall(what, frame), deadline).toMap());
-        if (fetch(answer, deadline))
+        ReaderAnswer answer(
+            ask(ReaderAnswer::readCall(what, frame), std::min(deadline, QDeadlineTimer(patience))).toMap());
+        if (fetch(answer, deadline, patience))
             return answer.texts();
     }
 }
 
 // In a list, since an answer that is no value is taken for none.
-bool WebEngineReader::fetch(ReaderAnswer &answer, const QDeadlineTimer &deadline)
+bool WebEngineReader::fetch(ReaderAnswer &answer, QDeadlineTimer deadline, std::chrono::milliseconds patience)
 {
     while (!answer.isWhole()) {
-        const QVariantList piece = ask(u'[' + answer.nextCall() + u']', deadline).toList();
+        const QString call = u'[' + answer.nextCall() + u']';
+        const QVariantList piece = ask(call, std::min(deadline, QDeadlineTimer(patience))).toList();
         if (!answer.add(piece.isEmpty() ? QString() : piece.constFirst().toString()))
             return false;
     }
     return true;
 }
 
-QVariant WebEngineReader::ask(const QString &script, const QDeadlineTimer &deadline)
+QVariant WebEngineReader::ask(const QString &script, QDeadlineTimer deadline)
 {
     const auto question = std::make_shared<Question>();
     question->script = script;

@@ -22,17 +22,17 @@ class WebEngineReader : public QObject
     Q_OBJECT
 
   public:
-    /// `page` must outlive the reader, or the next setPage(). `limit` is the time that one read may take in all.
-    WebEngineReader(QWebEnginePage &page, std::chrono::milliseconds limit);
+    /// `page` must outlive the reader, or the next setPage().
+    explicit WebEngineReader(QWebEnginePage &page) : mPage(&page) {}
     ~WebEngineReader() override;
 
     /// From now on `page` is read; reads under way should have been ended.
     void setPage(QWebEnginePage &page) { mPage = &page; }
     /// The answer of the page's reader (js/reader.js) to `what`, of frame `frame` or of the top document with -1.
-    /// Raises a RuntimeError: what the document refuses, no answer in time, fail().
-    [[nodiscard]] QStringList read(QLatin1StringView what, int frame = -1);
-    /// True while a read is under way.
-    [[nodiscard]] bool isReading() const { return mReading > 0; }
+    /// `deadline` is for all of it, `patience` for each question of which there may be several. Raises a RuntimeError:
+    /// what the document refuses, no answer in time, fail().
+    [[nodiscard]] QStringList read(QLatin1StringView what, int frame, QDeadlineTimer deadline,
+                                   std::chrono::milliseconds patience);
     /// Ends every read that is under way with this error.
     void fail(const RuntimeError &error);
     /// Asks whether the page's process answers at all; `*answered` is set when it does.
@@ -41,21 +41,17 @@ class WebEngineReader : public QObject
   Q_SIGNALS:
     /// A question found no answer in time. Emitted before the read raises its error.
     void unanswered();
-    /// The last read under way has ended.
-    void finished();
 
   private:
     struct Question;
 
-    [[nodiscard]] QVariant ask(const QString &script, const QDeadlineTimer &deadline);
+    [[nodiscard]] QVariant ask(const QString &script, QDeadlineTimer deadline);
     void wait(const std::shared_ptr<Question> &question, const QDeadlineTimer &deadline);
     void put(const std::shared_ptr<Question> &question);
     void putAgainIfLost(const std::shared_ptr<Question> &question);
     /// Fetches what is missing of a long answer; False when the document was replaced meanwhile.
-    [[nodiscard]] bool fetch(ReaderAnswer &answer, const QDeadlineTimer &deadline);
+    [[nodiscard]] bool fetch(ReaderAnswer &answer, QDeadlineTimer deadline, std::chrono::milliseconds patience);
 
     QWebEnginePage *mPage;
-    std::chrono::milliseconds mLimit;
     std::vector<std::weak_ptr<Question>> mOpen;
-    int mReading = 0;
 };
