@@ -32,17 +32,24 @@ void BrowserConnection::InitializeIE()
 {
     const int attempt = ++mAttempt;
     bool connected = false;
+    QString reason; // as of a folder that cannot be written
     mDied = false;
     guarded(mContext.log, {module, "Sub InitializeIE"_L1}, [&] {
         mPanel.mbInternalBrowser = false;
         mBrowser.release();
         mBrowser.set(std::make_unique<cIEObject>(mContext.log, mOut.desktop, mOut.clipboard, mOut.browsers));
-        connected = mPanel.cboANWBSelect.listIndex() == internalMode ? connectInternal() : connectFreeStanding();
+        const bool internal = mPanel.cboANWBSelect.listIndex() == internalMode;
+        try {
+            connected = internal ? connectInternal() : connectFreeStanding();
+        } catch (const RuntimeError &error) {
+            reason = u": "_s + error.description();
+            throw;
+        }
     });
     if (attempt != mAttempt)
         return;
     mPanel.mbInitialized = connected;
-    mContext.status.UpDateStatus(connected ? u"Initialized"_s : u"Not initialized"_s);
+    mContext.status.UpDateStatus(connected ? u"Initialized"_s : u"Not initialized"_s + reason);
     mContext.states.SetStateOfControls();
 }
 

@@ -119,7 +119,8 @@ TEST_F(ChromiumRefusals, ACrashIsNotWrittenDown)
 {
     const QDateTime before = QDateTime::currentDateTime();
     browser->Navigate(u"chrome://crash"_s);
-    ASSERT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Failed && !browser->isLoading(); }));
+    ASSERT_TRUE(waitFor([&] { return errorOf([&] { (void)browser->LocationName(); }) == EngineError::BrowserGone; }));
+    idle(500);
     expectAllIsWell();
     const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/chromium"_s;
     for (const QString &folder : {dataFolder(), own}) {

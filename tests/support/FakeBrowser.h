@@ -213,6 +213,8 @@ class FakeFactory : public BrowserFactory
     void start(const QString &programPath) override
     {
         started.append(programPath);
+        if (startFails)
+            throw RuntimeError(*startFails);
         if (startsAfter >= 0)
             mPump.after(startsAfter, [this] { running = std::make_shared<FakeBrowser>(mPump); });
     }
@@ -222,6 +224,7 @@ class FakeFactory : public BrowserFactory
     std::shared_ptr<FakeBrowser> internal, running;
     QString program;
     QStringList started;
+    std::optional<RuntimeError> startFails;
     qint64 startsAfter = -1; ///< milliseconds from start() to a window; never with -1
 
   private:

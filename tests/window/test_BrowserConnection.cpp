@@ -64,6 +64,15 @@ TEST_F(ConnectionTest, ABrowserThatDoesNotRunIsStartedAndTakenAsSoonAsItAnswers)
     EXPECT_LE(pump.tickCount() - start, 3400);
 }
 
+TEST_F(ConnectionTest, ABrowserThatCannotBeStartedIsToldWithItsReason)
+{
+    browsers.program = makeProgram(u"chromium"_s);
+    browsers.startFails = RuntimeError(75, u"Cannot make the folder /x."_s);
+    startWithoutBrowser();
+    EXPECT_FALSE(form().browser.mbInitialized);
+    EXPECT_EQ(lastStatus(), u"Not initialized: Cannot make the folder /x."_s);
+}
+
 TEST_F(ConnectionTest, AfterTenSecondsWithoutAnAnswerItIsGivenUpWithoutAMessage)
 {
     browsers.program = makeProgram(u"chromium"_s);

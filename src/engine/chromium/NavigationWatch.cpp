@@ -6,9 +6,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::seconds betweenLooks{3};
-constexpr std::chrono::seconds limitOfAnswer{2};
-constexpr std::chrono::seconds limitOfDocument{5};
+// Short: only the page that is being left suffers from them, and the next one has its own wait.
+constexpr std::chrono::milliseconds betweenLooks{1000};
+constexpr std::chrono::milliseconds limitOfAnswer{1000};
+constexpr std::chrono::milliseconds limitOfDocument{2500};
 constexpr int breakOffsAtMost = 1;
 
 } // namespace

@@ -27,7 +27,7 @@ struct WebEngineOptions
     QString storageFolder = {};
     std::chrono::milliseconds readLimit = BrowserEngine::readLimit;
     /// How long a page that is to be left may hold up the next one.
-    std::chrono::milliseconds leaveLimit = std::chrono::seconds(5);
+    std::chrono::milliseconds leaveLimit = std::chrono::milliseconds(2500);
 };
 
 class WebEngineBrowser : public EmbeddedBrowser
