@@ -42,7 +42,7 @@ tidy: build
 PREFIX ?= /usr/local
 install: deps
 	cmake --preset release
-	cmake --build --preset release -j $(JOBS) --target trawlex trawlex-harvest trawlex-mdb-reader
+	cmake --build --preset release -j $(JOBS) --target trawlex trawlex-harvest trawlex-mdb-reader trawlex-browser-holder
 	cmake --install build/release --prefix $(PREFIX)
 
 package: deps

@@ -1,7 +1,7 @@
 # What is installed where, and the Debian package made of it.
 include(GNUInstallDirs)
 
-install(TARGETS trawlex trawlex-harvest trawlex-mdb-reader RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS trawlex trawlex-harvest trawlex-mdb-reader trawlex-browser-holder RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(TARGET trawlex-browser-holder)
   install(TARGETS trawlex-browser-holder RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
