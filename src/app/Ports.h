@@ -41,6 +41,9 @@ class UserDialogs
     [[nodiscard]] virtual QString input(const QString &prompt, const QString &title, const QString &proposal) = 0;
     /// A file chosen by the user; "" if cancelled. Without a window: "".
     [[nodiscard]] virtual QString chooseFile(const QString &directory, const QString &filter, const QString &title) = 0;
+    /// A file, new or not, to which something is to be added; "" if cancelled. Without a window: the proposal.
+    [[nodiscard]] virtual QString chooseFileToAppend(const QString &proposal, const QString &filter,
+                                                     const QString &title) = 0;
 };
 
 /// What the desktop does for the program.

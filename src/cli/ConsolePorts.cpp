@@ -39,6 +39,11 @@ QString ConsoleDialogs::chooseFile(const QString &, const QString &, const QStri
     return {};
 }
 
+QString ConsoleDialogs::chooseFileToAppend(const QString &proposal, const QString &, const QString &)
+{
+    return proposal;
+}
+
 void ConsoleDesktop::open(const QString &target)
 {
     printError("Not opened without a desktop: "_L1 + target);

@@ -15,6 +15,8 @@ class ConsoleDialogs : public UserDialogs
     [[nodiscard]] Answer askAboutError(const QString &title, const QString &record, const QString &prompt) override;
     [[nodiscard]] QString input(const QString &prompt, const QString &title, const QString &proposal) override;
     [[nodiscard]] QString chooseFile(const QString &directory, const QString &filter, const QString &title) override;
+    [[nodiscard]] QString chooseFileToAppend(const QString &proposal, const QString &filter,
+                                             const QString &title) override;
 };
 
 /// Nothing is opened from a terminal; what would have been is told.

@@ -84,10 +84,13 @@ class ComboBox : public ListControl
     void choose(int index);
     /// The user opens the list.
     void dropDown() { Q_EMIT DropDown(); }
+    /// The user leaves the box.
+    void validate() { Q_EMIT Validate(); }
 
   Q_SIGNALS:
     void Change();
     void DropDown();
+    void Validate();
 
   protected:
     void indexChosen() override;
@@ -111,6 +114,8 @@ class ListBox : public ListControl
     /// The user's choice: the item with the focus (or -1) and which items are selected, one flag each. Click is raised
     /// once, when all of it is in place, and only if something changed. A choice that does not fit the list is ignored.
     void choose(int focusIndex, const std::vector<bool> &selected);
+    /// The user lets go of mouse or key: what is chosen stands.
+    void endChoice() { Q_EMIT choiceEnded(); }
     /// Selects every item or none. Click is raised once, if something changed.
     void setAllSelected(bool selected);
     [[nodiscard]] int selCount() const;
@@ -126,6 +131,9 @@ class ListBox : public ListControl
     void removeItems(const std::vector<bool> &gone);
     /// One item more.
     void enter(const QString &value) override { addItem(value); }
+
+  Q_SIGNALS:
+    void choiceEnded();
 
   private:
     std::vector<bool> mSelected;

@@ -1,5 +1,6 @@
 #include "lists/ManualFeed.h"
 
+#include "app/OptionNumbers.h"
 #include "controls/cLstBx.h"
 #include "lists/ListFile.h"
 #include "pages/Addresses.h"
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr int uniqueServersOption = 9;
 constexpr auto invalidUrl = "InValid Url"_L1;
 constexpr auto cancelled = "Cancelled"_L1;
 
@@ -48,7 +48,7 @@ QString ManualFeed::LoadBrowserLinks(int index)
                                                                       : DiscoveredLinks::Use::AllLinks);
         if (firstOf(links).isEmpty())
             return;
-        if (mOptions.chkSMA(uniqueServersOption).value() == 1)
+        if (mOptions.chkSMA(SMA::UniqueServers).value() == 1)
             links = cIEText::GetUniqueServers(links);
         cLstBx::PopulateListBox(list, links, true, false);
     });

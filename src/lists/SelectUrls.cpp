@@ -1,5 +1,6 @@
 #include "lists/SelectUrls.h"
 
+#include "app/OptionNumbers.h"
 #include "pages/Addresses.h"
 #include "pages/EmailFinder.h"
 #include "store/FixNull.h"
@@ -7,11 +8,6 @@
 #include "util/ColumnText.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-constexpr int uniqueServersOption = 2;
-constexpr int siteTitleOption = 5;
-} // namespace
 
 /// What is to be added: the whole address or its server; "" for what is no link. An item of a base is a piece of an
 /// address and taken as it stands.
@@ -22,14 +18,14 @@ QString SelectUrls::address(const QString &url)
     const bool untested = base && !url.isEmpty();
     if (!untested && cIEText::IsThisEmailOrLink(found, !url.isEmpty()) != cIEText::TextKind::Link)
         return {};
-    if (!base && mOptions.chkSMD(uniqueServersOption).isOn())
+    if (!base && mOptions.chkSMD(SMD::UniqueInSelect).isOn())
         found = cIEText::GetServerFromUrl(found, cIEText::hostOnly);
     return cUtility::asColumnText(found);
 }
 
 QString SelectUrls::note(const QString &url)
 {
-    const bool titles = mOptions.chkSMD(siteTitleOption).value() == 1;
+    const bool titles = mOptions.chkSMD(SMD::TitleAsNote).value() == 1;
     if (titles && url.isEmpty())
         return mBrowser->GetSiteTitle();
     if (titles && mDesk.usesBase())

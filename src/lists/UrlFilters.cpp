@@ -1,5 +1,6 @@
 #include "lists/UrlFilters.h"
 
+#include "app/SettingKeys.h"
 #include "pages/Addresses.h"
 #include "pages/EmailFinder.h"
 #include "store/FixNull.h"
@@ -13,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr auto section = "SecFrmSearch"_L1;
 constexpr auto table = "MNUrlFilters"_L1;
 constexpr cIEText::ServerParts withoutType{false, true, true};
 constexpr std::array fields{""_L1,           "Date"_L1,      "FilterOne"_L1, "FilterTwo"_L1,
@@ -97,8 +97,7 @@ QString UrlFilters::addFilter(const QString &filter)
 
 void UrlFilters::AddMNUrlFilter()
 {
-    guarded(mContext.log, {module, "Sub AddMNUrlFilter"_L1},
-            [&] { mContext.status.UpDateStatus(addFilter(text())); });
+    guarded(mContext.log, {module, "Sub AddMNUrlFilter"_L1}, [&] { mContext.status.UpDateStatus(addFilter(text())); });
 }
 
 void UrlFilters::RemoveMNUrlFilter()
@@ -132,12 +131,6 @@ void UrlFilters::mnuMNLocateFilter_Click()
     });
 }
 
-void UrlFilters::cboMNMCMNC_Click()
-{
-    SetcboMNMCMNC(true);
-    mContext.settings.SaveSetting(section, mBoxes.cboMNMCMNC.name(), QString::number(mBoxes.cboMNMCMNC.listIndex()));
-}
-
 /// A known filter brings its MC or MNC along, an unknown text the empty entry; blue shows that a filter is in force.
 void UrlFilters::SetcboMNMCMNC(bool fromCombo)
 {
@@ -147,7 +140,7 @@ void UrlFilters::SetcboMNMCMNC(bool fromCombo)
         if (!fromCombo) {
             const QString entry = filter.list(filter.listIndex());
             kind.setListIndex(GetMNUrlFilterData(Field::MCMNCIndex, Field::FilterOne, entry).toInt());
-            mContext.settings.SaveSetting(section, filter.name(), cUtility::Trim(filter.text()).toString());
+            mContext.settings.SaveSetting(Sections::Main, Keys::UrlFilter, cUtility::Trim(filter.text()).toString());
         }
         const bool inForce = kind.listIndex() > 0 && !filter.text().isEmpty();
         for (ComboBox *box : {&kind, &filter}) {

@@ -29,7 +29,7 @@ class UrlFilters
     /// Error 91 for a text that breaks the query.
     [[nodiscard]] bool DoesMNUrlFilterExist(const QString &text);
 
-    void cboMNMCMNC_Click();
+    void cboMNMCMNC_Click() { SetcboMNMCMNC(true); }
     void cboMNMCMNCFilter_Change() { SetcboMNMCMNC(false); }
     void cboMNMCMNCFilter_Click() { SetcboMNMCMNC(false); }
     /// Leaves no entry chosen.

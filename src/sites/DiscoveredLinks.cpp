@@ -1,5 +1,6 @@
 #include "sites/DiscoveredLinks.h"
 
+#include "app/OptionNumbers.h"
 #include "controls/cLstBx.h"
 #include "pages/Addresses.h"
 #include "pages/LinkFilter.h"
@@ -7,21 +8,16 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int convertHexOption = 1;
-constexpr int uniqueServersOption = 9;
-} // namespace
-
 QStringList DiscoveredLinks::DiscoverLinks(Use use)
 {
     return guardedResult(mLog, {"frmSearch"_L1, "Function DiscoverLinks"_L1}, emptyList(), [&](QStringList &kept) {
         const LinkFilter filter{mFilter.cboMNMCMNC.listIndex(), mFilter.cboMNMCMNCFilter.text(),
-                                mOptions.chkSMA(convertHexOption).value() == 1};
+                                mOptions.chkSMA(SMA::ConvertHex).value() == 1};
         const bool byRecord = use == Use::SiteData && mRecords.IsSiteDataSaved();
         QStringList links = byRecord ? mResults.GetLinks() : mBrowser->GetLinksOnWebPage();
         if (firstOf(links).isEmpty() && links.size() == 1)
             return;
-        if (mOptions.chkSMA(uniqueServersOption).value() == 1)
+        if (mOptions.chkSMA(SMA::UniqueServers).value() == 1)
             links = cIEText::GetUniqueServers(links);
         links = filter.wanted(links);
         if (!byRecord)

@@ -1,6 +1,7 @@
 #include "window/Program.h"
 
 #include "app/SettingKeys.h"
+#include "window/commands/EditFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,13 +34,15 @@ Program::Program(const Ports &ports)
       lifeCycle({log, form, ports.settings, ports.dialogs, ports.place, timer, runs, browser, database, options, loader,
                  connection}),
       autoTab({log, form, status, states, timer, ports.desktop, savedUrls, blocking, autoRun, connection, lifeCycle}),
-      criteriaPanel(form, status, states, criteria)
+      criteriaPanel(form, status, states, criteria),
+      manual(context, form, ports.pump, ports.clipboard, database, browser, links)
 {
     const CheckBox &errorMessages = form.options.chkSMV(SMV::ErrorMessages);
     log.ToggleErrMsg(ports.settings.GetSetting(Sections::Main, Keys::ErrorMessages, u"0"_s) == "1"_L1);
     QObject::connect(&errorMessages, &CheckBox::Click, &log, [&] { log.ToggleErrMsg(errorMessages.value() == 1); });
     areaCodes.LoadStates();
     connectDatabase();
+    connectManual(ports.desktop, ports.side);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -55,7 +58,26 @@ void Program::connectDatabase()
     QObject::connect(&loader, &DatabaseLoader::listsWanted, &form, [this] {
         criteria.LoadMCMNC();
         blocking.LoadBlocked();
+        manual.takeDatabase();
     });
     QObject::connect(&loader, &DatabaseLoader::addressesWanted, &form,
                      [this] { savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl); });
+}
+
+void Program::connectManual(Desktop &desktop, SideWindows &side)
+{
+    manual.connectTo(states);
+    QObject::connect(&manual.tab, &ManualTab::menuWanted, &form, [this](Menu &menu) { popUps.ShowPopUp(menu); });
+    QObject::connect(&manual.tab, &ManualTab::openWanted, &form,
+                     [this](const QString &url) { navigation.OpenSite(url); });
+    const auto navigate = [this](int mode) { navigation.OpenSite(manual.desk.GetUseBaseUrl(mode)); };
+    QObject::connect(&manual.edit, &ManualEdit::navigateWanted, &form, navigate);
+    QObject::connect(&manual.statusCommands, &ManualStatusCommands::navigateWanted, &form, navigate);
+    QObject::connect(&manual.edit, &ManualEdit::editWanted, &form, [this, &desktop](const QString &text) {
+        WriteEditFile(text, form.places.txtSFEditor.text(), desktop);
+    });
+    const auto magnify = [&side](const QString &text) { side.magnify(text); };
+    QObject::connect(&manual.edit, &ManualEdit::magnifyWanted, &form, magnify);
+    QObject::connect(&manual.statusCommands, &ManualStatusCommands::magnifyWanted, &form, magnify);
+    QObject::connect(&lifeCycle, &LifeCycle::ended, &manual.work, &LongWork::cancel);
 }

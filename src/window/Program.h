@@ -10,6 +10,7 @@
 #include "window/LifeCycle.h"
 #include "window/commands/AutoTab.h"
 #include "window/commands/CriteriaPanel.h"
+#include "window/commands/ManualSide.h"
 #include "window/commands/PopUps.h"
 #include "window/options/AreaCodePanel.h"
 #include "window/options/OptionReports.h"
@@ -73,7 +74,9 @@ struct Program
     LifeCycle lifeCycle;
     AutoTab autoTab;
     CriteriaPanel criteriaPanel;
+    ManualSide manual;
 
   private:
     void connectDatabase();
+    void connectManual(Desktop &desktop, SideWindows &side);
 };

@@ -72,6 +72,13 @@ class FakeDialogs : public UserDialogs
         return fileAnswer;
     }
 
+    [[nodiscard]] QString chooseFileToAppend(const QString &proposal, const QString &filter,
+                                             const QString &title) override
+    {
+        files.append({title, filter, proposal});
+        return fileAnswer;
+    }
+
     QList<Box> told, asked, errors, inputs, files;
     Icon lastIcon = Icon::Question;
     Answer answer = Answer::Yes;

@@ -46,6 +46,7 @@ class SelectionLink : public QObject
         for (const QItemSelectionRange &range : mView.selectionModel()->selection())
             std::fill(chosen.begin() + range.top(), chosen.begin() + range.bottom() + 1, true);
         mControl.choose(mView.currentIndex().row(), chosen);
+        mControl.endChoice();
     }
 
     void showSelection()

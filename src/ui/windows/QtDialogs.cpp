@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -97,6 +98,18 @@ QString QtDialogs::chooseFile(const QString &directory, const QString &filter, c
     QFileDialog dialog(windowInUse(), title, directory, qtFilter(filter));
     prepare(dialog, title);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString QtDialogs::chooseFileToAppend(const QString &proposal, const QString &filter, const QString &title)
+{
+    const QFileInfo proposed(proposal);
+    QFileDialog dialog(windowInUse(), title, proposed.path(), qtFilter(filter));
+    prepare(dialog, title);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // what the file holds stays
+    dialog.selectFile(proposed.fileName());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -13,6 +13,8 @@ class QtDialogs : public UserDialogs
     [[nodiscard]] Answer askAboutError(const QString &title, const QString &record, const QString &prompt) override;
     [[nodiscard]] QString input(const QString &prompt, const QString &title, const QString &proposal) override;
     [[nodiscard]] QString chooseFile(const QString &directory, const QString &filter, const QString &title) override;
+    [[nodiscard]] QString chooseFileToAppend(const QString &proposal, const QString &filter,
+                                             const QString &title) override;
 
     /// A filter of the form "Programs (*.exe)|*.exe|" as Qt writes it: "Programs (*.exe)", more of them behind ";;".
     [[nodiscard]] static QString qtFilter(const QString &filter);

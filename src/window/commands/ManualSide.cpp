@@ -1,0 +1,67 @@
+#include "window/commands/ManualSide.h"
+
+#include "app/SettingKeys.h"
+#include "window/states/StateOfControls.h"
+
+using namespace Qt::StringLiterals;
+
+ManualSide::ManualSide(const Context &shared, frmSearch &window, EventPump &pump, ClipboardText &clipboard,
+                       DatabaseHolder &database, BrowserHolder &browser, ResultLinks &results)
+    : context(shared), form(window), work(pump, context.status), desk(form, context.status),
+      deleted(context.log, database, work), tables(context.log, database, work),
+      filters(context, form.urlFilter, form.lists, database),
+      selectUrls(context, form.browser, form.options, desk, database, browser), records(context.log, database, browser),
+      links(context.log, form.urlFilter, form.blocking, form.options, browser, records, results),
+      feed(context, desk, form.options, links, clipboard, work), texts(context, form.series, desk, database),
+      series(context, form, desk, texts), longWork(context, desk, work),
+      find(context, form.menus.mnuPopUpMN, desk, tables, work),
+      edit(context, form.menus.mnuPopUpMN, desk, feed, clipboard, work),
+      store(context, form.menus.mnuPopUpMN, desk, longWork, tables, deleted, feed),
+      files(context, form.menus.mnuPopUpMN, form.places, desk, longWork, feed, browser),
+      sources(context, form.menus.mnuPopUpMN, form.saved, desk, longWork, tables),
+      remove(context, form.menus.mnuPopUpMN, desk, longWork), filterEvents(context, form, filters, work),
+      popUps(context, form, desk, tables, find, series, clipboard),
+      statusCommands(context, form, desk, texts, series, work), tab(context, form, desk, tables, feed, texts, series)
+{
+    connectSelectUrls();
+    QObject::connect(&tab, &ManualTab::urlChosen, &popUps, &ManualPopUps::mnuPopUpMNStatus_Click);
+}
+
+void ManualSide::connectSelectUrls()
+{
+    const auto mark = [this](const QString &table, const QString &url) {
+        tab.skipShowSelected();
+        selectUrls.AddSelectUrls(table, url);
+    };
+    QObject::connect(&store, &ManualStore::selectUrlWanted, &tab, mark);
+    QObject::connect(&statusCommands, &ManualStatusCommands::selectUrlWanted, &tab, mark);
+}
+
+void ManualSide::connectTo(const StateOfControls &states)
+{
+    QObject::connect(&states, &StateOfControls::autoNavigateAsked, &series, &AutoIncr::CheckMNAutoNav);
+    QObject::connect(&states, &StateOfControls::seriesPositionAsked, &tab, [this] { restorePosition(); });
+}
+
+void ManualSide::takeDatabase()
+{
+    filters.LoadMNUrlFilters();
+    texts.LoadAutoTextUrls();
+    const auto stored = [&](const QString &key) { return context.settings.GetSetting(Sections::Main, key); };
+    const QString url = stored(Keys::AutoTextUrl + desk.listName());
+    form.series.cboMNAutoUrl.setText(url);
+    if (!url.isEmpty() && stored(Keys::UseAutoBase) == "1"_L1 && !desk.usesBase())
+        series.mnuMNUseAutoBase_Click();
+    if (form.mbFormReady)
+        return;
+    form.urlFilter.cboMNMCMNCFilter.setText(stored(Keys::UrlFilter));
+    if (stored(Keys::Elongate) == "1"_L1)
+        statusCommands.mnuMNStatusElongate_Click();
+}
+
+void ManualSide::restorePosition()
+{
+    const int position = context.settings.GetSetting(Sections::Main, Keys::AutoIncrPos, u"0"_s).toInt();
+    if (position > 0)
+        series.SetAutoIncrPos(position);
+}

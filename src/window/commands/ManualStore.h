@@ -1,0 +1,36 @@
+// The commands that save the manual list on show and load it, in the database and in files, or from the browser.
+#pragma once
+
+#include "lists/ManualFeed.h"
+#include "lists/ManualTables.h"
+#include "window/commands/ManualWork.h"
+
+class ManualStore : public QObject
+{
+    Q_OBJECT
+
+  public:
+    ManualStore(const Context &context, const Menu &menu, const ManualDesk &desk, const ManualWork &work,
+                ManualTables &tables, DeletedRows &deleted, ManualFeed &feed);
+
+    void saveToDatabase();
+    void loadFromDatabase();
+
+  Q_SIGNALS:
+    /// An item is to be marked for later.
+    void selectUrlWanted(const QString &table, const QString &url);
+
+  private:
+    [[nodiscard]] ListBox &list() const { return mDesk.list(); }
+    void deleteSaved();
+    void savePosition();
+    void saveSelectUrl();
+    void loadFromBrowser();
+
+    Context mContext;
+    const ManualDesk &mDesk;
+    const ManualWork &mWork;
+    ManualTables &mTables;
+    DeletedRows &mDeleted;
+    ManualFeed &mFeed;
+};

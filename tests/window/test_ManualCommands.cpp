@@ -1,0 +1,505 @@
+// The commands of the two menus of the Manual tab, in the whole program.
+#include "app/MenuTables.h"
+#include "support/ProgramFixture.h"
+#include "window/commands/ManualListRules.h"
+#include "window/commands/ManualStatusRules.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+class ManualCommandsTest : public RunTest
+{
+  protected:
+    ManualCommandsTest() { form().frame.sstSearch.setTab(Tab::Manual); }
+
+    [[nodiscard]] ListBox &list() { return form().lists.shown(); }
+    [[nodiscard]] MenuItem &item(QLatin1StringView name)
+    {
+        return static_cast<MenuItem &>(*form().control(QString(name)));
+    }
+    void click(QLatin1StringView name)
+    {
+        statuses.clear();
+        Menu &menu = QString(name).startsWith(u"mnuMNStatus"_s) || name == "mnuMNUseAutoBase"_L1
+                         ? form().menus.mnuPopUpMNStatus
+                         : form().menus.mnuPopUpMN;
+        menu.prepare();
+        ASSERT_TRUE(item(name).isEnabled()) << name.data();
+        item(name).click();
+    }
+    void fill(const QStringList &items, const std::vector<int> &selected = {}, int index = -1)
+    {
+        list().setItems(items);
+        std::vector<bool> flags(static_cast<std::size_t>(items.size()));
+        for (const int i : selected)
+            flags[static_cast<std::size_t>(i)] = true;
+        list().choose(index, flags);
+        statuses.clear();
+    }
+    /// Which of the menu's items are enabled, asked just before it opens.
+    [[nodiscard]] bool offers(QLatin1StringView name)
+    {
+        form().menus.mnuPopUpMN.prepare();
+        return item(name).isEnabled();
+    }
+    void addUrl(const QString &table, const QString &url) { addRow(database(), table, {{u"Url"_s, url}}); }
+    void write(const QString &path, const QByteArray &bytes)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+};
+} // namespace
+
+TEST_F(ManualCommandsTest, ClearingEmptiesTheListAndNotItsTable)
+{
+    addUrl(u"MNUrlsA"_s, u"kept"_s);
+    fill({u"a"_s});
+    click("mnuMNClear"_L1);
+    EXPECT_EQ(lastStatus(), u"Window cleared"_s);
+    EXPECT_EQ(list().listCount(), 0);
+    EXPECT_EQ(rows(u"MNUrlsA"_s), QStringList{u"kept"_s});
+}
+
+TEST_F(ManualCommandsTest, ASingleSelectedItemMakesRoomForTheNext)
+{
+    fill({u"a"_s, u"b"_s, u"c"_s}, {1}, 1);
+    click("mnuMNClearSelected"_L1);
+    EXPECT_EQ(list().items(), (QStringList{u"a"_s, u"c"_s}));
+    EXPECT_EQ(list().listIndex(), 1);
+    EXPECT_EQ(list().selection(), (std::vector<bool>{false, true}));
+    EXPECT_EQ(lastStatus(), u"2 loaded"_s);
+    click("mnuMNClearSelected"_L1);
+    EXPECT_EQ(list().listIndex(), -1) << "there is none behind it";
+    fill({u"a"_s, u"b"_s, u"c"_s}, {0, 2}, 0);
+    click("mnuMNClearSelected"_L1);
+    EXPECT_EQ(list().items(), QStringList{u"b"_s});
+}
+
+TEST_F(ManualCommandsTest, AllListsAreClearedAndThoseThatHeldItemsNamed)
+{
+    form().lists.lstMN(2).setItems({u"x"_s});
+    fill({u"a"_s});
+    click("mnuMNClearAllListWindows"_L1);
+    EXPECT_EQ(lastStatus(), u"A,C cleared"_s);
+    EXPECT_EQ(form().lists.lstMN(2).listCount(), 0);
+}
+
+TEST_F(ManualCommandsTest, SavedAddressesAreDeletedIntoTheCache)
+{
+    addUrl(u"MNUrlsA"_s, u"a"_s);
+    click("mnuMNDeleteSaved"_L1);
+    EXPECT_EQ(statuses, (QStringList{u"Deleting MNUrlsA"_s, u"MNUrlsA deleted"_s}));
+    EXPECT_TRUE(rows(u"MNUrlsA"_s).isEmpty());
+    EXPECT_EQ(rows(u"UrlsCache"_s), QStringList{u"a"_s});
+}
+
+TEST_F(ManualCommandsTest, SelectionCutAndCopy)
+{
+    fill({u"a"_s, u"b"_s});
+    click("mnuMNSelectAll"_L1);
+    EXPECT_EQ(lastStatus(), u"2 loaded. Selected"_s);
+    click("mnuMNUnSelect"_L1);
+    EXPECT_EQ(list().selCount(), 0);
+    fill({u"a"_s, u"b"_s, u"c"_s}, {0, 2}, 2);
+    click("mnuMNCopySelected"_L1);
+    EXPECT_EQ(clipboard.held, u"a\r\nc\r\n"_s);
+    EXPECT_EQ(lastStatus(), u"Copied c"_s);
+    click("mnuMNCutSelected"_L1);
+    EXPECT_EQ(list().items(), QStringList{u"b"_s});
+    EXPECT_EQ(lastStatus(), u"1 loaded"_s);
+}
+
+TEST_F(ManualCommandsTest, PastedLinksJoinTheList)
+{
+    clipboard.held = u"http://a.com\r\nhttp://b.com"_s;
+    click("mnuMNPasteLinks"_L1);
+    EXPECT_EQ(list().items(), (QStringList{u"http://a.com"_s, u"http://b.com"_s}));
+    EXPECT_EQ(lastStatus(), u"2 loaded.  2 added"_s);
+}
+
+TEST_F(ManualCommandsTest, ATextThatOnlyTheFirstItemHoldsIsSelectedAndReportedAsNotFound)
+{
+    fill({u"http://tea.com"_s, u"b"_s});
+    dialogs.inputAnswers = {u"tea"_s};
+    click("mnuMNFind(0)"_L1);
+    EXPECT_EQ(lastStatus(), u"tea not found"_s);
+    EXPECT_TRUE(list().isSelected(0));
+    EXPECT_EQ(settings.of("mnuMNFindItem"), u"tea"_s);
+}
+
+TEST_F(ManualCommandsTest, FindNextGoesOnAndResetsAtTheEnd)
+{
+    fill({u"x"_s, u"tea1"_s, u"tea2"_s, u"tea3"_s});
+    EXPECT_FALSE(offers("mnuMNFind(1)"_L1));
+    dialogs.inputAnswers = {u"tea"_s};
+    click("mnuMNFind(0)"_L1);
+    EXPECT_EQ(lastStatus(), u"1 Sel. Item 2 Cnt 4"_s);
+    click("mnuMNFind(1)"_L1);
+    EXPECT_EQ(lastStatus(), u"1 Sel. Item 3 Cnt 4"_s);
+    click("mnuMNFind(1)"_L1);
+    EXPECT_EQ(lastStatus(), u"1 Sel. Item 4 Cnt 4"_s);
+    EXPECT_FALSE(offers("mnuMNFind(1)"_L1)) << "the last item resets the search";
+    dialogs.inputAnswers = {QString()};
+    click("mnuMNFind(0)"_L1);
+    EXPECT_TRUE(statuses.isEmpty()) << "cancelled";
+}
+
+TEST_F(ManualCommandsTest, AMissingTextOfFindNextIsToldWithoutIt)
+{
+    fill({u"x"_s, u"tea1"_s, u"y"_s, u"z"_s});
+    dialogs.inputAnswers = {u"tea"_s};
+    click("mnuMNFind(0)"_L1);
+    click("mnuMNFind(1)"_L1);
+    EXPECT_EQ(lastStatus(), u" not found"_s);
+    EXPECT_FALSE(offers("mnuMNFind(1)"_L1));
+}
+
+TEST_F(ManualCommandsTest, TheListPositionIsSavedFoundAndLoaded)
+{
+    fill({u"a"_s, u"b"_s, u"c"_s}, {1}, 1);
+    click("mnuMNSaveToDatabase"_L1);
+    EXPECT_EQ(statuses, (QStringList{u"Saving MNUrlsA. Please Wait"_s, u"Saved To MNUrlsA"_s}));
+    click("mnuMNSaveLast"_L1);
+    EXPECT_TRUE(statuses.isEmpty());
+    fill({u"c"_s, u"b"_s});
+    click("mnuMNFind(2)"_L1);
+    EXPECT_EQ(lastStatus(), u"1 Sel. Item 2 Cnt 2"_s);
+    list().clear();
+    click("mnuMNLoadLinksDB"_L1);
+    EXPECT_EQ(statuses.constFirst(), u"Loading MNUrlsA"_s);
+    EXPECT_EQ(lastStatus(), u"3 loaded"_s);
+    EXPECT_EQ(list().listIndex(), 1);
+}
+
+TEST_F(ManualCommandsTest, AListGoesToAFileUnderAProposedName)
+{
+    form().places.txtSFMNDir.setText(folder.path() + u'/');
+    fill({u"http://www.tea.com/1"_s, u"b"_s}, {0}, 0);
+    click("mnuMNSaveAsFile"_L1);
+    EXPECT_EQ(dialogs.files.constLast().prompt, folder.filePath(u"httpwwwtea-0.txt"_s));
+    EXPECT_EQ(dialogs.files.constLast().title, u"Select File"_s);
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"httpwwwtea-0.txt"_s))) << "cancelled";
+    QDir(folder.path()).mkdir(u"sub"_s);
+    dialogs.fileAnswer = folder.filePath(u"sub/mine.txt"_s);
+    write(dialogs.fileAnswer, "old\r\n");
+    click("mnuMNSaveAsFile"_L1);
+    QFile file(dialogs.fileAnswer);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), QByteArray("old\r\nhttp://www.tea.com/1\r\nb\r\n")) << "added to, not overwritten";
+    EXPECT_EQ(form().places.txtSFMNDir.text(), folder.filePath(u"sub/"_s));
+    EXPECT_EQ(settings.of("txtFNSaveLocation"), folder.filePath(u"sub/"_s));
+}
+
+TEST_F(ManualCommandsTest, LinksOfAFileAreLoaded)
+{
+    dialogs.fileAnswer = folder.filePath(u"list.txt"_s);
+    write(dialogs.fileAnswer, "http://a.com\nno\nhttp://a.com\n");
+    click("mnuMNLoadLinksFile"_L1);
+    EXPECT_EQ(statuses.constFirst(), u"Please Wait"_s);
+    EXPECT_EQ(lastStatus(), u"1 loaded"_s);
+    EXPECT_EQ(settings.of("FileNFileName"), dialogs.fileAnswer);
+    write(dialogs.fileAnswer, "nothing\r\nof use\r\n");
+    click("mnuMNLoadLinksFile"_L1);
+    EXPECT_EQ(lastStatus(), u"1 loaded. InValid Url"_s);
+    dialogs.fileAnswer.clear();
+    click("mnuMNLoadLinksFile"_L1);
+    EXPECT_EQ(lastStatus(), u"1 loaded"_s) << "cancelled";
+}
+
+TEST_F(ManualCommandsTest, LinksOfThePageAreLoadedWithOrWithoutSiteData)
+{
+    showResults({u"http://a.com/"_s, u"http://b.com/"_s});
+    click("mnuMNLoadLinksIE"_L1);
+    EXPECT_EQ(statuses, (QStringList{u"Please Wait"_s, u"Loading"_s, u"2 loaded. 2 loaded A"_s}));
+    click("mnuMNUseSiteData"_L1);
+    EXPECT_TRUE(item("mnuMNUseSiteData"_L1).isChecked());
+    EXPECT_EQ(settings.of("mnuMNLoadLinksIEUnique"), u"True"_s);
+    click("mnuMNUseSiteData"_L1);
+    EXPECT_EQ(settings.of("mnuMNLoadLinksIEUnique"), u"False"_s);
+}
+
+TEST_F(ManualCommandsTest, OtherTablesAreLoadedUnderTheirCaptions)
+{
+    addUrl(u"ANSelectUrls"_s, u"an"_s);
+    addUrl(u"MNSelectUrls"_s, u"mn"_s);
+    addSaved(u"p"_s, u"pass"_s, u"PassUrlsB"_s);
+    addSaved(u"r"_s, u"saved"_s, u"RPgUrlsB"_s);
+    addUrl(u"UrlsCache"_s, u"deleted"_s);
+    form().saved.cboANList.setListIndex(1);
+    form().menus.mnuPopUpMN.prepare();
+    EXPECT_EQ(item("mnuMNLSU(2)"_L1).caption(), u"Pass (Auto - B)"_s);
+    EXPECT_EQ(item("mnuMNLSU(3)"_L1).caption(), u"Saved (Auto - B)"_s);
+    for (const auto name : {"mnuMNLSU(0)"_L1, "mnuMNLSU(1)"_L1, "mnuMNLSU(2)"_L1, "mnuMNLSU(3)"_L1, "mnuMNLSU(4)"_L1})
+        click(name);
+    EXPECT_EQ(list().items(), (QStringList{u"an"_s, u"mn"_s, u"pass"_s, u"saved"_s, u"deleted"_s}));
+    EXPECT_EQ(statuses, (QStringList{u"Loading"_s, u"5 loaded"_s}));
+}
+
+TEST_F(ManualCommandsTest, ItemsAreReducedInEachWay)
+{
+    const QStringList items{u"http://www.a.com/1"_s, u"http://www.a.com/1"_s, u"HTTP://www.a.com/2/"_s,
+                            u"http://www.b.com/x"_s, u"short"_s};
+    const auto left = [&](QLatin1StringView name, const QString &answer = {}) {
+        fill(items);
+        dialogs.inputAnswers = {answer};
+        click(name);
+        return list().items();
+    };
+    EXPECT_EQ(left("mnuMNRem(0)"_L1), (QStringList{items[0], items[2], items[3], items[4]}));
+    EXPECT_EQ(statuses, (QStringList{u"Working"_s, u"4 loaded"_s}));
+    EXPECT_EQ(left("mnuMNRem(1)"_L1),
+              (QStringList{u"www.a.com/1"_s, u"www.a.com/1"_s, u"www.a.com/2"_s, u"www.b.com/x"_s}));
+    EXPECT_EQ(statuses.constFirst(), u"Removing http://"_s);
+    EXPECT_EQ(left("mnuMNRem(2)"_L1, u"A.com/"_s), (QStringList{u"1"_s, u"1"_s, u"2/"_s, items[3], items[4]}));
+    EXPECT_EQ(statuses.constFirst(), u"Removing Left after A.com/"_s);
+    EXPECT_EQ(settings.of("TruncLeft"), u"A.com/"_s);
+    EXPECT_EQ(left("mnuMNRem(3)"_L1, u".com"_s),
+              (QStringList{u"http://www.a"_s, u"http://www.a"_s, u"HTTP://www.a"_s, u"http://www.b"_s, u"short"_s}));
+    EXPECT_EQ(dialogs.inputs.constLast().title, u"Urls will be truncated at text"_s);
+    EXPECT_EQ(left("mnuMNRem(4)"_L1, u"A.COM"_s), (QStringList{items[3], items[4]}));
+    EXPECT_EQ(left("mnuMNRem(5)"_L1, u"A.COM"_s), (QStringList{items[0], items[1], items[2]}));
+    EXPECT_EQ(dialogs.inputs.constLast().text, u"Remove items Not containing text"_s);
+    EXPECT_EQ(left("mnuMNUniqueServersOnly"_L1), (QStringList{items[0], items[3], items[4]}))
+        << "items without a server are one of their own";
+    EXPECT_EQ(left("mnuMNReduceToServer"_L1), (QStringList{u"http://www.a.com"_s, u"http://www.b.com"_s, u"mailto:"_s}))
+        << "what has no server is left with its protocol";
+}
+
+TEST_F(ManualCommandsTest, AnEmptyAnswerKeepsTheListAndTheSetting)
+{
+    settings.preset("FnRemove", u"old"_s);
+    settings.preset("TruncLeft", u"old"_s);
+    fill({u"a"_s, u"b"_s}, {1}, 1);
+    for (const auto name : {"mnuMNRem(2)"_L1, "mnuMNRem(3)"_L1, "mnuMNRem(4)"_L1, "mnuMNRem(5)"_L1}) {
+        click(name);
+        EXPECT_TRUE(statuses.isEmpty());
+    }
+    EXPECT_EQ(list().listCount(), 2);
+    EXPECT_EQ(settings.of("FnRemove"), u"old"_s);
+    EXPECT_EQ(settings.of("TruncLeft"), u"old"_s);
+    EXPECT_EQ(dialogs.inputs.constLast().prompt, u"b"_s) << "the selected item is proposed";
+    fill({u"a"_s, u"b"_s});
+    click("mnuMNRem(4)"_L1);
+    EXPECT_EQ(dialogs.inputs.constLast().prompt, u"old"_s) << "none is selected";
+}
+
+TEST_F(ManualCommandsTest, ItemsAreMagnifiedEditedNavigatedAndShownElsewhere)
+{
+    QString large;
+    QStringList window;
+    QObject::connect(&program->manual.edit, &ManualEdit::magnifyWanted, &form(), [&](const QString &t) { large = t; });
+    QObject::connect(&program->manual.edit, &ManualEdit::windowWanted, &form(),
+                     [&](const QStringList &items) { window = items; });
+    fill({u"http://www.a.com/"_s, u"http://www.b.com/"_s}, {0, 1}, 1);
+    click("mnuMNMagnify"_L1);
+    EXPECT_EQ(large, u"http://www.a.com/\r\nhttp://www.b.com/\r\n"_s);
+    click("mnuMNNewWindow"_L1);
+    EXPECT_EQ(window, list().items());
+    click("mnuMNNavigateTo"_L1);
+    EXPECT_EQ(browser().navigated, QStringList{u"http://www.b.com/"_s});
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    click("mnuMNEdit"_L1);
+    QDir::setCurrent(before);
+    EXPECT_EQ(desktop.opened, QStringList{folder.filePath(u"TXTempF.txt"_s)});
+    QFile file(folder.filePath(u"TXTempF.txt"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), QByteArray("http://www.a.com/\r\nhttp://www.b.com/\r\n"));
+}
+
+TEST_F(ManualCommandsTest, MarkingAnItemKeepsItsStatusUntilTheNextChoice)
+{
+    form().options.chkSMD(5).setValue(0);
+    fill({u"http://www.a.com/"_s}, {0}, 0);
+    dialogs.inputAnswers = {u"note"_s};
+    click("mnuMNStatusSaveListWindowUrl"_L1);
+    EXPECT_EQ(lastStatus(), u"MNSelectUrls, Url Added"_s);
+    list().endChoice();
+    EXPECT_EQ(lastStatus(), u"MNSelectUrls, Url Added"_s);
+    list().endChoice();
+    EXPECT_EQ(lastStatus(), u"1 Sel. Item 1 Cnt 1"_s);
+}
+
+TEST_F(ManualCommandsTest, ARestrictedMenuDuringARunOnTheListStillCopiesAndMagnifies)
+{
+    fill({u"a"_s, u"b"_s}, {0}, 0);
+    form().runs.mbMNRunning = true;
+    form().manual.mintMNRunningList = 0;
+    form().menus.mnuPopUpMN.prepare();
+    QStringList enabled;
+    for (const MenuRow &row : MenuTables::mnuPopUpMN) {
+        if (item(row.name).isEnabled())
+            enabled.append(row.name);
+    }
+    EXPECT_EQ(enabled, (QStringList{u"mnuMNMagnify"_s, u"mnuMNNavigateTo"_s, u"mnuMNCopySelected"_s}));
+    form().manual.mintMNRunningList = 3;
+    form().lists.lstMN(3).setItems({u"x"_s});
+    EXPECT_FALSE(offers("mnuMNClearAllListWindows"_L1));
+    for (const auto name : {"mnuMNClear"_L1, "mnuMNMainClear"_L1, "mnuMNRem(0)"_L1, "mnuMNSaveToDatabase"_L1})
+        EXPECT_TRUE(offers(name)) << name.data();
+    form().runs.mbMNRunning = false;
+    EXPECT_TRUE(offers("mnuMNClearAllListWindows"_L1));
+}
+
+TEST_F(ManualCommandsTest, CancellingALongCommandKeepsTheList)
+{
+    QStringList many;
+    for (int i = 0; i < 500; ++i)
+        many.append(u"http://www.site%1.com/"_s.arg(i));
+    fill(many);
+    // Each look at the clock is a turn of the loop: the user presses Escape in the first.
+    pump.after(0, [this] { program->manual.work.cancel(); });
+    click("mnuMNReduceToServer"_L1);
+    EXPECT_EQ(lastStatus(), u"500 loaded. Cancelled"_s);
+    EXPECT_EQ(list().items(), many);
+    EXPECT_TRUE(form().lists.cboMNList.isEnabled()) << "the controls came back";
+}
+
+TEST_F(ManualCommandsTest, NoSecondCommandRunsInsideALongOne)
+{
+    fill({u"http://www.a.com/1"_s, u"http://www.a.com/2"_s});
+    pump.after(0, [this] { item("mnuMNClear"_L1).click(); });
+    click("mnuMNReduceToServer"_L1);
+    EXPECT_EQ(list().items(), QStringList{u"http://www.a.com"_s});
+}
+
+TEST_F(ManualCommandsTest, AnotherListIsShownWithItsAddressAndItsCount)
+{
+    settings.preset("txtMNGenerateUrlC", u"www.c.com/1"_s);
+    addUrl(u"MNUrlsC"_s, u"http://www.tea.com/x"_s);
+    form().lists.cboMNList.setListIndex(2);
+    EXPECT_EQ(lastStatus(), u"1 saved: http://www.tea"_s);
+    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.c.com/1"_s);
+    EXPECT_EQ(settings.of("cboMNList"), u"2"_s);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(form().lists.lstMN(i).isVisible(), i == 2);
+    form().lists.cboMNList.setListIndex(3);
+    EXPECT_EQ(lastStatus(), u"MNUrlsD no saved"_s);
+    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.c.com/1"_s) << "no address of its own";
+}
+
+TEST_F(ManualCommandsTest, TheListAnswersTheMouse)
+{
+    fill({u"http://www.a.com/"_s, u"http://www.b.com/"_s});
+    list().choose(1, {false, true});
+    list().endChoice();
+    EXPECT_EQ(list().toolTipText(), u"http://www.b.com/"_s);
+    EXPECT_EQ(lastStatus(), u"1 Sel. Item 2 Cnt 2"_s);
+    list().doubleClick();
+    EXPECT_EQ(browser().navigated, QStringList{u"http://www.b.com/"_s});
+    form().runs.mbMNRunning = true;
+    list().doubleClick();
+    EXPECT_EQ(browser().navigated.size(), 1) << "not during a run";
+    form().runs.mbMNRunning = false;
+    list().mouseDown(MouseButton::Right);
+    EXPECT_EQ(menus.shown.constLast(), u"mnuPopUpMN"_s);
+    list().dropText(u"http://www.c.com/"_s);
+    EXPECT_EQ(list().items().constLast(), u"http://www.c.com/"_s);
+}
+
+TEST_F(ManualCommandsTest, TheAddressBoxLosesItsProtocolAndIsKept)
+{
+    ComboBox &box = form().series.cboMNAutoUrl;
+    box.setText(u"HTTP://www.a.com/7"_s);
+    EXPECT_EQ(box.text(), u"www.a.com/7"_s);
+    EXPECT_EQ(settings.of("txtMNGenerateUrlA"), u"www.a.com/7"_s);
+    EXPECT_EQ(box.toolTipText(), u"www.a.com/7"_s);
+    statuses.clear();
+    box.validate();
+    EXPECT_EQ(lastStatus(), u"(AutoIncr # Unknown)"_s);
+    box.setText(u"bad one.com"_s);
+    box.validate();
+    EXPECT_EQ(lastStatus(), u"Invalid Url"_s);
+    click("mnuMNUseAutoBase"_L1);
+    box.setText({});
+    box.validate();
+    EXPECT_FALSE(item("mnuMNUseAutoBase"_L1).isChecked()) << "no base without an address";
+    box.dropText(u"http://www.d.com/\r\nx"_s);
+    EXPECT_EQ(box.text(), u"www.d.com/ x"_s);
+}
+
+TEST_F(ManualCommandsTest, TheSeriesMenuFollowsTheAddress)
+{
+    form().menus.mnuPopUpMNStatus.prepare();
+    EXPECT_FALSE(item("mnuMNStatusMagnify"_L1).isEnabled());
+    EXPECT_FALSE(item("mnuMNStatusAutoIncrPos(1)"_L1).isEnabled());
+    form().series.cboMNAutoUrl.setText(u"www.a.com/7/9"_s);
+    click("mnuMNStatusAutoIncrPos(2)"_L1);
+    EXPECT_EQ(lastStatus(), u"(AutoIncr ON)"_s);
+    click("mnuMNStatusSaveAutoTextUrl"_L1);
+    EXPECT_EQ(rows(u"AutoTextA"_s), QStringList{u"www.a.com/7/9"_s});
+    form().menus.mnuPopUpMNStatus.prepare();
+    EXPECT_FALSE(item("mnuMNUseAutoBase"_L1).isEnabled()) << "not with a series";
+    click("mnuMNStatusNavigateToAutoTextUrl"_L1);
+    EXPECT_EQ(lastStatus(), u"Complete"_s);
+    EXPECT_EQ(browser().navigated, QStringList{u"http://www.a.com/7/9"_s});
+    form().options.chkSMD(5).setValue(0);
+    dialogs.inputAnswers = {u"note"_s};
+    click("mnuMNStatusSaveUrlMNSelect"_L1);
+    EXPECT_EQ(rows(u"MNSelectUrls"_s), QStringList{u"www.a.com/7/9"_s});
+    click("mnuMNStatusDeleteAutoTextUrl"_L1);
+    EXPECT_EQ(lastStatus(), u"Auto Text Url Deleted"_s);
+    EXPECT_TRUE(rows(u"AutoTextA"_s).isEmpty());
+    click("mnuMNStatusElongate"_L1);
+    EXPECT_TRUE(form().series.picMNShadow.isVisible());
+    EXPECT_EQ(settings.of("mnuMNStatusElongate"), u"1"_s);
+    click("mnuMNStatusElongate"_L1);
+    EXPECT_FALSE(form().series.picMNShadow.isVisible());
+}
+
+TEST_F(ManualCommandsTest, DuringARunTheSeriesCannotBeTouched)
+{
+    form().series.cboMNAutoUrl.setText(u"www.a.com/7"_s);
+    form().runs.mbMNRunning = true;
+    form().menus.mnuPopUpMNStatus.prepare();
+    for (const auto name : {"mnuMNStatusAutoIncrementNumber"_L1, "mnuMNStatusAutoCollectPageUrls"_L1,
+                            "mnuMNStatusAutoCollectLinks"_L1, "mnuMNStatusDeleteAutoTextUrl"_L1, "mnuMNUseAutoBase"_L1})
+        EXPECT_FALSE(item(name).isEnabled()) << name.data();
+    EXPECT_TRUE(item("mnuMNStatusMagnify"_L1).isEnabled());
+    form().runs.mbMNRunning = false;
+}
+
+TEST_F(ManualCommandsTest, FiltersOfTheMenuWorkOnTheBoxes)
+{
+    form().urlFilter.cboMNMCMNCFilter.setText(u"tea"_s);
+    form().urlFilter.cboMNMCMNC.setListIndex(1);
+    fill({u"http://www.a.com/"_s}, {0}, 0);
+    click("mnuMNAddFilter"_L1);
+    EXPECT_EQ(lastStatus(), u"Filter added"_s);
+    form().urlFilter.cboMNMCMNCFilter.setText({});
+    click("mnuMNLocateFilter"_L1);
+    EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.text(), u"tea"_s);
+    click("mnuMNDeleteFilter"_L1);
+    EXPECT_EQ(lastStatus(), u"Filter removed"_s);
+}
+
+TEST_F(ManualCommandsTest, ADatabaseFaultLeavesTheControlsUsable)
+{
+    fill({u"a"_s});
+    database().CloseConnection();
+    item("mnuMNSaveToDatabase"_L1).setEnabled(true);
+    item("mnuMNSaveToDatabase"_L1).click();
+    EXPECT_TRUE(lastStatus().startsWith(u"Not saved"_s)) << lastStatus().toStdString();
+    EXPECT_TRUE(form().lists.cboMNList.isEnabled());
+    EXPECT_EQ(list().listCount(), 1);
+}
+
+TEST_F(ManualCommandsTest, TheTabComesBackWithItsSettings)
+{
+    settings.preset("txtMNGenerateUrlA", u"www.a.com/7"_s);
+    settings.preset("mnuMNUseAutoBase", u"1"_s);
+    settings.preset("cboMNMCMNCFilter", u"tea"_s);
+    settings.preset("mnuMNLoadLinksIEUnique", u"True"_s);
+    settings.preset("mnuMNStatusElongate", u"1"_s);
+    program.reset();
+    load();
+    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.a.com/7"_s);
+    EXPECT_TRUE(item("mnuMNUseAutoBase"_L1).isChecked());
+    EXPECT_TRUE(item("mnuMNUseSiteData"_L1).isChecked());
+    EXPECT_TRUE(item("mnuMNStatusElongate"_L1).isChecked());
+    EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.text(), u"tea"_s);
+}
