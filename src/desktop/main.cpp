@@ -1,6 +1,7 @@
 // trawlex: the window program. Makes the application, the ports and the skin, and wires them to the rest.
 #include "app/IniSettings.h"
 #include "app/QtEventPump.h"
+#include "app/RunTally.h"
 #include "app/SettingKeys.h"
 #include "desktop/DesktopBrowsers.h"
 #include "desktop/DesktopGridWindow.h"
@@ -41,6 +42,25 @@ void connectWindow(Program &program, MainWindow &window)
     QObject::connect(&program.runs, &Runs::finalized, &window, [&window] { window.setProgress(0, 0); });
 }
 
+void connectTally(Program &program, MainWindow &window, const EventPump &pump)
+{
+    const auto tally = std::make_shared<RunTally>();
+    const auto show = [tally, &window] { window.setTally(tally->text()); };
+    QObject::connect(&program.runs, &Runs::progress, &window, [tally, show, &pump](int number, int count) {
+        tally->progress(number, count, pump.tickCount());
+        show();
+    });
+    QObject::connect(&program.keeping, &PageKeeping::rowsStored, &window,
+                     [tally, show](const QMap<QString, int> &rows) {
+                         tally->stored(rows);
+                         show();
+                     });
+    QObject::connect(&program.runs, &Runs::finalized, &window, [tally, show] {
+        tally->finished();
+        show();
+    });
+}
+
 /// The groups that show their heading alone come back so.
 void rememberFolding(MainWindow &window, SettingsStore &settings)
 {
@@ -75,6 +95,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     browsers.standBeside(&window);
     browsers.keepPlaceIn(&settings);
     connectWindow(program, window);
+    connectTally(program, window, pump);
     if (!program.startUp.Form_Load())
         return 1;
     // Placed before it is shown, so that the window manager takes our place and nothing jumps.

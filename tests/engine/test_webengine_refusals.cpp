@@ -272,7 +272,8 @@ TEST_F(WebEngineRefusals, APageThatNeverFinishesLoadingCanBeRead)
     server.route("/never", {.delay = -1});
     server.page("/page", "<title>half</title>text<img src='/never'>");
     browser->Navigate(server.address(u"/page"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->LocationURL() != u"about:blank"; }));
+    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    EXPECT_EQ(titleAfter(server.address(u"/page"_s)), u"half");
     EXPECT_EQ(browser->content().title, u"half");
     EXPECT_EQ(text(), u"text");
     EXPECT_TRUE(browser->isLoading());

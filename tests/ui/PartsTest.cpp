@@ -5,6 +5,8 @@
 #include "ui/widgets/StatusBarLine.h"
 #include "ui/windows/ScreenScale.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -170,6 +172,22 @@ TEST(StatusLines, ShortenOtherTextsAtTheirEndAndShortOnesNotAtAll)
     EXPECT_TRUE(fitted.startsWith(u"Stopped x"_s));
     EXPECT_LE(metrics.horizontalAdvance(fitted), 200);
     EXPECT_LE(metrics.horizontalAdvance(StatusBarLine::fitted(u"http://a/b"_s, metrics, 10)), 10);
+}
+
+TEST(StatusLines, ShowATallyAtTheirEndAndCopyAllOfIt)
+{
+    StatusBarLine line;
+    line.resize(460, line.sizeHint().height());
+    line.setText(u"Stopped (FINISHED)..."_s);
+    const QImage without = line.grab().toImage();
+    line.setTally(u"12 pages, 3 e-mail"_s);
+    EXPECT_NE(line.grab().toImage(), without);
+    QTest::keyClick(&line, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"Stopped (FINISHED)... (12 pages, 3 e-mail)"_s);
+    line.setTally(QString());
+    EXPECT_EQ(line.grab().toImage(), without);
+    QTest::keyClick(&line, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"Stopped (FINISHED)..."_s);
 }
 
 TEST(StatusLines, KeepProgressWithinItsTotal)

@@ -2,6 +2,9 @@
 
 #include "ui/look/Drawing.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +26,21 @@ void StatusBarLine::setText(const QString &text)
         return;
     mText = text;
     update();
+}
+
+void StatusBarLine::setTally(const QString &tally)
+{
+    if (mTally == tally)
+        return;
+    mTally = tally;
+    update();
+}
+
+void StatusBarLine::keyPressEvent(QKeyEvent *event)
+{
+    if (!event->matches(QKeySequence::Copy))
+        return QWidget::keyPressEvent(event);
+    QGuiApplication::clipboard()->setText(mTally.isEmpty() ? mText : mText + u" ("_s + mTally + u')');
 }
 
 void StatusBarLine::setProgress(int done, int total)
@@ -70,7 +88,14 @@ void StatusBarLine::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), coloured ? palette().color(QPalette::Active, QPalette::Base) : shades.strip);
     painter.fillRect(QRect(0, 0, width(), 1), shades.line);
     painter.setPen(coloured ? palette().color(QPalette::Active, QPalette::WindowText) : shades.text);
-    const QRect line = rect().adjusted(inset, 1, -inset, 0);
+    QRect line = rect().adjusted(inset, 1, -inset, 0);
+    if (!mTally.isEmpty()) {
+        // The status comes first: the tally takes what it leaves, half of the line at least.
+        const int left = line.width() - fontMetrics().horizontalAdvance(mText) - inset;
+        const QString shown = fontMetrics().elidedText(mTally, Qt::ElideRight, qMax(line.width() / 2, left));
+        painter.drawText(line, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, shown);
+        line.setRight(line.right() - fontMetrics().horizontalAdvance(shown) - inset);
+    }
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                      fitted(mText, fontMetrics(), line.width()));
     if (mTotal > 0) {

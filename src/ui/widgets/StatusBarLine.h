@@ -13,6 +13,9 @@ class StatusBarLine : public QWidget
 
     [[nodiscard]] const QString &text() const { return mText; }
     void setText(const QString &text);
+    /// What a run has stored, in words, at the right end.
+    [[nodiscard]] const QString &tally() const { return mTally; }
+    void setTally(const QString &tally);
     /// `done` of `total` is over; a total of 0 takes the bar away.
     void setProgress(int done, int total);
     [[nodiscard]] int done() const { return mDone; }
@@ -26,8 +29,10 @@ class StatusBarLine : public QWidget
 
   protected:
     void paintEvent(QPaintEvent *event) override;
+    /// Copy takes the whole line.
+    void keyPressEvent(QKeyEvent *event) override;
 
   private:
-    QString mText;
+    QString mText, mTally;
     int mDone = 0, mTotal = 0;
 };

@@ -196,6 +196,11 @@ void MainWindow::setProgress(int done, int total)
     mUi->picStatus->setProgress(done, total);
 }
 
+void MainWindow::setTally(const QString &tally)
+{
+    mUi->picStatus->setTally(tally);
+}
+
 void MainWindow::setKeptOnTop(bool onTop)
 {
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop)

@@ -32,6 +32,8 @@ class MainWindow : public QWidget
     void setFoldedGroups(const QStringList &names);
     /// The thin bar of the status bar: `done` of `total` is over; a total of 0 takes it away.
     void setProgress(int done, int total);
+    /// What a run has stored, at the right end of the status bar.
+    void setTally(const QString &tally);
     void setKeptOnTop(bool onTop);
     [[nodiscard]] Binder &binder() { return mBinder; }
 
