@@ -43,8 +43,17 @@ void takeSetting(Arguments &arguments, const QString &value)
 void takeRun(Arguments &arguments, Arguments::Run run)
 {
     if (arguments.run && *arguments.run != run)
-        refuse(u"--auto and --manual exclude each other"_s);
+        refuse(u"--auto, --manual and --browse exclude each other"_s);
     arguments.run = run;
+}
+
+void takeBrowse(Arguments &arguments, const QString &value)
+{
+    bool isNumber = false;
+    arguments.browseSeconds = value.toInt(&isNumber);
+    if (!isNumber || arguments.browseSeconds < 1)
+        refuse(u"--browse: \"%1\" is no number of seconds"_s.arg(value));
+    takeRun(arguments, Arguments::Run::Browse);
 }
 
 struct Option
@@ -66,6 +75,7 @@ const Option options[] = {
     {"--until-loaded"_L1, false, [](Arguments &a, const QString &) { a.untilLoaded = true; }, "              end each wait as soon as the page has loaded"_L1},
     {"--auto"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Auto); }, "                      run the Auto tab"_L1},
     {"--manual"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Manual); }, "                    run the Manual tab"_L1},
+    {"--browse"_L1, true, takeBrowse, "SECONDS             collect from the pages that the browser shows, for so long"_L1},
     {"--json"_L1, false, [](Arguments &a, const QString &) { a.json = true; }, "                      print the outcome as one JSON object"_L1},
     {"--help"_L1, false, [](Arguments &a, const QString &) { a.help = true; }, "                      print this"_L1},
 };
@@ -97,6 +107,6 @@ Arguments parseArguments(const QStringList &words)
         option->take(arguments, !option->hasValue ? QString() : attached ? words[i].section(u'=', 1) : words[++i]);
     }
     if (!arguments.run && !arguments.help)
-        refuse(u"one of --auto and --manual is wanted (see --help)"_s);
+        refuse(u"one of --auto, --manual and --browse is wanted (see --help)"_s);
     return arguments;
 }

@@ -8,7 +8,7 @@
 
 struct Arguments
 {
-    enum class Run { Auto, Manual };
+    enum class Run { Auto, Manual, Browse };
     struct Setting
     {
         QString control;
@@ -23,6 +23,7 @@ struct Arguments
     QList<Setting> settings;
     bool untilLoaded = false;
     std::optional<Run> run;
+    int browseSeconds = 0; ///< how long the browser is followed
     bool json = false;
     bool help = false;
 };

@@ -4,6 +4,7 @@
 #include "window/Program.h"
 
 #include <QElapsedTimer>
+#include <QJsonArray>
 #include <QMap>
 
 class Outcome : public QObject
@@ -14,12 +15,15 @@ class Outcome : public QObject
     explicit Outcome(Program &program);
 
     [[nodiscard]] bool isFinished() const;
-    /// One JSON object: status, links visited, rows added by table, seconds.
+    /// One JSON object: status, links visited, rows added by table, files fetched and refused, what the manual lists
+    /// hold, seconds.
     [[nodiscard]] QByteArray json() const;
 
   private:
     QString mStatus;
     QStringList mLinks;
+    QJsonArray mFiles, mRefused;
+    const ManualLists &mLists;
     QMap<QString, int> mRows;
     QElapsedTimer mElapsed;
 };

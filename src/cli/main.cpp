@@ -49,6 +49,31 @@ void applySettings(Program &program, const QList<Arguments::Setting> &settings)
     program.states.SetStateOfControls();
 }
 
+/// The list that was filled, or the series that was set.
+void walk(Program &program)
+{
+    const bool hasList = program.form.lists.shown().listCount() > 0;
+    const bool hasSeries = program.manual.desk.GetAutoIncrChecked() > 0;
+    if (hasList && hasSeries)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"--manual: a list or a series, not both"_s);
+    if (!hasList && !hasSeries)
+        return program.status.UpDateStatus(u"Nothing to walk: the list is empty and no series is set"_s);
+    program.manualRun.cmdMNStart_Click();
+}
+
+/// Lets the pages of the browser be collected from for so many seconds, or until it or the program ends.
+void browse(Program &program, EventPump &pump, int seconds)
+{
+    const qint64 end = pump.tickCount() + seconds * qint64(1000);
+    const auto goesOn = [&] {
+        return pump.tickCount() < end && !program.lifeCycle.isEnding() && program.form.browser.mbInitialized;
+    };
+    while (goesOn())
+        pump.waitForEvents(askAgainAfter);
+    if (!program.lifeCycle.isEnding() && program.form.browser.mbInitialized)
+        program.status.UpDateStatus(u"Stopped (FINISHED)"_s);
+}
+
 void harvest(Program &program, EventPump &pump, const Arguments &arguments)
 {
     std::unique_ptr<UntilLoaded> untilLoaded;
@@ -59,8 +84,14 @@ void harvest(Program &program, EventPump &pump, const Arguments &arguments)
             return;
         waitUntilLoaded(program, pump);
     }
-    if (!program.lifeCycle.isEnding() && program.form.browser.mbInitialized)
+    if (program.lifeCycle.isEnding() || !program.form.browser.mbInitialized)
+        return;
+    if (arguments.run == Arguments::Run::Auto)
         program.autoRun.cmdANStart_Click();
+    else if (arguments.run == Arguments::Run::Manual)
+        walk(program);
+    else
+        browse(program, pump, arguments.browseSeconds);
 }
 
 int run(Program &program, EventPump &pump, const Arguments &arguments)
@@ -106,10 +137,6 @@ int main(int argc, char *argv[])
     if (arguments.help) {
         std::fputs(usage().toUtf8().constData(), stdout);
         return Finished;
-    }
-    if (arguments.run == Arguments::Run::Manual) {
-        printError(u"trawlex-harvest: --manual: this version has the Auto run only"_s);
-        return BadArguments;
     }
     // No display is needed, whichever browser runs.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

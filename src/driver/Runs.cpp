@@ -46,6 +46,7 @@ bool Runs::mayGoOn() const
 
 void Runs::showStop(Kind kind)
 {
+    Q_EMIT starting(kind);
     row(kind).start.setCaption(stopCaption);
     row(kind).cancel = false;
 }

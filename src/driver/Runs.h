@@ -52,6 +52,8 @@ class Runs : public QObject
     void FinalizeProcess(const QString &status);
 
   Q_SIGNALS:
+    /// The user has asked for a run that does not stand yet.
+    void starting(Runs::Kind kind);
     /// A run, or whatever else it waits for, is to end.
     void stopping();
     /// Item `number` of `count`, from 1, is the next one.

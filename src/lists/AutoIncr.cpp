@@ -179,6 +179,13 @@ bool AutoIncr::CheckMNAutoNav()
     });
 }
 
+void AutoIncr::showReached(const QString &address, qint64 number)
+{
+    const QScopedValueRollback<bool> writing(mWriting, true);
+    mForm.series.incMNAutoUrl.setText(QString::number(number));
+    mForm.series.cboMNAutoUrl.setText(address);
+}
+
 void AutoIncr::incMNAutoUrl_ValueChanged(const QString &value)
 {
     guarded(mContext.log, {module, "Sub incMNAutoUrl_ValueChanged"_L1}, [&] {

@@ -33,6 +33,8 @@ class AutoIncr : public QObject
     void incMNAutoUrl_ValueChanged(const QString &value);
     /// Pages that are browsed by hand are collected into some list.
     [[nodiscard]] bool isCollecting() const;
+    /// A run has come to that address and number: the boxes show them.
+    void showReached(const QString &address, qint64 number);
     /// The address in the box is being written here, not by the user.
     [[nodiscard]] bool isWriting() const { return mWriting; }
 

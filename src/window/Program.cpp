@@ -35,7 +35,18 @@ Program::Program(const Ports &ports)
                  connection}),
       autoTab({log, form, status, states, timer, ports.desktop, savedUrls, blocking, autoRun, connection, lifeCycle}),
       criteriaPanel(form, status, states, criteria),
-      manual(context, form, ports.pump, ports.clipboard, database, browser, links)
+      manual(context, form, ports.pump, ports.clipboard, database, browser, links),
+      transfers([&pump = ports.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }), inet(transfers, log),
+      downloads(context, form.places, form.limits, form.options, browser, transfers, inet),
+      manualItems(context, form.manual, manual.desk, downloads, navigation),
+      manualWalk(form.manual, form.series, form.options, form.collect, manual.desk, manual.series, manual.tables),
+      autoNavigate(form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate"_L1), form.manual, form.limits, runs,
+                   manualWalk, siteVisit, manual.links),
+      manualRun(context, form.manual, runs, manualWalk, manualItems, autoNavigate, siteVisit),
+      collectChoice(context, form.collect, form.menus, form.lists, form.saved, form.options, manual.desk),
+      pageCollecting(log, browser, findings, manual.desk),
+      autoCollect(context, collectChoice, pageCollecting, manual.feed, savedUrls, links, manual.desk),
+      collectCommands(context, form, collectChoice, manual.series, links)
 {
     const CheckBox &errorMessages = form.options.chkSMV(SMV::ErrorMessages);
     log.ToggleErrMsg(ports.settings.GetSetting(Sections::Main, Keys::ErrorMessages, u"0"_s) == "1"_L1);
@@ -43,6 +54,8 @@ Program::Program(const Ports &ports)
     areaCodes.LoadStates();
     connectDatabase();
     connectManual(ports.desktop, ports.side);
+    connectManualRun();
+    connectCollecting();
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -70,7 +83,7 @@ void Program::connectManual(Desktop &desktop, SideWindows &side)
     QObject::connect(&manual.tab, &ManualTab::menuWanted, &form, [this](Menu &menu) { popUps.ShowPopUp(menu); });
     QObject::connect(&manual.tab, &ManualTab::openWanted, &form,
                      [this](const QString &url) { navigation.OpenSite(url); });
-    const auto navigate = [this](int mode) { navigation.OpenSite(manual.desk.GetUseBaseUrl(mode)); };
+    const auto navigate = [this](int mode) { manualItems.NavFileOrSite(mode, {}, false); };
     QObject::connect(&manual.edit, &ManualEdit::navigateWanted, &form, navigate);
     QObject::connect(&manual.statusCommands, &ManualStatusCommands::navigateWanted, &form, navigate);
     QObject::connect(&manual.edit, &ManualEdit::editWanted, &form, [this, &desktop](const QString &text) {
@@ -80,4 +93,28 @@ void Program::connectManual(Desktop &desktop, SideWindows &side)
     QObject::connect(&manual.edit, &ManualEdit::magnifyWanted, &form, magnify);
     QObject::connect(&manual.statusCommands, &ManualStatusCommands::magnifyWanted, &form, magnify);
     QObject::connect(&lifeCycle, &LifeCycle::ended, &manual.work, &LongWork::cancel);
+}
+
+void Program::connectManualRun()
+{
+    QObject::connect(&form.manual.cmdMNStart, &Button::Click, &form, [this] { manualRun.cmdMNStart_Click(); });
+    QObject::connect(&inet, &cInetWS::InetStatus, &form,
+                     [this](int state) { status.UpDateStatus(inetStateText(state)); });
+    QObject::connect(&runs, &Runs::stopping, &downloads, &Downloads::cancel);
+}
+
+/// An Auto run takes no part in series, nor in collecting into the Saved Urls.
+void Program::connectCollecting()
+{
+    QObject::connect(&runs, &Runs::starting, &form, [this](Runs::Kind kind) {
+        if (kind != Runs::Kind::Auto)
+            return;
+        if (const int position = manual.desk.GetAutoIncrChecked(); position > 0)
+            manual.series.SetAutoIncrPos(position);
+        collectChoice.DisableANAutoC(false);
+    });
+    QObject::connect(&browser, &BrowserHolder::DocumentComplete, &form, [this] { autoCollect.DocumentComplete(); });
+    QObject::connect(&manual.series, &AutoIncr::baseSwitchedOff, &collectChoice,
+                     [this] { collectChoice.SetAutoCollectState(CollectState::Kind::EmailPhone, true); });
+    QObject::connect(&collectChoice, &CollectChoice::coloursAsked, &manual.series, &AutoIncr::coloursAsked);
 }

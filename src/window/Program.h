@@ -5,10 +5,13 @@
 #include "app/ErrorLog.h"
 #include "app/SideWindows.h"
 #include "app/cTimer.h"
+#include "harvest/AutoCollect.h"
 #include "harvest/AutoRun.h"
+#include "harvest/ManualRun.h"
 #include "harvest/UntilLoaded.h"
 #include "window/LifeCycle.h"
 #include "window/commands/AutoTab.h"
+#include "window/commands/CollectCommands.h"
 #include "window/commands/CriteriaPanel.h"
 #include "window/commands/ManualSide.h"
 #include "window/commands/PopUps.h"
@@ -75,8 +78,21 @@ struct Program
     AutoTab autoTab;
     CriteriaPanel criteriaPanel;
     ManualSide manual;
+    Transfers transfers;
+    cInetWS inet;
+    Downloads downloads;
+    ManualItems manualItems;
+    ManualWalk manualWalk;
+    AutoNavigate autoNavigate;
+    ManualRun manualRun;
+    CollectChoice collectChoice;
+    PageCollecting pageCollecting;
+    AutoCollect autoCollect;
+    CollectCommands collectCommands;
 
   private:
     void connectDatabase();
     void connectManual(Desktop &desktop, SideWindows &side);
+    void connectManualRun();
+    void connectCollecting();
 };

@@ -39,9 +39,9 @@ TEST_P(BadArguments, AreToldInOneLine)
 
 INSTANTIATE_TEST_SUITE_P(
     Arguments, BadArguments,
-    testing::Values(BadCase{{}, u"one of --auto and --manual is wanted (see --help)"_s},
-                    BadCase{{u"--json"_s}, u"one of --auto and --manual is wanted (see --help)"_s},
-                    BadCase{{u"--auto"_s, u"--manual"_s}, u"--auto and --manual exclude each other"_s},
+    testing::Values(BadCase{{}, u"one of --auto, --manual and --browse is wanted (see --help)"_s},
+                    BadCase{{u"--json"_s}, u"one of --auto, --manual and --browse is wanted (see --help)"_s},
+                    BadCase{{u"--auto"_s, u"--manual"_s}, u"--auto, --manual and --browse exclude each other"_s},
                     BadCase{{u"--auto"_s, u"--quick"_s}, u"unknown argument: --quick (see --help)"_s},
                     BadCase{{u"--auto"_s, u"word"_s}, u"unknown argument: word (see --help)"_s},
                     BadCase{{u"--auto"_s, u""_s}, u"unknown argument:  (see --help)"_s},

@@ -1,0 +1,49 @@
+#include "harvest/Downloads.h"
+
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int secondWayOption = 3;
+constexpr auto section = "SecFrmSearch"_L1;
+constexpr auto asBrowserKey = "chkSMADownloadAsBrowser"_L1;
+} // namespace
+
+Downloads::Downloads(const Context &context, const FilePlaces &places, const Limits &limits, const OptionBoxes &options,
+                     BrowserHolder &browser, Transfers &transfers, cInetWS &inet)
+    : mContext(context), mPlaces(places), mLimits(limits), mOptions(options), mBrowser(browser), mTransfers(transfers),
+      mInet(inet)
+{
+}
+
+QString Downloads::fetch(const QString &url, const QString &name)
+{
+    const QScopedValueRollback<bool> underWay(mIsUnderWay, true);
+    const Download result = transfer(url, mPlaces.txtSFMNDir.text() + name);
+    mLast = {result.file.isEmpty() ? name : QFileInfo(result.file).fileName(), url, result.refusal, result.size,
+             result.seconds};
+    Q_EMIT fetched(mLast);
+    return mLast.name;
+}
+
+Download Downloads::transfer(const QString &url, const QString &target)
+{
+    if (mOptions.chkSMA(secondWayOption).value() == 1)
+        return cInternet(mTransfers, mContext.log).APIDownLoad(url, target, leastSize());
+    return mInet.DownLoad(url, target, leastSize(), browserTraits(url));
+}
+
+/// What many servers of pictures ask for: the browser's name, its cookies, and the page that it stands on.
+BrowserTraits Downloads::browserTraits(const QString &url)
+{
+    if (!mBrowser.isSet() || mContext.settings.GetSetting(section, asBrowserKey, u"1"_s) != "1"_L1)
+        return {};
+    return {mBrowser->userAgent(), mBrowser->GetSiteUrl(), mBrowser->cookiesFor(url)};
+}
+
+void Downloads::cancel()
+{
+    mTransfers.cancel();
+}

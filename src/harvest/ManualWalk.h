@@ -1,0 +1,52 @@
+// What a Manual run takes one after the other: the items of the list on show, or the addresses of a series. Says where
+// the run begins and ends, brings each item into the boxes that show it, and remembers where the run stood. Knows
+// lists.
+#pragma once
+
+#include "lists/AutoIncr.h"
+#include "lists/ManualTables.h"
+
+class ManualWalk
+{
+  public:
+    ManualWalk(ManualPanel &panel, SeriesPanel &series, const OptionBoxes &options, const CollectLabels &collecting,
+               const ManualDesk &desk, AutoIncr &autoIncr, ManualTables &tables);
+
+    /// False while the list on show is being collected into.
+    [[nodiscard]] bool mayBegin() const { return !mCollecting.mbNavListCollecting; }
+    /// A new walk. `behindStop`: the item at which the last one stopped is done with.
+    void begin(bool behindStop);
+    [[nodiscard]] bool isSeries() const { return mIsSeries; }
+    /// First and last item: places in the list, from 0, or numbers of the series.
+    [[nodiscard]] qint64 first() const { return mFirst; }
+    [[nodiscard]] qint64 last() const { return mLast; }
+    /// What statuses of files give as the last one.
+    [[nodiscard]] qint64 shownLast() const { return mIsSeries ? mLast - mFirst : mLast; }
+    /// The address of `item`, which the tab then shows as the one in turn.
+    [[nodiscard]] QString take(qint64 item);
+    /// The list that is walked.
+    [[nodiscard]] ListBox &list() const { return mDesk.list(mPanel.mintMNRunningList); }
+    /// Shows that place of the list as the one in turn.
+    void select(qint64 place);
+    [[nodiscard]] bool usesSiteData() const { return mDesk.usesSiteData(); }
+    /// The user has stopped the run: a series is kept as far as it came, where that is wanted.
+    void keepSeries();
+    /// The list's table remembers where the run stood.
+    void savePosition();
+
+  private:
+    void beginSeries();
+    void beginList(bool behindStop);
+
+    ManualPanel &mPanel;
+    SeriesPanel &mSeries;
+    const OptionBoxes &mOptions;
+    const CollectLabels &mCollecting;
+    const ManualDesk &mDesk;
+    AutoIncr &mAutoIncr;
+    ManualTables &mTables;
+    bool mIsSeries = false;
+    qint64 mFirst = 0;
+    qint64 mLast = 0;
+    QString mAddress; ///< of the series, as far as it has come
+};

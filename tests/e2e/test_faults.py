@@ -1,0 +1,130 @@
+"""Runs whose browser is killed and whose database is locked or moved: nothing is lost, and nothing is lost in silence."""
+import contextlib
+import http.server
+import os
+import pathlib
+import signal
+import sqlite3
+import threading
+import time
+import unittest
+
+import trawlex
+
+OPEN = ("--open", trawlex.demo_harvest.RESULT_PAGE)
+
+
+class Faults(trawlex.Case):
+    def wait_for_status(self, run, text, seconds=60):
+        trawlex.wait_for(lambda: any(text in line for line in run.status_lines()), seconds, text)
+
+    def kill_browser(self):
+        """The free-standing browser's first process, with all that hang on it."""
+        browsers = [pid for pid, line in trawlex.processes(self.folder)
+                    if "--user-data-dir" in line and "--type=" not in line and "browser-holder" not in line]
+        self.assertTrue(browsers)
+        for pid in browsers:
+            with contextlib.suppress(ProcessLookupError):
+                os.kill(pid, signal.SIGKILL)
+
+    def finished(self, run):
+        out, _ = run.communicate(timeout=240)
+        return run.returncode, out
+
+    def test_a_browser_that_is_killed_is_started_again_and_no_page_is_lost(self):
+        path = self.make_database()
+        run = self.start_harvest("iexplore", OPEN)
+        self.wait_for_status(run, "5/")
+        self.kill_browser()
+        status, _ = self.finished(run)
+        lines = run.status_lines()
+        self.assertIn("Browser has ended. Starting it again", lines)
+        self.assertEqual(status, 0, lines[-5:])
+        self.assertCountEqual(trawlex.rows(path, "SiteSummary", ["Url"]),
+                              [(row["Url"],) for row in trawlex.EXPECTED["SiteSummary"]])
+
+    def test_a_database_that_is_locked_for_a_while_is_waited_for(self):
+        path = self.make_database()
+        run = self.start_harvest("iexplore", OPEN)
+        self.wait_for_status(run, "3/")
+        with contextlib.closing(sqlite3.connect(path, isolation_level=None)) as other:
+            other.execute("BEGIN IMMEDIATE")
+            self.wait_for_status(run, "Database is locked. Waiting")
+            time.sleep(3)
+            other.execute("ROLLBACK")
+        status, _ = self.finished(run)
+        self.assertEqual(status, 0, run.status_lines()[-5:])
+        self.assert_expected_rows(path)
+
+    def test_a_database_that_is_moved_ends_the_run_with_a_clear_line(self):
+        path = self.make_database()
+        run = self.start_harvest("iexplore", OPEN)
+        self.wait_for_status(run, "3/")
+        os.rename(path, str(path) + ".moved")
+        status, _ = self.finished(run)
+        self.assertEqual(status, 1)
+        self.assertIn("Stopped (ERROR, DATABASE HAS BEEN MOVED OR DELETED)", run.status_lines())
+
+
+class Pictures(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        body = self.path.encode() * 10
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
+    def log_message(self, *_):
+        pass
+
+
+class ManualRun(trawlex.Case):
+    def test_a_series_of_files_lies_in_the_folder(self):
+        self.make_database()
+        pictures = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Pictures)
+        self.addCleanup(pictures.server_close)
+        self.addCleanup(pictures.shutdown)
+        threading.Thread(target=pictures.serve_forever, daemon=True).start()
+        folder = pathlib.Path(self.folder) / "pictures"
+        folder.mkdir()
+        words = [trawlex.HARVESTER, "--database-dir", self.folder, "--headless", "--browser", "iexplore",
+                 "--set", f"cboMNAutoUrl=http://127.0.0.1:{pictures.server_port}/a.com/p-1.jpg",
+                 "--set", "mnuMNStatusAutoIncrPos(6)=1", "--set", "cboFilesSites=0", "--set", f"txtSFMNDir={folder}/",
+                 "--set", "chkSMA(2)=0", "--until-loaded", "--manual", "--json"]
+        done = trawlex.subprocess.run(words, env=self.env, capture_output=True, text=True, timeout=120, check=False)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        for number in range(1, 10):
+            self.assertEqual((folder / f"p-{number}.jpg").read_bytes(), f"/a.com/p-{number}.jpg".encode() * 10)
+        report = trawlex.json.loads(done.stdout)
+        self.assertEqual([file["name"] for file in report["files"]], [f"p-{number}.jpg" for number in range(1, 10)])
+        self.assertEqual(report["refused"], [])
+
+    def test_an_empty_list_ends_with_1(self):
+        self.make_database()
+        words = [trawlex.HARVESTER, "--database-dir", self.folder, "--headless", "--browser", "iexplore", "--manual"]
+        done = trawlex.subprocess.run(words, env=self.env, capture_output=True, text=True, timeout=60, check=False)
+        self.assertEqual(done.returncode, 1, done.stderr)
+
+
+class Browsing(trawlex.Case):
+    def collects(self, browser):
+        self.make_database(browser)
+        words = trawlex.demo_harvest.command(trawlex.HARVESTER, self.folder, self.demo.port, browser,
+                                             {"mnuMNStatusListCL(0)": 1}, OPEN)
+        words = [word for word in words if word != "--auto"] + ["--browse", "3"]
+        done = trawlex.subprocess.run(words, env=self.env, capture_output=True, text=True, timeout=120, check=False)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        links = trawlex.json.loads(done.stdout)["lists"]["A"]
+        self.assertIn("http://www.findery-demo.com/about.html", links)
+        self.assertIn("http://www.findery-demo.com/url?to=http%3A//www.gull-point.ca/phones.html&rank=6", links)
+        self.assertEqual(len(links), len(set(links)))
+
+    def test_links_of_the_page_on_show_are_collected_from_the_free_standing_browser(self):
+        self.collects("iexplore")
+
+    def test_links_of_the_page_on_show_are_collected_from_the_built_in_browser(self):
+        self.collects("internal")
+
+
+if __name__ == "__main__":
+    unittest.main()

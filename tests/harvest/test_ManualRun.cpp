@@ -1,0 +1,467 @@
+// The Manual run over a list and over a series, as sites and as files, with and without Auto Navigate: order, pace,
+// statuses, stops, and where Go resumes.
+#include "store/Transaction.h"
+#include "support/ProgramFixture.h"
+#include "transfer/RawServer.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr qint64 second = 1000;
+enum What { File = 0, Site = 1 };
+
+class ManualRunTest : public RunTest
+{
+  protected:
+    ManualRunTest()
+    {
+        form().frame.sstSearch.setTab(Tab::Manual);
+        form().manual.cboFilesSites.setListIndex(Site);
+        form().manual.incMNTiming.setText(u"005"_s);
+        form().manual.incMNDLTiming.setText(u"000"_s);
+        form().places.txtSFMNDir.setText(folder.path() + u'/');
+        form().options.chkSMD(1).setValue(0);
+        browser().show(u"http://www.start.com/"_s);
+        statuses.clear();
+    }
+    [[nodiscard]] ListBox &list() { return form().lists.shown(); }
+    /// Fills the list on show and has its controls made usable.
+    void fill(const QStringList &items)
+    {
+        list().setItems(items);
+        program->states.SetStateOfControls();
+        statuses.clear();
+    }
+    /// The address in the box, with that number as the one that changes.
+    void setSeries(const QString &address, int position = 1)
+    {
+        form().series.cboMNAutoUrl.setText(address);
+        program->manual.series.SetAutoIncrPos(position);
+        ASSERT_EQ(program->manual.desk.GetAutoIncrChecked(), position);
+        program->states.SetStateOfControls();
+        statuses.clear();
+    }
+    void clickGo()
+    {
+        ASSERT_TRUE(form().manual.cmdMNStart.isEnabled());
+        form().manual.cmdMNStart.click();
+    }
+    void clickX() { form().manual.cmdMNStart.click(); }
+    [[nodiscard]] MenuItem &item(const QString &name) { return *qobject_cast<MenuItem *>(form().control(name)); }
+    static QStringList sitesAt(std::initializer_list<int> numbers)
+    {
+        QStringList all;
+        for (const int number : numbers)
+            all.append(u"http://www.site%1.com/"_s.arg(number));
+        return all;
+    }
+    [[nodiscard]] QByteArray content(const QString &name)
+    {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+    }
+};
+} // namespace
+
+// Sites of a list.
+
+TEST_F(ManualRunTest, AListOfSitesIsVisitedInOrderAtThePaceOfTheCountdown)
+{
+    fill(makeSites(3));
+    form().outputs.chkSaveSummary.setValue(1);
+    const qint64 start = pump.seconds();
+    statuses.clear();
+    clickGo();
+    EXPECT_EQ(browser().navigated, sitesAt({1, 2, 3}));
+    EXPECT_EQ(pump.seconds() - start, 15);
+    EXPECT_EQ(statuses, (QStringList{u"1/3 http://www.site1.com/"_s, u"2/3 http://www.site2.com/"_s,
+                                     u"3/3 http://www.site3.com/"_s, u"Stopped (FINISHED)"_s}));
+    EXPECT_EQ(rows(u"SiteSummary"_s), sitesAt({1, 2, 3}));
+    EXPECT_EQ(form().manual.cmdMNStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form().runs.mbMNRunning);
+}
+
+TEST_F(ManualRunTest, WithNothingChosenTheWalkBeginsAtTheFirstItemOnce)
+{
+    fill(makeSites(2));
+    ASSERT_EQ(list().listIndex(), -1);
+    clickGo();
+    EXPECT_EQ(browser().navigated, sitesAt({1, 2}));
+}
+
+TEST_F(ManualRunTest, TheWalkBeginsAtTheChosenItemAndShowsTheOneInTurn)
+{
+    fill(makeSites(3));
+    list().setListIndex(1);
+    std::vector<bool> during;
+    pump.after(second, [&] { during = list().selection(); });
+    clickGo();
+    EXPECT_EQ(browser().navigated, sitesAt({2, 3}));
+    EXPECT_EQ(during, (std::vector<bool>{false, true, false}));
+    EXPECT_EQ(list().listIndex(), 2);
+}
+
+TEST_F(ManualRunTest, XStopsInAWaitAndGoOpensTheSameItemAgain)
+{
+    fill(makeSites(3));
+    pump.after(7 * second, [&] { clickX(); });
+    clickGo();
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_EQ(list().listIndex(), 1);
+    browser().navigated.clear();
+    clickGo();
+    EXPECT_EQ(browser().navigated, sitesAt({2, 3}));
+}
+
+TEST_F(ManualRunTest, AfterAStopOnAMatchTheWalkResumesBehindIt)
+{
+    form().outputs.chkMCMNCStop.setValue(1);
+    wantOnly(u"site 2,"_s);
+    fill(makeSites(4));
+    clickGo();
+    EXPECT_EQ(lastStatus(), u"Stopped (MCMNC)"_s);
+    EXPECT_EQ(form().browser.picANEnd.backColor(), Colours::Blue);
+    browser().navigated.clear();
+    clickGo();
+    EXPECT_EQ(browser().navigated, sitesAt({3, 4}));
+}
+
+TEST_F(ManualRunTest, AnEmptyListHasOneTurnWithNothingInIt)
+{
+    program->manualRun.StartProcessMN();
+    EXPECT_TRUE(browser().navigated.isEmpty());
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
+
+TEST_F(ManualRunTest, WhatIsNoLinkIsPassedOver)
+{
+    fill({u"nonsense"_s, u"http://www.site1.com/"_s});
+    clickGo();
+    EXPECT_EQ(browser().navigated, sitesAt({1}));
+    EXPECT_TRUE(statuses.contains(u"Invalid url nonsense"_s));
+}
+
+TEST_F(ManualRunTest, ReturnsToThePageItBeganOnWhenItHasFinished)
+{
+    form().options.chkSMA(2).setValue(1);
+    fill(makeSites(1));
+    clickGo();
+    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com/"_s, u"http://www.start.com/"_s}));
+}
+
+TEST_F(ManualRunTest, TheBrowsersClosingIsTheUsersStop)
+{
+    fill(makeSites(3));
+    FakeBrowser &window = browser();
+    pump.after(7 * second, [&] { window.close(); });
+    clickGo();
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_EQ(list().listIndex(), 1);
+}
+
+TEST_F(ManualRunTest, AnErrorPageGivesWayToItsServer)
+{
+    form().limits.incNotFoundMinSize.setText(u"000900"_s);
+    fill({u"http://www.site1.com/gone.html"_s});
+    browser().pages[u"http://www.site1.com/gone.html"_s].html = u"<p>not found</p>"_s;
+    clickGo();
+    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com/gone.html"_s, u"http://www.site1.com"_s}));
+}
+
+TEST_F(ManualRunTest, APageThatCannotBeStoredKeepsTheWalkOnItsItem)
+{
+    form().outputs.chkSaveSummary.setValue(1);
+    fill(makeSites(3));
+    RecordingLog log;
+    cAdoMdb other(log);
+    ASSERT_TRUE(other.LoadDatabase(database().DatabasePath()));
+    auto lock = std::make_unique<Transaction>(other);
+    clickGo();
+    EXPECT_EQ(lastStatus(), u"Stopped (ERROR, DATABASE IS LOCKED)"_s);
+    EXPECT_EQ(list().listIndex(), 0);
+    lock.reset();
+    clickGo();
+    EXPECT_EQ(rows(u"SiteSummary"_s), sitesAt({1, 2, 3}));
+}
+
+TEST_F(ManualRunTest, GoIsRefusedWhileTheListOnShowIsCollectedInto)
+{
+    fill(makeSites(1));
+    form().collect.mbNavListCollecting = true;
+    clickGo();
+    EXPECT_EQ(statuses, QStringList{u"Can't Collect in Navigate List"_s});
+    EXPECT_EQ(form().manual.cmdMNStart.caption(), u"Go"_s);
+}
+
+TEST_F(ManualRunTest, TheBaseTakesTheItemInEveryPlaceThatIsMarked)
+{
+    form().series.cboMNAutoUrl.setText(u"www.~ins~.com/~ins~.html"_s);
+    item(u"mnuMNUseAutoBase"_s).setChecked(true);
+    fill({u"tea"_s, u"milk"_s});
+    clickGo();
+    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.tea.com/tea.html"_s, u"http://www.milk.com/milk.html"_s}));
+}
+
+TEST_F(ManualRunTest, AnEmptyBaseGivesTheItemAlone)
+{
+    item(u"mnuMNUseAutoBase"_s).setChecked(true);
+    fill({u"http://www.site1.com/"_s});
+    clickGo();
+    EXPECT_EQ(browser().navigated, sitesAt({1}));
+}
+
+// A series.
+
+TEST_F(ManualRunTest, ASeriesOfOneDigitEndsAtNine)
+{
+    setSeries(u"www.pics.com/page1.html"_s);
+    clickGo();
+    ASSERT_EQ(browser().navigated.size(), 9);
+    EXPECT_EQ(browser().navigated.constFirst(), u"http://www.pics.com/page1.html"_s);
+    EXPECT_EQ(browser().navigated.constLast(), u"http://www.pics.com/page9.html"_s);
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.pics.com/page9.html"_s);
+    EXPECT_EQ(form().series.incMNAutoUrl.value(), 9);
+}
+
+TEST_F(ManualRunTest, ASeriesKeepsItsZerosAndResumesWhereItStood)
+{
+    setSeries(u"www.pics.com/a2/page008.html"_s, 2);
+    pump.after(17 * second, [&] { clickX(); });
+    clickGo();
+    EXPECT_EQ(browser().navigated,
+              (QStringList{u"http://www.pics.com/a2/page008.html"_s, u"http://www.pics.com/a2/page009.html"_s,
+                           u"http://www.pics.com/a2/page010.html"_s, u"http://www.pics.com/a2/page011.html"_s}));
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.pics.com/a2/page011.html"_s);
+    browser().navigated.clear();
+    pump.after(2 * second, [&] { clickX(); });
+    clickGo();
+    EXPECT_EQ(browser().navigated, QStringList{u"http://www.pics.com/a2/page011.html"_s});
+}
+
+TEST_F(ManualRunTest, TheStepOfASeriesIsTheBoxs)
+{
+    form().series.incMNStep.setText(u"003"_s);
+    setSeries(u"www.pics.com/page1.html"_s);
+    pump.after(12 * second, [&] { clickX(); });
+    clickGo();
+    EXPECT_EQ(browser().navigated,
+              (QStringList{u"http://www.pics.com/page1.html"_s, u"http://www.pics.com/page4.html"_s,
+                           u"http://www.pics.com/page7.html"_s}));
+}
+
+TEST_F(ManualRunTest, AStoppedSeriesIsKeptWhereThatIsWanted)
+{
+    form().options.chkSMD(8).setValue(1);
+    setSeries(u"www.pics.com/page1.html"_s);
+    pump.after(7 * second, [&] { clickX(); });
+    clickGo();
+    EXPECT_EQ(rows(u"AutoTextA"_s), QStringList{u"www.pics.com/page2.html"_s});
+}
+
+// Auto Navigate.
+
+TEST_F(ManualRunTest, AutoNavigateWalksTheLinksOfEachPageOfTheSeries)
+{
+    form().outputs.chkSaveSummary.setValue(1);
+    const QStringList sites = makeSites(4);
+    browser().pages[u"http://www.pics.com/list8"_s].links = {sites[0], sites[1]};
+    browser().pages[u"http://www.pics.com/list9"_s].links = {sites[2]};
+    setSeries(u"www.pics.com/list8"_s);
+    item(u"mnuMNStatusAutoNavigate"_s).setChecked(true);
+    pump.after(22 * second, [&] { clickX(); });
+    const qint64 start = pump.seconds();
+    clickGo();
+    EXPECT_EQ(browser().navigated.mid(0, 5), (QStringList{u"http://www.pics.com/list8"_s, sites[0], sites[1],
+                                                          u"http://www.pics.com/list9"_s, sites[2]}));
+    EXPECT_EQ(pump.seconds() - start, 22) << "2 of pause and 5 a link";
+    EXPECT_EQ(statuses.value(0), u"8/16 | 0/1"_s);
+    EXPECT_EQ(statuses.value(1), u"8/16 | 1/1"_s);
+    EXPECT_EQ(rows(u"SiteSummary"_s), (QStringList{sites[0], sites[1], sites[2]}));
+}
+
+TEST_F(ManualRunTest, AutoNavigateResumesOnTheLinkWhereItStood)
+{
+    const QStringList sites = makeSites(3);
+    browser().pages[u"http://www.pics.com/list8"_s].links = sites;
+    setSeries(u"www.pics.com/list8"_s);
+    item(u"mnuMNStatusAutoNavigate"_s).setChecked(true);
+    pump.after(8 * second, [&] { clickX(); }); // 2 of pause, 5 of the first link
+    clickGo();
+    EXPECT_EQ(form().manual.mlngMNLinkIndex, 1);
+    browser().navigated.clear();
+    pump.after(8 * second, [&] { clickX(); });
+    clickGo();
+    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.pics.com/list8"_s, sites[1], sites[2]}));
+}
+
+TEST_F(ManualRunTest, WithFilesAutoNavigateIsSwitchedOffWithAMessageAndTheRunGoesOn)
+{
+    form().manual.cboFilesSites.setListIndex(File);
+    setSeries(u"www.pics.com/nofile8"_s);
+    QObject::connect(&program->runs, &Runs::progress, &form(), [this](int number, int) {
+        if (number == 1)
+            item(u"mnuMNStatusAutoNavigate"_s).setChecked(true); // the tab does not offer it for files
+    });
+    const qint64 start = pump.seconds();
+    clickGo();
+    EXPECT_EQ(statuses, (QStringList{u"Type = File. No Full Auto"_s, u"Stopped (FINISHED)"_s}));
+    EXPECT_FALSE(item(u"mnuMNStatusAutoNavigate"_s).isChecked());
+    EXPECT_EQ(pump.seconds() - start, 2);
+    EXPECT_TRUE(browser().navigated.isEmpty()) << "what is no file is passed over in a list of files";
+}
+
+// Files.
+
+namespace {
+class Fetching : public ManualRunTest
+{
+  protected:
+    Fetching()
+    {
+        form().manual.cboFilesSites.setListIndex(File);
+        QObject::connect(&program->downloads, &Downloads::fetched, &form(),
+                         [this](const Downloads::Fetched &file) { files.append(file); });
+    }
+    /// Only what says something of items and ends; states of a transfer are between them.
+    [[nodiscard]] QStringList told() const
+    {
+        QStringList all;
+        for (const QString &text : statuses) {
+            if (text.contains(u'/') || text.startsWith("Size"_L1) || text.startsWith("Stopped"_L1))
+                all.append(text);
+        }
+        return all;
+    }
+
+    RawServer server;
+    QList<Downloads::Fetched> files;
+};
+} // namespace
+
+TEST_F(Fetching, FilesOfAListLieInTheFolderByteForByte)
+{
+    server.route("/a.jpg", okReply("first\r\n\x00\xff"_ba));
+    server.route("/b.jpeg", okReply("second"_ba));
+    fill({server.address(u"/a.jpg"_s), server.address(u"/b.jpeg"_s)});
+    clickGo();
+    EXPECT_EQ(content(u"a.jpg"_s), "first\r\n\x00\xff"_ba);
+    EXPECT_EQ(content(u"b.jpg"_s), "second");
+    EXPECT_EQ(told(), (QStringList{u"1/1 a.jpg"_s, u"2/1 b.jpg"_s, u"Stopped (FINISHED)"_s}));
+    ASSERT_EQ(files.size(), 2);
+    EXPECT_EQ(files[0].size, 9);
+    EXPECT_TRUE(browser().navigated.isEmpty());
+    EXPECT_TRUE(statuses.contains(u"Connecting..."_s));
+}
+
+TEST_F(Fetching, ATakenNameGetsANumberAndNothingIsOverwritten)
+{
+    server.route("/a.jpg", okReply("new"_ba));
+    QFile old(folder.filePath(u"a.jpg"_s));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+    old.close();
+    fill({server.address(u"/a.jpg"_s)});
+    clickGo();
+    EXPECT_EQ(content(u"a.jpg"_s), "old");
+    EXPECT_EQ(content(files.value(0).name), "new");
+    EXPECT_TRUE(files.value(0).name.startsWith("a-"_L1)) << files.value(0).name.toStdString();
+}
+
+TEST_F(Fetching, AFileThatIsTooSmallIsToldAndNotLeftBehind)
+{
+    form().limits.incSFMinGraphicSize.setText(u"000100"_s);
+    server.route("/a.jpg", okReply("small"_ba));
+    fill({server.address(u"/a.jpg"_s)});
+    clickGo();
+    EXPECT_EQ(told(), (QStringList{u"Size < 100"_s, u"Stopped (FINISHED)"_s}));
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"a.jpg"_s)));
+    ASSERT_EQ(files.size(), 1);
+    EXPECT_FALSE(files[0].refusal.isEmpty());
+}
+
+TEST_F(Fetching, WhatIsNoFileIsPassedOver)
+{
+    fill({server.address(u"/page"_s), u"http://www.site1.com/"_s});
+    clickGo();
+    EXPECT_EQ(told(), QStringList{u"Stopped (FINISHED)"_s});
+    EXPECT_TRUE(files.isEmpty());
+    EXPECT_TRUE(browser().navigated.isEmpty());
+}
+
+TEST_F(Fetching, TheFirstWaySpeaksForTheBrowser)
+{
+    server.route("/a.jpg", okReply("x"_ba + "yz"_ba));
+    const QString address = server.address(u"/a.jpg"_s);
+    browser().cookies[address] = u"visitor=7"_s;
+    browser().agent = u"Fake/2.0"_s;
+    fill({address});
+    clickGo();
+    ASSERT_EQ(server.requests.size(), 1);
+    EXPECT_EQ(server.requests[0].header("Cookie"), "visitor=7");
+    EXPECT_EQ(server.requests[0].header("User-Agent"), "Fake/2.0");
+    EXPECT_EQ(server.requests[0].header("Referer"), "http://www.start.com/");
+}
+
+TEST_F(Fetching, SwitchedOffItDoesNot)
+{
+    settings.preset("chkSMADownloadAsBrowser", u"0"_s);
+    server.route("/a.jpg", okReply("xyz"_ba));
+    browser().cookies[server.address(u"/a.jpg"_s)] = u"visitor=7"_s;
+    fill({server.address(u"/a.jpg"_s)});
+    clickGo();
+    ASSERT_EQ(server.requests.size(), 1);
+    EXPECT_EQ(server.requests[0].header("Cookie"), "");
+    EXPECT_EQ(server.requests[0].header("Referer"), "");
+}
+
+TEST_F(Fetching, TheSecondWayTakesAnEmptyAnswerAsAFile)
+{
+    form().options.chkSMA(3).setValue(1);
+    server.route("/a.jpg", okReply({}));
+    fill({server.address(u"/a.jpg"_s)});
+    clickGo();
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"a.jpg"_s)));
+}
+
+TEST_F(Fetching, TheWaitBehindAFileIsItsOwn)
+{
+    form().manual.incMNDLTiming.setText(u"002"_s);
+    server.route("/a.jpg", okReply("xyz"_ba));
+    fill({server.address(u"/a.jpg"_s), server.address(u"/a.jpg"_s)});
+    qint64 shown = 0;
+    QObject::connect(&program->timer, &cTimer::TimeCount, &form(), [&](qint64 count) { shown = count; });
+    clickGo();
+    EXPECT_EQ(shown, 2);
+}
+
+TEST_F(Fetching, XInTheMiddleOfADownloadEndsItAndLeavesNoFile)
+{
+    RawReply slow = okReply(QByteArray(100'000, 'x'));
+    slow.piece = 1000;
+    slow.pause = 20;
+    server.route("/a.jpg", slow);
+    fill({server.address(u"/a.jpg"_s), server.address(u"/a.jpg"_s)});
+    QObject::connect(&program->inet, &cInetWS::InetStatus, &form(), [this](int state) {
+        if (state == static_cast<int>(InetState::ReceivingResponse))
+            pump.after(0, [this] { clickX(); });
+    });
+    clickGo();
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"a.jpg"_s)));
+    EXPECT_EQ(list().listIndex(), 0);
+}
+
+TEST_F(Fetching, ADownloadSeriesTakesEveryNumber)
+{
+    for (int number = 1; number <= 9; ++number)
+        server.route("/a.com/p-" + QByteArray::number(number) + ".jpg", okReply("picture "_ba + QByteArray::number(number)));
+    // An address of numbers with a port is a link by the name in its path alone; five numbers stand in front.
+    setSeries(server.address(u"/a.com/p-1.jpg"_s), 6);
+    clickGo();
+    for (int number = 1; number <= 9; ++number)
+        EXPECT_EQ(content(u"p-%1.jpg"_s.arg(number)), "picture "_ba + QByteArray::number(number));
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+}
