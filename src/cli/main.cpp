@@ -71,31 +71,6 @@ void browse(Program &program, EventPump &pump, int seconds)
         program.status.UpDateStatus(u"Stopped (FINISHED)"_s);
 }
 
-/// The list that was filled, or the series that was set.
-void walk(Program &program)
-{
-    const bool hasList = program.form.lists.shown().listCount() > 0;
-    const bool hasSeries = program.manual.desk.GetAutoIncrChecked() > 0;
-    if (hasList && hasSeries)
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"--manual: a list or a series, not both"_s);
-    if (!hasList && !hasSeries)
-        return program.status.UpDateStatus(u"Nothing to walk: the list is empty and no series is set"_s);
-    program.manualRun.cmdMNStart_Click();
-}
-
-/// Lets the pages of the browser be collected from for so many seconds, or until it or the program ends.
-void browse(Program &program, EventPump &pump, int seconds)
-{
-    const qint64 end = pump.tickCount() + seconds * qint64(1000);
-    const auto goesOn = [&] {
-        return pump.tickCount() < end && !program.lifeCycle.isEnding() && program.form.browser.mbInitialized;
-    };
-    while (goesOn())
-        pump.waitForEvents(askAgainAfter);
-    if (!program.lifeCycle.isEnding() && program.form.browser.mbInitialized)
-        program.status.UpDateStatus(u"Stopped (FINISHED)"_s);
-}
-
 void harvest(Program &program, EventPump &pump, const Arguments &arguments)
 {
     std::unique_ptr<UntilLoaded> untilLoaded;

@@ -245,11 +245,14 @@ TEST_F(AnyOrder, AnItemStaysWhenItsSetIsChosenBehindIt)
     EXPECT_EQ(form().criteria.mustNotContain.items.items(), QStringList{u"Two"_s});
 }
 
-TEST_F(AnyOrder, SelectWithNothingSelectedGoesBackToAllOrSelectsTheFirst)
+TEST_F(AnyOrder, SelectNeverStandsWithNothingSelected)
 {
-    start({u"lstANMCAllAny"_s, u"Select"_s}, {u"chkSaveSummary"_s, u"1"_s});
-    EXPECT_EQ(form().criteria.mustContain.demand.text(), u"All"_s);
-    start({u"lstANMCAllAny"_s, u"Select"_s}, {u"lstANMC"_s, u"tea"_s});
+    start({u"lstANMCAllAny"_s, u"Select"_s}, {u"cboANMCMNCMask"_s, u"Two"_s});
     EXPECT_EQ(form().criteria.mustContain.demand.text(), u"Select"_s);
     EXPECT_TRUE(form().criteria.mustContain.items.isSelected(0));
+    for (const auto *table : {"MC", "MNC"})
+        EXPECT_TRUE(database().GetRecordset("DELETE * FROM "_L1 + QLatin1StringView(table)).isEmpty());
+    start({u"lstANMCAllAny"_s, u"Select"_s}, {u"chkSaveSummary"_s, u"1"_s});
+    EXPECT_EQ(form().criteria.mustContain.items.listCount(), 0);
+    EXPECT_EQ(form().criteria.mustContain.demand.text(), u"All"_s);
 }
