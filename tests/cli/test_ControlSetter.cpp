@@ -251,7 +251,7 @@ TEST_F(AnyOrder, SelectNeverStandsWithNothingSelected)
     EXPECT_EQ(form().criteria.mustContain.demand.text(), u"Select"_s);
     EXPECT_TRUE(form().criteria.mustContain.items.isSelected(0));
     for (const auto *table : {"MC", "MNC"})
-        EXPECT_TRUE(database().GetRecordset("DELETE * FROM "_L1 + QLatin1StringView(table)).isEmpty());
+        (void)database().GetRecordset("DELETE * FROM "_L1 + QLatin1StringView(table));
     start({u"lstANMCAllAny"_s, u"Select"_s}, {u"chkSaveSummary"_s, u"1"_s});
     EXPECT_EQ(form().criteria.mustContain.items.listCount(), 0);
     EXPECT_EQ(form().criteria.mustContain.demand.text(), u"All"_s);
