@@ -14,6 +14,14 @@ Runs::Runs(const Context &context, RunFlags &flags, BrowserPanel &browser, Butto
 {
 }
 
+struct Runs::Row
+{
+    bool &running;
+    bool &cancel;
+    bool &stoppedOnPass;
+    Button &start;
+};
+
 Runs::Row Runs::row(Kind kind) const
 {
     if (kind == Kind::Auto)

@@ -62,13 +62,7 @@ class Runs : public QObject
     void finalized(const QString &status);
 
   private:
-    struct Row
-    {
-        bool &running;
-        bool &cancel;
-        bool &stoppedOnPass;
-        Button &start;
-    };
+    struct Row;
     [[nodiscard]] Row row(Kind kind) const;
 
     Context mContext;

@@ -19,7 +19,7 @@ constexpr int standardHeight = 440;
 
 BrowserConnection::BrowserConnection(const Context &context, BrowserPanel &panel, const Limits &limits,
                                      const OptionBoxes &options, Runs &runs, BrowserHolder &browser,
-                                     const Outside &outside)
+                                     const BrowserPorts &outside)
     : mContext(context), mPanel(panel), mLimits(limits), mOptions(options), mRuns(runs), mBrowser(browser),
       mOut(outside)
 {

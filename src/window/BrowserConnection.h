@@ -8,21 +8,23 @@
 #include "driver/BrowserReviver.h"
 #include "driver/Runs.h"
 
+/// The ways out that a connection takes.
+struct BrowserPorts
+{
+    EventPump &pump;
+    Desktop &desktop;
+    ClipboardText &clipboard;
+    WindowPlace &place;
+    BrowserFactory &browsers;
+};
+
 class BrowserConnection : public QObject, public BrowserReviver
 {
     Q_OBJECT
 
   public:
-    struct Outside
-    {
-        EventPump &pump;
-        Desktop &desktop;
-        ClipboardText &clipboard;
-        WindowPlace &place;
-        BrowserFactory &browsers;
-    };
     BrowserConnection(const Context &context, BrowserPanel &panel, const Limits &limits, const OptionBoxes &options,
-                      Runs &runs, BrowserHolder &browser, const Outside &outside);
+                      Runs &runs, BrowserHolder &browser, const BrowserPorts &outside);
 
     /// Connects the browser that cboANWBSelect names, starting it where none runs.
     void InitializeIE();
@@ -53,7 +55,7 @@ class BrowserConnection : public QObject, public BrowserReviver
     const OptionBoxes &mOptions;
     Runs &mRuns;
     BrowserHolder &mBrowser;
-    Outside mOut;
+    BrowserPorts mOut;
     int mAttempt = 0; ///< a later attempt, made from within the wait of this one, replaces it
     bool mDied = false;
 };

@@ -7,23 +7,23 @@
 using namespace Qt::StringLiterals;
 
 Program::Program(const Ports &ports)
-    : log(ports.dialogs, ports.desktop, ports.programFolder), tips(form.options.chkSMV(0)),
-      status(form.frame.picStatus, tips), popUps(form.browser, status, ports.menus), timer(ports.pump),
-      states(log, form), context{log, status, states, ports.dialogs, ports.settings, tips},
+    : log(ports.system.dialogs, ports.system.desktop, ports.programFolder), tips(form.options.chkSMV(0)),
+      status(form.frame.picStatus, tips), popUps(form.browser, status, ports.window.menus), timer(ports.system.pump),
+      states(log, form), context{log, status, states, ports.system.dialogs, ports.system.settings, tips},
       runs(context, form.runs, form.browser, form.autoRun.cmdANStart, form.manual.cmdMNStart, timer),
       connection(context, form.browser, form.limits, form.options, runs, browser,
-                 {ports.pump, ports.desktop, ports.clipboard, ports.place, ports.browsers}),
+                 {ports.system.pump, ports.system.desktop, ports.system.clipboard, ports.window.place, ports.browsers}),
       navigation(context, form.browser, browser),
-      visit(context, navigation, browser, timer, ports.pump, runs, connection), records(log, database, browser),
+      visit(context, navigation, browser, timer, ports.system.pump, runs, connection), records(log, database, browser),
       siteEditing(log, form.siteEditor, form.runs, database, records), defaultSites(log, database),
       links(log, form.options, form.blocking.urls, browser, records),
       savedUrls(context, form.saved, form.options, database, browser, records, navigation),
       criteria(context, form.criteria, database), blocking(context, form.blocking, database, browser),
-      longWork(ports.pump, status), deletedRows(log, database, longWork), pageData(log, form.outputs, form.limits),
-      pageFiles(log, form.outputs, form.places, pageData),
+      longWork(ports.system.pump, status), deletedRows(log, database, longWork),
+      pageData(log, form.outputs, form.limits), pageFiles(log, form.outputs, form.places, pageData),
       findings(log, form.blocking.email, form.areaCodes, form.options),
       writers(log, form.outputs, form.options, database, savedUrls, pageData, findings),
-      keeping(context, form.options, database, writers, pageFiles, runs, ports.pump),
+      keeping(context, form.options, database, writers, pageFiles, runs, ports.system.pump),
       pageTests(log, form.criteria, form.blocking),
       screening(context, form.outputs, form.browser.picANEnd, form.limits, pageTests, keeping, runs),
       errorPages(context, form.limits, form.autoRun, visit),
@@ -33,13 +33,13 @@ Program::Program(const Ports &ports)
       options(context, form, ports.programFolder), optionReports(context, form), toolTips(context, form),
       areaCodes(log, form.areaCodes), databaseFile(context, form.places, form.import.cboSFITableExisting, database),
       loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
-      dataSide(context, form, database, navigation, longWork, ports.clipboard, ports.menus),
+      dataSide(context, form, database, navigation, longWork, ports.system.clipboard, ports.window.menus),
       lifeCycle(context, form, timer, runs, browser, connection),
-      startUp(context, form, options, loader, connection, ports.place, lifeCycle),
-      placeCommands(context, form.places, form.runs, database, loader, ports.desktop, ports.side),
-      windowCommands(context, form.menus, ports.place, ports.side), filesSites(context, form),
+      startUp(context, form, options, loader, connection, ports.window.place, lifeCycle),
+      placeCommands(context, form.places, form.runs, database, loader, ports.system.desktop, ports.window.side),
+      windowCommands(context, form.menus, ports.window.place, ports.window.side), filesSites(context, form),
       manualColours(form.lists, form.collect, form.series, form.blocking, form.menus.mnuPopUpMNStatus),
-      runEvents(context, form, timer, ports.desktop, autoRun, connection, lifeCycle),
+      runEvents(context, form, timer, ports.system.desktop, autoRun, connection, lifeCycle),
       savedPanel(context, form, savedUrls, autoRun),
       passUrlsMenu(context, form, savedUrls, deletedRows, database, popUps),
       listMenu(context, form.menus.mnuPopUpANMCMNC, popUps), criteriaPanel(context, form, criteria, listMenu),
@@ -48,9 +48,9 @@ Program::Program(const Ports &ports)
       siteMenu(context, form, records, navigation, popUps),
       sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form),
       siteCount(context, form.frame, form.siteEditor, form.runs, browser, records),
-      manual(context, form, ports.pump, ports.clipboard, database, browser, links),
-      transfers([&pump = ports.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }), inet(transfers, log),
-      downloads(context, form.places, form.limits, form.options, browser, transfers, inet),
+      manual(context, form, ports.system.pump, ports.system.clipboard, database, browser, links),
+      transfers([&pump = ports.system.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }),
+      inet(transfers, log), downloads(context, form.places, form.limits, form.options, browser, transfers, inet),
       manualItems(context, form.manual, manual.desk, downloads, navigation),
       manualWalk(form.manual, form.series, form.options, form.collect, manual.desk, manual.series, manual.tables),
       autoNavigate(form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate"_L1), form.manual, form.limits, runs,
@@ -61,18 +61,23 @@ Program::Program(const Ports &ports)
       autoCollect(context, collectChoice, pageCollecting, manual.feed, savedUrls, links, manual.desk),
       collectCommands(context, form, collectChoice, manual.series, links)
 {
+    connectAll(ports);
+}
+
+void Program::connectAll(const Ports &ports)
+{
     const CheckBox &errorMessages = form.options.chkSMV(SMV::ErrorMessages);
-    log.ToggleErrMsg(ports.settings.GetSetting(Sections::Main, Keys::ErrorMessages, u"0"_s) == "1"_L1);
+    log.ToggleErrMsg(ports.system.settings.GetSetting(Sections::Main, Keys::ErrorMessages, u"0"_s) == "1"_L1);
     QObject::connect(&errorMessages, &CheckBox::Click, &log, [&] { log.ToggleErrMsg(errorMessages.value() == 1); });
     areaCodes.LoadStates();
     connectDatabase();
     connectSites();
     connectLife(ports);
     QObject::connect(&statusMenu, &StatusMenu::resetWanted, &form, [this] { autoRun.ResetProcessAN(); });
-    connectManual(ports.desktop, ports.side);
+    connectManual(ports.system.desktop, ports.window.side);
     connectManualRun();
     connectCollecting();
-    connectData(ports.side);
+    connectData(ports.window.side);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -122,10 +127,11 @@ void Program::connectLife(const Ports &ports)
     QObject::connect(&filesSites, &FilesSitesEvents::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
     QObject::connect(&placeCommands, &PlaceCommands::unloadRequested, &lifeCycle, &LifeCycle::end);
     QObject::connect(&windowCommands, &WindowCommands::endWanted, &lifeCycle, &LifeCycle::Terminate);
-    QObject::connect(&lifeCycle, &LifeCycle::saving, &form, [this, &settings = ports.settings, &place = ports.place] {
-        options.saveAtExit();
-        SaveFF(settings, mainWindowName, place.place());
-    });
+    QObject::connect(&lifeCycle, &LifeCycle::saving, &form,
+                     [this, &settings = ports.system.settings, &place = ports.window.place] {
+                         options.saveAtExit();
+                         SaveFF(settings, mainWindowName, place.place());
+                     });
     QObject::connect(&lifeCycle, &LifeCycle::releasing, &form, [this] {
         browser.release();
         database.reset();
@@ -172,6 +178,11 @@ void Program::connectCollecting()
     QObject::connect(&manual.series, &AutoIncr::baseSwitchedOff, &collectChoice,
                      [this] { collectChoice.SetAutoCollectState(CollectState::Kind::EmailPhone, true); });
     QObject::connect(&collectChoice, &CollectChoice::coloursAsked, &manual.series, &AutoIncr::coloursAsked);
+    QObject::connect(&manual.series, &AutoIncr::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
+    QObject::connect(&filesSites, &FilesSitesEvents::linksToggled, &collectChoice, &CollectChoice::SetAutoCollectLinks);
+    QObject::connect(&filesSites, &FilesSitesEvents::pagesToggled, &collectChoice,
+                     &CollectChoice::SetAutoCollectPgUrlsMN);
+    QObject::connect(&statusMenu, &StatusMenu::autoSaveDecided, &collectChoice, &CollectChoice::DisableANAutoC);
 }
 
 void Program::connectData(SideWindows &side)

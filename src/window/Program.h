@@ -39,17 +39,27 @@
 
 struct Program
 {
-    /// The ways out, which live as long as the Program.
-    struct Ports
+    /// Time, questions to the user, the desktop, options.
+    struct SystemPorts
     {
         EventPump &pump;
         UserDialogs &dialogs;
         Desktop &desktop;
         ClipboardText &clipboard;
         SettingsStore &settings;
+    };
+    /// What can be seen: the main window, menus, side windows.
+    struct WindowPorts
+    {
         WindowPlace &place;
         PopUpMenus &menus;
         SideWindows &side;
+    };
+    /// The ways out, which live as long as the Program.
+    struct Ports
+    {
+        SystemPorts system;
+        WindowPorts window;
         BrowserFactory &browsers;
         QString programFolder;
     };
@@ -129,6 +139,7 @@ struct Program
     CollectCommands collectCommands;
 
   private:
+    void connectAll(const Ports &ports);
     void connectDatabase();
     void connectSites();
     void loadSites();
