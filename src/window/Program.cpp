@@ -72,7 +72,7 @@ Program::Program(const Ports &ports)
     connectManual(ports.desktop, ports.side);
     connectManualRun();
     connectCollecting();
-    connectData(ports.side);
+    connectData(ports.desktop, ports.side);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -174,11 +174,15 @@ void Program::connectCollecting()
     QObject::connect(&collectChoice, &CollectChoice::coloursAsked, &manual.series, &AutoIncr::coloursAsked);
 }
 
-void Program::connectData(SideWindows &side)
+void Program::connectData(Desktop &desktop, SideWindows &side)
 {
     const auto magnify = [&side](const QString &text) { side.magnify(text); };
     QObject::connect(&dataSide.commands, &DataCommands::magnifyWanted, &form, magnify);
     QObject::connect(&dataSide.window, &DataWindow::magnifyWanted, &form, magnify);
+    QObject::connect(&dataSide.commands, &DataCommands::editWanted, &form, [this, &desktop](const QString &text) {
+        WriteEditFile(text, form.places.txtSFEditor.text(), desktop);
+    });
+    QObject::connect(&manual.edit, &ManualEdit::windowWanted, &dataSide.window, &DataWindow::showItems);
     QObject::connect(&loader, &DatabaseLoader::addressesWanted, &dataSide.view, &DataView::LoadTableSelectData);
     QObject::connect(&dataSide.import, &DataImport::reloadWanted, &form, [this] { loader.LoadDBData(false); });
 }
