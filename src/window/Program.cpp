@@ -77,7 +77,7 @@ void Program::connectAll(const Ports &ports)
     connectManual(ports.system.desktop, ports.window.side);
     connectManualRun();
     connectCollecting();
-    connectData(ports.window.side);
+    connectData(ports.system.desktop, ports.window.side);
     QObject::connect(&log, &ErrorLog::endRequested, &lifeCycle, &LifeCycle::endWithoutSaving);
     QObject::connect(&log, &ErrorLog::failed, &form, [this] {
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
@@ -185,11 +185,15 @@ void Program::connectCollecting()
     QObject::connect(&statusMenu, &StatusMenu::autoSaveDecided, &collectChoice, &CollectChoice::DisableANAutoC);
 }
 
-void Program::connectData(SideWindows &side)
+void Program::connectData(Desktop &desktop, SideWindows &side)
 {
     const auto magnify = [&side](const QString &text) { side.magnify(text); };
     QObject::connect(&dataSide.commands, &DataCommands::magnifyWanted, &form, magnify);
     QObject::connect(&dataSide.window, &DataWindow::magnifyWanted, &form, magnify);
+    QObject::connect(&dataSide.commands, &DataCommands::editWanted, &form, [this, &desktop](const QString &text) {
+        WriteEditFile(text, form.places.txtSFEditor.text(), desktop);
+    });
+    QObject::connect(&manual.edit, &ManualEdit::windowWanted, &dataSide.window, &DataWindow::showItems);
     QObject::connect(&loader, &DatabaseLoader::addressesWanted, &dataSide.view, &DataView::LoadTableSelectData);
     QObject::connect(&dataSide.import, &DataImport::reloadWanted, &form, [this] { loader.LoadDBData(false); });
 }

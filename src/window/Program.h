@@ -147,5 +147,5 @@ struct Program
     void connectManual(Desktop &desktop, SideWindows &side);
     void connectManualRun();
     void connectCollecting();
-    void connectData(SideWindows &side);
+    void connectData(Desktop &desktop, SideWindows &side);
 };

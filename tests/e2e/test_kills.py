@@ -52,13 +52,6 @@ class Kills(trawlex.Case):
         trawlex.wait_for(lambda: len(self.visited(run)) >= pages, 60, f"{pages} pages visited")
         return path, run
 
-    def test_killing_the_browser_ends_the_run_as_the_user_would(self):
-        path, run = self.start_and_visit("iexplore", 5)
-        os.kill(browser_process(self.folder), signal.SIGKILL)
-        self.assertEqual(run.wait(timeout=20), 1)
-        self.assertIn("Stopped (USER)", run.status_lines())
-        self.assertGreaterEqual(trawlex.count(path, "SiteSummary"), 3)
-
     def run_goes_on_without_the_page_process(self, browser):
         path, run = self.start_and_visit(browser, 5)
         pids = page_processes(browser_process(self.folder) if browser == "iexplore" else run.pid)

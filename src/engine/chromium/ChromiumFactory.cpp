@@ -123,8 +123,11 @@ bool ChromiumFactory::sandboxOff() const
 // It is asked to end, and what it has to write it writes; one that does not is ended.
 void ChromiumFactory::closeBrowser()
 {
-    if (!isStartedRunning())
+    // One that has been started this very moment does not carry its command line yet: it finds its line gone.
+    if (!isStartedRunning()) {
+        mPipe.reset();
         return;
+    }
     const QDeadlineTimer closing(closeLimit);
     if (const auto line = connection())
         line->send({}, "Browser.close"_L1);
