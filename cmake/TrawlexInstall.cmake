@@ -2,14 +2,11 @@
 include(GNUInstallDirs)
 
 install(TARGETS trawlex trawlex-harvest trawlex-mdb-reader trawlex-browser-holder RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-if(TARGET trawlex-browser-holder)
-  install(TARGETS trawlex-browser-holder RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-endif()
 install(FILES packaging/desktop/trawlex.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/desktop/trawlex.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES src/ui/look/icons/trawlex.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/man/trawlex.1 packaging/man/trawlex-harvest.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(DIRECTORY docs/manual docs/images DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/trawlex)
+install(DIRECTORY docs/manual docs/images DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/trawlex PATTERN 200 EXCLUDE)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/trawlex RENAME copyright)
 
 set(CPACK_GENERATOR DEB)

@@ -12,7 +12,8 @@ if(TRAWLEX_SANITIZE OR TRAWLEX_FUZZ)
   target_compile_definitions(trawlex_options INTERFACE QT_FORCE_ASSERTS _GLIBCXX_ASSERTIONS)
 endif()
 if(TRAWLEX_SANITIZE)
-  target_compile_options(trawlex_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined -g1)
+  target_compile_options(trawlex_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined -g1
+    -Wno-maybe-uninitialized) # g++ sees them in instrumented code where there are none
   target_link_options(trawlex_options INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -4,7 +4,7 @@
 #include <QWindow>
 
 namespace {
-constexpr int thickness = 5;
+constexpr int thickness = 4; // beside it a scroll bar can still be taken
 
 struct EdgeRow
 {
