@@ -1,6 +1,6 @@
-// A command that may take long: it says in the status bar how far it is, lets events in now and then, and ends early when
-// the user wants it to. One is under way at a time; whoever works in it changes nothing that others see until it has
-// got through. Knows no command.
+// A command that may take long: it says in the status bar how far it is, lets events in now and then, and ends early
+// when the user wants it to. One is under way at a time; whoever works in it changes nothing that others see until it
+// has got through. Knows no command.
 #pragma once
 
 #include "app/Ports.h"

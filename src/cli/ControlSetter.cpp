@@ -18,8 +18,8 @@ enum class Turn {
 };
 
 constexpr QLatin1StringView leaders[] = {
-    "cboANList"_L1, "cboANMCMNCMask"_L1, "cboMNList"_L1,     "cboSD(1)"_L1,
-    "cboDBTables"_L1, "cboSFITableIn"_L1, "cboSFITableExisting"_L1, "cboSBSelectState"_L1,
+    "cboANList"_L1,   "cboANMCMNCMask"_L1, "cboMNList"_L1,           "cboSD(1)"_L1,
+    "cboDBTables"_L1, "cboSFITableIn"_L1,  "cboSFITableExisting"_L1, "cboSBSelectState"_L1,
 };
 constexpr auto seriesNumber = "incMNAutoUrl"_L1;
 
@@ -57,9 +57,8 @@ QList<Arguments::Setting> inOrderOfSetting(const frmSearch &form, QList<Argument
             refuse(setting.control, u"there is no such control"_s);
         places.insert(setting.control, {turnOf(setting.control), controls.indexOf(control)});
     }
-    std::stable_sort(settings.begin(), settings.end(), [&](const auto &one, const auto &other) {
-        return places[one.control] < places[other.control];
-    });
+    std::stable_sort(settings.begin(), settings.end(),
+                     [&](const auto &one, const auto &other) { return places[one.control] < places[other.control]; });
     return settings;
 }
 

@@ -34,8 +34,9 @@ void DataWindow::connectMenu(PopUpMenus &menus)
     connect(&mWindow.fxgTrawlex, &Control::mousePressed, this, popUp);
     connect(&mWindow.lstMN, &Control::mousePressed, this, popUp);
     const auto onClick = [this](QLatin1StringView item, QLatin1StringView location, auto action) {
-        connect(&mWindow.mnuFxgPopUpMenu.item(item), &MenuItem::Click, this,
-                [this, location, action] { guarded(mContext.log, {window, location}, action); });
+        connect(&mWindow.mnuFxgPopUpMenu.item(item), &MenuItem::Click, this, [this, location, action] {
+            guarded(mContext.log, {window, location}, action);
+        });
     };
     onClick("mnuFxgNavigateTo"_L1, "Sub mnuFxgNavigateTo_Click"_L1, [this] {
         mNavigation.OpenSite(mWindow.showsList() ? mWindow.lstMN.list(mWindow.lstMN.listIndex())
@@ -68,11 +69,10 @@ void DataWindow::ReScale()
 
 void DataWindow::SetColumnSizes()
 {
-    const ColumnWidths::Width widths[] = {{"Idx Index"_L1, 700},     {"Type"_L1, 500},
-                                          {"SSIndex"_L1, 830},       {"Date FullPage"_L1, 1100},
-                                          {"Number"_L1, 1200},       {"MaskName"_L1, 1300},
-                                          {"Note Title"_L1, 4000},   {"Address"_L1, 4400},
-                                          {"Url"_L1, mWindow.width() - besidesUrl}};
+    const ColumnWidths::Width widths[] = {
+        {"Idx Index"_L1, 700},      {"Type"_L1, 500},     {"SSIndex"_L1, 830},
+        {"Date FullPage"_L1, 1100}, {"Number"_L1, 1200},  {"MaskName"_L1, 1300},
+        {"Note Title"_L1, 4000},    {"Address"_L1, 4400}, {"Url"_L1, mWindow.width() - besidesUrl}};
     ColumnWidths::set(mWindow.fxgTrawlex, widths);
 }
 

@@ -36,7 +36,8 @@ void connectWindow(Program &program, MainWindow &window)
         QApplication::closeAllWindows();
         QApplication::quit();
     });
-    QObject::connect(new QShortcut(Qt::Key_Escape, &window), &QShortcut::activated, &program.longWork, &LongWork::cancel);
+    QObject::connect(new QShortcut(Qt::Key_Escape, &window), &QShortcut::activated, &program.longWork,
+                     &LongWork::cancel);
     QObject::connect(&program.runs, &Runs::progress, &window,
                      [&window](int number, int count) { window.setProgress(number - 1, count); });
     QObject::connect(&program.runs, &Runs::finalized, &window, [&window] { window.setProgress(0, 0); });

@@ -1,5 +1,5 @@
-// The lists of the Manual tab in the database: a table for each, with one address a row; the first row also remembers the
-// position in the list. Knows the store.
+// The lists of the Manual tab in the database: a table for each, with one address a row; the first row also remembers
+// the position in the list. Knows the store.
 #pragma once
 
 #include "controls/ListControls.h"

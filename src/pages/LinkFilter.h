@@ -7,8 +7,8 @@
 struct LinkFilter
 {
     enum Mode { All = 0, Containing = 1, NotContaining = 2 };
-    int mode = All;    ///< any other number wants no link
-    QString text;      ///< "" wants every link, whatever the mode; case does not count
+    int mode = All;      ///< any other number wants no link
+    QString text;        ///< "" wants every link, whatever the mode; case does not count
     bool cnvHex = false; ///< percent escapes are resolved first
 
     /// The wanted links in order; the empty list when there is none.

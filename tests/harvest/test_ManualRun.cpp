@@ -457,7 +457,8 @@ TEST_F(Fetching, XInTheMiddleOfADownloadEndsItAndLeavesNoFile)
 TEST_F(Fetching, ADownloadSeriesTakesEveryNumber)
 {
     for (int number = 1; number <= 9; ++number)
-        server.route("/a.com/p-" + QByteArray::number(number) + ".jpg", okReply("picture "_ba + QByteArray::number(number)));
+        server.route("/a.com/p-" + QByteArray::number(number) + ".jpg",
+                     okReply("picture "_ba + QByteArray::number(number)));
     // An address of numbers with a port is a link by the name in its path alone; five numbers stand in front.
     setSeries(server.address(u"/a.com/p-1.jpg"_s), 6);
     clickGo();

@@ -47,7 +47,8 @@ TEST_F(ScreenReaders, HearTheNameOfACombosAndItsValueApart)
 TEST_F(ScreenReaders, HearNoMarkup)
 {
     form.outputs.txtANStartTag.setToolTipText(u"<main class=\"wide\">"_s);
-    form.autoRun.incANTiming.setToolTipText(u"Seconds that each page is given to arrive, however long the whole of it takes"_s);
+    form.autoRun.incANTiming.setToolTipText(
+        u"Seconds that each page is given to arrive, however long the whole of it takes"_s);
     form.outputs.lblSummarySaved.setBackColor(Colours::Green);
     settle();
     EXPECT_EQ(of("txtANStartTag").text(QAccessible::Description), u"<main class=\"wide\">"_s);

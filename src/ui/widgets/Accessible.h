@@ -1,5 +1,5 @@
-// Tells screen readers what the program's own widgets are, what they hold, and that they can be pressed. Their names are
-// those that the binding gives them.
+// Tells screen readers what the program's own widgets are, what they hold, and that they can be pressed. Their names
+// are those that the binding gives them.
 #pragma once
 
 namespace Accessible {

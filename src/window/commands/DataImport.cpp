@@ -41,8 +41,9 @@ DataImport::DataImport(const Context &context, ImportPage &page, DatabaseHolder 
 {
     const auto onClick = [this](auto &control, QLatin1StringView location, auto action) {
         using ControlType = std::remove_reference_t<decltype(control)>;
-        connect(&control, &ControlType::Click, this,
-                [this, location, action] { guarded(mContext.log, {form, location}, [&] { (this->*action)(); }); });
+        connect(&control, &ControlType::Click, this, [this, location, action] {
+            guarded(mContext.log, {form, location}, [&] { (this->*action)(); });
+        });
     };
     onClick(page.cmdSFISelDatabase, "Sub cmdSFISelDatabase_Click"_L1, &DataImport::cmdSFISelDatabase_Click);
     onClick(page.cmdSFIImport, "Sub cmdSFIImport_Click"_L1, &DataImport::cmdSFIImport_Click);
@@ -99,9 +100,8 @@ void DataImport::cboSFITableIn_Click()
 {
     const QString table = chosen(mPage.cboSFITableIn);
     if (!table.isEmpty())
-        fill(mPage.cboSFIFieldIn,
-             mDatabase->GetExternalTablesFields(mPage.lblSFIImportDatabase.caption(),
-                                                cAdoMdb::ExternalList::FieldsOfTable, table));
+        fill(mPage.cboSFIFieldIn, mDatabase->GetExternalTablesFields(mPage.lblSFIImportDatabase.caption(),
+                                                                     cAdoMdb::ExternalList::FieldsOfTable, table));
     mContext.states.SetStateOfControls();
 }
 

@@ -1,5 +1,5 @@
-// The Import page: which file, what of it, and the import itself. Each box refuses to stay on while something is missing
-// that it needs, and what cannot go together switches each other off.
+// The Import page: which file, what of it, and the import itself. Each box refuses to stay on while something is
+// missing that it needs, and what cannot go together switches each other off.
 #pragma once
 
 #include "app/Context.h"

@@ -17,8 +17,8 @@ DataStatusMenu::DataStatusMenu(const Context &context, const FilePlaces &places,
 
 void DataStatusMenu::reload()
 {
-    const QString path = mContext.dialogs.chooseFile(mPlaces.txtSFDBDir.text(), u"Dat Files (*.dat)|*.dat|"_s,
-                                                     u"Select File"_s);
+    const QString path =
+        mContext.dialogs.chooseFile(mPlaces.txtSFDBDir.text(), u"Dat Files (*.dat)|*.dat|"_s, u"Select File"_s);
     if (!path.isEmpty())
         mView.showSaved(path);
 }
