@@ -123,19 +123,19 @@ struct TextForm
 {
     DataFormat format;
     bool byteOrderMark;
-    QLatin1StringView opening;
     bool hasHeads;
+    QLatin1StringView opening;
     void (*row)(QString &text, const DataColumns &columns, const DataRow &values);
     QLatin1StringView closing;
 };
 
 constexpr TextForm forms[] = {
-    {DataFormat::Comma, false, {}, false, commaRow, lineEnd},
-    {DataFormat::Tab, false, {}, false, tabRow, {}},
-    {DataFormat::HtmlCells, true, tableStart, false, bareCellsRow, "</TABLE></HTML>\r\n"_L1},
-    {DataFormat::HtmlLinks, true, "<HTML><TABLE Border=1><TR><TD>\r\n"_L1, false, linkedRow, "</TABLE></HTML>\r\n"_L1},
-    {DataFormat::Csv, true, {}, true, csvRow, {}},
-    {DataFormat::JsonLines, false, {}, false, jsonRow, {}},
+    {DataFormat::Comma, false, false, {}, commaRow, lineEnd},
+    {DataFormat::Tab, false, false, {}, tabRow, {}},
+    {DataFormat::HtmlCells, true, false, tableStart, bareCellsRow, "</TABLE></HTML>\r\n"_L1},
+    {DataFormat::HtmlLinks, true, false, "<HTML><TABLE Border=1><TR><TD>\r\n"_L1, linkedRow, "</TABLE></HTML>\r\n"_L1},
+    {DataFormat::Csv, true, true, {}, csvRow, {}},
+    {DataFormat::JsonLines, false, false, {}, jsonRow, {}},
 };
 
 const TextForm &formOf(DataFormat format)

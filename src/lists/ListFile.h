@@ -5,7 +5,7 @@
 
 namespace ListFile {
 /// Longer files are no lists of a person's; reading one would take the memory of the whole machine.
-inline constexpr qint64 longest = 256 * 1024 * 1024;
+inline constexpr qint64 longest = qint64(256) * 1024 * 1024;
 
 struct Content
 {

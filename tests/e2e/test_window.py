@@ -151,7 +151,7 @@ class WindowCase(trawlex.Case):
 
 class FreeStandingBrowser(WindowCase):
     def test_a_harvest_stopped_with_x_and_resumed_with_go_stores_every_row(self):
-        self.start_with()
+        self.start_with(npTimimg="003")  # the slow pages of the demo answer after two seconds, and have arrived then
         for box in SAVE_BOXES:
             self.click(box)
         self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)

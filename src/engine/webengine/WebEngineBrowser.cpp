@@ -94,7 +94,7 @@ void WebEngineBrowser::makePage()
     mKernel->page->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, !mPlain);
     mKernel->page->settings()->setAttribute(QWebEngineSettings::AutoLoadImages, !mPlain);
     connectPage();
-    page()->runJavaScript(QStringLiteral("0")); // brings the page to life, else it cannot be made visible
+    mKernel->page->runJavaScript(QStringLiteral("0")); // brings the page to life, else it cannot be made visible
     keepVisible();
 }
 
@@ -138,8 +138,8 @@ QWebEnginePage *WebEngineBrowser::page() const
 // A page in a hidden window works on like any other: its timers keep their pace and its frames are drawn.
 void WebEngineBrowser::keepVisible()
 {
-    if (!mPlain && !page()->isVisible())
-        page()->setVisible(true);
+    if (!mPlain && !mKernel->page->isVisible())
+        mKernel->page->setVisible(true);
 }
 
 // --- loading -------------------------------------------------------------------------------------------------------

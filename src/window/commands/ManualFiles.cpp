@@ -29,7 +29,7 @@ bool ManualFiles::loadFile(const QString &path)
 {
     bool read = false;
     mWork.count(u"Please Wait"_s, [&] {
-        const QString message = mFeed.loadFile(mDesk.list(), path);
+        QString message = mFeed.loadFile(mDesk.list(), path);
         read = QFile::exists(path);
         return message;
     });
