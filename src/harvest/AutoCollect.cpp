@@ -63,7 +63,7 @@ QString AutoCollect::collectPage()
     if (kind == Pages::Saved && saved >= 0)
         mSavedUrls.AddSavedUrl(false, mDesk.listName(saved));
     const Content content = CollectState::contentOf(state);
-    const QString text = collectContent(links);
+    QString text = collectContent(links);
     if (kind == Pages::Manual)
         mDesk.ShowCountMN(pages, text);
     else if (kind == Pages::Saved && (content == Content::Emails || content == Content::Phones))

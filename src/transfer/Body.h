@@ -11,7 +11,7 @@ class Body
 {
   public:
     /// The most that is kept in memory.
-    static constexpr qint64 LargestText = 64 * 1024 * 1024;
+    static constexpr qint64 LargestText = qint64(64) * 1024 * 1024;
 
     /// For the file `target`, a folder and a name; for memory where that is empty. Nobody but the user may read the
     /// file. Throws RuntimeError when it cannot be made there.
