@@ -8,19 +8,6 @@ class WindowCommandsTest : public ProgramTest
 {
   protected:
     MenuItem &item(QLatin1StringView name) { return *qobject_cast<MenuItem *>(form().control(name)); }
-    /// What collects is turned on and off by others; here its check mark stands for all of it.
-    void collectByMark()
-    {
-        QObject::connect(&program->filesSites, &FilesSitesEvents::linksToggled, &form(),
-                         [this](int list) { flip("mnuMNStatusListCL"_L1, list); });
-        QObject::connect(&program->filesSites, &FilesSitesEvents::pagesToggled, &form(),
-                         [this](int list) { flip("mnuMNStatusListCP"_L1, list); });
-    }
-    void flip(QLatin1StringView array, int list)
-    {
-        MenuItem &mark = form().menus.mnuPopUpMNStatus.item(array, list);
-        mark.setChecked(!mark.isChecked());
-    }
 };
 } // namespace
 
@@ -62,9 +49,8 @@ TEST_F(WindowCommandsTest, BothStatusMenusMakeTheWindowSmallerAndEndTheProgram)
 TEST_F(WindowCommandsTest, SwitchingToFilesAndBackBringsBothCollectingListsBack)
 {
     load();
-    collectByMark();
-    flip("mnuMNStatusListCL"_L1, 2);
-    flip("mnuMNStatusListCP"_L1, 4);
+    item("mnuMNStatusListCL(2)"_L1).click();
+    item("mnuMNStatusListCP(4)"_L1).click();
     form().manual.cboFilesSites.setListIndex(0);
     EXPECT_FALSE(item("mnuMNStatusListCL(2)"_L1).isChecked());
     EXPECT_FALSE(item("mnuMNStatusListCP(4)"_L1).isChecked());
@@ -80,7 +66,6 @@ TEST_F(WindowCommandsTest, SwitchingToFilesAndBackBringsBothCollectingListsBack)
 TEST_F(WindowCommandsTest, WithNothingCollectingNothingComesBack)
 {
     load();
-    collectByMark();
     form().manual.cboFilesSites.setListIndex(0);
     EXPECT_EQ(settings.of("nLinkList"), u"-1"_s);
     form().manual.cboFilesSites.setListIndex(1);
@@ -101,7 +86,7 @@ TEST_F(WindowCommandsTest, AListThatASeriesStandsForIsNotToBeUsedByHand)
 {
     load();
     form().lists.cboMNList.setListIndex(1);
-    flip("mnuMNStatusAutoIncrPos"_L1, 3);
+    item("mnuMNStatusAutoIncrPos(3)"_L1).setChecked(true);
     program->manualColours.SetMNColors();
     EXPECT_EQ(form().lists.lstMN(1).backColor(), Colours::ButtonFace);
     EXPECT_EQ(form().lists.lstMN(2).backColor(), rgb(185, 228, 255));
@@ -109,7 +94,7 @@ TEST_F(WindowCommandsTest, AListThatASeriesStandsForIsNotToBeUsedByHand)
     EXPECT_EQ(form().collect.lblAutoIncrPos.backColor(), Colours::Blue);
     EXPECT_EQ(form().collect.lblAutoIncrPos.foreColor(), Colours::White);
     EXPECT_EQ(form().series.cboMNAutoUrl.foreColor(), Colours::Blue);
-    flip("mnuMNStatusAutoIncrPos"_L1, 3);
+    item("mnuMNStatusAutoIncrPos(3)"_L1).setChecked(false);
     program->manualColours.SetMNColors();
     EXPECT_EQ(form().lists.lstMN(1).backColor(), rgb(158, 255, 159));
     EXPECT_EQ(form().series.cboMNAutoUrl.foreColor(), Colours::WindowText);
@@ -125,7 +110,7 @@ TEST_F(WindowCommandsTest, TheCollectingLabelTellsItsListAndWhatIsBlocked)
     form().blocking.mastrQB = {u"ads.com"_s};
     program->manualColours.SetMNColors();
     EXPECT_EQ(colours(), std::pair(Colours::Yellow, Colours::Black));
-    flip("mnuMNStatusListCL"_L1, 3);
+    item("mnuMNStatusListCL(3)"_L1).click();
     program->manualColours.SetMNColors();
     EXPECT_EQ(label.caption(), u"D"_s);
     EXPECT_EQ(colours(), std::pair(Colours::Black, Colours::White));

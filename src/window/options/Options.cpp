@@ -99,7 +99,7 @@ void Options::GetSettings()
 /// A stored folder, or the program's own, which is then stored, where that does not exist.
 QString Options::directory(QLatin1StringView key, const QString &byDefault)
 {
-    const QString base = baseFolder();
+    QString base = baseFolder();
     QString folder = mContext.settings.GetSetting(Sections::Main, key, byDefault.isEmpty() ? base : byDefault);
     if (folder.isEmpty())
         folder = base;
