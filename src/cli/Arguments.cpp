@@ -40,6 +40,13 @@ void takeSetting(Arguments &arguments, const QString &value)
     arguments.settings.append({value.left(equals), value.mid(equals + 1)});
 }
 
+void takeListFile(Arguments &arguments, const QString &value)
+{
+    if (!QFileInfo(value).isFile())
+        refuse(u"--list-file: no such file: %1"_s.arg(value));
+    arguments.listFile = QFileInfo(value).absoluteFilePath();
+}
+
 void takeRun(Arguments &arguments, Arguments::Run run)
 {
     if (arguments.run && *arguments.run != run)
@@ -66,6 +73,10 @@ const Option options[] = {
     {"--until-loaded"_L1, false, [](Arguments &a, const QString &) { a.untilLoaded = true; }, "              end each wait as soon as the page has loaded"_L1},
     {"--auto"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Auto); }, "                      run the Auto tab"_L1},
     {"--manual"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Manual); }, "                    run the Manual tab"_L1},
+    {"--list-file"_L1, true, takeListFile, "FILE             fill the manual list on show from a text file"_L1},
+    {"--list-db"_L1, false, [](Arguments &a, const QString &) { a.listDb = true; }, "                   fill it with what the database has of it"_L1},
+    {"--list-save"_L1, false, [](Arguments &a, const QString &) { a.listSave = true; }, "                 keep it in the database, before the run"_L1},
+    {"--list-print"_L1, false, [](Arguments &a, const QString &) { a.listPrint = true; }, "                print it, one item a line, after the run or alone"_L1},
     {"--json"_L1, false, [](Arguments &a, const QString &) { a.json = true; }, "                      print the outcome as one JSON object"_L1},
     {"--help"_L1, false, [](Arguments &a, const QString &) { a.help = true; }, "                      print this"_L1},
 };
@@ -96,7 +107,7 @@ Arguments parseArguments(const QStringList &words)
             refuse(u"%1 takes no value"_s.arg(name));
         option->take(arguments, !option->hasValue ? QString() : attached ? words[i].section(u'=', 1) : words[++i]);
     }
-    if (!arguments.run && !arguments.help)
+    if (!arguments.run && !arguments.help && !arguments.hasListWork())
         refuse(u"one of --auto and --manual is wanted (see --help)"_s);
     return arguments;
 }

@@ -23,8 +23,15 @@ struct Arguments
     QList<Setting> settings;
     bool untilLoaded = false;
     std::optional<Run> run;
+    QString listFile;      ///< lines of text that the list on show takes; "" for none
+    bool listDb = false;   ///< the list on show takes what is saved of it
+    bool listSave = false; ///< it is saved before the run
+    bool listPrint = false;
     bool json = false;
     bool help = false;
+
+    /// Something is to be done with a list, so that no run is needed.
+    [[nodiscard]] bool hasListWork() const { return !listFile.isEmpty() || listDb || listSave || listPrint; }
 };
 
 /// What stands behind --help.

@@ -15,7 +15,8 @@ class Outcome : public QObject
 
     [[nodiscard]] bool isFinished() const;
     /// One JSON object: status, links visited, rows added by table, seconds.
-    [[nodiscard]] QByteArray json() const;
+    /// With a list its items too.
+    [[nodiscard]] QByteArray json(const QStringList *list = nullptr) const;
 
   private:
     QString mStatus;

@@ -59,8 +59,25 @@ void harvest(Program &program, EventPump &pump, const Arguments &arguments)
             return;
         waitUntilLoaded(program, pump);
     }
-    if (!program.lifeCycle.isEnding() && program.form.browser.mbInitialized)
+    if (arguments.run && !program.lifeCycle.isEnding() && program.form.browser.mbInitialized)
         program.autoRun.cmdANStart_Click();
+}
+
+/// The list on show is filled and kept as the commands of its menu do it.
+void prepareList(Program &program, const Arguments &arguments)
+{
+    if (!arguments.listFile.isEmpty())
+        program.manual.files.loadFile(arguments.listFile);
+    if (arguments.listDb)
+        program.manual.store.loadFromDatabase();
+    if (arguments.listSave)
+        program.manual.store.saveToDatabase();
+}
+
+void print(const QByteArray &text)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    std::fflush(stdout);
 }
 
 int run(Program &program, EventPump &pump, const Arguments &arguments)
@@ -72,13 +89,14 @@ int run(Program &program, EventPump &pump, const Arguments &arguments)
     if (!program.lifeCycle.Form_Load())
         return OtherEnd;
     applySettings(program, arguments.settings);
+    prepareList(program, arguments);
     harvest(program, pump, arguments);
-    if (arguments.json) {
-        const QByteArray json = outcome.json() + '\n';
-        std::fwrite(json.constData(), 1, static_cast<std::size_t>(json.size()), stdout);
-        std::fflush(stdout);
-    }
-    const bool finished = outcome.isFinished();
+    const QStringList &items = program.form.lists.shown().items();
+    if (arguments.json)
+        print(outcome.json(arguments.listPrint ? &items : nullptr) + '\n');
+    else if (arguments.listPrint && !items.isEmpty())
+        print(items.join(u'\n').toUtf8() + '\n');
+    const bool finished = !arguments.run || outcome.isFinished();
     program.lifeCycle.end();
     return finished ? Finished : OtherEnd;
 }

@@ -21,6 +21,7 @@
 #include "window/WindowPlaces.h"
 
 #include <QApplication>
+#include <QShortcut>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -87,6 +88,8 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     menus.set(&window);
     side.set(&window);
     QObject::connect(&window, &MainWindow::helpRequested, &window, [&side] { side.showHelp(); });
+    const QShortcut escape(Qt::Key_Escape, &window);
+    QObject::connect(&escape, &QShortcut::activated, &program.manual.work, &LongWork::cancel);
     rememberFolding(window, settings);
     browsers.standBeside(&window);
     browsers.keepPlaceIn(&settings);

@@ -103,7 +103,22 @@ TEST(Arguments, TheSameRunTwiceIsNoContradiction)
 TEST(Arguments, HelpNeedsNothingElseAndNamesEveryArgument)
 {
     EXPECT_TRUE(parseArguments({u"--help"_s}).help);
-    for (const auto *name : {"--database-dir", "--browser", "--headless", "--browser-arg", "--open", "--set",
-                             "--until-loaded", "--auto", "--manual", "--json", "--help"})
+    for (const auto *name :
+         {"--database-dir", "--browser", "--headless", "--browser-arg", "--open", "--set", "--until-loaded", "--auto",
+          "--manual", "--list-file", "--list-db", "--list-save", "--list-print", "--json", "--help"})
         EXPECT_TRUE(usage().contains(QLatin1StringView(name))) << name;
+}
+
+TEST(Arguments, AListNeedsNoRunAndItsFileMustBeThere)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"list.txt"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const Arguments arguments =
+        parseArguments({u"--list-file"_s, path, u"--list-db"_s, u"--list-save"_s, u"--list-print"_s});
+    EXPECT_EQ(arguments.listFile, path);
+    EXPECT_TRUE(arguments.listDb && arguments.listSave && arguments.listPrint);
+    EXPECT_FALSE(arguments.run.has_value());
+    EXPECT_THROW(static_cast<void>(parseArguments({u"--list-file"_s, folder.filePath(u"none.txt"_s)})), RuntimeError);
 }
