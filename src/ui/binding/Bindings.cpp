@@ -115,8 +115,10 @@ Bound Bindings::bind(ComboBox &control, DropDown &widget)
             control.dropDown();
         show();
     });
-    if (editable)
+    if (editable) {
         QObject::connect(widget.lineEdit(), &QLineEdit::textEdited, &control, &ComboBox::setText);
+        QObject::connect(widget.lineEdit(), &QLineEdit::editingFinished, &control, &ComboBox::validate);
+    }
     return {show};
 }
 
