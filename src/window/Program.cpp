@@ -125,6 +125,10 @@ void Program::connectLife(const Ports &ports)
     QObject::connect(&startUp, &StartUp::formLoaded, &form, [this] { manualColours.SetMNColors(); });
     QObject::connect(&startUp, &StartUp::settled, &windowCommands, &WindowCommands::tmrKeepOnTop_Timer);
     QObject::connect(&filesSites, &FilesSitesEvents::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
+    QObject::connect(&placeCommands, &PlaceCommands::editorTestWanted, &form,
+                     [this, &desktop = ports.desktop](const QString &text) {
+                         WriteEditFile(text, form.places.txtSFEditor.text(), desktop);
+                     });
     QObject::connect(&placeCommands, &PlaceCommands::unloadRequested, &lifeCycle, &LifeCycle::end);
     QObject::connect(&windowCommands, &WindowCommands::endWanted, &lifeCycle, &LifeCycle::Terminate);
     QObject::connect(&lifeCycle, &LifeCycle::saving, &form,
