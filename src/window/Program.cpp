@@ -126,7 +126,7 @@ void Program::connectLife(const Ports &ports)
     QObject::connect(&startUp, &StartUp::settled, &windowCommands, &WindowCommands::tmrKeepOnTop_Timer);
     QObject::connect(&filesSites, &FilesSitesEvents::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
     QObject::connect(&placeCommands, &PlaceCommands::editorTestWanted, &form,
-                     [this, &desktop = ports.desktop](const QString &text) {
+                     [this, &desktop = ports.system.desktop](const QString &text) {
                          WriteEditFile(text, form.places.txtSFEditor.text(), desktop);
                      });
     QObject::connect(&placeCommands, &PlaceCommands::unloadRequested, &lifeCycle, &LifeCycle::end);

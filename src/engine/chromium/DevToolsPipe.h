@@ -9,7 +9,7 @@
 #include <QObject>
 #include <memory>
 
-class DevToolsPipe : public QObject
+class DevToolsPipe final : public QObject
 {
     Q_OBJECT
 
