@@ -5,13 +5,22 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+/// A message as the line carries it.
+QByteArray framed(const QJsonObject &message)
+{
+    return QJsonDocument(message).toJson(QJsonDocument::Compact) + '\0';
+}
+} // namespace
+
 DevToolsPipe::DevToolsPipe(std::unique_ptr<QLocalSocket> socket) : mSocket(std::move(socket))
 {
     if (!mSocket)
         return;
     connect(mSocket.get(), &QLocalSocket::readyRead, this, &DevToolsPipe::read);
     connect(mSocket.get(), &QLocalSocket::disconnected, this, &DevToolsPipe::ended);
-    send({{u"id"_s, nextId()}, {u"method"_s, u"Browser.getVersion"_s}}); // its answer is the sign of life
+    // Its answer is the sign of life.
+    mSocket->write(framed({{u"id"_s, DevToolsPipe::nextId()}, {u"method"_s, u"Browser.getVersion"_s}}));
 }
 
 DevToolsPipe::~DevToolsPipe()
@@ -23,7 +32,7 @@ DevToolsPipe::~DevToolsPipe()
 void DevToolsPipe::send(const QJsonObject &message)
 {
     if (isOpen())
-        mSocket->write(QJsonDocument(message).toJson(QJsonDocument::Compact) + '\0');
+        mSocket->write(framed(message));
 }
 
 void DevToolsPipe::read()

@@ -9,7 +9,7 @@
 #include <QObject>
 #include <memory>
 
-class DevToolsPipe final : public QObject
+class DevToolsPipe : public QObject
 {
     Q_OBJECT
 
