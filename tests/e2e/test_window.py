@@ -1,161 +1,19 @@
 """The window under a virtual display, driven by real clicks and keys: a harvest stopped with X in the middle and resumed
 with Go, and the end of the program. The browser stands in its own window, as a user has it."""
 import contextlib
-import json
-import os
-import pathlib
 import re
-import subprocess
-import sys
-import time
 import unittest
 
 import trawlex
-
-SAVE_BOXES = ["chkSaveSummary", "chkSavePages", "chkSaveEmail", "chkSavePhone", "chkSaveUrl"]
-RESULT_TITLE = "harbour - Findery"
-OPTIONS = {"udcNotFoundMinSize": "002000", "chkSMAMUrlIfNoData": "0", "chkShutDownPrompt": "0", "npTimimg": "002"}
+import window
 
 
-class Display:
-    """A display of its own with a window manager, ended with the test."""
-
-    def __init__(self, case):
-        read, write = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1000x24", "-nolisten", "tcp"],
-                                       pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        os.close(write)
-        with os.fdopen(read) as number:
-            self.name = ":" + number.readline().strip()
-        case.env.update(DISPLAY=self.name, QT_QPA_PLATFORM="xcb")
-        case.env.pop("WAYLAND_DISPLAY", None)
-        self.env = case.env
-        self.manager = subprocess.Popen(["openbox"], env=case.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        case.addCleanup(self.close)
-
-    def close(self):
-        for process in (self.manager, self.server):
-            process.kill()
-            process.wait()
-
-    def do(self, *words):
-        done = subprocess.run(["xdotool", *map(str, words)], env=self.env, capture_output=True, text=True, timeout=20,
-                              check=False)
-        return done.stdout.split()
-
-    def screenshot(self, path):
-        subprocess.run(["import", "-window", "root", path], env=self.env, timeout=30, check=False)
-
-
-class WindowCase(trawlex.Case):
-    def setUp(self):
-        super().setUp()
-        self.display = Display(self)
-        self.env["TRAWLEX_BROWSER_ARGS"] = f'"--host-resolver-rules=MAP * 127.0.0.1:{self.demo.port}"'
-        self.database = os.path.join(self.folder, "database", "Trawlex-0.mdb")
-        os.mkdir(os.path.dirname(self.database))
-
-    def settings_file(self):
-        return pathlib.Path(self.folder, "config/trawlex/trawlex.ini")
-
-    def choose_options(self, **options):
-        """Puts options into the settings beside those that a first start has written."""
-        text = self.settings_file().read_text(encoding="utf-8")
-        prefix = re.search(r"^(.*SecFrmSearch\\)WorkingPath=", text, re.MULTILINE)[1]
-        kept = [line for line in text.splitlines() if not any(line.startswith(prefix + key + "=") for key in options)]
-        at = next(i for i, line in enumerate(kept) if line.startswith(prefix + "WorkingPath="))
-        kept[at:at] = [f"{prefix}{key}={value}" for key, value in options.items()]
-        self.settings_file().write_text("\n".join(kept) + "\n", encoding="utf-8")
-
-    def start(self):
-        log = open(self.folder + "/window.txt", "a", encoding="utf-8")
-        self.addCleanup(log.close)
-        self.window = subprocess.Popen([trawlex.WINDOW], env=self.env, cwd=self.folder, stdout=log, stderr=log)
-        self.addCleanup(lambda: (self.window.poll() is None and self.window.kill(), self.window.wait()))
-        self.id = trawlex.wait_for(self.find_window, 40, "the main window")
-        found = subprocess.run([trawlex.BIN / "window_positions"], env=self.env, capture_output=True, text=True, check=True)
-        self.positions = json.loads(found.stdout)
-
-    def find_window(self):
-        """The main window is ours, visible, larger than the splash, and not the built-in browser's."""
-        for window in self.display.do("search", "--onlyvisible", "--pid", self.window.pid):
-            geometry = dict(part.split("=") for part in
-                            self.display.do("getwindowgeometry", "--shell", window) if "=" in part)
-            if int(geometry.get("HEIGHT", 0)) > 400 and self.display.do("getwindowname", window) == ["Trawlex"]:
-                return window
-        return None
-
-    def click(self, name, button=1, left=None):
-        """Presses the middle of a widget, or so far from its left edge."""
-        x, y, width, _ = self.positions[name]
-        if left is not None:
-            x += left - width // 2
-        self.display.do("mousemove", "--window", self.id, x, y)
-        self.display.do("click", button)
-
-    def open_in_browser(self, url):
-        browser = trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--class", "hromium"), 20,
-                                   "the browser's window")[-1]
-        self.display.do("windowactivate", "--sync", browser)
-        self.display.do("key", "--window", browser, "ctrl+l")
-        self.display.do("type", "--delay", "5", url)
-        self.display.do("key", "Return")
-
-
-    def wait_for_window(self, name, seconds=20):
-        """The window whose title holds `name`, once it is there."""
-        return trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--name", name), seconds, f"a window '{name}'")[-1]
-
-    def wait_for_result_page(self):
-        """A browser shows its page's title once it has it."""
-        self.wait_for_window(RESULT_TITLE)
-
-    def first_start(self):
-        """Makes settings and database; the end mark ends the program after its question."""
-        self.start()
-        self.click("picANEnd")
-        question = self.wait_for_window("Program will terminate")
-        self.display.do("windowfocus", "--sync", question)
-        self.display.do("key", "alt+y")
-        self.assertEqual(self.window.wait(timeout=20), 0)
-
-    def start_with(self, **options):
-        """A second start with options and a database that knows the demo's search service."""
-        self.first_start()
-        folder = {"SearchKeyTxtSaveLocation Text": os.path.dirname(self.database) + "/"}
-        self.choose_options(**{**OPTIONS, **folder, **options})
-        self.start()
-        trawlex.wait_for(lambda: os.path.exists(self.database), 10, "the database")
-        subprocess.run([sys.executable, trawlex.ROOT / "demo/record.py", self.database], check=True,
-                       stdout=subprocess.DEVNULL)
-
-    def wait_for_summaries(self, wanted, seconds=60):
-        trawlex.wait_for(lambda: trawlex.count(self.database, "SiteSummary") >= wanted, seconds, f"{wanted} summaries")
-
-    def assert_run_stands_still(self):
-        """The rows stop growing: for longer than two pages of a run take, nothing comes."""
-        seen = [None, 0.0]
-
-        def still():
-            count = trawlex.count(self.database, "SiteSummary")
-            if count != seen[0]:
-                seen[:] = [count, time.monotonic()]
-            return time.monotonic() - seen[1] > 5
-
-        trawlex.wait_for(still, 15, "the run stands still")
-
-    def wait_for_visit(self):
-        """The first request for something else than the result page: the run walks."""
-        trawlex.wait_for(lambda: any("findery" not in line for line in self.requests()), 30, "a page of the run")
-
-
-class FreeStandingBrowser(WindowCase):
+class FreeStandingBrowser(window.WindowCase):
     def test_a_harvest_stopped_with_x_and_resumed_with_go_stores_every_row(self):
         self.start_with(npTimimg="003")  # the slow pages of the demo answer after two seconds, and have arrived then
-        for box in SAVE_BOXES:
+        for box in window.SAVE_BOXES:
             self.click(box)
-        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
-        self.wait_for_result_page()
+        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE, window.RESULT_TITLE)
         self.click("cmdANStart")
         self.wait_for_summaries(5)
         self.click("cmdANStart")
@@ -169,13 +27,11 @@ class FreeStandingBrowser(WindowCase):
 
     def test_closing_the_browser_stops_the_run_and_initialize_finds_another(self):
         self.start_with(**{"chkSaveSummary": "1"})
-        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
-        self.wait_for_result_page()
+        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE, window.RESULT_TITLE)
         self.click("cmdANStart")
         self.wait_for_summaries(3)
         browser = self.display.do("search", "--onlyvisible", "--class", "hromium")[-1]
-        self.display.do("windowactivate", "--sync", browser)
-        self.display.do("key", "alt+F4")
+        self.close_by_keys(browser)
         self.assert_run_stands_still()
         self.assertIsNone(self.window.poll())
         self.click("cmdANInitialize")
@@ -183,15 +39,14 @@ class FreeStandingBrowser(WindowCase):
 
     def test_ending_in_the_middle_of_a_wait_ends_the_program(self):
         self.start_with(npTimimg="050", chkSaveSummary="1")
-        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE)
-        self.wait_for_result_page()
+        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE, window.RESULT_TITLE)
         self.click("cmdANStart")
         self.wait_for_visit()
         self.click("picANEnd")
         self.assertEqual(self.window.wait(timeout=20), 0)
 
 
-class Options(WindowCase):
+class Options(window.WindowCase):
     """Every switch of the option pages, clicked; and clicked again after a restart, which finds them as they were left."""
     PAGES = [((2, 2, 0), [f"chkSMA_{i}" for i in range(10)]),
              ((2, 2, 1), [f"chkSMD_{i}" for i in range(9)] + ["chkSaveToSS", "chkSaveToFile"]),
@@ -242,21 +97,23 @@ class Options(WindowCase):
         self.end()
 
 
-class BuiltInBrowser(WindowCase):
+class BuiltInBrowser(window.WindowCase):
     def test_its_window_is_driven_and_its_closing_stops_the_run(self):
         self.start_with(lstDCoTmr="0", chkSaveSummary="1")
         browser = trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--name", "Internet Browse|blank"), 20,
                                    "the built-in browser's window")[-1]
-        self.display.do("windowactivate", "--sync", browser)
-        self.display.do("mousemove", "--window", browser, 150, 20)
-        self.display.do("click", "--repeat", "3", 1)
-        self.display.do("type", "--delay", "5", trawlex.demo_harvest.RESULT_PAGE)
-        self.display.do("key", "Return")
-        self.wait_for_result_page()
+
+        def type_address():
+            self.display.do("windowactivate", "--sync", browser)
+            self.display.do("mousemove", "--window", browser, 150, 20)
+            self.display.do("click", "--repeat", "3", 1)
+            self.display.do("type", "--delay", "5", trawlex.demo_harvest.RESULT_PAGE)
+            self.display.do("key", "Return")
+
+        self.repeat_until_window(window.RESULT_TITLE, type_address)
         self.click("cmdANStart")
         self.wait_for_summaries(4)
-        self.display.do("windowactivate", "--sync", browser)
-        self.display.do("key", "alt+F4")
+        self.close_by_keys(browser)
         self.assert_run_stands_still()
         self.assertIsNone(self.window.poll())
         self.assertIn("frmWBare", self.settings_file().read_text(encoding="utf-8"), "its place is kept")
