@@ -92,8 +92,6 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     side.set(&window);
     const DesktopGridWindow gridWindow(program.dataSide.gridForm, settings, window);
     QObject::connect(&window, &MainWindow::helpRequested, &window, [&side] { side.showHelp(); });
-    const QShortcut escape(Qt::Key_Escape, &window);
-    QObject::connect(&escape, &QShortcut::activated, &program.manual.work, &LongWork::cancel);
     rememberFolding(window, settings);
     browsers.standBeside(&window);
     browsers.keepPlaceIn(&settings);

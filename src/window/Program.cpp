@@ -48,7 +48,7 @@ Program::Program(const Ports &ports)
       siteMenu(context, form, records, navigation, popUps),
       sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form),
       siteCount(context, form.frame, form.siteEditor, form.runs, browser, records),
-      manual(context, form, ports.system.pump, ports.system.clipboard, database, browser, links),
+      manual(context, form, longWork, ports.system.clipboard, database, browser, links),
       transfers([&pump = ports.system.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }),
       inet(transfers, log), downloads(context, form.places, form.limits, form.options, browser, transfers, inet),
       manualItems(context, form.manual, manual.desk, downloads, navigation),
@@ -157,7 +157,7 @@ void Program::connectManual(Desktop &desktop, SideWindows &side)
     const auto magnify = [&side](const QString &text) { side.magnify(text); };
     QObject::connect(&manual.edit, &ManualEdit::magnifyWanted, &form, magnify);
     QObject::connect(&manual.statusCommands, &ManualStatusCommands::magnifyWanted, &form, magnify);
-    QObject::connect(&lifeCycle, &LifeCycle::ended, &manual.work, &LongWork::cancel);
+    QObject::connect(&lifeCycle, &LifeCycle::ended, &longWork, &LongWork::cancel);
 }
 
 void Program::connectManualRun()

@@ -352,7 +352,7 @@ TEST_F(ManualCommandsTest, CancellingALongCommandKeepsTheList)
         many.append(u"http://www.site%1.com/"_s.arg(i));
     fill(many);
     // Each look at the clock is a turn of the loop: the user presses Escape in the first.
-    pump.after(0, [this] { program->manual.work.cancel(); });
+    pump.after(0, [this] { program->longWork.cancel(); });
     click("mnuMNReduceToServer"_L1);
     EXPECT_EQ(lastStatus(), u"500 loaded. Cancelled"_s);
     EXPECT_EQ(list().items(), many);

@@ -5,9 +5,9 @@
 
 using namespace Qt::StringLiterals;
 
-ManualSide::ManualSide(const Context &shared, frmSearch &window, EventPump &pump, ClipboardText &clipboard,
+ManualSide::ManualSide(const Context &shared, frmSearch &window, LongWork &work, ClipboardText &clipboard,
                        DatabaseHolder &database, BrowserHolder &browser, ResultLinks &results)
-    : context(shared), form(window), work(pump, context.status), desk(form, context.status),
+    : context(shared), form(window), desk(form, context.status),
       deleted(context.log, database, work), tables(context.log, database, work),
       filters(context, form.urlFilter, form.lists, database),
       selectUrls(context, form.browser, form.options, desk, database, browser), records(context.log, database, browser),

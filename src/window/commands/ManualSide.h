@@ -16,7 +16,7 @@ class StateOfControls;
 
 struct ManualSide
 {
-    ManualSide(const Context &context, frmSearch &form, EventPump &pump, ClipboardText &clipboard,
+    ManualSide(const Context &context, frmSearch &form, LongWork &work, ClipboardText &clipboard,
                DatabaseHolder &database, BrowserHolder &browser, ResultLinks &results);
     ManualSide(const ManualSide &) = delete;
     ManualSide &operator=(const ManualSide &) = delete;
@@ -27,7 +27,6 @@ struct ManualSide
 
     Context context;
     frmSearch &form;
-    LongWork work;
     ManualDesk desk;
     DeletedRows deleted;
     ManualTables tables;
