@@ -5,6 +5,7 @@
 #include "ui/windows/MainWindow.h"
 #include "window/options/OptionTable.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -19,6 +20,14 @@ void note(QJsonObject &positions, const QWidget &window, const QWidget &widget, 
     positions.insert(name, QJsonArray{centre.x(), centre.y(), rect.width(), rect.height()});
 }
 
+/// The middle of the widget is on show; a list is seen through its viewport.
+bool isOnShow(const QWidget &widget)
+{
+    const auto *const area = qobject_cast<const QAbstractScrollArea *>(&widget);
+    const QWidget &seen = area != nullptr ? *area->viewport() : widget;
+    return seen.visibleRegion().contains(seen.rect().center());
+}
+
 /// What can be seen now and has not been noted yet.
 void noteVisible(QJsonObject &positions, const QWidget &window)
 {
@@ -27,7 +36,7 @@ void noteVisible(QJsonObject &positions, const QWidget &window)
         QApplication::processEvents();
     for (const QWidget *widget : window.findChildren<QWidget *>()) {
         const QString name = widget->objectName();
-        if (name.isEmpty() || positions.contains(name) || !widget->visibleRegion().contains(widget->rect().center()))
+        if (name.isEmpty() || positions.contains(name) || !isOnShow(*widget))
             continue;
         note(positions, window, *widget, name, widget->rect());
         const auto *const tabs = qobject_cast<const QTabBar *>(widget);

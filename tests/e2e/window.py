@@ -83,13 +83,31 @@ class WindowCase(trawlex.Case):
                 return window
         return None
 
-    def click(self, name, button=1, left=None):
-        """Presses the middle of a widget, or so far from its left edge."""
-        x, y, width, _ = self.positions[name]
-        if left is not None:
-            x += left - width // 2
+    def click(self, name, button=1, left=None, top=None):
+        """Presses the middle of a widget, or so far from its left and its upper edge."""
+        x, y, width, height = self.positions[name]
+        x += left - width // 2 if left is not None else 0
+        y += top - height // 2 if top is not None else 0
         self.display.do("mousemove", "--window", self.id, x, y)
         self.display.do("click", button)
+
+    def go_to(self, *tabs):
+        """Presses tabs as "sstSearch(2)", from the outermost to the innermost."""
+        for tab in tabs:
+            self.click(tab)
+
+    def type(self, text, *keys):
+        """Types into what has the focus, and presses keys behind it."""
+        if text:
+            self.display.do("type", "--delay", "5", text)
+        if keys:
+            self.display.do("key", *keys)
+
+    def answer(self, title, text):
+        """Types an answer into the input box of that title, which then closes."""
+        self.display.do("windowfocus", "--sync", self.wait_for_window(title))
+        self.type(text, "Return")
+        trawlex.wait_for(lambda: not self.display.do("search", "--onlyvisible", "--name", title), 20, f"the end of '{title}'")
 
     def open_in_browser(self, url, title):
         """Types an address into the free-standing browser."""
@@ -135,13 +153,17 @@ class WindowCase(trawlex.Case):
         self.display.do("key", "alt+y")
         self.assertEqual(self.window.wait(timeout=20), 0)
 
-    def start_with(self, **options):
-        """A second start with options and a database that knows the demo's search service."""
+    def start_anew(self, **options):
+        """A second start with options and a new database."""
         self.first_start()
         folder = {"SearchKeyTxtSaveLocation Text": os.path.dirname(self.database) + "/"}
         self.choose_options(**{**OPTIONS, **folder, **options})
         self.start()
         trawlex.wait_for(lambda: os.path.exists(self.database), 10, "the database")
+
+    def start_with(self, **options):
+        """A second start with options and a database that knows the demo's search service."""
+        self.start_anew(**options)
         subprocess.run([sys.executable, trawlex.ROOT / "demo/record.py", self.database], check=True,
                        stdout=subprocess.DEVNULL)
 
