@@ -97,14 +97,18 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     browsers.keepPlaceIn(&settings);
     connectWindow(program, window);
     connectTally(program, window, pump);
+    QObject::connect(&program.startUp, &StartUp::loaded, &window, [&] {
+        // Placed before it is shown, so that the window manager takes our place and nothing jumps.
+        window.takeUsualSize();
+        place.sizeTo(storedSize(settings, u"frmSearch"_s, place.place().size()));
+        program.startUp.settle();
+        splash.close();
+        window.show();
+        program.status.UpDateStatus(u"Initializing browser"_s);
+        QApplication::processEvents();
+    });
     if (!program.startUp.Form_Load())
         return 1;
-    // Placed before it is shown, so that the window manager takes our place and nothing jumps.
-    window.takeUsualSize();
-    place.sizeTo(storedSize(settings, u"frmSearch"_s, place.place().size()));
-    program.startUp.settle();
-    splash.close();
-    window.show();
     browsers.placeInternal();
     const int status = QApplication::exec();
     place.set(nullptr);

@@ -25,8 +25,7 @@ bool StartUp::Form_Load()
         if (!usable)
             return mLife.end();
         mForm.mbFormReady = true;
-        const LifeCycle::Hold connecting(mLife);
-        mConnection.InitializeIE();
+        connectBrowser();
     });
     if (mLife.isEnding())
         mLife.end();
@@ -36,11 +35,30 @@ bool StartUp::Form_Load()
     return usable;
 }
 
+/// The window, if there is one, stands meanwhile: what needs a browser is disabled, the user may end the program.
+void StartUp::connectBrowser()
+{
+    const LifeCycle::Hold connecting(mLife);
+    mContext.states.SetStateOfControls();
+    mForm.browser.cmdANInitialize.setEnabled(false);
+    Q_EMIT loaded();
+    if (!mLife.isEnding())
+        mConnection.InitializeIE();
+    if (mForm.mbMainShown && orientsAtStart())
+        mConnection.SetStandardPosition();
+}
+
+bool StartUp::orientsAtStart() const
+{
+    return mContext.settings.GetSetting(Sections::Main, Keys::OrientAtStart, u"1"_s) == "1"_L1;
+}
+
 void StartUp::settle()
 {
     guarded(mContext.log, place, [&] {
-        if (mContext.settings.GetSetting(Sections::Main, Keys::OrientAtStart, u"1"_s) == "1"_L1) {
+        if (orientsAtStart()) {
             mForm.options.chkSMV(SMV::OrientAtStart).setValue(1);
+            mPlace.moveTo(QRect(mPlace.screen().topLeft(), mPlace.place().size()));
             mConnection.SetStandardPosition();
         } else {
             mPlace.moveTo(AlignFF(mContext.settings, mainWindowName, mPlace.place(), mPlace.screen()));

@@ -29,6 +29,7 @@ class ProgramTest : public testing::Test
         QObject::connect(&program->lifeCycle, &LifeCycle::ended, &program->form, [this] { ++ends; });
         QObject::connect(&program->keeping, &PageKeeping::rowsStored, &program->form,
                          [this](const QMap<QString, int> &rows) { stored.append(rows); });
+        QObject::connect(&program->startUp, &StartUp::loaded, &program->form, whenLoaded);
         loaded = program->startUp.Form_Load();
     }
     [[nodiscard]] frmSearch &form() { return program->form; }
@@ -94,6 +95,7 @@ class ProgramTest : public testing::Test
     FakeSideWindows side;
     FakeFactory browsers{pump};
     std::unique_ptr<Program> program;
+    std::function<void()> whenLoaded = [] {}; ///< what is done before a browser is connected
     QStringList statuses, visited;
     QList<QMap<QString, int>> stored;
     int runs = 0, ends = 0;

@@ -29,6 +29,31 @@ TEST_F(LifeTest, TheFirstStartInAnEmptyFolderMakesADatabaseAndConnectsTheBrowser
     EXPECT_TRUE(form().autoRun.cmdANStart.isEnabled());
 }
 
+TEST_F(LifeTest, TheWindowStandsBeforeABrowserIsThereAndTheBrowserComesBesideIt)
+{
+    settings.preset("chkSAMoveToTopLeft", u"1"_s);
+    whenLoaded = [this] {
+        EXPECT_FALSE(form().browser.mbInitialized);
+        EXPECT_FALSE(form().browser.cmdANInitialize.isEnabled());
+        EXPECT_FALSE(form().autoRun.cmdANStart.isEnabled());
+        program->startUp.settle();
+        EXPECT_EQ(place.rect.topLeft(), QPoint(0, 0));
+        EXPECT_TRUE(browser().geometry.isEmpty());
+    };
+    load();
+    EXPECT_EQ(lastStatus(), u"Initialized"_s);
+    EXPECT_EQ(browser().geometry.constLast(), u"left 400"_s);
+}
+
+TEST_F(LifeTest, TheUserMayEndTheProgramBeforeABrowserIsThere)
+{
+    whenLoaded = [this] { program->lifeCycle.end(); };
+    load();
+    EXPECT_FALSE(loaded);
+    EXPECT_EQ(ends, 1);
+    EXPECT_FALSE(statuses.contains(u"Initialized"_s));
+}
+
 TEST_F(LifeTest, TheFirstStartWritesTheDatabasesNameAlone)
 {
     load();
