@@ -108,7 +108,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
         QApplication::processEvents();
     });
     if (!program.startUp.Form_Load())
-        return 1;
+        return program.form.mbMainShown ? 0 : 1; // ended by the user before a browser was there
     browsers.placeInternal();
     const int status = QApplication::exec();
     place.set(nullptr);

@@ -65,7 +65,8 @@ class WindowCase(trawlex.Case):
         kept[at:at] = [f"{prefix}{key}={value}" for key, value in options.items()]
         self.settings_file().write_text("\n".join(kept) + "\n", encoding="utf-8")
 
-    def start(self):
+    def start(self, until_connected=True):
+        """Starts the program. Its window stands before it has a browser, which is waited for unless told otherwise."""
         log = open(self.folder + "/window.txt", "a", encoding="utf-8")
         self.addCleanup(log.close)
         self.window = subprocess.Popen([trawlex.WINDOW], env=self.env, cwd=self.folder, stdout=log, stderr=log)
@@ -73,6 +74,15 @@ class WindowCase(trawlex.Case):
         self.id = trawlex.wait_for(self.find_window, 40, "the main window")
         found = subprocess.run([trawlex.BIN / "window_positions"], env=self.env, capture_output=True, text=True, check=True)
         self.positions = json.loads(found.stdout)
+        if until_connected:
+            trawlex.wait_for(self.has_browser, 40, "a connected browser")
+
+    def has_browser(self):
+        """Our window of the built-in browser stands, or somebody is connected to the socket of the other one's holder."""
+        if self.display.do("search", "--onlyvisible", "--pid", self.window.pid, "--name", "Internet Browse|blank"):
+            return True
+        sockets = pathlib.Path("/proc/net/unix").read_text(encoding="utf-8").splitlines()
+        return any(line.split()[5] == "03" and self.folder in line for line in sockets[1:])
 
     def find_window(self):
         """The main window is ours, visible, larger than the splash, and not the built-in browser's."""
@@ -146,7 +156,7 @@ class WindowCase(trawlex.Case):
 
     def first_start(self):
         """Makes settings and database; the end mark ends the program after its question."""
-        self.start()
+        self.start(until_connected=False)
         self.click("picANEnd")
         question = self.wait_for_window("Program will terminate")
         self.display.do("windowfocus", "--sync", question)
