@@ -128,6 +128,10 @@ void Blocking::add(Kind kind, const QString &item)
 
 void Blocking::drop(Kind kind, const QString &text)
 {
+    if (text.isEmpty())
+        return;
+    if (Entry::isSingle(text))
+        return add(kind, text);
     const Row target = row(kind);
     guarded(mContext.log, {module, "Sub OLEDragDrop"_L1}, [&] {
         QSet<QString> standing;

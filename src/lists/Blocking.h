@@ -21,7 +21,8 @@ class Blocking
     void LoadBlocked();
     /// Adds `item`, asking for one with "".
     void add(Kind kind, const QString &item = {});
-    /// What was dropped on a list, one item a line; items that stand there already (ignoring case) are left out.
+    /// What was dropped on a list: a text of one line as if it had been typed; of several, each that does not stand
+    /// there already (ignoring case).
     void drop(Kind kind, const QString &text);
     /// Takes out every selected item, or the one with the focus. Of link texts, a row without one that stands before an
     /// item's row goes too, with the address text that it holds; of address texts, only a row that is empty.

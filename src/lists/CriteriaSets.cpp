@@ -271,8 +271,8 @@ void CriteriaSets::drop(List list, const QString &text)
         const ListBox &box = row(list).list;
         int count = 0;
         for (const QString &line : lines) {
-            // A single line counts whatever becomes of it, as long as the table was not in the way.
-            if (lines.size() > 1 && cLstBx::DoesItemExist(box, line))
+            // A text of one line counts whatever becomes of it, as long as the table was not in the way.
+            if (!Entry::isSingle(text) && cLstBx::DoesItemExist(box, line))
                 continue;
             if (box.listCount() >= columns || !AddMC(list, line).isEmpty())
                 ++count;

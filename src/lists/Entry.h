@@ -13,6 +13,12 @@ namespace Entry {
     return cUtility::asColumnText(cUtility::MultipleLinesToSingle(text));
 }
 
+/// The text has no line end, so that it is dropped as it is.
+[[nodiscard]] inline bool isSingle(const QString &text)
+{
+    return !text.contains(u'\n') && !text.contains(u'\r');
+}
+
 /// The lines of a dropped text that are not "", as items. A line ends with CR LF, CR or LF.
 [[nodiscard]] inline QStringList lines(QString text)
 {

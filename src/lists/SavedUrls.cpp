@@ -195,6 +195,7 @@ void SavedUrls::cmdANSavedGo_Click()
         const QString url = GetSavedUrl(Answer::Url, -1, mSaved.mastrSavedUrlIds.value(index), {}, {});
         if (url.isEmpty())
             return;
+        Q_EMIT opening();
         mNavigation.OpenSite(url);
         const int option = mSaved.mbPassUrlsLoaded ? incrementPassUrl : incrementSavedUrl;
         if (mOptions.chkSMA(option).value() == 1 && index + 1 < mSaved.cboANSavedUrls.listCount())

@@ -8,8 +8,10 @@
 #include "sites/SiteRecords.h"
 #include "store/MaskNames.h"
 
-class SavedUrls
+class SavedUrls : public QObject
 {
+    Q_OBJECT
+
   public:
     /// What GetSavedUrl answers.
     enum class Answer { Index = 0, Name = 1, Url = 2 };
@@ -45,6 +47,10 @@ class SavedUrls
 
     /// The family name joined with the list letter in force.
     [[nodiscard]] QString table(Kind kind) const;
+
+  Q_SIGNALS:
+    /// A chosen address is about to be opened by hand.
+    void opening();
 
   private:
     void refillBox();

@@ -7,6 +7,8 @@
 
 #include <QRegularExpression>
 #include <cmath>
+#include <optional>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -42,12 +44,25 @@ qint64 leadingNumber(const QString &text)
     return pattern.match(text).captured(1).toLongLong();
 }
 
-bool hits(const QString &link, const QString &value)
+/// A text with its count, taken apart once for all links. A count that is no number fails where it is first asked for.
+class CountedText
 {
-    const qint64 count = wholeNumber(SeparateSD(1, value));
-    const qint64 occurrences = cUtility::CountChar(link, SeparateSD(0, value));
-    return count > 0 ? occurrences == count : occurrences > 0;
-}
+  public:
+    explicit CountedText(const QString &value) : mText(SeparateSD(0, value)), mCount(SeparateSD(1, value)) {}
+
+    [[nodiscard]] bool hits(const QString &link)
+    {
+        if (!mNumber)
+            mNumber = wholeNumber(mCount);
+        const qint64 occurrences = cUtility::CountChar(link, mText);
+        return *mNumber > 0 ? occurrences == *mNumber : occurrences > 0;
+    }
+
+  private:
+    QString mText;
+    QString mCount;
+    std::optional<qint64> mNumber;
+};
 
 bool fits(qint64 length, qint64 comparison, qint64 wanted)
 {
@@ -134,11 +149,15 @@ void LinkStages::countedTexts(const QStringList &links, const QStringList &value
         result = links;
         return;
     }
+    std::vector<CountedText> texts;
+    for (const QString &value : values) {
+        if (!value.isEmpty())
+            texts.emplace_back(value);
+    }
     result = emptyList();
     bool first = true;
     for (const QString &link : links) {
-        const bool hit = std::any_of(values.begin(), values.end(),
-                                     [&](const QString &value) { return !value.isEmpty() && hits(link, value); });
+        const bool hit = std::any_of(texts.begin(), texts.end(), [&](CountedText &text) { return text.hits(link); });
         if (hit != (keeping == Keeping::Containing))
             continue;
         if (first)

@@ -1,5 +1,6 @@
 #include "sites/SiteCount.h"
 
+#include "app/OptionNumbers.h"
 #include "pages/LinkStages.h"
 #include "util/AddressList.h"
 #include "util/Arrays.h"
@@ -24,6 +25,13 @@ QStringList counted(const QStringList &links, const QStringList &texts, LinkStag
     return unlessEmpty(kept, links);
 }
 
+bool standsInList(const ComboBox &box)
+{
+    const QStringList &items = box.items();
+    return std::any_of(items.begin(), items.end(),
+                       [&](const QString &item) { return cUtility::equalIgnoringCase(item, box.text()); });
+}
+
 QString tipOf(const QStringList &links)
 {
     QStringList shown = links.mid(0, linksInTip);
@@ -33,9 +41,10 @@ QString tipOf(const QStringList &links)
 }
 } // namespace
 
-SiteCount::SiteCount(const Context &context, const WindowFrame &frame, SiteEditor &editor, const RunFlags &runs,
-                     BrowserHolder &browser, SiteRecords &records)
-    : mContext(context), mFrame(frame), mEditor(editor), mRuns(runs), mBrowser(browser), mRecords(records)
+SiteCount::SiteCount(const Context &context, const WindowFrame &frame, SiteEditor &editor, const OptionBoxes &options,
+                     const RunFlags &runs, BrowserHolder &browser, SiteRecords &records)
+    : mContext(context), mFrame(frame), mEditor(editor), mOptions(options), mRuns(runs), mBrowser(browser),
+      mRecords(records)
 {
     mSoon.setSingleShot(true);
     mSoon.setInterval(typingPause);
@@ -87,19 +96,18 @@ void SiteCount::changed()
         mSoon.start();
 }
 
+bool SiteCount::hasRecord() const
+{
+    return standsInList(mEditor.cboSD(1));
+}
+
 /// The stored values of the chosen record's field, and the one that is being typed.
 QStringList SiteCount::family(SiteField field, int box)
 {
     const ComboBox &combo = mEditor.cboSD(box);
     const QString typed = combo.text();
-    const auto stands = [](const QStringList &items, const QString &text) {
-        return std::any_of(items.begin(), items.end(),
-                           [&](const QString &item) { return cUtility::equalIgnoringCase(item, text); });
-    };
-    const ComboBox &names = mEditor.cboSD(1);
-    QStringList values =
-        stands(names.items(), names.text()) ? mRecords.GetSearchSiteData(names.text(), field) : emptyList();
-    if (typed.isEmpty() || stands(combo.items(), typed))
+    QStringList values = hasRecord() ? mRecords.GetSearchSiteData(mEditor.cboSD(1).text(), field) : emptyList();
+    if (typed.isEmpty() || standsInList(combo))
         return values;
     if (firstOf(values).isEmpty())
         values.clear();
@@ -108,6 +116,16 @@ QStringList SiteCount::family(SiteField field, int box)
     else
         values.append(typed);
     return values;
+}
+
+/// A record keeps the length that it was made with, whatever its boxes show afterwards.
+QString SiteCount::length()
+{
+    if (hasRecord())
+        return firstOf(mRecords.GetSearchSiteData(mEditor.cboSD(1).text(), SiteField::UrlLen));
+    if (mEditor.cboSDLen.listIndex() < 0 || mEditor.incSDUrlLen.value() < 1)
+        return {};
+    return JoinSD(QString::number(mEditor.cboSDLen.listIndex()), mEditor.incSDUrlLen.value());
 }
 
 SiteCount::Values SiteCount::values()
@@ -119,9 +137,8 @@ SiteCount::Values SiteCount::values()
     values.containsNot = family(SiteField::UrlMNC, 6);
     values.firstLink = family(SiteField::BUrlCol, 7);
     values.lastLink = family(SiteField::EUrlCol, 8);
-    if (mEditor.cboSDLen.listIndex() >= 0 && mEditor.incSDUrlLen.value() > 0)
-        values.length = JoinSD(QString::number(mEditor.cboSDLen.listIndex()), mEditor.incSDUrlLen.value());
-    values.convertHex = mEditor.chkSDHex.value() == 1;
+    values.length = length();
+    values.convertHex = mEditor.chkSDHex.value() == 1 || mOptions.chkSMA(SMA::ConvertHex).value() == 1;
     return values;
 }
 

@@ -14,8 +14,8 @@ class SiteCount : public QObject
     Q_OBJECT
 
   public:
-    SiteCount(const Context &context, const WindowFrame &frame, SiteEditor &editor, const RunFlags &runs,
-              BrowserHolder &browser, SiteRecords &records);
+    SiteCount(const Context &context, const WindowFrame &frame, SiteEditor &editor, const OptionBoxes &options,
+              const RunFlags &runs, BrowserHolder &browser, SiteRecords &records);
 
     /// All links, then what is left between first and last, by length, by the texts, by the unwanted texts, and the
     /// results: one list for each figure beside the editor.
@@ -36,10 +36,13 @@ class SiteCount : public QObject
     [[nodiscard]] bool isShown() const;
     [[nodiscard]] Values values();
     [[nodiscard]] QStringList family(SiteField field, int box);
+    [[nodiscard]] QString length();
+    [[nodiscard]] bool hasRecord() const;
 
     Context mContext;
     const WindowFrame &mFrame;
     SiteEditor &mEditor;
+    const OptionBoxes &mOptions;
     const RunFlags &mRuns;
     BrowserHolder &mBrowser;
     SiteRecords &mRecords;

@@ -285,6 +285,7 @@ void SiteEditing::loadSingles(const QString &site, int code)
 
 void SiteEditing::ClearSD(bool keepSiteList)
 {
+    const QScopedValueRollback<bool> loading(mbLoadingSD, true); // the record that was on show keeps what it has
     guarded(mLog, {module, "Sub ClearSD"_L1}, [&] {
         if (!keepSiteList)
             mEditor.cboSD(1).clear();

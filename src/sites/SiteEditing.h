@@ -53,5 +53,6 @@ class SiteEditing : public QObject
     const RunFlags &mRuns;
     DatabaseHolder &mDatabase;
     SiteRecords &mRecords;
-    bool mbLoadingSD = false; ///< a record is being shown: the events of the boxes write nothing back
+    bool mbLoadingSD =
+        false; ///< a record is being shown, or goes from show: the events of the boxes write nothing back
 };

@@ -47,7 +47,7 @@ Program::Program(const Ports &ports)
       statusBarEvents(context, form, popUps), statusMenu(context, form, browser, navigation, records),
       siteMenu(context, form, records, navigation, popUps),
       sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form),
-      siteCount(context, form.frame, form.siteEditor, form.runs, browser, records),
+      siteCount(context, form.frame, form.siteEditor, form.options, form.runs, browser, records),
       manual(context, form, longWork, ports.system.clipboard, database, browser, links),
       transfers([&pump = ports.system.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }),
       inet(transfers, log), downloads(context, form.places, form.limits, form.options, browser, transfers, inet),
@@ -157,6 +157,12 @@ void Program::connectManual(Desktop &desktop, SideWindows &side)
     const auto magnify = [&side](const QString &text) { side.magnify(text); };
     QObject::connect(&manual.edit, &ManualEdit::magnifyWanted, &form, magnify);
     QObject::connect(&manual.statusCommands, &ManualStatusCommands::magnifyWanted, &form, magnify);
+    QObject::connect(&runEvents, &RunEvents::activeItemAsked, &manual.statusCommands,
+                     &ManualStatusCommands::magnifyActiveItem);
+    QObject::connect(&runEvents, &RunEvents::savedUrlAsked, &form, [this, magnify] {
+        if (const QString url = savedUrls.chosenAddress(); !url.isEmpty())
+            magnify(url);
+    });
     QObject::connect(&lifeCycle, &LifeCycle::ended, &longWork, &LongWork::cancel);
 }
 
@@ -187,6 +193,7 @@ void Program::connectCollecting()
     QObject::connect(&filesSites, &FilesSitesEvents::pagesToggled, &collectChoice,
                      &CollectChoice::SetAutoCollectPgUrlsMN);
     QObject::connect(&statusMenu, &StatusMenu::autoSaveDecided, &collectChoice, &CollectChoice::DisableANAutoC);
+    QObject::connect(&savedUrls, &SavedUrls::opening, &form, [this] { collectChoice.DisableANAutoC(false); });
 }
 
 void Program::connectData(Desktop &desktop, SideWindows &side)

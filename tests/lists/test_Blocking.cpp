@@ -237,6 +237,18 @@ TEST_F(BlockingTest, ADropAddsEachNewLineWhateverEndsIt)
     EXPECT_EQ(lastStatus(), u"twothree added"_s);
 }
 
+TEST_F(BlockingTest, ADroppedTextOfOneLineIsAddedAsIfItHadBeenTyped)
+{
+    blocking().drop(Kind::Email, u"spam"_s);
+    blocking().drop(Kind::Email, u"SPAM"_s);
+    blocking().drop(Kind::Email, u"spam"_s);
+    EXPECT_EQ(lastStatus(), u"spam exists"_s);
+    blocking().drop(Kind::Email, u"Spam\r\n"_s); // with a line end it stands there already, whatever its case
+    blocking().drop(Kind::Email, QString());
+    EXPECT_EQ(form().blocking.email.items.items(), (QStringList{u"spam"_s, u"SPAM"_s}));
+    EXPECT_TRUE(dialogs.inputs.isEmpty());
+}
+
 TEST_F(BlockingTest, WhatTheTableRefusesIsNeitherShownNorTold)
 {
     addBlock(u"ads"_s, {});

@@ -259,6 +259,14 @@ TEST_F(CriteriaTest, DroppedLinesThatStandThereDoNotCount)
     EXPECT_EQ(form().criteria.mustContain.items.items(), (QStringList{u"foo"_s, u"bar"_s, u"baz"_s}));
 }
 
+TEST_F(CriteriaTest, ADroppedLineWithItsLineEndDoesNotCountWhereItStandsAlready)
+{
+    addSet(u"Tea"_s);
+    addItems(List::MustContain, {u"foo"_s});
+    sets().drop(List::MustContain, u"FOO\r\n"_s);
+    EXPECT_EQ(lastStatus(), u"0 Added"_s);
+}
+
 // How a list is applied.
 
 TEST_F(CriteriaTest, SelectWithAnEmptyListFallsBackToAll)

@@ -305,3 +305,15 @@ TEST_F(SavedUrlsTest, ALongAddressIsFoundAgain)
     EXPECT_EQ(lastStatus(), u"Url Exists (RPgUrlsA)"_s);
     EXPECT_EQ(form().saved.cboANSavedUrls.listCount(), 1);
 }
+
+TEST_F(SavedUrlsTest, OpeningAnAddressTurnsTheCollectingOfPagesOff)
+{
+    fill(Kind::SavedUrl, 1);
+    program->collectChoice.SetAutoCollectPgUrlsAN(2);
+    form().saved.cmdANSavedGo.click();
+    EXPECT_EQ(program->collectChoice.GetAutoCollectPgUrlsCheckedAN(), 2); // nothing was chosen
+    form().saved.cboANSavedUrls.setListIndex(0);
+    form().saved.cmdANSavedGo.click();
+    EXPECT_EQ(program->collectChoice.GetAutoCollectPgUrlsCheckedAN(), -1);
+    EXPECT_FALSE(form().menus.mnuPopUpANStatus.item("mnuANStatusACList"_L1, 2).isEnabled());
+}

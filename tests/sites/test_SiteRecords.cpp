@@ -1,8 +1,11 @@
 // Search-site records as the runs read them, and the chain that a record drives.
+#include "PlainChain.h"
+#include "app/OptionNumbers.h"
 #include "app/frmSearch.h"
 #include "sites/ResultLinks.h"
 #include "support/Database.h"
 #include "support/FakeBrowser.h"
+#include "util/RandomText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -235,6 +238,82 @@ TEST_F(ChainTest, WithoutABrowserTheListWasNeverDimensioned)
     holder.set(std::make_unique<cIEObject>(log, desktop, clipboard, browsers));
     EXPECT_TRUE(links.GetLinks().isEmpty());
     EXPECT_EQ(log.locations(), QStringList{u"Function GetLinks"_s});
+}
+
+namespace {
+/// Records and pages at random, made of texts that meet.
+class RandomChain : public ChainTest
+{
+  protected:
+    const QStringList pieces{u"http://"_s, u"www.seek.com"_s, u"www.a.com"_s, u"www.b.org"_s, u"/"_s, u"go?u="_s,
+                             u"&k="_s,     u"%2F"_s,          u"%41"_s,       u"ADS"_s,       u"x"_s, u"page"_s};
+    QStringList values()
+    {
+        QStringList some;
+        for (int left = random.oneIn(2) ? random.number(1, 3) : 0; left > 0; --left)
+            some += random.oneOf(pieces);
+        return some;
+    }
+    QStringList counted()
+    {
+        QStringList some = values();
+        for (QString &value : some)
+            value += u"<~Dorv~>%1"_s.arg(random.number(0, 2));
+        return some;
+    }
+    plain::ChainRules rules()
+    {
+        plain::ChainRules rules{values(), values(), counted(), counted(), values(), values(), {}, false, false, {}};
+        if (random.oneIn(3))
+            rules.length = u"%1<~Dorv~>%2"_s.arg(random.number(0, 5)).arg(random.number(0, 40));
+        rules.convertHex = random.oneIn(3);
+        rules.uniqueServers = random.oneIn(6);
+        if (random.oneIn(3))
+            rules.blocked = {random.oneOf(pieces)};
+        return rules;
+    }
+    /// The values in slots of their family, with gaps between them.
+    void put(QList<std::pair<QString, QString>> &fields, const QString &family, const QStringList &values)
+    {
+        int slot = random.number(1, 5 - static_cast<int>(values.size()) + (values.isEmpty() ? 0 : 1));
+        for (const QString &value : values)
+            fields.append({u"%1-%2"_s.arg(family).arg(slot++), value});
+    }
+    void store(const plain::ChainRules &rules)
+    {
+        QList<std::pair<QString, QString>> fields{{u"SiteName"_s, u"Seek"_s},
+                                                  {u"Url-1"_s, u"www.seek.com"_s},
+                                                  {u"CnvHex"_s, rules.convertHex ? u"1"_s : u"0"_s},
+                                                  {u"UrlLen"_s, rules.length}};
+        for (const auto &[family, values] : {std::pair(u"BeginUrl"_s, rules.begin),
+                                             {u"EndUrl"_s, rules.end},
+                                             {u"UrlMC"_s, rules.mustContain},
+                                             {u"UrlMNC"_s, rules.mustNotContain},
+                                             {u"BUrlCol"_s, rules.firstLink},
+                                             {u"EUrlCol"_s, rules.lastLink}})
+            put(fields, family, values);
+        database->DeleteRecords(u"SearchSites"_s, {}, {}, false);
+        add(fields);
+        form.options.chkSMA(SMA::UniqueServers).setValue(rules.uniqueServers ? 1 : 0);
+        form.blocking.urls.items.setItems(rules.blocked);
+        form.blocking.urls.on.setValue(rules.blocked.isEmpty() ? 0 : 1);
+    }
+    RandomText random{9};
+};
+} // namespace
+
+TEST_F(RandomChain, EqualsThePlainVersion)
+{
+    for (int round = 0; round < 500; ++round) {
+        const plain::ChainRules wanted = rules();
+        store(wanted);
+        QStringList pageLinks = random.list(pieces, 12, 8);
+        pageLinks.removeAll(QString());
+        show(u"http://www.seek.com/?q"_s, pageLinks);
+        ASSERT_EQ(links.GetLinks(), plain::GetLinks(pageLinks, wanted))
+            << round << ' ' << qPrintable(pageLinks.join(u'\n'));
+    }
+    EXPECT_TRUE(log.locations().isEmpty());
 }
 
 TEST_F(SitesTest, ARecordWithoutANameFiltersNoPage)

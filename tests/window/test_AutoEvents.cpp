@@ -114,6 +114,48 @@ TEST_F(AutoTabTest, WithoutABrowserTheTimerDoesNotAnswer)
     EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"0"_s);
 }
 
+TEST_F(AutoTabTest, TheTimersRightButtonShowsTheSavedUrlLarge)
+{
+    const auto press = [this] { form().browser.lblTrawlexTimer.mouseDown(MouseButton::Right); };
+    form().browser.lblTrawlexTimer.setCaption(u"7"_s);
+    press();
+    EXPECT_TRUE(side.magnified.isEmpty());
+    addSaved(u"Results-100"_s, u"http://www.seek.com/1"_s);
+    addSaved(u"Results-101"_s, QString());
+    program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
+    for (const int row : {0, 1}) {
+        form().saved.cboANSavedUrls.setListIndex(row);
+        press();
+    }
+    EXPECT_EQ(side.magnified, QStringList{u"http://www.seek.com/1"_s});
+    EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"7"_s);
+    form().browser.mbInitialized = false;
+    form().saved.cboANSavedUrls.setListIndex(0);
+    press();
+    EXPECT_EQ(side.magnified.size(), 1);
+}
+
+TEST_F(AutoTabTest, OnTheManualTabTheTimersRightButtonShowsTheFolderOrTheActiveItem)
+{
+    const auto press = [this] { form().browser.lblTrawlexTimer.mouseDown(MouseButton::Right); };
+    tabs(Tab::Manual);
+    form().options.chkSMA(SMA::OpenDirOnTimer).setValue(1);
+    press();
+    EXPECT_EQ(desktop.opened, QStringList{form().places.txtSFMNDir.text()});
+    form().options.chkSMA(SMA::OpenDirOnTimer).setValue(0);
+    press();
+    EXPECT_TRUE(side.magnified.isEmpty());
+    form().lists.lstMN(0).addItem(u"http://www.a.com/"_s);
+    press();
+    form().series.cboMNAutoUrl.setText(u"http://www.b.com/1"_s);
+    form().menus.mnuPopUpMNStatus.item("mnuMNStatusAutoIncrPos"_L1, 1).setChecked(true);
+    press();
+    EXPECT_EQ(side.magnified, (QStringList{u"http://www.a.com/"_s, form().series.cboMNAutoUrl.text()}));
+    tabs(3);
+    press();
+    EXPECT_EQ(side.magnified.size() + desktop.opened.size(), 3);
+}
+
 TEST_F(AutoTabTest, QuickBlockTakesTheServerOfThePageOnShow)
 {
     browser().show(u"http://www.ads.com/banner"_s);

@@ -284,6 +284,39 @@ TEST_F(SiteEditorTest, ADoubleClickOnTheStatusBarBeginsARecordForThePageOnShow)
     EXPECT_TRUE(box(2).text().startsWith(u"http://www.find"_s)) << qPrintable(box(2).text());
 }
 
+TEST_F(SiteEditorTest, BeginningAnotherRecordLeavesTheOneOnShowAsItIs)
+{
+    choose();
+    browser().pages[u"http://www.find.com/"_s].title = u"Find it"_s;
+    browser().show(u"http://www.find.com/"_s);
+    form().frame.picStatus.doubleClick();
+    EXPECT_EQ(editor().cboSDGroup.text(), u"A"_s);
+    EXPECT_EQ(stored(u"Group"_s), u"2"_s);
+}
+
+TEST_F(SiteEditorTest, AGroupThatIsChosenIsSeenInTheMenuAfterARestart)
+{
+    const auto inGroup = [this](int number) {
+        QStringList names;
+        for (const MenuItem *item : form().menus.mnuPopUpSearchSites.children(u"mnuSearchSites(%1)"_s.arg(number)))
+            names.append(item->caption());
+        return names.contains(u"Seek"_s);
+    };
+    choose();
+    editor().cboSDGroup.setListIndex(4);
+    EXPECT_FALSE(inGroup(4));
+    program->lifeCycle.end();
+    program.reset();
+    load();
+    EXPECT_TRUE(inGroup(4));
+}
+
+TEST_F(SiteEditorTest, APageOfNoKnownSiteBelongsToNoRecord)
+{
+    browser().show(u"http://www.elsewhere.com/"_s);
+    EXPECT_EQ(program->records.GetSiteNameFromUrl({}), QString());
+}
+
 TEST_F(SiteEditorTest, WhatTheDatabaseRefusesIsNotTold)
 {
     choose();
@@ -334,4 +367,26 @@ TEST_F(SiteEditorTest, TheFiguresFollowWhatIsTyped)
     box(7).setText(u"a.com"_s);
     EXPECT_EQ(becomes(u"3 1 1 1 1 1"_s), u"3 1 1 1 1 1"_s);
     EXPECT_EQ(stored(u"UrlMC-1"_s), QString());
+}
+
+TEST_F(SiteEditorTest, TheFiguresOfARecordUseTheLengthThatItKeeps)
+{
+    showResults({u"http://a.com/"_s, u"http://a-long-way-down.com/hit"_s, u"http://a-long-way-up.com/"_s});
+    const auto becomes = [&](const QString &byLength, const QString &byTexts) {
+        const auto shown = [this] {
+            return std::pair(editor().lblSDCount(3).caption(), editor().lblSDCount(4).caption());
+        };
+        const QDeadlineTimer limit(5000);
+        while (shown() != std::pair(byLength, byTexts) && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        return shown() == std::pair(byLength, byTexts);
+    };
+    choose(); // at least 25 characters; "hit" four times, which no link has
+    EXPECT_TRUE(becomes(u"2"_s, u"2"_s));
+    editor().cboSDLen.setListIndex(2);
+    box(5).setText(u"down"_s);
+    editor().incSDMCMNC(0).setText(u"1"_s);
+    EXPECT_TRUE(becomes(u"2"_s, u"1"_s));
+    box(1).setText(u"New"_s); // no record: below 25
+    EXPECT_TRUE(becomes(u"1"_s, u"1"_s));
 }

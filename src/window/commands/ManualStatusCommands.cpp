@@ -7,6 +7,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+constexpr int listMode = 1;
 constexpr int boxMode = 2;
 } // namespace
 
@@ -30,6 +31,13 @@ ManualStatusCommands::ManualStatusCommands(const Context &context, frmSearch &fo
     for (int position = 1; position <= Series::MostPositions; ++position)
         connect(&form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoIncrPos"_L1, position), &MenuItem::Click, this,
                 [this, position] { mSeries.SetAutoIncrPos(position); });
+}
+
+void ManualStatusCommands::magnifyActiveItem()
+{
+    const bool inSeries = mDesk.GetAutoIncrChecked() > 0;
+    if (const QString text = inSeries ? url() : mDesk.GetUseBaseUrl(listMode); !text.isEmpty())
+        Q_EMIT magnifyWanted(text);
 }
 
 void ManualStatusCommands::magnify()

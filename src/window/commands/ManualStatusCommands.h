@@ -15,6 +15,8 @@ class ManualStatusCommands : public QObject
     /// The address box as wide as usual, or grown out to the left.
     void mnuMNStatusElongate_Click();
     void mnuMNSetFirstFromTextBox_Click();
+    /// The address of the series, or without one the item that the tab is at.
+    void magnifyActiveItem();
 
   Q_SIGNALS:
     void magnifyWanted(const QString &text);

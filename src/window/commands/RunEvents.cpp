@@ -1,5 +1,6 @@
 #include "window/commands/RunEvents.h"
 
+#include "app/OptionNumbers.h"
 #include "window/BrowserConnection.h"
 #include "window/LifeCycle.h"
 
@@ -31,10 +32,26 @@ RunEvents::RunEvents(const Context &context, frmSearch &form, cTimer &timer, Des
 
 void RunEvents::lblTrawlexTimer_MouseDown(MouseButton button)
 {
-    if (!mForm.browser.mbInitialized || button != MouseButton::Left)
+    if (!mForm.browser.mbInitialized)
         return;
+    if (button == MouseButton::Right)
+        return showWhatIsWaitedFor();
     mForm.browser.lblTrawlexTimer.setCaption(u"0"_s);
     mTimer.CancelTimer();
+}
+
+/// The start address of the tab "Auto", or what the tab "Manual" is at: the item, or the folder that downloads go to.
+void RunEvents::showWhatIsWaitedFor()
+{
+    guarded(mContext.log, {"frmSearch"_L1, "Sub lblTrawlexTimer_MouseDown"_L1}, [&] {
+        const int tab = mForm.frame.sstSearch.tab();
+        if (tab == Tab::Auto)
+            Q_EMIT savedUrlAsked();
+        else if (tab == Tab::Manual && mForm.options.chkSMA(SMA::OpenDirOnTimer).value() == 1)
+            mDesktop.open(mForm.places.txtSFMNDir.text());
+        else if (tab == Tab::Manual)
+            Q_EMIT activeItemAsked();
+    });
 }
 
 void RunEvents::lblTrawlexTimer_MouseMove()
@@ -45,7 +62,7 @@ void RunEvents::lblTrawlexTimer_MouseMove()
         tip = u"Left click cancels timer. Right click to magnify Saved Url"_s;
     else if (tab != Tab::Manual)
         tip = u"Trawlex Timer (Sec). Left click cancels timer"_s;
-    else if (mForm.options.chkSMA(8).value() == 1)
+    else if (mForm.options.chkSMA(SMA::OpenDirOnTimer).value() == 1)
         tip = u"(Left click) - cancel timer. Right click to open file save directory"_s;
     else
         tip = u"(Left click) - cancel timer. Right click to magnify active item"_s;

@@ -17,7 +17,13 @@ class RunEvents : public QObject
     RunEvents(const Context &context, frmSearch &form, cTimer &timer, Desktop &desktop, AutoRun &run,
               BrowserConnection &connection, LifeCycle &lifeCycle);
 
+  Q_SIGNALS:
+    // What the countdown is about is to be shown large.
+    void savedUrlAsked();
+    void activeItemAsked();
+
   private:
+    void showWhatIsWaitedFor();
     void lblTrawlexTimer_MouseDown(MouseButton button);
     void lblTrawlexTimer_MouseMove();
     void lblPageSaved_MouseDown(MouseButton button);
