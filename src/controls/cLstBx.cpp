@@ -41,10 +41,13 @@ int findBeginning(const QStringList &items, const QString &text, int start)
 
 QStringList cLstBx::GetItems(const ListBox &list, Which which)
 {
+    const QStringList &items = list.items();
+    if (which == Which::All && std::none_of(items.begin(), items.end(), isBlank))
+        return orEmptyList(items); // shared, whatever their number
     QStringList found;
     for (int i = 0; i < list.listCount(); ++i) {
-        if ((which == Which::All || list.isSelected(i)) && !isBlank(list.items()[i]))
-            found.append(list.items()[i]);
+        if ((which == Which::All || list.isSelected(i)) && !isBlank(items[i]))
+            found.append(items[i]);
     }
     return orEmptyList(std::move(found));
 }

@@ -19,8 +19,9 @@ QStringList Findings::emails(PageReading &page) const
     if (firstOf(found).isEmpty())
         return emptyList();
     found = cUtility::RemoveRepeatsFromArray(found);
-    return mBlocking.on.isOn() ? cUtility::FilterArray(found, cLstBx::GetItems(mBlocking.items, cLstBx::Which::All))
-                               : found;
+    if (!mBlocking.on.isOn())
+        return found;
+    return cUtility::FilterArray(found, cLstBx::GetItems(mBlocking.items, cLstBx::Which::All), mBlocked);
 }
 
 QStringList Findings::phones(PageReading &page) const

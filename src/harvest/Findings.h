@@ -5,6 +5,7 @@
 #include "app/FormGroups.h"
 #include "driver/PageReading.h"
 #include "util/Errors.h"
+#include "util/search/KeptTextSet.h"
 
 class Findings
 {
@@ -26,4 +27,5 @@ class Findings
     const BlockedTexts &mBlocking;
     const AreaCodeBoxes &mAreaCodes;
     const OptionBoxes &mOptions;
+    mutable KeptTextSet mBlocked;
 };

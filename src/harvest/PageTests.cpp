@@ -25,7 +25,7 @@ QStringList testedItems(const ListBox &list, Demand demand)
 } // namespace
 
 /// The frame that both tests share: what is tested, which item is shown as the one that decided, and the lamp's colour.
-template <class Decide> bool PageTests::runTest(Criterion &test, PageReading &page, Decide decide)
+template <class Decide> bool PageTests::runTest(Criterion &test, KeptTextSet &texts, PageReading &page, Decide decide)
 {
     if (!test.on.isOn()) {
         test.lamp.setBackColor(Colours::ButtonFace);
@@ -36,8 +36,8 @@ template <class Decide> bool PageTests::runTest(Criterion &test, PageReading &pa
     if (test.items.listCount() > 0) {
         if (demand != Demand::Select)
             cLstBx::UnSelect(test.items);
-        decision = decide(page.html(), testedItems(test.items, demand), demand,
-                          test.caseSensitive.isOn() ? Qt::CaseSensitive : Qt::CaseInsensitive);
+        const auto sensitivity = test.caseSensitive.isOn() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+        decision = decide(page.html(), texts.of(testedItems(test.items, demand), sensitivity), demand);
         if (demand != Demand::Select && decision.decidedBy >= 0)
             test.items.setSelected(static_cast<int>(decision.decidedBy), true);
     }
@@ -48,22 +48,23 @@ template <class Decide> bool PageTests::runTest(Criterion &test, PageReading &pa
 bool PageTests::NotQB(const QString &url)
 {
     return guardedResult(mLog, {module, "Function NotQB"_L1}, false,
-                         [&](bool &mayOpen) { mayOpen = ::NotQB(url, mBlocking.mastrQB); });
+                         [&](bool &mayOpen) { mayOpen = ::NotQB(url, mBlocking.mastrQB, mQuickBlock); });
 }
 
 bool PageTests::IsMCGo(PageReading &page)
 {
-    return guardedResult(mLog, {module, "Function IsMCGo"_L1}, false,
-                         [&](bool &go) { go = runTest(mCriteria.mustContain, page, mustContain); });
+    return guardedResult(mLog, {module, "Function IsMCGo"_L1}, false, [&](bool &go) {
+        go = runTest(mCriteria.mustContain, mMust, page, [](QStringView html, const TextSet &items, Demand demand) {
+            return mustContain(html, items, demand);
+        });
+    });
 }
 
 bool PageTests::IsMNCGo(PageReading &page)
 {
     return guardedResult(mLog, {module, "Function IsMNCGo"_L1}, false, [&](bool &go) {
-        go = runTest(mCriteria.mustNotContain, page,
-                     [](QStringView html, const QStringList &items, Demand, Qt::CaseSensitivity sensitivity) {
-                         return mustNotContain(html, items, sensitivity);
-                     });
+        go = runTest(mCriteria.mustNotContain, mMustNot, page,
+                     [](QStringView html, const TextSet &items, Demand) { return mustNotContain(html, items); });
     });
 }
 

@@ -24,9 +24,11 @@ class PageTests
     [[nodiscard]] bool areOn() const;
 
   private:
-    template <class Decide> [[nodiscard]] static bool runTest(Criterion &test, PageReading &page, Decide decide);
+    template <class Decide>
+    [[nodiscard]] static bool runTest(Criterion &test, KeptTextSet &texts, PageReading &page, Decide decide);
 
     ErrorReceiver &mLog;
     Criteria &mCriteria;
     const BlockingLists &mBlocking;
+    KeptTextSet mMust, mMustNot, mQuickBlock;
 };

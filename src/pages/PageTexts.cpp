@@ -1,7 +1,6 @@
 #include "pages/PageTexts.h"
 
 #include "util/Text.h"
-#include "util/search/TextSet.h"
 
 using cUtility::indexIgnoringCase;
 
@@ -18,28 +17,43 @@ StringSegment upTo(const QString &text, QStringView stop, TagReport start)
 
 Screening mustContain(QStringView page, const QStringList &items, Demand demand, Qt::CaseSensitivity sensitivity)
 {
+    return mustContain(page, TextSet(items, sensitivity), demand);
+}
+
+Screening mustContain(QStringView page, const TextSet &items, Demand demand)
+{
     if (items.isEmpty())
         return {};
-    const TextSet wanted(items, sensitivity);
     if (demand == Demand::Any) {
-        const qsizetype found = wanted.firstFound(page);
+        const qsizetype found = items.firstFound(page);
         return {found >= 0, found};
     }
-    const qsizetype missing = wanted.firstMissing(page);
+    const qsizetype missing = items.firstMissing(page);
     return {missing < 0, missing};
 }
 
 Screening mustNotContain(QStringView page, const QStringList &items, Qt::CaseSensitivity sensitivity)
 {
-    const qsizetype found = TextSet(items, sensitivity).firstFound(page);
+    return mustNotContain(page, TextSet(items, sensitivity));
+}
+
+Screening mustNotContain(QStringView page, const TextSet &items)
+{
+    const qsizetype found = items.firstFound(page);
     return {found < 0, found};
 }
 
 bool NotQB(QStringView url, const QStringList &blocked)
 {
+    KeptTextSet kept;
+    return NotQB(url, blocked, kept);
+}
+
+bool NotQB(QStringView url, const QStringList &blocked, KeptTextSet &kept)
+{
     if (blocked.isEmpty() || blocked.constFirst().isEmpty())
         return true;
-    return !TextSet(blocked, Qt::CaseInsensitive).anyIn(url);
+    return !kept.of(blocked, Qt::CaseInsensitive).anyIn(url);
 }
 
 StringSegment GetStringSegment(const QString &text, QStringView start, QStringView stop)

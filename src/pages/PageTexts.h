@@ -2,7 +2,7 @@
 // Pure decisions over values; who reads the page and shows the outcome stands elsewhere. Knows nobody.
 #pragma once
 
-#include <QStringList>
+#include "util/search/KeptTextSet.h"
 
 /// How a list of wanted texts is applied: every one, at least one, or every one of those given because they are
 /// selected.
@@ -24,13 +24,19 @@ struct Screening
 /// page but the empty one.
 [[nodiscard]] Screening mustContain(QStringView page, const QStringList &items, Demand demand,
                                     Qt::CaseSensitivity sensitivity);
+/// The same for page after page.
+[[nodiscard]] Screening mustContain(QStringView page, const TextSet &items, Demand demand);
 
 /// `IsMNCGo`: the first item found refuses the page, whatever the demand. `items` as for `mustContain`.
 [[nodiscard]] Screening mustNotContain(QStringView page, const QStringList &items, Qt::CaseSensitivity sensitivity);
+/// The same for page after page.
+[[nodiscard]] Screening mustNotContain(QStringView page, const TextSet &items);
 
 /// `NotQB`: True if `url` may be opened, as it is when the first of the texts is "" or none of them stands in it, case
 /// ignored.
 [[nodiscard]] bool NotQB(QStringView url, const QStringList &blocked);
+/// The same with what was made of the texts the last time.
+[[nodiscard]] bool NotQB(QStringView url, const QStringList &blocked, KeptTextSet &kept);
 
 /// What a tag's box tells about the last page.
 enum class TagReport { Unchanged, NotInUse, Found, Missing };

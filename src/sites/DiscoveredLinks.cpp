@@ -23,7 +23,7 @@ QStringList DiscoveredLinks::DiscoverLinks(Use use)
         if (!byRecord)
             links = cUtility::RemoveRepeatsFromArray(links);
         if (mBlocking.urls.on.isOn())
-            links = cUtility::FilterArray(links, cLstBx::GetItems(mBlocking.urls.items, cLstBx::Which::All));
+            links = cUtility::FilterArray(links, cLstBx::GetItems(mBlocking.urls.items, cLstBx::Which::All), mUnwanted);
         kept = links;
     });
 }

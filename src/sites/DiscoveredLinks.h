@@ -25,4 +25,5 @@ class DiscoveredLinks
     BrowserHolder &mBrowser;
     SiteRecords &mRecords;
     ResultLinks &mResults;
+    KeptTextSet mUnwanted;
 };

@@ -31,7 +31,7 @@ QStringList ResultLinks::GetLinks()
             links = cIEText::GetUniqueServers(links);
         links = cUtility::RemoveRepeatsFromArray(links);
         if (mBlocked.on.value() == 1)
-            links = cUtility::FilterArray(links, cLstBx::GetItems(mBlocked.items, cLstBx::Which::All));
+            links = cUtility::FilterArray(links, cLstBx::GetItems(mBlocked.items, cLstBx::Which::All), mUnwanted);
     });
 }
 

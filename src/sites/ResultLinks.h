@@ -3,6 +3,7 @@
 
 #include "app/FormGroups.h"
 #include "sites/SiteRecords.h"
+#include "util/search/KeptTextSet.h"
 
 class ResultLinks
 {
@@ -32,4 +33,5 @@ class ResultLinks
     const BlockedTexts &mBlocked;
     BrowserHolder &mBrowser;
     SiteRecords &mRecords;
+    KeptTextSet mUnwanted;
 };

@@ -1,22 +1,27 @@
 #include "util/Arrays.h"
 
 #include "util/AddressList.h"
-#include "util/search/TextSet.h"
 
 #include <QSet>
 #include <algorithm>
 
 QStringList cUtility::FilterArray(const QStringList &items, const QStringList &filters)
 {
+    KeptTextSet kept;
+    return FilterArray(items, filters, kept);
+}
+
+QStringList cUtility::FilterArray(const QStringList &items, const QStringList &filters, KeptTextSet &kept)
+{
     if (items.isEmpty() || filters.isEmpty() || filters.constFirst().isEmpty())
         return orEmptyList(items);
     if (items.constFirst().isEmpty())
         return emptyList();
-    const TextSet unwanted(filters, Qt::CaseInsensitive);
-    QStringList kept;
-    std::copy_if(items.begin(), items.end(), std::back_inserter(kept),
+    const TextSet &unwanted = kept.of(filters, Qt::CaseInsensitive);
+    QStringList wanted;
+    std::copy_if(items.begin(), items.end(), std::back_inserter(wanted),
                  [&](const QString &item) { return !item.isEmpty() && !unwanted.anyIn(item); });
-    return orEmptyList(kept);
+    return orEmptyList(wanted);
 }
 
 QStringList cUtility::RemoveRepeatsFromArray(const QStringList &items)

@@ -2,13 +2,15 @@
 // list without elements. All functions are total. Knows nobody.
 #pragma once
 
-#include <QStringList>
+#include "util/search/KeptTextSet.h"
 
 namespace cUtility {
 /// The non-empty items that hold none of the filters, case ignored, in order; `items` as they are when the first filter
 /// is "", the empty list when the first item is "" or nothing is left. An empty filter behind the first hits
 /// everything.
 [[nodiscard]] QStringList FilterArray(const QStringList &items, const QStringList &filters);
+/// The same with what was made of the filters the last time.
+[[nodiscard]] QStringList FilterArray(const QStringList &items, const QStringList &filters, KeptTextSet &kept);
 
 /// The first of each group of exactly equal items, in order; "" is an item like any other.
 [[nodiscard]] QStringList RemoveRepeatsFromArray(const QStringList &items);

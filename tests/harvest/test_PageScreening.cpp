@@ -79,6 +79,21 @@ TEST_F(ScreeningTest, AnEmptyListLetsEveryPageGoWithAGreenLamp)
     EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), Colours::Green);
 }
 
+TEST_F(ScreeningTest, ChangedTextsHoldForTheNextPage)
+{
+    on({&form().outputs.chkMCMNCStop, &form().criteria.mustContain.on, &form().criteria.mustNotContain.on});
+    fill(form().criteria.mustContain.items, {u"Tea"_s});
+    fill(form().criteria.mustNotContain.items, {u"milk"_s});
+    EXPECT_TRUE(mustContain());
+    EXPECT_TRUE(mustNotContain());
+    form().criteria.mustContain.caseSensitive.setValue(1);
+    EXPECT_FALSE(mustContain());
+    form().criteria.mustContain.items.setItems({u"tea"_s});
+    EXPECT_TRUE(mustContain());
+    form().criteria.mustNotContain.items.addItem(u"coffee"_s);
+    EXPECT_FALSE(mustNotContain());
+}
+
 namespace {
 enum Mode { All = 0, Any = 1, Select = 2 };
 struct TextCase

@@ -19,7 +19,34 @@ constexpr qsizetype blockSize = 32;
 struct BlockBuckets
 {
     quint32 units = 0;
-    std::array<quint8, size_t(blockSize)> buckets{};
+    alignas(32) LiteralScanner::Lanes buckets{};
+};
+
+/// What the scanner knows of a unit: its low byte without the bit in which the letters' cases differ.
+constexpr quint16 knownBits = 0xDF;
+
+/// What a block leaves to the next one, for windows that reach over the border.
+struct Carry
+{
+    /// As if a block before `at` had let every window pass: those that begin before it are not ruled out.
+    Carry(QStringView page, qsizetype at)
+    {
+        bytes.back() = at > 0 ? quint8(page[at - 1].unicode() & knownBits) : quint8(0);
+        for (LiteralScanner::Lanes &pair : pairs)
+            pair.fill(0xFF);
+    }
+    alignas(32) LiteralScanner::Lanes bytes{};                                          // what is known of its units
+    alignas(32) std::array<LiteralScanner::Lanes, LiteralScanner::pairCount - 1> pairs; // buckets by pair
+};
+
+/// The hash of two neighbouring units: two nibbles. As Hashes has it for 32 units at once.
+struct PairHash
+{
+    PairHash(quint8 first, quint8 second)
+        : low((second ^ (first >> 1U)) & 0x0FU), high(((second >> 4U) ^ first) & 0x0FU)
+    {
+    }
+    unsigned low, high;
 };
 
 /// The units of markup from the most common to the least; what is not listed is rare.
@@ -49,27 +76,24 @@ qsizetype rarestWindow(QStringView text, qsizetype units)
 #ifdef TRAWLEX_WITH_AVX2
 #define TRAWLEX_AVX2 __attribute__((target("avx2"))) inline
 
-/// The table results of the block before, for windows that reach over the border; by the place in the window.
-struct Carry
+TRAWLEX_AVX2 __m256i loaded(const LiteralScanner::Lanes &lanes)
 {
-    __m256i places[LiteralScanner::windowSize - 1];
-};
-
-/// The low bytes of 32 units, in order.
-TRAWLEX_AVX2 __m256i lowBytes(const char16_t *units)
-{
-    const __m256i byteMask = _mm256_set1_epi16(0x00FF);
-    const auto *from = reinterpret_cast<const __m256i *>(units);
-    const __m256i left = _mm256_and_si256(_mm256_loadu_si256(from), byteMask);
-    const __m256i right = _mm256_and_si256(_mm256_loadu_si256(from + 1), byteMask);
-    return _mm256_permute4x64_epi64(_mm256_packus_epi16(left, right), 0xD8);
+    return _mm256_load_si256(reinterpret_cast<const __m256i *>(lanes.data()));
 }
 
-TRAWLEX_AVX2 __m256i lookUp(const LiteralScanner::Tables &tables, size_t place, __m256i low, __m256i high)
+TRAWLEX_AVX2 void store(__m256i bytes, LiteralScanner::Lanes &lanes)
 {
-    const __m256i lowTable = _mm256_load_si256(reinterpret_cast<const __m256i *>(tables.low[place].data()));
-    const __m256i highTable = _mm256_load_si256(reinterpret_cast<const __m256i *>(tables.high[place].data()));
-    return _mm256_and_si256(_mm256_shuffle_epi8(lowTable, low), _mm256_shuffle_epi8(highTable, high));
+    _mm256_store_si256(reinterpret_cast<__m256i *>(lanes.data()), bytes);
+}
+
+/// What is known of 32 units, in order.
+TRAWLEX_AVX2 __m256i knownBytes(const char16_t *units)
+{
+    const __m256i known = _mm256_set1_epi16(knownBits);
+    const auto *from = reinterpret_cast<const __m256i *>(units);
+    const __m256i left = _mm256_and_si256(_mm256_loadu_si256(from), known);
+    const __m256i right = _mm256_and_si256(_mm256_loadu_si256(from + 1), known);
+    return _mm256_permute4x64_epi64(_mm256_packus_epi16(left, right), 0xD8);
 }
 
 /// `now` moved up by `places` bytes, filled from the top of `before`.
@@ -78,47 +102,65 @@ template <int places> TRAWLEX_AVX2 __m256i movedUp(__m256i now, __m256i before)
     return _mm256_alignr_epi8(now, _mm256_permute2x128_si256(before, now, 0x21), 16 - places);
 }
 
-/// The buckets whose windows pass at all places from the first to `place`, by the unit at which the window ends.
-template <size_t place>
-TRAWLEX_AVX2 __m256i passing(const LiteralScanner::Tables &tables, __m256i low, __m256i high, Carry &carry)
+/// The PairHash of each unit and the one before it.
+struct Hashes
 {
-    constexpr int back = LiteralScanner::windowSize - 1 - int(place);
-    const __m256i here = lookUp(tables, place, low, high);
-    __m256i buckets = here;
-    if constexpr (back > 0) {
-        buckets = movedUp<back>(here, carry.places[place]);
-        carry.places[place] = here;
-    }
-    if constexpr (place > 0)
-        buckets = _mm256_and_si256(buckets, passing<place - 1>(tables, low, high, carry));
+    __m256i low, high;
+};
+
+TRAWLEX_AVX2 Hashes hashesOf(__m256i bytes, __m256i bytesBefore)
+{
+    const __m256i nibble = _mm256_set1_epi8(0x0F);
+    const __m256i first = movedUp<1>(bytes, bytesBefore);
+    return {_mm256_and_si256(_mm256_xor_si256(bytes, _mm256_srli_epi16(first, 1)), nibble),
+            _mm256_and_si256(_mm256_xor_si256(_mm256_srli_epi16(bytes, 4), first), nibble)};
+}
+
+TRAWLEX_AVX2 __m256i lookUp(const LiteralScanner::Tables &tables, size_t pair, const Hashes &hashes)
+{
+    return _mm256_and_si256(_mm256_shuffle_epi8(loaded(tables.low[pair]), hashes.low),
+                            _mm256_shuffle_epi8(loaded(tables.high[pair]), hashes.high));
+}
+
+/// The buckets that a pair lets pass, by the unit at which the window ends.
+template <size_t pair>
+TRAWLEX_AVX2 __m256i passing(const LiteralScanner::Tables &tables, const Hashes &hashes, __m256i &before)
+{
+    const __m256i here = lookUp(tables, pair, hashes);
+    const __m256i buckets = movedUp<LiteralScanner::windowSize - 2 - 2 * int(pair)>(here, before);
+    before = here;
     return buckets;
 }
 
 /// Goes on over whole blocks from `at` until one has a bucket. The index of that block, or of what is left behind the
 /// last.
-__attribute__((target("avx2"))) qsizetype nextBlock(QStringView page, qsizetype at,
-                                                    const LiteralScanner::Tables &tables, BlockBuckets &found)
+__attribute__((target("avx2"))) qsizetype
+nextBlock(QStringView page, qsizetype at, const LiteralScanner::Tables &tables, Carry &carry, BlockBuckets &found)
 {
-    const __m256i nibbleMask = _mm256_set1_epi8(0x0F);
-    Carry carry;
-    for (__m256i &place : carry.places)
-        place = _mm256_set1_epi8(-1); // windows that begin before `at` are not ruled out
+    static_assert(LiteralScanner::pairCount == 4);
+    __m256i bytesBefore = loaded(carry.bytes);
+    __m256i before[] = {loaded(carry.pairs[0]), loaded(carry.pairs[1]), loaded(carry.pairs[2])};
+    __m256i buckets = _mm256_setzero_si256();
     for (; at + blockSize <= page.size(); at += blockSize) {
-        const __m256i bytes = lowBytes(page.utf16() + at);
-        const __m256i low = _mm256_and_si256(bytes, nibbleMask);
-        const __m256i high = _mm256_and_si256(_mm256_srli_epi16(bytes, 4), nibbleMask);
-        const __m256i buckets = passing<LiteralScanner::windowSize - 1>(tables, low, high, carry);
-        if (!_mm256_testz_si256(buckets, buckets)) {
-            _mm256_storeu_si256(reinterpret_cast<__m256i *>(found.buckets.data()), buckets);
-            const __m256i isNone = _mm256_cmpeq_epi8(buckets, _mm256_setzero_si256());
-            found.units = ~quint32(_mm256_movemask_epi8(isNone));
-            return at;
-        }
+        const __m256i bytes = knownBytes(page.utf16() + at);
+        const Hashes hashes = hashesOf(bytes, bytesBefore);
+        bytesBefore = bytes;
+        const __m256i outer = _mm256_and_si256(passing<0>(tables, hashes, before[0]), lookUp(tables, 3, hashes));
+        const __m256i inner =
+            _mm256_and_si256(passing<1>(tables, hashes, before[1]), passing<2>(tables, hashes, before[2]));
+        buckets = _mm256_and_si256(outer, inner);
+        if (!_mm256_testz_si256(buckets, buckets))
+            break;
     }
+    store(bytesBefore, carry.bytes);
+    for (size_t pair = 0; pair < carry.pairs.size(); ++pair)
+        store(before[pair], carry.pairs[pair]);
+    store(buckets, found.buckets);
+    found.units = ~quint32(_mm256_movemask_epi8(_mm256_cmpeq_epi8(buckets, _mm256_setzero_si256())));
     return at;
 }
 #else
-qsizetype nextBlock(QStringView, qsizetype at, const LiteralScanner::Tables &, BlockBuckets &)
+qsizetype nextBlock(QStringView, qsizetype at, const LiteralScanner::Tables &, Carry &, BlockBuckets &)
 {
     return at;
 }
@@ -139,16 +181,58 @@ LiteralScanner::LiteralScanner(const QStringList &texts, Qt::CaseSensitivity sen
 {
     Q_ASSERT(texts.size() <= mostTexts);
     mLiterals.reserve(size_t(texts.size()));
-    for (qsizetype index = 0; index < texts.size(); ++index) {
-        const QString &text = texts[index];
-        const qsizetype units = std::min<qsizetype>(text.size(), windowSize);
-        if (units > 0)
-            mLiterals.push_back({text, firstIndex + index, rarestWindow(text, units), units});
-    }
+    for (qsizetype index = 0; index < texts.size(); ++index)
+        if (!texts[index].isEmpty())
+            mLiterals.push_back(literalOf(texts[index], firstIndex + index));
+    // Texts with like windows stand together: they share a bucket, which keeps its tables narrow.
+    const auto key = [](const Literal &literal) {
+        const PairNibbles last = literal.pairs.back();
+        return std::tuple(literal.windowUnits, last.low, last.high, literal.index);
+    };
+    std::sort(mLiterals.begin(), mLiterals.end(),
+              [&](const Literal &left, const Literal &right) { return key(left) < key(right); });
     mWholePlan = planFor(nullptr);
 }
 
-/// The plan for the open texts, or for all. Texts with like windows share a bucket, which keeps its tables narrow.
+LiteralScanner::Literal LiteralScanner::literalOf(const QString &text, qsizetype index) const
+{
+    const qsizetype units = std::min<qsizetype>(text.size(), windowSize);
+    Literal literal{text, index, rarestWindow(text, units), units, {}};
+    for (qsizetype pair = 0; pair < pairCount; ++pair)
+        literal.pairs[size_t(pair)] = nibblesOf(literal, pair);
+    return literal;
+}
+
+/// A text shorter than the window leaves the first places of the window open.
+LiteralScanner::PairNibbles LiteralScanner::nibblesOf(const Literal &literal, qsizetype pair) const
+{
+    constexpr int byteCount = 0x100;
+    const qsizetype firstAt = literal.windowBegin + 2 * pair - (windowSize - literal.windowUnits);
+    const auto variantsAt = [&](qsizetype at) {
+        const char16_t unit = literal.text[at].unicode();
+        return mFolds ? cUtility::caseVariants(unit) : cUtility::CaseVariants{unit};
+    };
+    PairNibbles nibbles;
+    const auto enter = [&nibbles](quint8 first, quint8 second) {
+        const PairHash hash(first & knownBits, second & knownBits);
+        nibbles.low |= quint16(1U << hash.low);
+        nibbles.high |= quint16(1U << hash.high);
+    };
+    if (firstAt + 1 < literal.windowBegin)
+        return {0xFFFF, 0xFFFF};
+    for (const char16_t second : variantsAt(firstAt + 1)) {
+        if (firstAt < literal.windowBegin) {
+            for (int first = 0; first < byteCount; ++first)
+                enter(quint8(first), quint8(second));
+            continue;
+        }
+        for (const char16_t first : variantsAt(firstAt))
+            enter(quint8(first), quint8(second));
+    }
+    return nibbles;
+}
+
+/// The plan for the open texts, or for all.
 LiteralScanner::Plan LiteralScanner::planFor(const OpenTexts *open) const
 {
     Plan plan;
@@ -156,13 +240,6 @@ LiteralScanner::Plan LiteralScanner::planFor(const OpenTexts *open) const
     for (size_t place = 0; place < mLiterals.size(); ++place)
         if (open == nullptr || open->isOpen(mLiterals[place].index))
             plan.order[count++] = quint8(place);
-    const auto key = [&](quint8 place) {
-        const Literal &literal = mLiterals[place];
-        const char16_t first = literal.text[literal.windowBegin].unicode();
-        return std::tuple(literal.windowUnits, first & 0x0F, first & 0xF0, place);
-    };
-    std::sort(plan.order.begin(), plan.order.begin() + qsizetype(count),
-              [&](quint8 left, quint8 right) { return key(left) < key(right); });
     for (size_t bucket = 0; bucket < bucketCount; ++bucket) {
         plan.bounds[bucket + 1] = quint8(count * (bucket + 1) / bucketCount);
         for (size_t at = plan.bounds[bucket]; at < plan.bounds[bucket + 1]; ++at)
@@ -171,27 +248,19 @@ LiteralScanner::Plan LiteralScanner::planFor(const OpenTexts *open) const
     return plan;
 }
 
-/// Enters the window of a text; a short one leaves the first places of the window open.
-void LiteralScanner::enter(Tables &tables, quint8 bucket, const Literal &literal) const
+void LiteralScanner::enter(Tables &tables, quint8 bucket, const Literal &literal)
 {
     constexpr size_t laneSize = 16;
-    const auto set = [&](std::array<quint8, 2 * laneSize> &table, size_t nibble) {
-        table[nibble] |= bucket;
-        table[nibble + laneSize] |= bucket;
+    const auto set = [&](Lanes &table, quint16 nibbles) {
+        for (; nibbles != 0; nibbles = quint16(nibbles & (nibbles - 1U))) {
+            const size_t nibble = size_t(std::countr_zero(nibbles));
+            table[nibble] |= bucket;
+            table[nibble + laneSize] |= bucket;
+        }
     };
-    const qsizetype openPlaces = windowSize - literal.windowUnits;
-    for (qsizetype place = 0; place < openPlaces; ++place)
-        for (size_t nibble = 0; nibble < laneSize; ++nibble) {
-            set(tables.low[size_t(place)], nibble);
-            set(tables.high[size_t(place)], nibble);
-        }
-    for (qsizetype place = openPlaces; place < windowSize; ++place) {
-        const char16_t unit = literal.text[literal.windowBegin + place - openPlaces].unicode();
-        const cUtility::CaseVariants units = mFolds ? cUtility::caseVariants(unit) : cUtility::CaseVariants{unit};
-        for (const char16_t variant : units) {
-            set(tables.low[size_t(place)], variant & 0x0FU);
-            set(tables.high[size_t(place)], (variant >> 4) & 0x0FU);
-        }
+    for (size_t pair = 0; pair < pairCount; ++pair) {
+        set(tables.low[pair], literal.pairs[pair].low);
+        set(tables.high[pair], literal.pairs[pair].high);
     }
 }
 
@@ -232,15 +301,16 @@ LiteralScanner::Pause LiteralScanner::scanWith(const Plan &plan, QStringView pag
 {
     constexpr qsizetype freeSteps = 4096;
     BlockBuckets found;
+    Carry carry(page, progress.at);
     while (true) {
-        progress.at = nextBlock(page, progress.at, plan.tables, found);
+        progress.at = nextBlock(page, progress.at, plan.tables, carry, found);
         const qsizetype units = std::min(blockSize, page.size() - progress.at);
         if (units <= 0)
             return Pause::AtEnd;
         if (units < blockSize) { // what is left behind the last whole block, with zeros behind it
             std::array<char16_t, size_t(blockSize)> rest{};
             std::copy_n(page.utf16() + progress.at, units, rest.begin());
-            if (nextBlock(QStringView(rest.data(), blockSize), 0, plan.tables, found) != 0)
+            if (nextBlock(QStringView(rest.data(), blockSize), 0, plan.tables, carry, found) != 0)
                 return Pause::AtEnd;
         }
         for (; found.units != 0; found.units &= found.units - 1) {

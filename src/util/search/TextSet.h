@@ -14,6 +14,8 @@ class TextSet
   public:
     TextSet(const QStringList &texts, Qt::CaseSensitivity sensitivity);
 
+    [[nodiscard]] bool isEmpty() const { return mTexts.isEmpty(); }
+
     /// True when at least one of the texts stands in `page`.
     [[nodiscard]] bool anyIn(QStringView page) const;
 
