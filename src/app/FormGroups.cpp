@@ -168,7 +168,10 @@ Limits::Limits(QObject *form)
 
 DataBoxes::DataBoxes(QObject *form)
     : cboDBTables(u"cboDBTables"_s, dropDownList, form), cboDBFields(u"cboDBFields"_s, dropDownList, form),
-      txtDBQuery(u"txtDBQuery"_s, form), fxgTrawlex(u"fxgTrawlex"_s, form)
+      cboDBPlace(u"cboDBPlace"_s, dropDownList, form, {u"contains"_s, u"begins with"_s, u"equals"_s}),
+      txtDBQuery(u"txtDBQuery"_s, form), chkDBCard(u"chkDBCard"_s, form), crdDBRow(u"crdDBRow"_s, form),
+      fxgTrawlex(u"fxgTrawlex"_s, form)
 {
+    crdDBRow.setVisible(false);
 }
 // clang-format on

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/OptionNumbers.h"
+#include "controls/Card.h"
 #include "controls/ControlArray.h"
 #include "controls/Grid.h"
 #include "controls/ListControls.h"
@@ -237,7 +238,10 @@ struct DataBoxes
 {
     explicit DataBoxes(QObject *form);
     ComboBox cboDBTables, cboDBFields;
+    ComboBox cboDBPlace; ///< where the filter's text stands in a field: "contains", "begins with", "equals"
     TextBox txtDBQuery;
+    CheckBox chkDBCard; ///< the row in use is shown as a card
+    Card crdDBRow;
     Grid fxgTrawlex;
 };
 

@@ -15,6 +15,7 @@ void Grid::setDataSource(std::shared_ptr<const GridRows> rows)
     mWidths.assign(static_cast<std::size_t>(cols()), -1);
     mRow = mColumn = -1;
     mSelection = {};
+    mSortMark = {};
     Q_EMIT changed();
     select(0, 0);
 }

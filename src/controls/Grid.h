@@ -21,6 +21,14 @@ class GridRows
     [[nodiscard]] virtual QString wholeText(int row, int column) const { return text(row, column); }
 };
 
+/// The column by which the rows are sorted; -1 for none.
+struct SortMark
+{
+    int column = -1;
+    Qt::SortOrder order = Qt::AscendingOrder;
+    friend bool operator==(const SortMark &, const SortMark &) = default;
+};
+
 /// A block of cells, both ends included. Without cells all four are -1.
 struct CellBlock
 {
@@ -61,6 +69,9 @@ class Grid : public Control
     [[nodiscard]] int colWidth(int column) const;
     void setColWidth(int column, int twips);
 
+    /// Shown in a head; other rows take it away.
+    [[nodiscard]] SortMark sortMark() const { return mSortMark; }
+    void setSortMark(SortMark mark) { assign(mSortMark, mark); }
     /// The user's click on a column's head.
     void clickHead(int column) { Q_EMIT headClicked(column); }
 
@@ -73,5 +84,6 @@ class Grid : public Control
     QStringList mHeads;
     std::vector<int> mWidths;
     CellBlock mSelection;
+    SortMark mSortMark;
     int mRow = -1, mColumn = -1;
 };

@@ -31,6 +31,10 @@ DataView::DataView(const Context &context, DataBoxes &data, const ComboBox &cboM
         if (mData.cboDBFields.listIndex() >= 0)
             SetShowData(mData.txtDBQuery.text());
     });
+    connect(&data.cboDBPlace, &ComboBox::Click, this, [this] {
+        if (!shownFilter().isEmpty())
+            SetShowData(shownFilter());
+    });
     connect(&data.fxgTrawlex, &Grid::headClicked, this, &DataView::sortBy);
     connect(&cboMNList, &ComboBox::Click, this, &DataView::LoadTableSelectData);
     connect(&cboANList, &ComboBox::Click, this, &DataView::LoadTableSelectData);
@@ -60,9 +64,11 @@ void DataView::show(const QString &filter)
     if (filter.contains(u'\''))
         return mContext.status.UpDateStatus(u"A filter can not hold a quote"_s);
     const QString field = mData.cboDBFields.list(mData.cboDBFields.listIndex());
-    const TablePages::Filter wanted{filter.isEmpty() ? QString() : field, filter};
+    const TablePages::Filter wanted{filter.isEmpty() ? QString() : field, filter,
+                                    TablePages::Place(mData.cboDBPlace.listIndex())};
     const auto rows = std::make_shared<TableRows>(TablePages(*mDatabase, table(), wanted, mSorting));
     mData.fxgTrawlex.setDataSource(rows);
+    mData.fxgTrawlex.setSortMark({int(rows->heads().indexOf(mSorting.column)), mSorting.order});
     mContext.status.UpDateStatus(u"%1 records"_s.arg(rows->rowCount()));
     SetColumnSizes();
 }
@@ -81,6 +87,12 @@ void DataView::SetColumnSizes()
     });
 }
 
+/// The text that narrows the rows down: without a field there is none.
+QString DataView::shownFilter() const
+{
+    return mData.cboDBFields.listIndex() >= 0 ? mData.txtDBQuery.text() : QString();
+}
+
 /// The first click on a head sorts up, the second down, the third gives table order back.
 void DataView::sortBy(int column)
 {
@@ -93,7 +105,7 @@ void DataView::sortBy(int column)
         mSorting.order = Qt::DescendingOrder;
     else
         mSorting = {};
-    SetShowData(mData.cboDBFields.listIndex() >= 0 ? mData.txtDBQuery.text() : QString());
+    SetShowData(shownFilter());
 }
 
 void DataView::showSaved(const QString &path)

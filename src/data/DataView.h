@@ -30,6 +30,7 @@ class DataView : public QObject
     [[nodiscard]] QString table() const { return mData.cboDBTables.list(mData.cboDBTables.listIndex()); }
 
   private:
+    [[nodiscard]] QString shownFilter() const;
     void sortBy(int column);
     void show(const QString &filter);
 

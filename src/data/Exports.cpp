@@ -72,7 +72,10 @@ QString Exports::statement(const ExportSource &source, const ExportKind &kind) c
     if (source.field.isEmpty() || source.text.isEmpty())
         return text;
     text += " WHERE ["_L1 + source.field + ']'_L1;
-    return text + (Cells::isNumber(source.text) ? "="_L1 + source.text : " LIKE '%"_L1 + source.text + "%'"_L1);
+    const QStringView plain = QStringView(source.text).trimmed();
+    if (source.place == TablePages::Place::Anywhere && Cells::isNumber(plain))
+        return text + '='_L1 + plain.toString();
+    return text + " LIKE '"_L1 + TablePages::Filter{source.field, source.text, source.place}.pattern() + '\''_L1;
 }
 
 /// The rows as a file of that form; what the user is told then.
@@ -129,8 +132,9 @@ void Exports::ExportRecordSet(int number)
         return;
     }
     const QString field = mData.cboDBFields.list(mData.cboDBFields.listIndex());
+    const auto place = TablePages::Place(mData.cboDBPlace.listIndex());
     const QString path = cUtility::GetVacantFileSpecs(mPlaces.txtSFDBDir.text() + table + "-0"_L1 + kind->extension);
-    if (exportTable({table, field, mData.txtDBQuery.text()}, *kind, path) && number == ExportKinds::html &&
+    if (exportTable({table, field, mData.txtDBQuery.text(), place}, *kind, path) && number == ExportKinds::html &&
         mOpenAfter.isOn())
         mNavigation.OpenSite(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
 }

@@ -7,12 +7,15 @@
 #include "data/ExportKinds.h"
 #include "driver/Navigation.h"
 #include "store/DatabaseHolder.h"
+#include "store/TablePages.h"
 
-/// The rows that are wanted: a table's, or those in which a field holds the text. A number asks for what is equal.
+/// The rows that are wanted: a table's, or those in which a field holds the text. A number anywhere asks for what is
+/// equal.
 struct ExportSource
 {
     QString table;
     QString field, text; ///< the text counts where there is a field
+    TablePages::Place place = TablePages::Place::Anywhere;
 };
 
 class Exports

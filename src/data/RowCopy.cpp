@@ -7,13 +7,10 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int dateKind = 7;
-
-/// A value as text; a date that is not there is none, which becomes today's in the record.
+/// A value as text. A Null is none: the record makes an empty text of it, nought, or today.
 QString textOf(const Field &field)
 {
-    const bool noDate = field.Type() == dateKind && !field.Value().isValid();
-    return noDate ? QString() : FixNull(field);
+    return field.Value().isValid() ? FixNull(field) : QString();
 }
 } // namespace
 
@@ -22,8 +19,10 @@ void RowCopy::collectKnown(const QString &testField)
 {
     Recordset rows = mTarget.GetRecordset("SELECT ["_L1 + testField + "] FROM ["_L1 + mTable + ']'_L1);
     const Field field = rows.Fields()[0];
-    for (; !rows.Eof(); rows.MoveNext())
-        mKnown.insert(cUtility::columnKey(FixNull(field)));
+    for (; !rows.Eof(); rows.MoveNext()) {
+        if (field.Value().isValid()) // no text is equal to Null
+            mKnown.insert(cUtility::columnKey(FixNull(field)));
+    }
 }
 
 bool RowCopy::isKnown(const QString &value, qint64 row)

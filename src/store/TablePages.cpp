@@ -19,7 +19,7 @@ Query queryFor(const cAdoMdb &database, const QString &table, const TablePages::
         throw AdoError::error(AdoError::ConnectionClosed);
     QString statement = u"SELECT * FROM [%1]"_s.arg(table);
     if (!filter.text.isEmpty())
-        statement += u" WHERE [%1] LIKE '%"_s.arg(filter.column) + filter.text + "%'"_L1;
+        statement += u" WHERE [%1] LIKE '"_s.arg(filter.column) + filter.pattern() + '\''_L1;
     return prepareQuery(database.connection(), parseStatement(statement));
 }
 
@@ -35,6 +35,12 @@ void sort(Query &query, const TablePages::Sorting &sorting)
         query.order += " DESC";
 }
 } // namespace
+
+QString TablePages::Filter::pattern() const
+{
+    const QLatin1StringView any = "%"_L1, nothing;
+    return (place == Place::Anywhere ? any : nothing) + text + (place == Place::Whole ? nothing : any);
+}
 
 TablePages::TablePages(const cAdoMdb &database, const QString &table) : TablePages(database, table, {}, {}) {}
 

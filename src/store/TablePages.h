@@ -18,12 +18,17 @@ class cAdoMdb;
 class TablePages
 {
   public:
+    /// Where the text stands in a value.
+    enum class Place { Anywhere, AtStart, Whole };
     struct Filter
     {
         QString column;
-        /// What the column's values hold somewhere, whatever the case of letters; "%" stands for any text, "_" for one
+        /// What the column's values hold, whatever the case of letters; "%" stands for any text, "_" for one
         /// character. An empty text lets all rows pass.
         QString text;
+        Place place = Place::Anywhere;
+        /// The text as LIKE takes it.
+        [[nodiscard]] QString pattern() const;
     };
     struct Sorting
     {

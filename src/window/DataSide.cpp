@@ -7,6 +7,7 @@ using namespace Qt::StringLiterals;
 DataSide::DataSide(const Context &context, frmSearch &form, DatabaseHolder &database, Navigation &navigation,
                    LongWork &work, ClipboardText &clipboard, PopUpMenus &menus)
     : view(context, form.data, form.lists.cboMNList, form.saved.cboANList, database),
+      card(context.log, form.data, database),
       exports(context, form.data, form.places, form.options.chkSMD(0), database, navigation, work),
       imports(context.log, database, work),
       window(context, form.browser, gridForm, database, navigation, clipboard, menus),
@@ -16,6 +17,8 @@ DataSide::DataSide(const Context &context, frmSearch &form, DatabaseHolder &data
 {
     QObject::connect(&commands, &DataCommands::popUpWanted, &form, [&menus](Menu &menu) { menus.popUp(menu); });
     QObject::connect(&commands, &DataCommands::navigateWanted, &form,
+                     [&navigation](const QString &url) { navigation.OpenSite(url); });
+    QObject::connect(&form.data.crdDBRow, &Card::followed, &form,
                      [&navigation](const QString &url) { navigation.OpenSite(url); });
     QObject::connect(&commands, &DataCommands::newWindowWanted, &window, &DataWindow::showRows);
     QObject::connect(&import, &DataImport::formReady, &form, [&form](bool ready) { form.mbFormReady = ready; });

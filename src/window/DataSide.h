@@ -4,6 +4,7 @@
 
 #include "app/frmSearch.h"
 #include "data/DataWindow.h"
+#include "data/RowCard.h"
 #include "window/commands/DataCommands.h"
 #include "window/commands/DataImport.h"
 #include "window/commands/DataStatusMenu.h"
@@ -15,6 +16,7 @@ struct DataSide
 
     frmfxg gridForm;
     DataView view;
+    RowCard card;
     Exports exports;
     Imports imports;
     DataWindow window;

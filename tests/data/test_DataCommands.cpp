@@ -100,6 +100,8 @@ TEST_F(DataCommandsTest, ATextOf255CharactersOpensByDoubleClickALongerOneDoesNot
     grid().doubleClick();
     EXPECT_EQ(magnified, QStringList{url});
     EXPECT_EQ(url.size(), 255);
+    clickItem(menu(), "mnuDBNavigateTo");
+    EXPECT_EQ(browsers.running->navigated, QStringList{url});
 }
 
 TEST_F(DataCommandsTest, DeleteAndTheOthersAreIdleWithoutATable)

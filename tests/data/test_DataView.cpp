@@ -1,5 +1,8 @@
 // The grid of the Data tab: tables, rows, filter, widths, order, deleting, loading of a saved recordset.
 #include "DataSideFixture.h"
+#include "util/RandomText.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +65,26 @@ TEST_F(DataViewTest, PercentSignsAreWildcardsBracketsThemselvesAndCaseOfNoLetter
         form.data.txtDBQuery.setText(filter);
         EXPECT_EQ(grid().rows(), rows) << qPrintable(filter);
     }
+}
+
+TEST_F(DataViewTest, TheTextContainsUntilTheUserWantsItToBeginOrToEqual)
+{
+    for (const QString &address : {u"ann@b.com"_s, u"joann@b.com"_s, u"ANN"_s})
+        addEmail(address);
+    chooseTable(u"EmailAddress"_s);
+    form.data.cboDBPlace.setListIndex(1);
+    EXPECT_EQ(grid().rows(), 3) << "without a field there is nothing to place";
+    chooseField(u"Address"_s);
+    form.data.cboDBPlace.setListIndex(0);
+    form.data.txtDBQuery.setText(u"ann"_s);
+    EXPECT_EQ(grid().rows(), 3);
+    form.data.cboDBPlace.setListIndex(1);
+    EXPECT_EQ(shown(3), (QStringList{u"ann@b.com"_s, u"ANN"_s}));
+    form.data.cboDBPlace.setListIndex(2);
+    EXPECT_EQ(shown(3), QStringList{u"ANN"_s});
+    EXPECT_EQ(lastStatus(), u"1 records"_s);
+    form.data.txtDBQuery.setText(u"%n"_s);
+    EXPECT_EQ(grid().rows(), 1) << "wildcards stay what they are";
 }
 
 TEST_F(DataViewTest, AFilterWithAQuoteLeavesTheGridAsItWas)
@@ -154,9 +177,11 @@ TEST_F(DataViewTest, AClickOnAHeadSortsUpThenDownThenNotAndANewTableNotAtAll)
         addEmail(address);
     chooseTable(u"EmailAddress"_s);
     const QStringList orders[] = {{u"a"_s, u"b"_s, u"C"_s}, {u"C"_s, u"b"_s, u"a"_s}, {u"b"_s, u"C"_s, u"a"_s}};
-    for (const QStringList &order : orders) {
+    const SortMark marks[] = {{3, Qt::AscendingOrder}, {3, Qt::DescendingOrder}, {}};
+    for (int click = 0; click < 3; ++click) {
         grid().clickHead(3);
-        EXPECT_EQ(shown(3), order);
+        EXPECT_EQ(shown(3), orders[click]);
+        EXPECT_EQ(grid().sortMark(), marks[click]);
     }
     grid().clickHead(3);
     chooseField(u"Address"_s);
@@ -211,6 +236,46 @@ TEST_F(DataViewTest, HostileFilesAreAMessageAndLeaveTheGrid)
     }
     side.view.showSaved(pathOf(u"missing.dat"_s));
     EXPECT_TRUE(lastStatus().startsWith(u"Not loaded: "_s));
+}
+
+TEST_F(DataViewTest, AFileThatGivesRowsOfItsOwnMakingIsRefused)
+{
+    const char *const schemas[] = {
+        // Rows without end, under every name of a row's number.
+        "CREATE TABLE t(x); INSERT INTO t VALUES(1),(2),(3),(4),(5),(6),(7),(8),(9),(10);"
+        "CREATE VIEW Recordset(rowid,_rowid_,oid,x) AS SELECT 1,1,1,a.x FROM t a,t b,t c,t d,t e,t f,t g,t h,t i,t j",
+        "CREATE VIEW Recordset AS WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM n) SELECT x FROM n",
+        "CREATE TABLE Other(x)", "CREATE TABLE Recordset(k TEXT PRIMARY KEY) WITHOUT ROWID"};
+    for (const char *const schema : schemas) {
+        QFile::remove(pathOf(u"made.dat"_s));
+        SQLite::Database(pathOf(u"made.dat"_s).toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+            .exec(std::string("PRAGMA application_id=1414681171;") + schema);
+        const auto before = grid().dataSource();
+        side.view.showSaved(pathOf(u"made.dat"_s));
+        EXPECT_TRUE(lastStatus().startsWith(u"Not loaded: "_s)) << schema << qPrintable(lastStatus());
+        EXPECT_EQ(grid().dataSource(), before);
+    }
+}
+
+TEST_F(DataViewTest, ASavedFileWithAnyByteChangedOrItsEndMissingIsShownOrRefused)
+{
+    for (int i = 0; i < 60; ++i)
+        addEmail(u"ann%1@b.com"_s.arg(i));
+    chooseTable(u"EmailAddress"_s);
+    side.exports.ExportRecordSet(4);
+    const QByteArray good = bytes(pathOf(u"EmailAddress-0.dat"_s));
+    RandomText random(3);
+    for (int turn = 0; turn < 300; ++turn) {
+        QByteArray hostile = good.left(turn % 10 == 0 ? random.number(1, int(good.size())) : int(good.size()));
+        for (int change = random.number(1, 4); change > 0; --change)
+            hostile[random.number(0, int(hostile.size()) - 1)] = char(random.number(0, 255));
+        writeFile(u"hostile.dat"_s, hostile);
+        statuses.clear();
+        grid().setDataSource(nullptr);
+        side.view.showSaved(pathOf(u"hostile.dat"_s));
+        EXPECT_TRUE(grid().dataSource() != nullptr || lastStatus().startsWith(u"Not loaded: "_s)) << turn;
+        static_cast<void>(shown(3));
+    }
 }
 
 TEST_F(DataViewTest, ALongTextIsShownByItsBeginningAndReadWhole)

@@ -84,6 +84,36 @@ TEST_F(ExportsTest, ANumericFilterExportsRowsThatEqualItAnyOtherRowsThatHoldIt)
     EXPECT_EQ(exportedRows(), 3) << "a text without a field is no filter";
 }
 
+TEST_F(ExportsTest, SiteSummaryShowsSixColumnsAndANumberAnywhereThatTheExportLeavesOut)
+{
+    addEmail(u"third"_s, u"15"_s);
+    const TablePages shown(*database, u"EmailAddress"_s, {u"SSIndex"_s, u"5"_s}, {});
+    EXPECT_EQ(shown.rowCount(), 2) << "the grid shows those with a 5 anywhere";
+    EXPECT_EQ(TablePages(*database, u"SiteSummary"_s).columns().size(), 6);
+    choose(u"EmailAddress"_s, emailFields, 2, u" 5 "_s);
+    EXPECT_EQ(exportedRows(), 1) << "blanks make no text of a number";
+}
+
+TEST_F(ExportsTest, WhereTheTextStandsIsAskedAsInTheGrid)
+{
+    addEmail(u"third"_s, u"15"_s);
+    struct Row
+    {
+        int place, field;
+        QString text;
+        int rows;
+    };
+    for (const Row &row : {Row{1, 2, u"1"_s, 2}, {2, 2, u"1"_s, 1}, {2, 3, u"X,y"_s, 1}}) {
+        form.data.cboDBPlace.setListIndex(row.place);
+        choose(u"EmailAddress"_s, emailFields, row.field, row.text);
+        EXPECT_EQ(exportedRows(), row.rows) << row.place << ' ' << qPrintable(row.text);
+    }
+    form.data.cboDBPlace.setListIndex(1);
+    choose(u"EmailAddress"_s, emailFields, 3, u"B.c"_s);
+    exports.ExportRecordSet(Comma);
+    EXPECT_EQ(lastStatus(), u"No records in recordset"_s);
+}
+
 TEST_F(ExportsTest, WhatNoStatementHoldsAsANumberIsATextLikeOthers)
 {
     addEmail(u"(212) 5"_s);

@@ -6,6 +6,8 @@
 #include "support/Places.h"
 #include "util/RandomText.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -137,6 +139,25 @@ TEST_F(ImportsTest, WhatIsThereAlreadyAgreesWithOneQuestionARow)
     EXPECT_EQ(imports.ImportAllData(otherPath()), QString());
     EXPECT_EQ(values(u"MNUrlsA"_s, u"Url"_s), values(u"MNUrlsB"_s, u"Url"_s));
     EXPECT_LT(count(u"MNUrlsA"_s), 200);
+}
+
+TEST_F(ImportsTest, ANullIsAnEmptyTextNoughtOrTodayAndIsEqualToNoText)
+{
+    ASSERT_TRUE(SQLite::Database(otherPath().toStdString(), SQLite::OPEN_READWRITE)
+                    .exec("INSERT INTO SiteSummary(Date,Title,Url) VALUES(NULL,NULL,NULL);"
+                          "INSERT INTO EmailAddress(Date,SSIndex,Address) VALUES(NULL,NULL,NULL)") == 1);
+    SQLite::Database(database->DatabasePath().toStdString(), SQLite::OPEN_READWRITE)
+        .exec("INSERT INTO SiteSummary(Url) VALUES(NULL)");
+    EXPECT_EQ(imports.ImportAllData(otherPath()), QString());
+    EXPECT_EQ(imports.ImportTable(otherPath(), u"EmailAddress"_s), QString());
+    EXPECT_EQ(count(u"SiteSummary"_s), 2) << "the Null that was there is no empty text";
+    EXPECT_EQ(imports.ImportAllData(otherPath()), QString());
+    EXPECT_EQ(count(u"SiteSummary"_s), 2) << "the empty text is";
+    const QString today = QDate::currentDate().toString(Qt::ISODate);
+    EXPECT_EQ(values(u"EmailAddress"_s, u"Date"_s), QStringList(3, today));
+    EXPECT_EQ(values(u"EmailAddress"_s, u"SSIndex"_s), QStringList(3, u"0"_s));
+    EXPECT_EQ(values(u"EmailAddress"_s, u"Address"_s), QStringList(3, QString()));
+    EXPECT_TRUE(log.entries.isEmpty());
 }
 
 TEST_F(ImportsTest, AQuoteInATestFieldEndsTheImportAndTheRowsSoFarStay)

@@ -1,7 +1,7 @@
 // The detached grid's window, and what stands at the foot of every grid.
 #include "ui/windows/GridWindow.h"
 #include "WindowFixture.h"
-#include "ui/widgets/GridTable.h"
+#include "ui/widgets/GridFoot.h"
 #include "ui/widgets/ItemList.h"
 
 #include <QHeaderView>
@@ -34,7 +34,7 @@ struct GridWindowTest : testing::Test
             QCoreApplication::processEvents();
     }
     [[nodiscard]] GridTable &table() { return *window.findChild<GridTable *>("fxgTrawlex"_L1); }
-    [[nodiscard]] QString place() { return table().findChild<QLabel *>("gridPlace"_L1)->text(); }
+    [[nodiscard]] QString place() { return window.findChild<QLabel *>("gridPlace"_L1)->text(); }
     frmfxg form;
     GridWindow window;
 };
@@ -49,6 +49,7 @@ TEST_F(GridWindowTest, ShowsTheGridOrTheListInItsPlace)
     form.fxgTrawlex.setVisible(false);
     settle();
     EXPECT_FALSE(table().isVisible());
+    EXPECT_FALSE(window.findChild<GridFind *>("gridFind"_L1)->isVisible());
     EXPECT_TRUE(window.findChild<ItemList *>("lstMN"_L1)->isVisible());
 }
 
@@ -75,7 +76,7 @@ TEST_F(GridWindowTest, TheRowInUseStandsAtTheFootOfTheGrid)
 
 TEST_F(GridWindowTest, FindGoesToTheNextCellAndAroundTheEnd)
 {
-    auto *const find = table().findChild<GridFind *>();
+    auto *const find = window.findChild<GridFind *>("gridFind"_L1);
     QSignalSpy ended(find, &GridFind::ended);
     find->setText(u"page 1000000"_s);
     QTest::keyClick(find, Qt::Key_Return);

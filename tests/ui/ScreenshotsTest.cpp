@@ -4,11 +4,14 @@
 #include "support/Places.h"
 #include "ui/look/Theme.h"
 #include "ui/windows/AboutWindow.h"
+#include "ui/windows/GridWindow.h"
 #include "ui/windows/MagnifyWindow.h"
 #include "window/options/OptionTable.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -143,7 +146,59 @@ struct DISABLED_Screenshots : WindowFixture
         const int widths[] = {700, 1100, 2200, 3400};
         for (int column = 0; column < 4; ++column)
             form.data.fxgTrawlex.setColWidth(column, widths[column]);
+        form.data.fxgTrawlex.setSortMark({2, Qt::AscendingOrder});
         form.data.fxgTrawlex.select(4, 2);
+    }
+
+    /// The row in use as a card, below the grid and beside it; the detached grid.
+    void showCard()
+    {
+        form.data.chkDBCard.setValue(1);
+        form.data.crdDBRow.setContent(
+            {.title = u"People of the harbour, page 5"_s,
+             .address = u"http://www.north-harbour.example/team/people/5/index.html"_s,
+             .date = u"2026-11-05"_s,
+             .picture = harbour(),
+             .found = {u"anna.berg@north-harbour.example"_s, u"office@north-harbour.example"_s, u"212-555-0142"_s},
+             .page = u"<h1>People of the harbour</h1><p>The pilots' house has been open to visitors since 1911. Boats "
+                     "leave from the eastern pier at nine, at noon and at three."_s});
+        form.data.crdDBRow.setVisible(true);
+        take(u"data-card"_s);
+        const QSize before = window.size();
+        window.resize(860, before.height());
+        take(u"data-card-wide"_s);
+        window.resize(before);
+        form.data.crdDBRow.setVisible(false);
+        frmfxg detached;
+        detached.lstMN.setVisible(false);
+        GridWindow grid(detached, nullptr);
+        detached.fxgTrawlex.setDataSource(std::make_shared<Summaries>());
+        const int widths[] = {700, 1100, 4000, 6000};
+        for (int column = 0; column < 4; ++column)
+            detached.fxgTrawlex.setColWidth(column, widths[column]);
+        detached.fxgTrawlex.select(2, 3, {2, 3, 4, 3});
+        grid.resize(720, 400);
+        grid.show();
+        take(u"data-window"_s, grid);
+    }
+
+    /// A small picture as a page could have one.
+    [[nodiscard]] static QByteArray harbour()
+    {
+        QImage image(240, 120, QImage::Format_RGB32);
+        image.fill(QColor(158, 196, 222));
+        QPainter painter(&image);
+        painter.fillRect(0, 80, 240, 40, QColor(52, 96, 128));
+        painter.setBrush(QColor(244, 240, 230));
+        painter.setPen(Qt::NoPen);
+        painter.drawPolygon(QPolygon({{70, 76}, {70, 24}, {106, 76}}));
+        painter.setBrush(QColor(120, 62, 40));
+        painter.drawPolygon(QPolygon({{52, 78}, {124, 78}, {108, 94}, {66, 94}}));
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "png");
+        return bytes;
     }
 
     void showSideWindows()
@@ -208,5 +263,6 @@ TEST_F(DISABLED_Screenshots, AreTaken)
         form.frame.sstMiscOptions.setTab(page.misc);
         take(page.name);
     }
+    showCard();
     showSideWindows();
 }

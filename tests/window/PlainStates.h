@@ -40,8 +40,9 @@ class PlainStates
             if (name.startsWith(QLatin1StringView(array)))
                 return true;
         }
-        for (const char *kept : {"cboDBFields", "fxgTrawlex", "cboANWBSelect", "chkPutInOneFile", "chkSFIAllSettings",
-                                 "txtSBStateACs", "chkSFIAllData", "chkSFIImportTable", "chkSFIImportField"}) {
+        for (const char *kept :
+             {"cboDBFields", "cboDBPlace", "chkDBCard", "crdDBRow", "fxgTrawlex", "cboANWBSelect", "chkPutInOneFile",
+              "chkSFIAllSettings", "txtSBStateACs", "chkSFIAllData", "chkSFIImportTable", "chkSFIImportField"}) {
             if (name == QLatin1StringView(kept))
                 return true;
         }

@@ -72,6 +72,10 @@ std::shared_ptr<KeySet> SavedRecordset::open(const QString &filePath)
         const auto connection = Connection::open(filePath, Connection::Access::Read);
         if (connection->administerTexts("PRAGMA application_id") != QStringList{QString::number(savedSetId)})
             refuse();
+        // Rows that lie in the file: a view of somebody else's making could go on for ever.
+        if (connection->administerTexts("SELECT name FROM sqlite_schema WHERE rootpage>0 AND name='Recordset'")
+                .isEmpty())
+            refuse();
         return rowsOf(connection);
     }
     const auto connection = Connection::open(QString(), Connection::Access::Temporary);

@@ -2,6 +2,7 @@
 
 #include "ui/binding/DragAndDrop.h"
 #include "ui/look/Tones.h"
+#include "ui/widgets/CardView.h"
 #include "ui/widgets/Chip.h"
 #include "ui/widgets/DropDown.h"
 #include "ui/widgets/GridTable.h"
@@ -247,14 +248,15 @@ void Binder::bindAll(const QObject &form, QWidget &root)
 
 void Binder::bindOne(Control &control, QWidget &widget)
 {
-    const bool done =
-        tryBind<CheckBox, QAbstractButton>(control, widget) || tryBind<Button, QAbstractButton>(control, widget) ||
-        tryBind<ComboBox, DropDown>(control, widget) || tryBind<ListBox, ItemList>(control, widget) ||
-        tryBind<TextBox, QLineEdit>(control, widget) || tryBind<NumberBox, NumberEdit>(control, widget) ||
-        tryBind<Grid, GridTable>(control, widget) || tryBind<Label, Mark>(control, widget) ||
-        tryBind<Label, Chip>(control, widget) || tryBind<Label, QLabel>(control, widget) ||
-        tryBind<PictureBox, StatusBarLine>(control, widget) || tryBind<PictureBox, Mark>(control, widget) ||
-        tryBind<PictureBox, QFrame>(control, widget) || tryBind<TabControl, QTabBar>(control, widget);
+    const bool done = tryBind<CheckBox, QAbstractButton>(control, widget) ||
+                      tryBind<Button, QAbstractButton>(control, widget) ||
+                      tryBind<ComboBox, DropDown>(control, widget) || tryBind<ListBox, ItemList>(control, widget) ||
+                      tryBind<TextBox, QLineEdit>(control, widget) || tryBind<NumberBox, NumberEdit>(control, widget) ||
+                      tryBind<Grid, GridTable>(control, widget) || tryBind<Card, CardView>(control, widget) ||
+                      tryBind<Label, Mark>(control, widget) || tryBind<Label, Chip>(control, widget) ||
+                      tryBind<Label, QLabel>(control, widget) || tryBind<PictureBox, StatusBarLine>(control, widget) ||
+                      tryBind<PictureBox, Mark>(control, widget) || tryBind<PictureBox, QFrame>(control, widget) ||
+                      tryBind<TabControl, QTabBar>(control, widget);
     if (!done)
         qWarning("%s: no binding for a widget of class %s", qUtf8Printable(control.name()),
                  widget.metaObject()->className());

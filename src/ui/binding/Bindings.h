@@ -3,6 +3,7 @@
 // Binder's.
 #pragma once
 
+#include "controls/Card.h"
 #include "controls/Grid.h"
 #include "controls/ListControls.h"
 #include "controls/NumberBox.h"
@@ -10,6 +11,7 @@
 
 #include <functional>
 
+class CardView;
 class Chip;
 class DropDown;
 class GridTable;
@@ -36,6 +38,7 @@ struct Bound
 [[nodiscard]] Bound bind(CheckBox &control, QAbstractButton &widget);
 [[nodiscard]] Bound bind(Button &control, QAbstractButton &widget);
 [[nodiscard]] Bound bind(Grid &control, GridTable &widget);
+[[nodiscard]] Bound bind(Card &control, CardView &widget);
 [[nodiscard]] Bound bind(ComboBox &control, DropDown &widget);
 [[nodiscard]] Bound bind(ListBox &control, ItemList &widget);
 [[nodiscard]] Bound bind(TextBox &control, QLineEdit &widget);

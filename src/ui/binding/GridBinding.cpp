@@ -1,4 +1,5 @@
 #include "ui/binding/Bindings.h"
+#include "ui/widgets/CardView.h"
 #include "ui/widgets/GridModel.h"
 #include "ui/widgets/GridTable.h"
 
@@ -12,7 +13,7 @@ constexpr int twipsPerPixel = 15;
 constexpr double toldDigit = 5.5;
 constexpr int usualColumn = 110;
 
-/// Carries cells, widths and selection between a grid control and its view.
+/// Carries cells, widths, order and selection between a grid control and its view.
 class GridLink : public QObject
 {
   public:
@@ -28,6 +29,7 @@ class GridLink : public QObject
         connect(mView.horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
             if (mControl.isEnabled())
                 mControl.clickHead(column);
+            showSortMark(); // the head has turned its own
         });
     }
 
@@ -43,6 +45,7 @@ class GridLink : public QObject
         }
         showWidths();
         showSelection();
+        showSortMark();
         mShowing = false;
     }
 
@@ -90,6 +93,13 @@ class GridLink : public QObject
             selection.select(wanted, QItemSelectionModel::ClearAndSelect);
     }
 
+    void showSortMark()
+    {
+        const SortMark mark = mControl.sortMark();
+        mView.horizontalHeader()->setSortIndicatorShown(mark.column >= 0);
+        mView.horizontalHeader()->setSortIndicator(mark.column, mark.order);
+    }
+
     void deliver()
     {
         if (!mControl.isEnabled())
@@ -114,4 +124,10 @@ Bindings::Bound Bindings::bind(Grid &control, GridTable &widget)
 {
     auto *const link = new GridLink(control, widget);
     return {[link] { link->show(); }, ReturnKey::DoubleClicks};
+}
+
+Bindings::Bound Bindings::bind(Card &control, CardView &widget)
+{
+    QObject::connect(&widget, &CardView::addressClicked, &control, &Card::follow);
+    return {[&control, &widget] { widget.setContent(control.content()); }};
 }

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
 
@@ -220,7 +221,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     case PE_IndicatorCheckBox:
         return drawCheckMark(*option, *painter);
     case PE_Frame:
-        if (qobject_cast<const QAbstractItemView *>(widget) != nullptr)
+        if (qobject_cast<const QAbstractItemView *>(widget) != nullptr ||
+            qobject_cast<const QTextBrowser *>(widget) != nullptr)
             return drawField(*option, *painter, widget);
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     case PE_FrameFocusRect:

@@ -8,7 +8,7 @@ constexpr qint64 portion = 20; // milliseconds
 constexpr int boxWidth = 130;
 } // namespace
 
-GridFind::GridFind(QTableView &grid) : QLineEdit(&grid), mGrid(grid)
+GridFind::GridFind(QTableView &grid, QWidget *parent) : QLineEdit(parent), mGrid(grid)
 {
     setPlaceholderText(tr("Find"));
     setAccessibleName(tr("Find in the cells"));

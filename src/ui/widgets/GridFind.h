@@ -1,4 +1,4 @@
-// A box at the foot of a grid in which a text is looked for in its cells, from the cell in use on and around the end.
+// A box in which a text is looked for in its cells, from the cell in use on and around the end.
 // It looks in small portions, so that a million rows hold nothing up. Return goes on to the next cell, with Shift back.
 #pragma once
 
@@ -11,7 +11,7 @@ class GridFind : public QLineEdit
     Q_OBJECT
 
   public:
-    explicit GridFind(QTableView &grid);
+    GridFind(QTableView &grid, QWidget *parent);
 
     [[nodiscard]] bool isLooking() const { return mTurn.isActive(); }
 

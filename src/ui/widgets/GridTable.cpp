@@ -10,13 +10,8 @@ namespace {
 constexpr int leastRow = 24;
 }
 
-GridTable::GridTable(QWidget *parent) : QTableView(parent), mPlace(new QLabel(this)), mFind(new GridFind(*this))
+GridTable::GridTable(QWidget *parent) : QTableView(parent)
 {
-    addScrollBarWidget(mPlace, Qt::AlignLeft);
-    addScrollBarWidget(mFind, Qt::AlignLeft);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    mPlace->setObjectName(QStringLiteral("gridPlace"));
-    mPlace->setMargin(2);
     setSelectionMode(ContiguousSelection);
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideMiddle);
@@ -63,20 +58,12 @@ void GridTable::setModel(QAbstractItemModel *model)
 {
     QTableView::setModel(model);
     if (model != nullptr)
-        connect(model, &QAbstractItemModel::modelReset, this, &GridTable::showPlace);
-    showPlace();
+        connect(model, &QAbstractItemModel::modelReset, this, &GridTable::placeMoved);
+    Q_EMIT placeMoved();
 }
 
 void GridTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);
-    showPlace();
-}
-
-/// "3 of 1,000,000", and nothing where there are no rows.
-void GridTable::showPlace()
-{
-    const int rows = model() == nullptr ? 0 : model()->rowCount();
-    const int row = currentIndex().row() + 1;
-    mPlace->setText(rows == 0 ? QString() : tr("%L1 of %L2").arg(row).arg(rows));
+    Q_EMIT placeMoved();
 }

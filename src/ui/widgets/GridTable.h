@@ -1,11 +1,8 @@
 // The view of a grid: one block of cells may be selected, long texts lose their middle, the right mouse button leaves a
-// selection that it lies in as it is. Empty, it says in grey what belongs there. At its foot stand the number of the
-// row in use and a box to find a text.
+// selection that it lies in as it is. Empty, it says in grey what belongs there.
 #pragma once
 
-#include "ui/widgets/GridFind.h"
-
-#include <QLabel>
+#include <QTableView>
 
 class GridTable : public QTableView
 {
@@ -22,15 +19,15 @@ class GridTable : public QTableView
     /// Typing letters looks for nothing: it would read all rows at once.
     void keyboardSearch(const QString &) override {}
 
+  Q_SIGNALS:
+    /// Another row is the one in use, or there are other rows.
+    void placeMoved();
+
   protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
   private:
-    void showPlace();
-
-    QLabel *mPlace;
-    GridFind *mFind;
     QString mEmptyText;
 };

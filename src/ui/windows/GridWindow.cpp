@@ -1,6 +1,6 @@
 #include "ui/windows/GridWindow.h"
 
-#include "ui/widgets/GridTable.h"
+#include "ui/widgets/GridFoot.h"
 #include "ui/widgets/ItemList.h"
 
 #include <QKeyEvent>
@@ -27,6 +27,7 @@ GridWindow::GridWindow(frmfxg &form, QWidget *main) : QWidget(main, Qt::Window),
     list->setObjectName("lstMN"_L1);
     list->setAccessibleName(tr("Addresses"));
     layout->addWidget(grid);
+    layout->addWidget(new GridFoot(*grid));
     layout->addWidget(list);
     mBinder.bindAll(form, *this);
 }

@@ -6,6 +6,7 @@
 #include "ui/widgets/Accessible.h"
 #include "ui/widgets/DropDown.h"
 #include "ui/widgets/EdgeGrips.h"
+#include "ui/widgets/GridFoot.h"
 #include "ui/widgets/GroupPanel.h"
 #include "ui_AutoManualPage.h"
 #include "ui_AutoTab.h"
@@ -99,6 +100,10 @@ void MainWindow::connectPages()
     auto *const list = findChild<DropDown *>("cboMNList"_L1);
     connect(list, &QComboBox::currentIndexChanged, lists, &QStackedWidget::setCurrentIndex);
     lists->setCurrentIndex(list->currentIndex());
+    connect(findChild<DropDown *>("cboDBPlace"_L1), &QComboBox::currentTextChanged, this,
+            [filter = findChild<QLineEdit *>("txtDBQuery"_L1)](const QString &place) {
+                filter->setPlaceholderText(place + u'…');
+            });
     for (GroupPanel *const group : findChildren<GroupPanel *>())
         connect(group, &GroupPanel::foldedChanged, this, &MainWindow::foldingChanged);
 }
@@ -110,6 +115,8 @@ void MainWindow::dressWidgets()
         if (!icon.isEmpty())
             button->setIcon(Icons::inked(icon));
     }
+    GridTable *const grid = findChild<GridTable *>("fxgTrawlex"_L1);
+    grid->parentWidget()->layout()->addWidget(new GridFoot(*grid));
     for (QPushButton *const go :
          {findChild<QPushButton *>("cmdANStart"_L1), findChild<QPushButton *>("cmdMNStart"_L1)}) {
         QFont bold = go->font();

@@ -80,6 +80,8 @@ constexpr TipRow tips[] = {
     {"cboDBTables"_L1, "Table that the grid shows"_L1},
     {"cboDBFields"_L1, "Field that the filter is compared with"_L1},
     {"txtDBQuery"_L1, "Show the records that contain this text"_L1},
+    {"cboDBPlace"_L1, "The field contains the text, begins with it or equals it"_L1},
+    {"chkDBCard"_L1, "Show the row as a card: its page and what was found there"_L1},
     {"cmdSFAutoDBFile"_L1, "Make a new database under the next free name"_L1},
     {"cmdSFDBDirBrowse"_L1, "Select the database directory"_L1},
     {"txtSFDBFile"_L1, "Name of the database"_L1},

@@ -9,17 +9,13 @@ using F = const StateFacts &;
 
 constexpr QLatin1StringView keptPrefixes[] = {"mnu"_L1, "pop"_L1, "lst"_L1, "pic"_L1, "lbl"_L1,
                                               "sst"_L1, "lin"_L1, "lab"_L1, "inc"_L1};
-constexpr QLatin1StringView keptControls[] = {"chkSMA"_L1,
-                                              "chkSMD"_L1,
-                                              "fxgTrawlex"_L1,
-                                              "chkSMV"_L1,
-                                              "cboDBFields"_L1,
-                                              "cboANWBSelect"_L1,
-                                              "txtSBStateACs"_L1,
-                                              "chkPutInOneFile"_L1,
-                                              "chkSFIAllSettings"_L1,
-                                              "chkSFIAllData"_L1,
-                                              "chkSFIImportTable"_L1,
+constexpr QLatin1StringView keptControls[] = {"chkSMA"_L1,           "chkSMD"_L1,
+                                              "fxgTrawlex"_L1,       "cboDBPlace"_L1,
+                                              "chkDBCard"_L1,        "crdDBRow"_L1,
+                                              "chkSMV"_L1,           "cboDBFields"_L1,
+                                              "cboANWBSelect"_L1,    "txtSBStateACs"_L1,
+                                              "chkPutInOneFile"_L1,  "chkSFIAllSettings"_L1,
+                                              "chkSFIAllData"_L1,    "chkSFIImportTable"_L1,
                                               "chkSFIImportField"_L1};
 constexpr QLatin1StringView offInSpiteOfTheirPrefix[] = {"lblAutoIncrPos"_L1, "lblAutoPgUrls"_L1, "lblAutoCollect"_L1,
                                                          "incMNAutoUrl"_L1, "incMNStep"_L1};

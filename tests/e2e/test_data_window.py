@@ -1,0 +1,177 @@
+"""The Data tab under a virtual display, by real clicks and keys: rows are filtered, exported in every form, sorted, deleted,
+and imported again from a copy; what each file holds is compared with what was there. Every step waits for what it must
+have brought about, so that a slow machine changes nothing."""
+import contextlib
+import csv
+import json
+import os
+import sqlite3
+import unittest
+
+import test_data
+import test_window
+import trawlex
+
+COLUMNS = ["Date", "SSIndex", "Address", "Url"]
+ROWS = [("2024-05-01", 1, "mia@site.com", "http://www.site.com/a.htm"),
+        ("2024-05-02", 2, "zoe@site.com", 'say "hi", Zoë'),
+        ("2024-05-03", 3, "ann@other.org", "http://www.other.org/b.htm"),
+        ("2024-05-04", 4, "=1+1@site.com", "www.site.com/c.htm"),
+        ("2024-05-05", 5, "bob@other.org", "http://www.other.org/d.htm")]
+FILTERED = [(str(index), *map(str, row)) for index, row in enumerate(ROWS, 1) if "site" in row[2]]
+# The sub-menu's items from the top, and what each writes; the second text file takes the next number.
+EXPORTS = ["EmailAddress-0.htm", "EmailAddress-0.txt", "EmailAddress-1.txt", "EmailAddress-0.dat", "EmailAddress-0.csv",
+           "EmailAddress-0.jsonl", "EmailAddress-0.xlsx", "EmailAddress-0.sqlite"]
+
+
+def text(path, encoding="utf-8"):
+    with open(path, encoding=encoding, newline="") as file:
+        return file.read()
+
+
+def table_rows(path, table):
+    return [tuple(map(str, row)) for row in trawlex.rows(path, table, ["Index", *COLUMNS])]
+
+
+class DataWindow(test_window.WindowCase):
+    def setUp(self):
+        super().setUp()
+        self.start_with(lstDCoTmr="0")
+        trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--name", "Internet Browse|blank"), 60,
+                         "the built-in browser")
+        with contextlib.closing(sqlite3.connect(self.database)) as made, made:
+            made.executemany(f"INSERT INTO EmailAddress({','.join(COLUMNS)}) VALUES(?,?,?,?)", ROWS)
+        self.click("sstSearch(3)")
+        self.choose("cboDBTables", 1)
+
+    def keys(self, *names):
+        self.display.do("key", "--delay", "40", *names)
+
+    def windows(self):
+        """The windows and pop-ups of the program that can be seen."""
+        return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
+
+    @contextlib.contextmanager
+    def pop_up(self, what):
+        """What is done in here opens a pop-up; behind it the pop-up is there."""
+        before = self.windows()
+        yield
+        trawlex.wait_for(lambda: self.windows() - before, 20, what)
+
+    def closed(self, before, what):
+        trawlex.wait_for(lambda: self.windows() <= before, 20, what)
+
+    def choose(self, combo, row):
+        before = self.windows()
+        with self.pop_up(combo):
+            self.click(combo)
+        self.keys("Home", *["Down"] * row, "Return")
+        self.closed(before, combo + " is closed")
+
+    def first_cell(self, *more):
+        """The grid has the focus, its first cell is the one in use."""
+        self.click("fxgTrawlex")
+        self.keys("ctrl+Home", *more)
+
+    def delete_selected(self):
+        """By the last item of the grid's menu."""
+        with self.pop_up("the grid's menu"):
+            self.keys("Menu")
+        self.keys("Up", "Return")
+
+    def export(self, item, name):
+        with self.pop_up("the status bar's menu"):
+            self.click("picStatus", button=3)
+        with self.pop_up("the exports"):
+            self.keys("Down", "Right")
+        self.keys(*["Down"] * item, "Return")
+        path = os.path.join(os.path.dirname(self.database), name)
+        trawlex.wait_for(lambda: os.path.exists(path), 30, name)
+        return path
+
+    def choose_file(self, path):
+        dialog = self.wait_for_window("Select File")
+        self.display.do("windowfocus", "--sync", dialog)
+        self.display.do("type", "--delay", "5", path)
+        self.keys("Return")
+        trawlex.wait_for(lambda: not self.display.do("search", "--onlyvisible", "--name", "Select File"), 20, "the dialog closes")
+
+    def addresses(self):
+        return [row[0] for row in trawlex.rows(self.database, "EmailAddress", ["Address"])]
+
+    def wait_for_addresses(self, wanted, what):
+        with contextlib.suppress(AssertionError):   # what differs is told below
+            trawlex.wait_for(lambda: self.addresses() == wanted, 30, what)
+        self.assertEqual(self.addresses(), wanted, what)
+
+    def end(self):
+        self.click("picANEnd")
+        self.assertEqual(self.window.wait(timeout=30), 0)
+
+    def test_what_is_filtered_is_exported_in_every_form(self):
+        self.choose("cboDBFields", 3)
+        self.click("txtDBQuery")
+        self.display.do("type", "--delay", "30", "SITE")
+        paths = [self.export(item, name) for item, name in enumerate(EXPORTS)]
+        html, tab, comma, saved, commas, lines, sheet, copy = paths
+        self.assertEqual(text(html, "utf-8-sig").count("<TR><TD>"), 1 + len(FILTERED))
+        self.assertIn('<A Href="http://www.site.com/c.htm">', text(html, "utf-8-sig"))
+        self.assertEqual(text(tab), "".join("\t".join(row) + "\t\r\n\r\n" for row in FILTERED))
+        self.assertEqual(text(comma), "".join(",".join(row) + "\r\n" for row in FILTERED) + "\r\n")
+        self.assertEqual(table_rows(saved, "Recordset"), FILTERED)
+        self.assertEqual(table_rows(copy, "EmailAddress"), FILTERED)
+        read = [tuple(cell.removeprefix("'") for cell in row) for row in csv.reader(text(commas, "utf-8-sig").splitlines())]
+        self.assertEqual(read[1:], FILTERED)
+        self.assertEqual([tuple(map(str, json.loads(line).values())) for line in text(lines).splitlines()], FILTERED)
+        self.assertEqual([row[3:] for row in test_data.sheet_rows(sheet)[1:]], [list(row[3:]) for row in FILTERED])
+        self.end()
+
+    def test_rows_are_sorted_deleted_and_imported_again(self):
+        copy = os.path.join(self.folder, "copy.mdb")
+        with contextlib.closing(sqlite3.connect(self.database)) as made, contextlib.closing(sqlite3.connect(copy)) as other:
+            made.backup(other)
+        x, y, width, height = self.positions["fxgTrawlex"]
+        heads = y - height // 2 + 10
+        self.display.do("mousemove", "--window", self.id, x - width // 2 + 20, heads)
+        self.display.do("click", 1)
+        self.display.do("click", 1)     # the second click sorts down: the last row stands first
+        self.first_cell()
+        self.delete_selected()
+        left = [row[2] for row in ROWS]
+        self.wait_for_addresses(left[:4], "the row that was sorted to the top is gone")
+        self.first_cell("shift+Down", "shift+Down")
+        self.delete_selected()
+        self.wait_for_addresses(left[3:4], "three rows are gone")
+        self.first_cell()
+        self.delete_selected()
+        self.wait_for_addresses([], "the last row is gone")
+        for tab in ("sstSearch(2)", "sstSettings(1)", "sstFiles(1)"):
+            self.click(tab)
+        self.click("cmdSFISelDatabase")
+        self.choose_file(copy)
+        self.click("chkSFIAllData", left=10)
+        self.click("cmdSFIImport")
+        self.wait_for_addresses(left, "all rows are back")
+        self.assertEqual(trawlex.rows(self.database, "EmailAddress", COLUMNS), ROWS)
+        self.end()
+
+    def test_a_saved_recordset_is_loaded_again_and_its_rows_belong_to_no_table(self):
+        path = self.export(3, EXPORTS[3])
+        self.first_cell()
+        self.delete_selected()
+        self.wait_for_addresses([row[2] for row in ROWS[1:]], "a row is gone")
+        with self.pop_up("the status bar's menu"):
+            self.click("picStatus", button=3)
+        self.keys("Up", "Return")
+        self.choose_file(path)
+        before = self.windows()
+        self.first_cell()
+        self.keys("Menu")
+        self.display.do("sleep", "1")
+        self.assertEqual(self.windows(), before, "no menu opens on rows without a table")
+        self.assertEqual(len(self.addresses()), len(ROWS) - 1)
+        self.end()
+
+
+if __name__ == "__main__":
+    unittest.main()
