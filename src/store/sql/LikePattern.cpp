@@ -17,6 +17,23 @@ bool fitsAt(QStringView text, qsizetype place, QStringView piece)
     return std::equal(piece.begin(), piece.end(), text.begin() + place, fits);
 }
 
+bool isAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char unit) { return static_cast<signed char>(unit) >= 0; });
+}
+
+bool fitsAscii(char unit, char expected)
+{
+    const char lower = unit >= 'A' && unit <= 'Z' ? static_cast<char>(unit + ('a' - 'A')) : unit;
+    return expected == '_' || expected == lower;
+}
+
+bool fitsAt(std::string_view text, std::size_t place, std::string_view piece)
+{
+    return std::equal(piece.begin(), piece.end(), text.begin() + std::ptrdiff_t(place),
+                      [](char expected, char unit) { return fitsAscii(unit, expected); });
+}
+
 // The first place at or behind `from` where the piece fits, or -1.
 qsizetype placeOf(QStringView text, QStringView piece, qsizetype from)
 {
@@ -28,7 +45,18 @@ qsizetype placeOf(QStringView text, QStringView piece, qsizetype from)
 }
 } // namespace
 
-LikePattern::LikePattern(QStringView pattern) : mPieces(cUtility::lowered(pattern).split(anyText)) {}
+LikePattern::LikePattern(QStringView pattern) : mPieces(cUtility::lowered(pattern).split(anyText))
+{
+    for (const QString &piece : mPieces)
+        mAscii.push_back(piece.toStdString());
+    if (!std::all_of(mAscii.begin(), mAscii.end(), isAscii))
+        mAscii.clear();
+}
+
+bool LikePattern::matchesUtf8(std::string_view text) const
+{
+    return isAscii(text) ? matchesAscii(text) : matches(QString::fromUtf8(text.data(), qsizetype(text.size())));
+}
 
 bool LikePattern::matches(QStringView text) const
 {
@@ -50,4 +78,25 @@ bool LikePattern::matches(QStringView text) const
         place += mPieces[piece].size();
     }
     return fitsAt(lower, end, last);
+}
+
+/// As above, unit for unit.
+bool LikePattern::matchesAscii(std::string_view text) const
+{
+    if (mAscii.empty())
+        return false;
+    const std::string &first = mAscii.front(), &last = mAscii.back();
+    if (mAscii.size() == 1)
+        return text.size() == first.size() && fitsAt(text, 0, first);
+    if (text.size() < first.size() + last.size() || !fitsAt(text, 0, first))
+        return false;
+    const auto *const end = text.data() + text.size() - last.size();
+    const auto *place = text.data() + first.size();
+    for (std::size_t piece = 1; piece + 1 < mAscii.size(); ++piece) {
+        place = std::search(place, end, mAscii[piece].begin(), mAscii[piece].end(), fitsAscii);
+        if (place == end && !mAscii[piece].empty())
+            return false;
+        place += mAscii[piece].size();
+    }
+    return fitsAt(text, text.size() - last.size(), last);
 }

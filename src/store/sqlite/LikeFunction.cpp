@@ -5,10 +5,11 @@
 #include <sqlite3.h>
 
 namespace {
-QString textOf(sqlite3_value *value)
+std::string_view bytesOf(sqlite3_value *value)
 {
     const auto *const bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
-    return QString::fromUtf8(bytes, sqlite3_value_bytes(value));
+    return bytes == nullptr ? std::string_view()
+                            : std::string_view(bytes, static_cast<std::size_t>(sqlite3_value_bytes(value)));
 }
 
 // The pattern of a statement is the same for all rows, so it is kept with the statement while that runs.
@@ -16,7 +17,7 @@ const LikePattern *patternOf(sqlite3_context *context, sqlite3_value *value)
 {
     if (const void *known = sqlite3_get_auxdata(context, 0))
         return static_cast<const LikePattern *>(known);
-    sqlite3_set_auxdata(context, 0, new LikePattern(textOf(value)),
+    sqlite3_set_auxdata(context, 0, new LikePattern(QString::fromUtf8(bytesOf(value))),
                         [](void *pattern) { delete static_cast<LikePattern *>(pattern); });
     return static_cast<const LikePattern *>(sqlite3_get_auxdata(context, 0));
 }
@@ -32,7 +33,7 @@ void like(sqlite3_context *context, int, sqlite3_value **values)
         if (pattern == nullptr)
             sqlite3_result_error_nomem(context);
         else
-            sqlite3_result_int(context, kind != SQLITE_BLOB && pattern->matches(textOf(values[1])) ? 1 : 0);
+            sqlite3_result_int(context, kind != SQLITE_BLOB && pattern->matchesUtf8(bytesOf(values[1])) ? 1 : 0);
     } catch (const std::exception &) {
         sqlite3_result_error_nomem(context);
     }
