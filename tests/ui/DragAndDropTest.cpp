@@ -1,9 +1,11 @@
 // Text and files dropped on widgets reach their controls; the keys that add and delete do, too.
 #include "ui/binding/DragAndDrop.h"
 #include "WindowFixture.h"
+#include "support/ProgramFixture.h"
 #include "ui/widgets/DropDown.h"
 #include "ui/widgets/ItemList.h"
 
+#include <QDir>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
@@ -11,20 +13,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+/// Whether a drag of `data` over `target` is welcome; it is dropped there then.
+bool drop(QWidget &target, const QMimeData &data)
+{
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted())
+        return false;
+    EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &drop);
+    return true;
+}
+} // namespace
+
 struct Drops : WindowFixture
 {
-    /// Whether a drag of `data` over `target` is welcome, and what its drop does.
-    bool drop(QWidget &target, const QMimeData &data)
-    {
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&target, &enter);
-        if (!enter.isAccepted())
-            return false;
-        EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
-        QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&target, &drop);
-        return true;
-    }
     QStringList listenTo(Control &control)
     {
         QObject::connect(&control, &Control::textDropped, &form, [this](const QString &text) { dropped.append(text); });
@@ -71,6 +76,38 @@ TEST_F(Drops, OfFoldersAndFilesReachThePathBoxesAsPaths)
         EXPECT_EQ(dropped, QStringList{u"/tmp/my files#1"_s}) << name;
         EXPECT_EQ(widget<QLineEdit>(name).text(), QString()) << "the logic decides what the box takes";
     }
+}
+
+/// The window on the whole program.
+struct ProgramDrops : ProgramTest
+{
+    ProgramDrops()
+    {
+        load();
+        window = std::make_unique<MainWindow>(form());
+        form().frame.sstSearch.setTab(Tab::Settings);
+        form().frame.sstSettings.setTab(Tab::Files);
+        WindowFixture::settle();
+    }
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(ProgramDrops, OfAFolderAssignItWhereNothingRuns)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"new files"_s));
+    const QString target = folder.filePath(u"new files"_s);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(target)});
+    auto *const box = window->findChild<QLineEdit *>(u"txtSFMNDir"_s);
+    form().runs.mbMNRunning = true;
+    program->states.SetStateOfControls();
+    EXPECT_FALSE(drop(*box, data));
+    form().runs.mbMNRunning = false;
+    program->states.SetStateOfControls();
+    EXPECT_TRUE(drop(*box, data));
+    WindowFixture::settle();
+    EXPECT_EQ(box->text(), target + u'/');
+    EXPECT_EQ(settings.of("txtFNSaveLocation"), target + u'/');
 }
 
 TEST_F(Drops, WithoutTextOrOnADisabledControlAreRefused)

@@ -1,6 +1,7 @@
 // Folders, database and editor: what the page's buttons choose, assign and store.
 #include "support/ProgramFixture.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -18,16 +19,25 @@ class PlacesTest : public ProgramTest
         form().frame.sstSearch.setTab(Tab::Settings);
         form().frame.sstSettings.setTab(Tab::Files);
         statuses.clear();
+        QDir::setCurrent(folder.path()); // the editor's text is written there
     }
+    ~PlacesTest() override { QDir::setCurrent(startedIn); }
     FilePlaces &places() { return form().places; }
     QString makeFolder(const QString &name)
     {
         EXPECT_TRUE(QDir(folder.path()).mkpath(name));
         return folder.filePath(name);
     }
+    /// Drops `path` on a box and lets what follows happen.
+    static void drop(TextBox &box, const QString &path)
+    {
+        box.dropText(path);
+        QCoreApplication::processEvents();
+    }
     [[nodiscard]] QString storedName() const { return settings.values.value(u"mStartUp/DatabaseName"_s); }
 
     QStringList tested;
+    const QString startedIn = QDir::currentPath();
 };
 } // namespace
 
@@ -169,4 +179,73 @@ TEST_F(PlacesTest, TheRightButtonOnALabelOpensItsFolder)
     places().lblSaveDir.mouseDown(MouseButton::Right);
     places().lblMNSaveDir.mouseDown(MouseButton::Right);
     EXPECT_EQ(desktop.opened, (QStringList{places().txtSFDBDir.text(), u"/files/"_s}));
+}
+
+// What is dropped on the boxes.
+
+TEST_F(PlacesTest, AFolderThatIsDroppedIsAssignedAsIfItHadBeenChosen)
+{
+    const QString data = makeFolder(u"data"_s);
+    drop(places().txtSFDBDir, data);
+    EXPECT_EQ(database().DatabasePath(), data + u"/Trawlex-0.mdb"_s);
+    EXPECT_EQ(settings.of("SearchKeyTxtSaveLocation Text"), data + u'/');
+    const QString files = makeFolder(u"my files"_s);
+    drop(places().txtSFMNDir, files);
+    EXPECT_EQ(places().txtSFMNDir.text(), files + u'/');
+    EXPECT_EQ(settings.of("txtFNSaveLocation"), files + u'/');
+    EXPECT_EQ(lastStatus(), u"Directory set"_s);
+}
+
+TEST_F(PlacesTest, WhatIsNoFolderIsNotTakenForOne)
+{
+    const QString before = places().txtSFDBDir.text();
+    const QString file = folder.filePath(u"Trawlex-0.mdb"_s);
+    const QStringList wrong{file, folder.filePath(u"gone"_s), makeFolder(u"a"_s) + u'\n' + makeFolder(u"b"_s)};
+    for (const QString &path : wrong) {
+        for (TextBox *box : {&places().txtSFDBDir, &places().txtSFMNDir}) {
+            drop(*box, path);
+            EXPECT_TRUE(lastStatus().startsWith(u"Not a directory: "_s)) << path.toStdString();
+        }
+    }
+    EXPECT_EQ(places().txtSFDBDir.text(), before);
+    EXPECT_EQ(settings.of("txtFNSaveLocation"), u"(none)"_s);
+}
+
+TEST_F(PlacesTest, ADatabaseThatIsDroppedIsAssigned)
+{
+    const QString other = makeFolder(u"other"_s) + u"/Mine.MDB"_s;
+    database().CloseConnection();
+    ASSERT_TRUE(QFile::copy(folder.filePath(u"Trawlex-0.mdb"_s), other));
+    drop(places().txtSFDBFile, other);
+    EXPECT_EQ(database().DatabasePath(), other);
+    EXPECT_EQ(storedName(), u"Mine.MDB"_s);
+    EXPECT_EQ(lastStatus(), u"Database assigned"_s);
+}
+
+TEST_F(PlacesTest, AFileThatIsNamedLikeNoDatabaseIsPassedOverAndTheProgramStays)
+{
+    QFile text(folder.filePath(u"notes.txt"_s));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.close();
+    const QString before = database().DatabasePath();
+    for (const QString &path : {text.fileName(), folder.path(), folder.filePath(u"gone.mdb"_s)}) {
+        drop(places().txtSFDBFile, path);
+        EXPECT_EQ(lastStatus(), u"Not a database: "_s + path);
+    }
+    EXPECT_EQ(database().DatabasePath(), before);
+    EXPECT_EQ(ends, 0);
+}
+
+TEST_F(PlacesTest, AProgramThatIsDroppedIsTriedAsEditor)
+{
+    QFile editor(folder.filePath(u"editor"_s));
+    ASSERT_TRUE(editor.open(QIODevice::WriteOnly));
+    editor.close();
+    drop(places().txtSFEditor, editor.fileName());
+    EXPECT_EQ(lastStatus(), u"Not a program: "_s + editor.fileName());
+    EXPECT_TRUE(dialogs.asked.isEmpty());
+    ASSERT_TRUE(editor.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    drop(places().txtSFEditor, editor.fileName());
+    EXPECT_EQ(settings.of("txtSFEditor"), editor.fileName());
+    EXPECT_EQ(lastStatus(), u"Editor set"_s);
 }

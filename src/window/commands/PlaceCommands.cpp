@@ -6,7 +6,7 @@
 #include "util/Text.h"
 #include "window/DatabaseLoader.h"
 
-#include <QScopedValueRollback>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +31,20 @@ PlaceCommands::PlaceCommands(const Context &context, FilePlaces &places, const R
     connect(&places.cmdSFEditorSel, &Button::Click, this, &PlaceCommands::cmdSFEditorSel_Click);
     connectLabel(places.lblSaveDir, places.txtSFDBDir);
     connectLabel(places.lblMNSaveDir, places.txtSFMNDir);
+    connectDrops();
+}
+
+/// What is dropped on a box is assigned as if it had been chosen. The one who drags it waits until the drop is taken,
+/// so questions come after it.
+void PlaceCommands::connectDrops()
+{
+    const auto onDrop = [this](const TextBox &box, auto assign) {
+        connect(&box, &TextBox::textDropped, this, assign, Qt::QueuedConnection);
+    };
+    onDrop(mPlaces.txtSFDBDir, [this](const QString &path) { dropFolder(path, Folder::Database); });
+    onDrop(mPlaces.txtSFMNDir, [this](const QString &path) { dropFolder(path, Folder::Files); });
+    onDrop(mPlaces.txtSFDBFile, [this](const QString &path) { dropDatabase(path); });
+    onDrop(mPlaces.txtSFEditor, [this](const QString &path) { dropEditor(path); });
 }
 
 void PlaceCommands::connectLabel(const Label &label, const TextBox &folder)
@@ -88,6 +102,14 @@ void PlaceCommands::cmdSFDBFileBrowse_Click()
                                                            u"Access DB (*.mdb)|*.mdb|"_s, u"Select File"_s);
         if (chosen.isEmpty())
             return mContext.status.UpDateStatus(u"Canceled"_s);
+        assignDatabase(chosen);
+    });
+}
+
+/// A database that cannot be opened ends the program.
+void PlaceCommands::assignDatabase(const QString &chosen)
+{
+    guarded(mContext.log, {module, "Sub cmdSFDBFileBrowse_Click"_L1}, [&] {
         const auto cut = chosen.lastIndexOf(u'/') + 1;
         mPlaces.txtSFDBFile.setText(chosen.mid(cut));
         if (cut > 0)
@@ -116,7 +138,6 @@ void PlaceCommands::cmdSFAutoDBFile_Click()
     mContext.states.SetStateOfControls();
 }
 
-/// An editor that the user has not seen at work stays in the box for this time, and is not stored.
 void PlaceCommands::cmdSFEditorSel_Click()
 {
     guarded(mContext.log, {module, "Sub cmdSFEditorSel_Click"_L1}, [&] {
@@ -124,6 +145,14 @@ void PlaceCommands::cmdSFEditorSel_Click()
             mContext.dialogs.chooseFile(mPlaces.txtSFEditor.text(), u"All Files (*.*)|*|"_s, u"Select Editor"_s);
         if (chosen.isEmpty())
             return mContext.status.UpDateStatus(u"Canceled"_s);
+        tryEditor(chosen);
+    });
+}
+
+/// An editor that the user has not seen at work stays in the box for this time, and is not stored.
+void PlaceCommands::tryEditor(const QString &chosen)
+{
+    guarded(mContext.log, {module, "Sub cmdSFEditorSel_Click"_L1}, [&] {
         mPlaces.txtSFEditor.setText(chosen);
         Q_EMIT editorTestWanted(u"Testing"_s);
         const auto answer = mContext.dialogs.ask(u"Editor test"_s, u"Did editor open with Testing?"_s,
@@ -133,4 +162,26 @@ void PlaceCommands::cmdSFEditorSel_Click()
         mContext.settings.SaveSetting(Sections::Main, Keys::Editor, cUtility::Trim(chosen).toString());
         mContext.status.UpDateStatus(u"Editor set"_s);
     });
+}
+
+void PlaceCommands::dropFolder(const QString &path, Folder folder)
+{
+    if (!QFileInfo(path).isDir())
+        return mContext.status.UpDateStatus("Not a directory: "_L1 + path);
+    mobjDirSel_DirSelectionChanged(path, folder);
+}
+
+/// What is not even named like a database is passed over, as the file window does.
+void PlaceCommands::dropDatabase(const QString &path)
+{
+    if (!QFileInfo(path).isFile() || !path.endsWith(".mdb"_L1, Qt::CaseInsensitive))
+        return mContext.status.UpDateStatus("Not a database: "_L1 + path);
+    assignDatabase(path);
+}
+
+void PlaceCommands::dropEditor(const QString &path)
+{
+    if (!QFileInfo(path).isExecutable() || QFileInfo(path).isDir())
+        return mContext.status.UpDateStatus("Not a program: "_L1 + path);
+    tryEditor(path);
 }

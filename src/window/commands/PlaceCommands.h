@@ -1,4 +1,5 @@
-// The page of folders, database and editor: what its buttons choose and assign.
+// The page of folders, database and editor: what its buttons choose, what is dropped on its boxes, and what of it is
+// assigned.
 #pragma once
 
 #include "app/Context.h"
@@ -31,7 +32,13 @@ class PlaceCommands : public QObject
     void cmdSFDBFileBrowse_Click();
     void cmdSFAutoDBFile_Click();
     void cmdSFEditorSel_Click();
+    void assignDatabase(const QString &chosen);
+    void tryEditor(const QString &chosen);
+    void dropFolder(const QString &path, Folder folder);
+    void dropDatabase(const QString &path);
+    void dropEditor(const QString &path);
     bool reload(bool useFileBox);
+    void connectDrops();
     void connectLabel(const Label &label, const TextBox &folder);
 
     Context mContext;
