@@ -47,6 +47,8 @@ void RunTally::finished()
 
 QString RunTally::text() const
 {
+    if (mRunning && mFirst > 1 && mNumber == mFirst)
+        return u"Resuming %1/%2, ReSet starts anew"_s.arg(mNumber).arg(mCount);
     QStringList parts;
     for (const Kind &kind : kinds) {
         const int count = mRows.value(kind.word);

@@ -15,7 +15,8 @@ class RunTally
     /// The run is over: what it has stored stays.
     void finished();
 
-    /// "12 pages, 3 e-mail, 4 min left"; kinds without rows are left out, "" before there is anything to tell.
+    /// "12 pages, 3 e-mail, 4 min left"; kinds without rows are left out, "" before there is anything to tell. On its
+    /// first item a walk that was taken up in its middle says so, and how to begin it anew.
     [[nodiscard]] QString text() const;
 
   private:

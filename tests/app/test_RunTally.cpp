@@ -42,13 +42,22 @@ TEST(Tallies, TellTheTimeLeftAsTheItemsSoFarWent)
     }
 }
 
-TEST(Tallies, CountAResumedWalkFromWhereItWentOn)
+TEST(Tallies, TellAResumedWalkAndCountItFromWhereItWentOn)
 {
     RunTally tally;
     tally.progress(12, 30, 0);
-    EXPECT_EQ(tally.text(), QString());
+    EXPECT_EQ(tally.text(), u"Resuming 12/30, ReSet starts anew"_s);
     tally.progress(13, 30, 5000);
     EXPECT_EQ(tally.text(), u"2 min left"_s);
+}
+
+TEST(Tallies, OfAResumedWalkThatEndsOnItsFirstItemTellWhatItStored)
+{
+    RunTally tally;
+    tally.progress(30, 30, 0);
+    tally.stored({{u"SiteSummary"_s, 1}});
+    tally.finished();
+    EXPECT_EQ(tally.text(), u"1 page"_s);
 }
 
 TEST(Tallies, StayAfterTheEndAndBeginAnewWithTheNextRun)
