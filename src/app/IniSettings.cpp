@@ -35,7 +35,9 @@ void IniSettings::SaveSetting(const QString &section, const QString &key, const 
 
 QString IniSettings::GetSetting(const QString &section, const QString &key, const QString &byDefault) const
 {
-    return mSettings.value(address(mAppName, section, key), byDefault).toString();
+    const QVariant value = mSettings.value(address(mAppName, section, key), byDefault);
+    // Commas that were typed without quotation marks around the text make a list of it.
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u',') : value.toString();
 }
 
 void BorrowedSettings::SaveSetting(const QString &section, const QString &key, const QString &value)

@@ -46,7 +46,7 @@ QString DatabaseFile::path(bool useFileBox)
     const QString folder = mPlaces.txtSFDBDir.text();
     const QString name =
         useFileBox ? mPlaces.txtSFDBFile.text() : mContext.settings.GetSetting(Sections::StartUp, Keys::DatabaseName);
-    if (!name.isEmpty() && QFile::exists(folder + name))
+    if (!name.isEmpty() && QFileInfo(folder + name).isFile())
         return folder + name;
     QString vacant = cUtility::GetVacantFileSpecs(folder + firstDatabaseName);
     const QString vacantName = vacant.mid(vacant.lastIndexOf(u'/') + 1);

@@ -6,6 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int twipsPerPixel = 15;
+constexpr int largestWindow = 32767; ///< pixels a side
 
 QString twips(int pixels)
 {
@@ -41,8 +42,8 @@ QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &w
 QSize storedSize(const SettingsStore &settings, const QString &name, QSize byDefault)
 {
     const auto pixels = [&](const QString &key, int otherwise) {
-        const int stored = static_cast<int>(settings.GetSetting(name, key).toDouble() / twipsPerPixel);
-        return stored > 0 ? stored : otherwise;
+        const double stored = settings.GetSetting(name, key).toDouble() / twipsPerPixel;
+        return stored >= 1 && stored <= largestWindow ? static_cast<int>(stored) : otherwise;
     };
     return {pixels(Keys::Width, byDefault.width()), pixels(Keys::Height, byDefault.height())};
 }

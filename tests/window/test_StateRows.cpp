@@ -1,5 +1,6 @@
 // The tables of control states against the plain telling of the rules: every control in every mode, and in forms filled
 // at random.
+#include "FormMirror.h"
 #include "PlainStates.h"
 #include "support/Fakes.h"
 #include "window/states/StateOfControls.h"
@@ -11,68 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-QList<Control *> controlsOf(const frmSearch &form)
-{
-    return form.findChildren<Control *>(Qt::FindDirectChildrenOnly);
-}
-
-void copyItems(const ListControl &from, ListControl &to)
-{
-    to.clear();
-    for (const QString &item : from.items())
-        to.addItem(item);
-    to.setListIndex(from.listIndex());
-}
-
-/// Gives `to` all that can be seen of `from`, and its flags.
-void mirror(const frmSearch &from, frmSearch &to)
-{
-    for (const Control *source : controlsOf(from)) {
-        Control *target = to.control(source->name());
-        if (const auto *box = qobject_cast<const CheckBox *>(source))
-            qobject_cast<CheckBox *>(target)->setValue(box->value());
-        else if (const auto *list = qobject_cast<const ListControl *>(source))
-            copyItems(*list, *qobject_cast<ListControl *>(target));
-        else if (const auto *item = qobject_cast<const MenuItem *>(source))
-            qobject_cast<MenuItem *>(target)->setChecked(item->isChecked());
-        else if (const auto *tabs = qobject_cast<const TabControl *>(source))
-            qobject_cast<TabControl *>(target)->setTab(tabs->tab());
-        if (const auto *combo = qobject_cast<const ComboBox *>(source); combo && combo->listIndex() < 0)
-            if (combo->style() == ComboBox::Style::DropDownCombo)
-                qobject_cast<ComboBox *>(target)->setText(combo->text());
-        target->setCaption(source->caption());
-        target->setEnabled(source->isEnabled());
-        target->setBackColor(source->backColor());
-        target->setForeColor(source->foreColor());
-    }
-    to.runs = from.runs;
-    to.browser.mbInitialized = from.browser.mbInitialized;
-    to.saved.mbPassUrlsLoaded = from.saved.mbPassUrlsLoaded;
-    to.manual.mintMNRunningList = from.manual.mintMNRunningList;
-    to.mbFormReady = from.mbFormReady;
-}
-
-QString look(const Control &control)
-{
-    const auto *box = qobject_cast<const CheckBox *>(&control);
-    return u"%1 %2 back %3 fore %4 value %5"_s.arg(control.name(), control.isEnabled() ? u"on"_s : u"off"_s)
-        .arg(control.backColor())
-        .arg(control.foreColor())
-        .arg(box ? box->value() : -1);
-}
-
-/// What differs between two forms, a line a control.
-QStringList differences(const frmSearch &program, const frmSearch &plain)
-{
-    QStringList lines;
-    for (const Control *control : controlsOf(program)) {
-        const QString wanted = look(*plain.control(control->name()));
-        if (look(*control) != wanted)
-            lines.append(look(*control) + u" instead of "_s + wanted);
-    }
-    return lines;
-}
-
 class StateRowsTest : public testing::Test
 {
   protected:

@@ -96,14 +96,12 @@ void Options::GetSettings()
     }
 }
 
-/// A stored folder, or the program's own, which is then stored, where that does not exist.
+/// A stored folder, or the program's own, which is then stored, where that is empty or does not exist.
 QString Options::directory(QLatin1StringView key, const QString &byDefault)
 {
     QString base = baseFolder();
     QString folder = mContext.settings.GetSetting(Sections::Main, key, byDefault.isEmpty() ? base : byDefault);
-    if (folder.isEmpty())
-        folder = base;
-    if (QDir(folder.chopped(1)).exists())
+    if (folder.endsWith(u'/') && QDir(folder).exists())
         return folder;
     mContext.settings.SaveSetting(Sections::Main, key, base);
     return base;
