@@ -30,6 +30,7 @@ void DesktopSideWindows::magnify(const QString &text)
 void DesktopSideWindows::placeMagnifier()
 {
     frmMagnify->placeUnder(*mMain);
+    saveOnTop(mSettings, frmMagnify->objectName(), true);
     if (mSettings.GetSetting(Sections::Main, Keys::KeepMagnifyPlace, u"0"_s) == "1"_L1)
         frmMagnify->setGeometry(
             AlignFF(mSettings, frmMagnify->objectName(), frmMagnify->geometry(), mMain->screen()->availableGeometry()));

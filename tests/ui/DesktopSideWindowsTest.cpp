@@ -43,6 +43,7 @@ TEST_F(SideWindowsOfTheProgram, MagnifyInOneWindowThatIsKeptOnTop)
     EXPECT_EQ(window.findChildren<MagnifyWindow *>().size(), 1);
     EXPECT_TRUE(shown<MagnifyWindow>()->isVisible());
     EXPECT_TRUE(shown<MagnifyWindow>()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_EQ(settings.values.value(u"Window Position/frmMagnify"_s), u"1"_s);
 }
 
 TEST_F(SideWindowsOfTheProgram, BringTheMagnifierBackToItsPlaceWhereThatIsWanted)

@@ -233,6 +233,32 @@ TEST_F(OptionsTest, EveryKeyAndEveryControlOfTheTableStandsOnce)
     }
 }
 
+TEST_F(OptionsTest, OptionsAreLoadedInTheirOrder)
+{
+    // Later keys use what earlier ones have set, so the order is part of the store's meaning.
+    const QStringList wanted = uR"(chkMCMNCStop|chkAutoNavToNextPassUrl|chkSaveUrl|chkSMOpenDlGraphics|chkUniqueBaseUrls
+        |optFilesSites|udcMNTimin|chkUrlBlocking|chkEmailBlocking|SearchKeyChkGetEmail Value|chkSaveToSS|chkSaveToFile
+        |SearchKeyChkSavePages Value|chkMCCS|chkMNCCS|SearchKeyCboSaveItem ListIndex|lstDCoTmr|optMCAllAny|optMNCAllAny
+        |npTimimg|SearchKeyTxtStartTag Text|SearchKeyTxtStopTag Text
+        |udcSFMinFileS|chkSUUseSiteTitle|udMNGenUrlOne|udcNotFoundMinSize|chkUniqueSelectUrls|chkOpenHtmlExports
+        |chkOpenServersOnly|chkPutInOneFile|chkMNUseFotoB|cboMNList|mnuMNLoadLinksIEUnique|cboMNMCMNC|chkMNCnvHex
+        |cboANSavedUrls|chkSMSaveUrlWithEmail|chkSMAAllignmagnify|chkSavePhone|txtSBSelAreaCodes|chkSMFindFax
+        |incSMAIEWidth|incSMAIEHeight|chkSMReturnToSearchPg|chkSaveSummary|chkShowToolTips|incMNStep
+        |chkSMVTurnOffErrorMsg|incSFMinGraphicSize|chkSMAMAutoAddAutoUrl|chkSMSaveUrlWithPhone|chkSMVBlockPopUpWindows
+        |incSMAMAutoTxtElng|chkSMAMUseFTP|chkShutDownPrompt|incSMDMinHtmlSize|chkSMAMUrlIfNoData|chkSMAPassUrlAutoIncr
+        |chkSTmrRCDir|incSmRPPause|chkSMASavedUrlAutoIncr|chkSMSUniqueServers|incMNDLTiming)"_s.split(u'|');
+    QStringList order;
+    for (const OptionRow &row : optionRows()) {
+        const QString key = row.key;
+        const auto isTold = [&](const QString &told) { return told.trimmed() == key; };
+        if (row.loaded == OptionRow::Loaded::WithSettings && std::any_of(wanted.begin(), wanted.end(), isTold))
+            order.append(key);
+    }
+    ASSERT_EQ(order.size(), wanted.size());
+    for (qsizetype i = 0; i < wanted.size(); ++i)
+        EXPECT_EQ(order[i], wanted[i].trimmed());
+}
+
 TEST_F(OptionsTest, ATagOfMinusOneIsStoredAChoiceOfNothingIsNot)
 {
     load();
@@ -492,6 +518,47 @@ TEST_F(OptionsTest, EveryControlThatIsToldHasItsTip)
     program->toolTips.ShowTootTips(false);
     for (const QString &name : controlsWithTips)
         EXPECT_EQ(form().control(name)->toolTipText(), QString()) << name.toStdString();
+}
+
+TEST_F(OptionsTest, TipsThatTellABehaviourAreToTheLetter)
+{
+    const std::pair<const char *, const char *> tips[] = {
+        {"lblMNDLTiming", "Set constant File Download (DL) time value for Manual"},
+        {"chkSMA(9)", "(If Checked) All Urls loaded (Auto [all links screened], Manual [Doesn't work on auto page url "
+                      "collect]) will be screened for second instances of the same server and second instances will be "
+                      "removed from the list"},
+        {"chkSMA(0)", "(If Checked) Search result page links will be stripped to server. Only the servers of search "
+                      "results will be opened. (Auto tab)"},
+        {"chkSMD(7)", "(If checked) If Save links (Pass Urls) is checked urls will be saved only for pages for which "
+                      "(page, email, phone) were not saved, after passing MC-MNC"},
+        {"chkSMD(5)", "(If Checked) Use site title as note, if unchecked prompt for note, on status bar double click "
+                      "(Auto & Manual) to save a Select Url."},
+        {"chkSMV(2)", "Toggle blocking all popup windows (Links that open new windows will not respond)"},
+        {"lblNotFoundMinSize",
+         "Pages with sizes less than this will be checked for File Not Found (0 checks all pages)"},
+        {"lblMinHtmlSize", "Set minimum web page size of sought pages. Smaller html sizes will not be searched. (set "
+                           "to 0 to bypass)"},
+        {"lblSummarySaved", "Summary saved indicator - (Left click to open. Right click to close)"},
+        {"lblUrlSaved", "Pass Url saved indicator - (Left click to open. Right click for menu)"},
+        {"picANEnd", "Left click To End (Right click orients Trawlex & IE)"},
+        {"lblTrawlexTimer", "Trawlex Timer (Sec). Left click cancels timer"},
+        {"lblAutoIncrPos", "(Manual) Left click Toggle Auto Increment number, If Auto Text Url is saved. (Auto) Right "
+                           "click for PassUrl menu"},
+        {"lblAutoPgUrls", "Left click toggle collect urls of sites. Right click selects list to collect in"},
+        {"lblAutoCollect", "Left click toggle collect urls on sites. Right click selects list to collect in"},
+        {"cmdANStart", "Go = Start, X = Stop (Right click for search site menu)"},
+        {"cmdMNStart", "Go = Start, X = Stop (Right click for search site menu)"},
+        {"cmdANInitialize", "Initialize web browser. (Can't do anything without it)"},
+        {"lstANMCAllAny", "Must Contain (All, Any, or Selected)"},
+        {"lstANMNCAllAny", "Must Not Contain (Any, or Selected)"},
+        {"cboSDGroup", "Select which menu group A, B, this item will appear in  - (Go button popup menu). Requires "
+                       "restart before visible."},
+        {"cboSD(2)", "Select a url, or type a new url. - (urls must be unique in relation to every other site's urls)"},
+        {"cmdSFEditorSel", "Select new editor. Must support command line arguments. (Notepad, Word, support command "
+                           "line aruments)"}};
+    load();
+    for (const auto &[control, text] : tips)
+        EXPECT_EQ(form().control(QString::fromLatin1(control))->toolTipText(), QString::fromLatin1(text)) << control;
 }
 
 TEST_F(OptionsTest, StatesShowTheirAreaCodes)
