@@ -15,6 +15,7 @@ bool LongWork::goOn(qint64 done, qint64 all)
 {
     if (!mUnderWay || mCancelled || mPump.tickCount() < mNextTurn)
         return !mCancelled;
+    Q_EMIT progressed(all > 0 ? done : 0, all);
     mStatus.UpDateStatus(all > 0 ? u"%1 %2%"_s.arg(mText).arg(done * 100 / all) : u"%1 %2"_s.arg(mText).arg(done));
     mPump.doEvents();
     mNextTurn = mPump.tickCount() + turn;

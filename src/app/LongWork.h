@@ -36,12 +36,20 @@ class LongWork : public QObject
     /// Handles what is waiting.
     void letEventsIn() { mPump.doEvents(); }
 
+  Q_SIGNALS:
+    /// So many steps of `all` are done; 0 of 0 behind the last one, and where there is no share to tell.
+    void progressed(qint64 done, qint64 all);
+
   private:
     class Ending
     {
       public:
         explicit Ending(LongWork &work) : mWork(work) {}
-        ~Ending() { mWork.mUnderWay = mWork.mCancelled = false; }
+        ~Ending()
+        {
+            mWork.mUnderWay = mWork.mCancelled = false;
+            Q_EMIT mWork.progressed(0, 0);
+        }
         Q_DISABLE_COPY_MOVE(Ending)
 
       private:

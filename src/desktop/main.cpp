@@ -41,6 +41,10 @@ void connectWindow(Program &program, MainWindow &window)
     QObject::connect(&program.runs, &Runs::progress, &window,
                      [&window](int number, int count) { window.setProgress(number - 1, count); });
     QObject::connect(&program.runs, &Runs::finalized, &window, [&window] { window.setProgress(0, 0); });
+    // In thousandths: a list may have more items than the bar can count.
+    QObject::connect(&program.longWork, &LongWork::progressed, &window, [&window](qint64 done, qint64 all) {
+        window.setProgress(all > 0 ? int(done * 1000 / all) : 0, all > 0 ? 1000 : 0);
+    });
 }
 
 void connectTally(Program &program, MainWindow &window, const EventPump &pump)

@@ -40,6 +40,21 @@ TEST_F(LongWorkTest, ItsTextIsShownBeforeItWorksAndItsShareNowAndThen)
     EXPECT_FALSE(work.isUnderWay());
 }
 
+TEST_F(LongWorkTest, ItsShareGoesToABarThatIsTakenAwayAtItsEndEvenByAnError)
+{
+    QList<std::pair<qint64, qint64>> shares;
+    QObject::connect(&work, &LongWork::progressed, &form, [&](qint64 done, qint64 all) { shares.append({done, all}); });
+    const auto steps = [&] {
+        pump.jump(LongWork::turn);
+        EXPECT_TRUE(work.goOn(20, 40));
+        pump.jump(LongWork::turn);
+        EXPECT_TRUE(work.goOn(7)); // of nobody knows how many
+        throw RuntimeError(5, u"no"_s);
+    };
+    EXPECT_THROW(work.run(u"Saving"_s, steps), RuntimeError);
+    EXPECT_EQ(shares, (QList<std::pair<qint64, qint64>>{{20, 40}, {0, 0}, {0, 0}}));
+}
+
 TEST_F(LongWorkTest, CancellingEndsTheOneUnderWayAndNoLaterOne)
 {
     EXPECT_TRUE(work.run(u"Saving"_s, [&] {
