@@ -1,0 +1,93 @@
+"""What `make install` puts into place: complete, without a dead link in the manual, and running from there."""
+import html.parser
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
+import xml.etree.ElementTree as ElementTree
+
+import trawlex
+
+FILES = ["bin/trawlex", "bin/trawlex-harvest", "bin/trawlex-mdb-reader", "bin/trawlex-browser-holder",
+         "share/applications/trawlex.desktop", "share/metainfo/trawlex.metainfo.xml",
+         "share/icons/hicolor/scalable/apps/trawlex.svg", "share/man/man1/trawlex.1", "share/man/man1/trawlex-harvest.1",
+         "share/doc/trawlex/manual/index.html", "share/doc/trawlex/copyright"]
+
+
+class Links(html.parser.HTMLParser):
+    """What a page refers to."""
+
+    def __init__(self, page):
+        super().__init__()
+        self.found = []
+        self.anchors = set()
+        self.feed(page.read_text(encoding="utf-8"))
+
+    def handle_starttag(self, tag, attrs):
+        for name, value in attrs:
+            if name in ("href", "src", "srcset"):
+                self.found.append(value)
+            elif name == "id":
+                self.anchors.add(value)
+
+
+class Installed(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.prefix = pathlib.Path(tempfile.mkdtemp(prefix="trawlex-install-"))
+        subprocess.run(["cmake", "--install", trawlex.BIN.parent, "--prefix", cls.prefix], check=True, stdout=subprocess.DEVNULL)
+
+    @classmethod
+    def tearDownClass(cls):
+        shutil.rmtree(cls.prefix)
+
+    def test_everything_has_its_place(self):
+        for name in FILES:
+            with self.subTest(name):
+                self.assertTrue((self.prefix / name).is_file())
+
+    def test_no_link_of_the_manual_is_dead(self):
+        pages = {page: Links(page) for page in (self.prefix / "share/doc/trawlex/manual").glob("*.html")}
+        self.assertGreaterEqual(len(pages), 9)
+        for page, links in pages.items():
+            for link in links.found:
+                path, _, anchor = link.partition("#")
+                target = (page.parent / path).resolve() if path else page
+                with self.subTest(page=page.name, link=link):
+                    self.assertTrue(target.is_file())
+                    if anchor:
+                        self.assertIn(anchor, pages[target].anchors)
+
+    def test_every_page_of_the_manual_leads_to_every_other(self):
+        pages = list((self.prefix / "share/doc/trawlex/manual").glob("*.html"))
+        for page in pages:
+            self.assertLessEqual({other.name for other in pages}, set(Links(page).found), page.name)
+
+    def test_the_man_page_knows_every_switch(self):
+        told = subprocess.run([self.prefix / "bin/trawlex-harvest", "--help"], capture_output=True, text=True, check=True).stdout
+        page = (self.prefix / "share/man/man1/trawlex-harvest.1").read_text(encoding="utf-8").replace("\\-", "-")
+        for switch in sorted(set(re.findall(r"^  (--[a-z-]+)", told, re.MULTILINE))):
+            with self.subTest(switch):
+                self.assertIn(switch, page)
+
+    def test_the_man_pages_are_well_formed(self):
+        for page in (self.prefix / "share/man/man1").glob("*.1"):
+            done = subprocess.run(["groff", "-man", "-Tutf8", "-ww", page], capture_output=True, text=True, check=True)
+            self.assertEqual(done.stderr, "", page.name)
+
+    def test_the_desktop_entry_names_what_is_installed(self):
+        entry = dict(line.split("=", 1) for line in
+                     (self.prefix / "share/applications/trawlex.desktop").read_text(encoding="utf-8").splitlines() if "=" in line)
+        self.assertTrue(os.access(self.prefix / "bin" / entry["Exec"].split()[0], os.X_OK))
+        self.assertTrue((self.prefix / f"share/icons/hicolor/scalable/apps/{entry['Icon']}.svg").is_file())
+        metainfo = ElementTree.parse(self.prefix / "share/metainfo/trawlex.metainfo.xml").getroot()
+        self.assertEqual(metainfo.findtext("launchable"), "trawlex.desktop")
+        for binary in metainfo.findall("provides/binary"):
+            self.assertTrue((self.prefix / "bin" / binary.text).is_file())
+
+
+if __name__ == "__main__":
+    unittest.main()
