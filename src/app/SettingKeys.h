@@ -20,6 +20,7 @@ constexpr QLatin1StringView FileSaveDir{"txtFNSaveLocation"};
 constexpr QLatin1StringView Editor{"txtSFEditor"};
 constexpr QLatin1StringView BrowserProgram{"IEPath"};
 constexpr QLatin1StringView KeepOnTop{"mnuANStatusKeepOnTop"}; ///< truth text
+constexpr QLatin1StringView ScriptLimit{"scriptLimit"};        ///< milliseconds; see BrowserEngine::setScriptLimit
 constexpr QLatin1StringView FoldedGroups{"foldedGroups"};      ///< names, with commas between them
 // Of options that are also read outside their table.
 constexpr QLatin1StringView Browser{"lstDCoTmr"};

@@ -12,12 +12,15 @@
 #else
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
-#include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
 #endif
 
 namespace Platform {
@@ -48,6 +51,8 @@ PipedProcess startPiped(const QString &program, const QStringList &, const QStri
 #else
 namespace {
 
+constexpr int readFile = 3, writeFile = 4; // of a child
+
 // Texts as the system takes them.
 class Words
 {
@@ -67,51 +72,83 @@ class Words
     std::vector<char *> mPointers;
 };
 
-// What a child is to be given: its files, and a session of its own, so that keys of our terminal do not reach it.
-class SpawnPlan
+// A file of ours, above those that a child is given.
+int aboveChildFiles(int file)
+{
+    const int moved = ::fcntl(file, F_DUPFD_CLOEXEC, writeFile + 1);
+    ::close(file);
+    return moved;
+}
+
+// The life of the child until it is the program: between fork and exec it may do next to nothing, so all stands ready.
+// Only an error of the system comes back.
+class Child
 {
   public:
-    explicit SpawnPlan(int line)
+    Child(const QStringList &words, const QStringList &environment, int line)
+        : mWords(words), mVariables(environment), mLine(line)
     {
-        posix_spawn_file_actions_init(&mFiles);
-        posix_spawnattr_init(&mAttributes);
-        posix_spawnattr_setflags(&mAttributes, POSIX_SPAWN_SETSID);
+    }
+    [[nodiscard]] int become()
+    {
+#ifdef Q_OS_LINUX
+        // Also one that is stopped, and never finds that its line has gone, ends with us.
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (::getppid() != mParent)
+            return ESRCH;
+#endif
+        ::setsid(); // keys of our terminal do not reach it
+        const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
         for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-            posix_spawn_file_actions_addopen(&mFiles, standard, "/dev/null", O_RDWR, 0);
+            ::dup2(nothing, standard);
         for (const int file : {readFile, writeFile})
-            posix_spawn_file_actions_adddup2(&mFiles, line, file);
-    }
-    ~SpawnPlan()
-    {
-        posix_spawn_file_actions_destroy(&mFiles);
-        posix_spawnattr_destroy(&mAttributes);
-    }
-    Q_DISABLE_COPY_MOVE(SpawnPlan)
-
-    /// The error number of the system, 0 for success.
-    [[nodiscard]] int run(const QStringList &words, const QStringList &environment, pid_t &pid) const
-    {
-        Words command(words);
-        Words variables(environment);
-        return ::posix_spawn(&pid, command.list()[0], &mFiles, &mAttributes, command.list(), variables.list());
+            ::dup2(mLine, file);
+        ::execve(mWords.list()[0], mWords.list(), mVariables.list());
+        return errno;
     }
 
   private:
-    static constexpr int readFile = 3, writeFile = 4;
-    posix_spawn_file_actions_t mFiles{};
-    posix_spawnattr_t mAttributes{};
+    Words mWords;
+    Words mVariables;
+    int mLine;
+    pid_t mParent = ::getpid();
 };
+
+// Starts `child` and waits until it is the program. The error number of the system, 0 for success.
+int startChild(Child &child, pid_t &pid)
+{
+    int report[2] = {-1, -1};
+    if (::pipe2(report, O_CLOEXEC) != 0)
+        return errno;
+    report[1] = aboveChildFiles(report[1]);
+    pid = ::fork();
+    if (pid == 0) {
+        const int error = child.become();
+        [[maybe_unused]] const ssize_t told = ::write(report[1], &error, sizeof error);
+        ::_exit(EXIT_FAILURE);
+    }
+    int error = pid < 0 ? errno : 0;
+    ::close(report[1]);
+    // The program's start closes the pipe, and nothing comes.
+    while (pid > 0 && ::read(report[0], &error, sizeof error) < 0 && errno == EINTR) {
+    }
+    ::close(report[0]);
+    if (error != 0 && pid > 0)
+        ::waitpid(pid, nullptr, 0);
+    return error;
+}
 
 } // namespace
 
 PipedProcess startPiped(const QString &program, const QStringList &arguments, const QStringList &variables)
 {
-    const QStringList environment = QProcess::systemEnvironment() + variables;
     int ends[2] = {-1, -1};
     int error = ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0 ? 0 : errno;
     pid_t pid = 0;
     if (error == 0) {
-        error = SpawnPlan(ends[1]).run(QStringList{program} + arguments, environment, pid);
+        ends[1] = aboveChildFiles(ends[1]);
+        Child child(QStringList{program} + arguments, QProcess::systemEnvironment() + variables, ends[1]);
+        error = startChild(child, pid);
         ::close(ends[1]);
     }
     if (error != 0) {
@@ -123,6 +160,17 @@ PipedProcess startPiped(const QString &program, const QStringList &arguments, co
     return {pid, ends[0]};
 }
 #endif
+
+qint64 peer([[maybe_unused]] qintptr socket)
+{
+#ifdef Q_OS_LINUX
+    ucred who{};
+    socklen_t size = sizeof who;
+    if (::getsockopt(int(socket), SOL_SOCKET, SO_PEERCRED, &who, &size) == 0)
+        return who.pid;
+#endif
+    return 0;
+}
 
 QByteArray commandLine(qint64 pid)
 {

@@ -11,10 +11,12 @@ struct PipedProcess
     qintptr socket = -1; ///< our end of the line; closed by whoever takes it
 };
 /// Starts `program` in a session of its own. It reads from its file 3 what we write to the line, and what it writes to
-/// its file 4 comes back; the line ends with either process, whatever ends it. `variables` ("NAME=value") are added to
-/// its environment. Raises a RuntimeError.
+/// its file 4 comes back; the line ends with either process, whatever ends it. It is ended at once when the thread that
+/// has started it ends. `variables` ("NAME=value") are added to its environment. Raises a RuntimeError.
 [[nodiscard]] PipedProcess startPiped(const QString &program, const QStringList &arguments,
                                       const QStringList &variables = {});
+/// The process that listens at the other end of a local socket which we have connected; 0 where it cannot be told.
+[[nodiscard]] qint64 peer(qintptr socket);
 /// The command line of the process `pid`, its words parted by zero bytes; "" where it cannot be told.
 [[nodiscard]] QByteArray commandLine(qint64 pid);
 /// True when the program runs with the rights of the superuser, under which the browsers' sandbox refuses to start.

@@ -4,6 +4,7 @@
 #include "util/Text.h"
 
 #include <QFileInfo>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +13,7 @@ constexpr auto module = "frmSearch"_L1;
 constexpr int internalMode = 0;
 constexpr qint64 startLimit = 10'000;
 constexpr qint64 askAgainAfter = 200;
+constexpr std::chrono::milliseconds shortestScriptLimit{100};
 constexpr qint64 smallestSize = 51;
 constexpr int standardWidth = 380;
 constexpr int standardHeight = 440;
@@ -56,7 +58,7 @@ void BrowserConnection::InitializeIE()
 bool BrowserConnection::connectInternal()
 {
     std::shared_ptr<BrowserEngine> browser = mOut.browsers.internalBrowser();
-    mPanel.mbInternalBrowser = browser && mBrowser->InitializeObject(std::move(browser));
+    mPanel.mbInternalBrowser = browser && take(std::move(browser));
     return mPanel.mbInternalBrowser;
 }
 
@@ -71,7 +73,24 @@ bool BrowserConnection::connectFreeStanding()
         }
         browser = startBrowser();
     }
-    return browser && mBrowser->InitializeObject(std::move(browser));
+    return browser && take(std::move(browser));
+}
+
+bool BrowserConnection::take(std::shared_ptr<BrowserEngine> browser)
+{
+    browser->setScriptLimit(scriptLimit());
+    return mBrowser->InitializeObject(std::move(browser));
+}
+
+/// What the user has set by hand, within reason; a page is always given some time, and no more than a read has.
+std::chrono::milliseconds BrowserConnection::scriptLimit() const
+{
+    bool isNumber = false;
+    const std::chrono::milliseconds wanted(
+        mContext.settings.GetSetting(Sections::Main, Keys::ScriptLimit).toInt(&isNumber));
+    if (!isNumber)
+        return BrowserEngine::usualScriptLimit;
+    return std::clamp<std::chrono::milliseconds>(wanted, shortestScriptLimit, BrowserEngine::readLimit);
 }
 
 /// Starts the program and asks for its window until it answers; input stays live meanwhile.

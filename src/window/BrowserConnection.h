@@ -45,6 +45,8 @@ class BrowserConnection : public QObject, public BrowserReviver
     [[nodiscard]] bool connectInternal();
     [[nodiscard]] bool connectFreeStanding();
     [[nodiscard]] std::shared_ptr<BrowserEngine> startBrowser();
+    [[nodiscard]] bool take(std::shared_ptr<BrowserEngine> browser);
+    [[nodiscard]] std::chrono::milliseconds scriptLimit() const;
     void windowClosed();
     void died();
     void newWindow(bool *cancel);

@@ -201,6 +201,32 @@ TEST_F(ChromiumHolder, AHolderThatIsKilledTakesTheBrowserAlong)
     EXPECT_TRUE(browser) << "what the killed one has left is in nobody's way";
 }
 
+TEST_F(ChromiumHolder, ABrowserThatIsStoppedEndsWithItsHolderAllTheSame)
+{
+    ASSERT_GT(holder(), 0);
+    for (const qint64 process : processes("--user-data-dir")) {
+        if (process != holder() && !Platform::commandLine(process).contains("--type="))
+            ::kill(pid_t(process), SIGSTOP);
+    }
+    ::kill(pid_t(holder()), SIGKILL);
+    EXPECT_TRUE(waitFor([&] { return processes().isEmpty(); }, 5000));
+}
+
+TEST_F(ChromiumHolder, AHolderThatIsStoppedGivesWayToTheNextStart)
+{
+    const qint64 stopped = holder();
+    ASSERT_GT(stopped, 0);
+    ::kill(pid_t(stopped), SIGSTOP);
+    startProgram();
+    EXPECT_EQ(factory->runningBrowser(), nullptr);
+    factory->start(ChromiumProgram::find());
+    browser = connect();
+    ASSERT_TRUE(browser);
+    EXPECT_NE(holder(), stopped);
+    EXPECT_EQ(processes("trawlex-browser-holder").size(), 1);
+    EXPECT_TRUE(open(u"about:blank"_s));
+}
+
 TEST_F(ChromiumHolder, ABrowserThatDiesIsToldAndStartedAgain)
 {
     bool died = false;

@@ -254,6 +254,49 @@ TEST_F(ChromiumRefusals, AScriptThatNeverEndsIsBrokenOffByARead)
     EXPECT_EQ(str(text()), "before\n\nafter");
 }
 
+TEST_F(ChromiumRefusals, APageThatHangsInSomethingElseThanAScriptIsReadWithoutScripts)
+{
+    server().route("/never", {.delay = -1});
+    server().page("/next", "<title>next</title><script>document.title += ' with scripts'</script>");
+    for (const QByteArray script :
+         {"const r = new XMLHttpRequest(); r.open('GET', '/never', false); r.send();",
+          "const c = document.body.appendChild(document.createElement('canvas')).getContext('2d'); const d = () => { "
+          "for "
+          "(let i = 0; i < 1e5; ++i) c.arc(i % 300, i % 150, 9, 0, 7); c.fill(); requestAnimationFrame(d); }; d()"}) {
+        server().page("/hang", "<title>hang</title><p>text</p><a href=/x>x</a><script>" + script + "</script>");
+        browser->setScriptLimit(std::chrono::milliseconds(500));
+        browser->Navigate(here(u"/hang"_s));
+        ASSERT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Arrived; }));
+        idle(500);
+        QElapsedTimer clock;
+        clock.start();
+        const PageContent content = browser->content();
+        EXPECT_LT(clock.elapsed(), 8000) << script.constData();
+        EXPECT_EQ(str(content.title), "hang") << script.constData();
+        EXPECT_TRUE(content.html.contains("<p>text</p>"_L1));
+        EXPECT_EQ(str(content.url), str(here(u"/hang"_s)));
+        EXPECT_EQ(str(browser->links()), str(QStringList{here(u"/x"_s)}));
+        EXPECT_EQ(browser->arrival(), Arrival::Arrived);
+        openPath(u"/next"_s);
+        EXPECT_EQ(str(browser->LocationName()), "next with scripts") << script.constData();
+        expectAllIsWell();
+    }
+}
+
+TEST_F(ChromiumRefusals, ThePageBehindOneThatLostItsProcessInAReadArrives)
+{
+    server().route("/never", {.delay = -1});
+    browser->setScriptLimit(std::chrono::milliseconds(200));
+    for (int round = 0; round < 5; ++round) {
+        server().page("/hang", "<p>hang<script>const r = new XMLHttpRequest(); r.open('GET', '/never', false); r.send()"
+                               "</script>");
+        browser->Navigate(here(u"/hang"_s));
+        ASSERT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Arrived; }));
+        (void)browser->content();
+        expectAllIsWell();
+    }
+}
+
 TEST_F(ChromiumRefusals, AScriptThatNeverEndsIsLeftByANavigation)
 {
     server().page("/endless", "<title>endless</title><p>before" + endless);
@@ -266,6 +309,20 @@ TEST_F(ChromiumRefusals, AScriptThatNeverEndsWhenItIsLeftIsBrokenOff)
 {
     show("<script>onbeforeunload = onpagehide = onunload = () => { while (true); }</script>");
     expectAllIsWell();
+}
+
+TEST_F(ChromiumRefusals, APageThatDoesNotLetGoLosesItsProcessAndKeepsItsWindow)
+{
+    const QStringList before = windows().keys();
+    for (const QByteArray script : {"onpagehide = () => { while (true) alert(1); }",
+                                    "onpagehide = () => { for (;;) try { for (;;); } finally { continue; } }"}) {
+        show("<script>" + script + "</script>");
+        QElapsedTimer clock;
+        clock.start();
+        expectAllIsWell();
+        EXPECT_LT(clock.elapsed(), 4500) << script.constData();
+        EXPECT_EQ(str(windows().keys()), str(before)) << script.constData();
+    }
 }
 
 TEST_F(ChromiumRefusals, AScriptThatCannotBeBrokenOffLosesItsProcess)

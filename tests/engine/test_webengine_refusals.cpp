@@ -364,6 +364,41 @@ TEST_F(WebEngineRefusals, AScriptThatNeverEndsIsDoneWithout)
     }
 }
 
+TEST_F(WebEngineRefusals, APageThatIsNeverCompleteIsReadAsFarAsItHasComeWithoutScripts)
+{
+    server.route("/never", {.delay = -1});
+    server.page("/next", "<title>next</title>");
+    server.page("/hang",
+                "<title>hang</title><p>text</p><iframe src='/never'></iframe><script>for (;;);</script><p>end</p>");
+    browser->setScriptLimit(700ms);
+    browser->Navigate(server.address(u"/hang"_s));
+    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    QElapsedTimer clock;
+    clock.start();
+    const PageContent content = browser->content();
+    EXPECT_EQ(content.title, u"hang");
+    EXPECT_TRUE(content.html.contains("<p>end</p>"_L1));
+    EXPECT_LT(clock.elapsed(), 8000);
+    EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived);
+    open(u"/next"_s);
+    EXPECT_EQ(browser->LocationName(), u"next");
+}
+
+TEST_F(WebEngineRefusals, ElementsInsideOneAnotherByTheThousandAreRead)
+{
+    server.page("/next", "<title>next</title>");
+    server.page("/nested", "<title>nested</title><p>text</p>" + QByteArray("<div>").repeated(20'000));
+    browser->setScriptLimit(1s);
+    browser->Navigate(server.address(u"/nested"_s));
+    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    idle(500);
+    const PageContent content = browser->content();
+    EXPECT_EQ(content.title, u"nested");
+    EXPECT_EQ(content.html.count("<div>"_L1), 20'000);
+    open(u"/next"_s);
+    EXPECT_EQ(browser->LocationName(), u"next");
+}
+
 TEST_F(WebEngineRefusals, APageThatHangsOnlyWhenItIsLeftDoesNotHoldUpTheNextOne)
 {
     server.page("/next", "<title>next</title>");

@@ -43,6 +43,26 @@ TEST_F(ConnectionTest, TheBuiltInBrowserIsTheInternalOne)
     EXPECT_TRUE(browser().navigated.isEmpty());
 }
 
+TEST_F(ConnectionTest, HowLongAPageMayKeepAReadWaitingIsASetting)
+{
+    struct Row
+    {
+        const char *set;
+        int milliseconds;
+    };
+    for (const auto &[set, milliseconds] :
+         {Row{"", 5000}, {"2500", 2500}, {"soon", 5000}, {"0", 100}, {"-7", 100}, {"900000", 30'000}}) {
+        settings.preset("scriptLimit", QString::fromLatin1(set));
+        load();
+        EXPECT_EQ(browser().scriptLimit.count(), milliseconds) << set;
+        browsers.internal = std::make_shared<FakeBrowser>(pump);
+        form().browser.cboANWBSelect.setListIndex(0);
+        program->connection.InitializeIE();
+        EXPECT_EQ(browsers.internal->scriptLimit.count(), milliseconds) << set << ", built-in";
+        form().browser.cboANWBSelect.setListIndex(1);
+    }
+}
+
 TEST_F(ConnectionTest, WithoutABuiltInBrowserItIsNotInitialized)
 {
     settings.preset("lstDCoTmr", u"0"_s);

@@ -82,6 +82,8 @@ std::shared_ptr<BrowserEngine> ChromiumFactory::runningBrowser()
 
 void ChromiumFactory::start(const QString &programPath)
 {
+    if (mPipe && !mSettings.headless) // a holder that is stopped would never find that its browser has gone
+        Platform::endProcess(mPipe->holder());
     mPipe.reset();
     endStarted(); // it was not to be reached any more
     profile().clear();

@@ -11,6 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::chrono::seconds windowCallLimit{5};
+const QString emptyPage = u"about:blank"_s;
 // How often one page is asked for once more, because a process was lost or the old page stood in the way.
 constexpr int repetitionsAtMost = 3;
 
@@ -83,8 +84,9 @@ DevToolsConnection::Then ChromiumPage::whileAlive(std::function<void(const DevTo
 void ChromiumPage::navigate(const QString &address)
 {
     requireWindow();
+    letScriptsRun(true);
     mRequested = address;
-    mReplaced = false;
+    mStuck = 0;
     mRepetitions = 0;
     std::erase_if(mNotices, [](const PageNotice &each) { return each.kind == PageNotice::Kind::LoadingEnded; });
     request();
@@ -155,21 +157,32 @@ void ChromiumPage::requestAfterLoss()
         loadingEnded();
 }
 
+// An old page that does not let go loses its process; if that does not help, its window.
 void ChromiumPage::onPageStuck()
 {
-    if (!std::exchange(mReplaced, true))
+    switch (++mStuck) {
+    case 1:
+        mConnection->send(mTargets.session(), "Page.crash"_L1);
+        mWatch.documentComing();
+        break;
+    case 2:
         mTargets.replaceWindow();
-    else if (mLoading.cancel())
-        loadingEnded();
+        break;
+    default:
+        if (mLoading.cancel())
+            loadingEnded();
+    }
 }
 
 void ChromiumPage::onWindowReplaced()
 {
     mTopFrame = mTargets.target();
-    mAddress = u"about:blank"_s;
+    mAddress = emptyPage;
     mUnreachable.clear();
     mDocuments.clear();
     mReader.setPage(mTargets.session(), mTopFrame);
+    if (std::exchange(mPlain, false))
+        letScriptsRun(false);
     if (mLoading.isLoading())
         request();
 }
@@ -188,12 +201,50 @@ QString ChromiumPage::address() const
     return mUnreachable.isEmpty() ? mAddress : mUnreachable;
 }
 
-QStringList ChromiumPage::read(QLatin1StringView what, int frame)
+void ChromiumPage::requireDocument() const
 {
     requireWindow();
     if (mLoading.isWaitingForDocument()) // nor would the browser answer before it comes
         throw RuntimeError(EngineError::NotArrived, u"The page has not arrived yet."_s);
-    return mReader.read(what, frame);
+}
+
+QStringList ChromiumPage::read(QLatin1StringView what, int frame)
+{
+    requireDocument();
+    const QDeadlineTimer deadline(BrowserEngine::readLimit);
+    try {
+        return mReader.read(what, frame, deadline);
+    } catch (const RuntimeError &error) {
+        if (error.number() != EngineError::NoAnswer || mPlain || deadline.hasExpired())
+            throw;
+    }
+    loadPlain(deadline);
+    requireDocument();
+    return mReader.read(what, frame, deadline);
+}
+
+void ChromiumPage::letScriptsRun(bool run)
+{
+    if (mPlain == !run)
+        return;
+    mPlain = !run;
+    mConnection->send(mTargets.session(), "Emulation.setScriptExecutionDisabled"_L1, {{u"value"_s, mPlain}});
+}
+
+// The process that did not answer has gone. A new one takes no word about scripts before it has a document: an empty
+// one comes first, of which nobody is told.
+void ChromiumPage::loadPlain(QDeadlineTimer deadline)
+{
+    requireWindow();
+    const QString address = std::exchange(mAddress, {});
+    for (const QString &each : {emptyPage, address}) {
+        std::erase_if(mNotices, [](const PageNotice &notice) { return notice.url == emptyPage; });
+        mRequested = each;
+        request();
+        mConnection->waitUntil([this] { return !mLoading.isLoading(); }, deadline);
+        requireWindow();
+        letScriptsRun(false);
+    }
 }
 
 PageContent ChromiumPage::content()

@@ -37,8 +37,9 @@ class ChromiumPage : public QObject
     [[nodiscard]] BrowserEngine::Arrival arrival() const { return mLoading.arrival(); }
     /// The address of the top document, as the browser has last told it.
     [[nodiscard]] QString address() const;
-    /// As PageReader::read; the address of an error page is that of the page which could not be shown.
+    /// As PageReader::read. A page that has lost its process by it is loaded once more without scripts, and read so.
     [[nodiscard]] QStringList read(QLatin1StringView what, int frame = -1);
+    /// The address of an error page is that of the page which could not be shown.
     [[nodiscard]] PageContent content();
     void setScriptLimit(std::chrono::milliseconds limit) { mReader.setPatience(limit); }
     /// Sets one edge or extent ("left", "top", "width", "height") of the window.
@@ -83,6 +84,9 @@ class ChromiumPage : public QObject
 
     [[nodiscard]] QJsonObject askBrowser(const QString &session, QLatin1StringView method, const QJsonObject &params);
     void request();
+    void letScriptsRun(bool run);
+    void loadPlain(QDeadlineTimer deadline);
+    void requireDocument() const;
     void answered(int number, const DevToolsConnection::Answer &answer);
     void settle(int number);
     void settleMove();
@@ -111,7 +115,8 @@ class ChromiumPage : public QObject
     QString mRequested;        // the latest Navigate
     bool mLostProcess = false; // since the latest request
     int mRepetitions = 0;      // of the latest Navigate
-    bool mReplaced = false;    // the window has been replaced for the latest Navigate
+    int mStuck = 0;            // how often the old page has held up the latest Navigate
+    bool mPlain = false;       // the page is loaded without scripts
     bool mClosed = false;
     std::deque<PageNotice> mNotices;
 };

@@ -1,4 +1,5 @@
 #include "engine/chromium/DevToolsPipe.h"
+#include "engine/Platform.h"
 
 #include <QJsonDocument>
 #include <QPointer>
@@ -27,6 +28,11 @@ DevToolsPipe::~DevToolsPipe()
 {
     if (mSocket)
         mSocket->disconnect(this);
+}
+
+qint64 DevToolsPipe::holder() const
+{
+    return isOpen() ? Platform::peer(mSocket->socketDescriptor()) : 0;
 }
 
 void DevToolsPipe::send(const QJsonObject &message)

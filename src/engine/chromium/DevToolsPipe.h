@@ -23,6 +23,8 @@ class DevToolsPipe : public QObject
     [[nodiscard]] virtual qint64 nextId() { return ++mLastId; }
 
     [[nodiscard]] virtual bool isOpen() const { return mSocket && mSocket->state() == QLocalSocket::ConnectedState; }
+    /// The process that holds its other end, where that is not the browser itself.
+    [[nodiscard]] qint64 holder() const;
     /// True once the browser has said anything.
     [[nodiscard]] bool isAwake() const { return mAwake; }
 

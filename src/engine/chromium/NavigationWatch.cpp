@@ -9,7 +9,7 @@ namespace {
 // Short: only the page that is being left suffers from them, and the next one has its own wait.
 constexpr std::chrono::milliseconds betweenLooks{1000};
 constexpr std::chrono::milliseconds limitOfAnswer{1000};
-constexpr std::chrono::milliseconds limitOfDocument{2500};
+constexpr std::chrono::milliseconds limitOfDocument{2000};
 constexpr int breakOffsAtMost = 1;
 
 } // namespace

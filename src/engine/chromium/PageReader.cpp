@@ -13,6 +13,7 @@ namespace {
 
 // Between two attempts to get a world while the browser is changing documents.
 constexpr std::chrono::milliseconds askAgainAfter{10};
+constexpr std::chrono::seconds lossLimit{2};
 
 // The document, and with it the world, went away between our knowing it and the browser's getting to our command.
 bool isLostWorld(const QString &error)
@@ -85,21 +86,20 @@ int PageReader::world(QDeadlineTimer deadline)
     const bool known =
         waitPatiently([this] { return mLost || mWorld.context != 0 || !mWorld.error.isEmpty(); }, deadline, true);
     if (!known)
-        raiseNoAnswer();
+        giveUpPage();
     if (mWorld.context == 0 && !mLost && !isLostWorld(mWorld.error))
         throw RuntimeError(EngineError::CannotRead, mWorld.error);
     return mWorld.context;
 }
 
-QStringList PageReader::read(QLatin1StringView what, int index)
+QStringList PageReader::read(QLatin1StringView what, int index, QDeadlineTimer deadline)
 {
-    const QDeadlineTimer deadline(BrowserEngine::readLimit);
     for (;;) {
         ReaderAnswer answer(evaluate(ReaderAnswer::readCall(what, index), deadline).toObject().toVariantMap());
         if (fetch(answer, deadline))
             return answer.texts();
         if (deadline.hasExpired())
-            raiseNoAnswer();
+            giveUpPage();
     }
 }
 
@@ -131,7 +131,7 @@ QJsonValue PageReader::evaluate(const QString &expression, QDeadlineTimer deadli
             break;
         }
         if (deadline.hasExpired())
-            raiseNoAnswer();
+            giveUpPage();
     }
 }
 
@@ -153,7 +153,7 @@ PageReader::Outcome PageReader::tryEvaluate(const QString &expression, QDeadline
         {{u"expression"_s, expression}, {u"contextId"_s, context}, {u"returnByValue"_s, true}, {u"silent"_s, true}},
         [answer](const DevToolsConnection::Answer &given) { *answer = given; });
     if (!waitPatiently([&] { return answer->has_value() || mLost || mDocument != document; }, deadline, mayBreakOff))
-        raiseNoAnswer();
+        giveUpPage();
     if (mLost)
         throw RuntimeError(EngineError::BrowserGone, u"The page's process has ended."_s);
     if (!answer->has_value())
@@ -175,25 +175,28 @@ PageReader::Outcome PageReader::tryEvaluate(const QString &expression, QDeadline
     return Outcome::Value;
 }
 
-// Breaking off hits whatever script runs, or the next one: only a page that leaves us waiting deserves it.
+// Breaking off hits whatever script runs, or the next one: only a page that leaves us waiting deserves it. Where it
+// does not help the page hangs in something else: a drawing, a request that it waits for.
 bool PageReader::waitPatiently(const std::function<bool()> &done, QDeadlineTimer deadline, bool mayBreakOff)
 {
-    for (std::chrono::milliseconds step = mPatience; mayBreakOff; step = patienceAgain) {
-        const QDeadlineTimer stop = std::min(QDeadlineTimer(step), deadline);
-        if (mConnection.waitUntil(done, stop))
+    if (!mayBreakOff)
+        return mConnection.waitUntil(done, deadline);
+    for (int breakOffs = 0; breakOffs <= breakOffsAtMost; ++breakOffs) {
+        if (breakOffs > 0)
+            mConnection.send(mSession, "Runtime.terminateExecution"_L1);
+        const QDeadlineTimer step(breakOffs == 0 ? mPatience : patienceAgain);
+        if (mConnection.waitUntil(done, std::min(step, deadline)))
             return true;
-        if (deadline.hasExpired() || !mConnection.isOpen())
-            break;
-        mConnection.send(mSession, "Runtime.terminateExecution"_L1);
     }
-    return mConnection.waitUntil(done, deadline);
+    return false;
 }
 
-void PageReader::raiseNoAnswer()
+// The loss is awaited: told later, it would be taken for that of the next page.
+void PageReader::giveUpPage()
 {
     if (!mConnection.isOpen())
         throw RuntimeError(EngineError::BrowserGone, u"The browser is no longer there."_s);
     mConnection.send(mSession, "Page.crash"_L1);
-    throw RuntimeError(EngineError::NoAnswer,
-                       u"The page did not answer within %1 seconds."_s.arg(BrowserEngine::readLimit.count()));
+    mConnection.waitUntil([this] { return mLost; }, QDeadlineTimer(lossLimit));
+    throw RuntimeError(EngineError::NoAnswer, u"The page did not answer in time."_s);
 }

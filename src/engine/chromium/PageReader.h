@@ -1,8 +1,8 @@
 // Reads the document of one page over its DevTools session, in a script world of its own: one round trip for each read
 // while the world is known. A page that does not answer is made to.
 //
-// A script that never ends is broken off after a while; what the page had built by then is what is read. A read ends
-// after BrowserEngine::readLimit at the latest, and a page that has not answered at all by then loses its process.
+// A script that never ends is broken off after a while; what the page had built by then is what is read. A page that
+// does not answer even so, or not by the deadline, loses its process.
 #pragma once
 
 #include "browser/BrowserEngine.h"
@@ -17,7 +17,8 @@ class PageReader : public QObject
     Q_OBJECT
 
   public:
-    static constexpr std::chrono::seconds patienceAgain{2};
+    static constexpr std::chrono::seconds patienceAgain{1};
+    static constexpr int breakOffsAtMost = 2;
 
     /// `connection` must outlive the reader.
     explicit PageReader(DevToolsConnection &connection) : mConnection(connection) {}
@@ -32,8 +33,9 @@ class PageReader : public QObject
     /// How long a script may keep a read waiting before it is broken off.
     void setPatience(std::chrono::milliseconds patience) { mPatience = patience; }
 
-    /// Runs `what` of js/reader.js for the document of frame `index` (-1: the top document). Raises a RuntimeError.
-    [[nodiscard]] QStringList read(QLatin1StringView what, int index = -1);
+    /// Runs `what` of js/reader.js for the document of frame `index` (-1: the top document). Raises a RuntimeError,
+    /// NoAnswer when the page has lost its process by it.
+    [[nodiscard]] QStringList read(QLatin1StringView what, int index, QDeadlineTimer deadline);
 
   private:
     struct World
@@ -52,7 +54,7 @@ class PageReader : public QObject
     [[nodiscard]] bool waitPatiently(const std::function<bool()> &done, QDeadlineTimer deadline, bool mayBreakOff);
     /// Fetches what is missing of a long answer; False when the document was replaced meanwhile.
     [[nodiscard]] bool fetch(ReaderAnswer &answer, QDeadlineTimer deadline);
-    [[noreturn]] void raiseNoAnswer();
+    [[noreturn]] void giveUpPage();
 
     DevToolsConnection &mConnection;
     QString mSession;

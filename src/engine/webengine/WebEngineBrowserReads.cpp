@@ -61,7 +61,8 @@ QStringList WebEngineBrowser::read(QLatin1StringView what, int frame)
     return mReader->read(what, frame, deadline, mOptions.readLimit);
 }
 
-// The process that did not answer has been ended.
+// The process that did not answer has been ended. Also without scripts a page may keep its process busy for long: its
+// parser alone does, with tens of thousands of elements inside one another. What it has after a while is what is read.
 void WebEngineBrowser::loadPlain(QDeadlineTimer deadline)
 {
     const QPointer self(this);
@@ -74,8 +75,14 @@ void WebEngineBrowser::loadPlain(QDeadlineTimer deadline)
     QTimer look;
     connect(&look, &QTimer::timeout, &loop, &QEventLoop::quit);
     look.start(askAgain);
-    while (self && isLoading() && mProcess != Process::Closed && !deadline.hasExpired())
+    QDeadlineTimer patience(QDeadlineTimer::Forever);
+    while (self && isLoading() && mProcess != Process::Closed && !std::min(deadline, patience).hasExpired()) {
         loop.exec(QEventLoop::ExcludeUserInputEvents);
+        if (self && patience.isForever() && !mLoading.isWaitingForDocument())
+            patience = QDeadlineTimer(mScriptLimit / 2);
+    }
+    if (self && isAlive() && isLoading() && !mLoading.isWaitingForDocument())
+        Stop();
 }
 
 QString WebEngineBrowser::LocationURL()

@@ -35,6 +35,7 @@ class Creature:
     framed: str = ""      # what the frame of another site runs
     slow: bool = False    # may take the read limit
     short: bool = False   # is in the short form
+    never: bool = False   # no page ever comes of it, so nothing may be stored at its address
 
 
 def scripted(title, code, **more):
@@ -91,7 +92,7 @@ FLOOD = "let n = 0; setInterval(() => { for (let i = 0; i < 1000; ++i) STEP; }, 
 
 
 def moved(to, status=302):
-    return Creature(status=status, headers=(("Location", to),))
+    return Creature(status=status, headers=(("Location", to),), never=True)
 
 
 CREATURES = {
@@ -152,24 +153,24 @@ CREATURES = {
     "names": Creature(page("names", "<form name=documentElement><input name=innerHTML></form><form name=links></form>"
                            "<img name=title><script>Element.prototype.__defineGetter__('innerHTML', () => 'no')</script>")),
     # Answers
-    "silent": Creature(raw=silent, short=True),
-    "slow_header": Creature(raw=slow_header),
+    "silent": Creature(raw=silent, short=True, never=True),
+    "slow_header": Creature(raw=slow_header, never=True),
     "slow_body": Creature(raw=slow_body, short=True),
     "endless_body": Creature(raw=endless_body, slow=True),
-    "hangs_up": Creature(raw=at_once(b""), short=True),
-    "no_http": Creature(raw=at_once(b"\0\1\2 220 ready\r\n\r\n")),
+    "hangs_up": Creature(raw=at_once(b""), short=True, never=True),
+    "no_http": Creature(raw=at_once(b"\0\1\2 220 ready\r\n\r\n"), never=True),
     "half_length": Creature(raw=at_once(b"HTTP/1.1 200 OK\r\nContent-Length: 9999\r\n\r\n<title>half_length</title>x")),
     "bad_chunks": Creature(raw=at_once(b"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\n<p>x")),
     "bad_gzip": Creature(raw=at_once(b"HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\n\r\nno gzip")),
     "gzip_bomb": Creature(raw=gzip_bomb, slow=True),
-    "long_header": Creature(raw=at_once(b"HTTP/1.1 200 OK\r\nX: " + b"a" * 2_000_000 + b"\r\n\r\n<p>x")),
-    "nothing": Creature(status=204, short=True),
-    "empty_error": Creature(status=500),
+    "long_header": Creature(raw=at_once(b"HTTP/1.1 200 OK\r\nX: " + b"a" * 2_000_000 + b"\r\n\r\n<p>x"), never=True),
+    "nothing": Creature(status=204, short=True, never=True),
+    "empty_error": Creature(status=500, never=True),
     "download": Creature("x" * 5000, type="application/octet-stream",
-                         headers=(("Content-Disposition", "attachment; filename=zoo.bin"),), short=True),
+                         headers=(("Content-Disposition", "attachment; filename=zoo.bin"),), short=True, never=True),
     "downloads": scripted("downloads", "for (let i = 0; i < 20; ++i) { const a = document.createElement('a'); a.download = i; "
                           "a.href = '/d' + i; a.click(); }"),
-    "paper": Creature("%PDF-1.4\n", type="application/pdf"),
+    "paper": Creature("%PDF-1.4\n", type="application/pdf", never=True),
     "circle": moved("/"),
     "to_nobody": moved("http://127.0.0.1:9/"),
     "to_file": moved("file:///etc/passwd"),

@@ -22,6 +22,17 @@ def ordinary_page(host):
             + "<p>Nothing but words stands here.</p>" * 80)
 
 
+def stored_page(host):
+    """Title and markup of an ordinary page as a harvest keeps them."""
+    html = (f'<head><meta charset="utf-8"><title>Ordinary {host}</title></head><body><h1>Ordinary</h1><p>mark of {host}</p>'
+            + "<p>Nothing but words stands here.</p>" * 80 + "</body>")
+    return f"Ordinary {host}", html
+
+
+def host_of(link):
+    return urllib.parse.urlsplit(link if "//" in link else f"//{link}").hostname
+
+
 def links(names):
     for name in names:
         for host in [creature_host(name), *ordinary_hosts(name)]:
