@@ -430,6 +430,23 @@ TEST_F(WebEngineRefusals, TheViewShowsTheNextPageBehindOneThatWasReadWithoutScri
     EXPECT_EQ(view->title(), u"next");
 }
 
+TEST_F(WebEngineRefusals, APageThatAsksForOtherProgramsWithoutEndDoesNotHoldUpTheNextOne)
+{
+    server.route("/next", {.body = "<title>next</title>", .delay = 200});
+    for (const QByteArray pause : {"20", "1"}) {
+        server.page("/mail", "<title>mail</title><script>setInterval(() => { location = 'mailto:a@b.example' }, " +
+                                 pause + ")</script>");
+        for (int round = 0; round < 3; ++round) {
+            browser->Navigate(server.address(u"/mail"_s)); // never loaded for long
+            EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+            idle(100);
+            open(u"/next"_s);
+            EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived) << pause.constData();
+            EXPECT_EQ(browser->LocationName(), u"next") << pause.constData();
+        }
+    }
+}
+
 TEST_F(WebEngineRefusals, ASlowServerIsNotMistakenForAPageThatHangs)
 {
     server.route("/slow", {.body = "<title>slow</title>", .delay = 900});

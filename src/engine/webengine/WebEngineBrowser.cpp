@@ -224,6 +224,8 @@ void WebEngineBrowser::onLoadingChanged(const QWebEngineLoadingInfo &info)
     // Stopped: nothing came (a download, an empty answer, another program's address); the old document still stands.
     const bool stopped = info.status() == QWebEngineLoadingInfo::LoadStoppedStatus;
     const bool sameAddress = info.url() == mAddress;
+    if (stopped && !sameAddress && mLoading.isOvertaken())
+        return repeat();
     switch (mLoading.endTold(stopped ? PageLoading::End::Stopped : PageLoading::End::Loaded, sameAddress)) {
     case PageLoading::Verdict::Ended:
         tellEnd(!stopped);
