@@ -205,4 +205,14 @@ constexpr MenuRow mnuFotoPopUpAction[] = {
     {"mnuFotoExit"_L1, {}, "Exit"_L1},
 };
 
+/// What else the picture browser can do.
+constexpr MenuRow mnuFotoMore[] = {
+    {"mnuFotoUndo"_L1, {}, "Undo            (Ctrl+Z)"_L1},
+    {"mnuFotoMoreSepOne"_L1, {}, "-"_L1},
+    {"mnuFotoActualSize"_L1, {}, "Actual Size     (Space)"_L1},
+    {"mnuFotoThumbnails"_L1, {}, "Thumbnails      (Ctrl+T)"_L1},
+    {"mnuFotoMoreSepTwo"_L1, {}, "-"_L1},
+    {"mnuFotoToTrash"_L1, {}, "Delete To Trash"_L1},
+};
+
 } // namespace MenuTables

@@ -48,7 +48,9 @@ constexpr QLatin1StringView AutoTextUrl{"txtMNGenerateUrl"}; ///< followed by th
 // Other commands.
 constexpr QLatin1StringView SavedUrlPos{"ANListIndex"}; ///< followed by the list's name
 constexpr QLatin1StringView LastImportDir{"LastImportDir"};
-constexpr QLatin1StringView MoveToDir{"mnuSetMoveToDir"}; ///< of Sections::Foto
+constexpr QLatin1StringView MoveToDir{"mnuSetMoveToDir"};    ///< of Sections::Foto
+constexpr QLatin1StringView Thumbnails{"mnuFotoThumbnails"}; ///< of Sections::Foto, truth text
+constexpr QLatin1StringView DeleteToTrash{"mnuFotoToTrash"}; ///< of Sections::Foto, truth text
 // Size and position of a window, under a section of its name.
 constexpr QLatin1StringView Width{"NSWE_W"}, Height{"NSWE_H"}, Left{"NSWE_L"}, Top{"NSWE_T"};
 } // namespace Keys

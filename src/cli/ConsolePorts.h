@@ -1,6 +1,7 @@
 // The ways out of a program without a window: questions answer themselves, what would be shown goes to standard error.
 #pragma once
 
+#include "app/PictureScreen.h"
 #include "app/Ports.h"
 #include "app/SideWindows.h"
 
@@ -46,6 +47,12 @@ class NoSideWindows : public SideWindows
     void showAbout() override {}
     void showHelp() override {}
     bool chooseDirectory(const QString &, std::function<void(const QString &)>) override { return false; }
+};
+
+class NoPictures : public PictureScreen
+{
+  public:
+    void LoadPicture(const QString &) override {}
 };
 
 class NoWindow : public WindowPlace

@@ -158,6 +158,7 @@ int main(int argc, char *argv[])
     NoWindow place;
     NoMenus menus;
     NoSideWindows side;
+    NoPictures pictures;
     IniSettings stored(GetRKAppName(windowProgram, programFolder()));
     HarvestSettings settings(stored, arguments.databaseDir, arguments.browser);
     ConsoleBrowsers browsers({dataFolder(), switches, arguments.headless || !hasDisplay()});
@@ -165,7 +166,8 @@ int main(int argc, char *argv[])
         printError(u"Running as root: the browser's sandbox is off"_s);
     int status = OtherEnd;
     {
-        Program program({pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, programFolder()});
+        Program program(
+            {pump, dialogs, desktop, clipboard, settings, place, menus, side, pictures, browsers, programFolder()});
         try {
             status = run(program, pump, arguments);
         } catch (const RuntimeError &error) {

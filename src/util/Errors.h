@@ -19,6 +19,7 @@ constexpr qint64 PathAccessError = 75;
 constexpr qint64 PathNotFound = 76;
 constexpr qint64 ObjectNotSet = 91;
 constexpr qint64 InvalidPropertyValue = 380;
+constexpr qint64 InvalidPicture = 481;
 } // namespace ErrorNumber
 
 /// An error with its number and description.

@@ -52,6 +52,11 @@ Program::Program(const Ports &ports)
       transfers([&pump = ports.system.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }),
       inet(transfers, log), downloads(context, form.places, form.limits, form.options, browser, transfers, inet),
       manualItems(context, form.manual, manual.desk, downloads, navigation),
+      pictureBrowser(log, pictureForm, ports.window.pictures, ports.system.pump, ports.system.settings,
+                     ports.window.menus),
+      pictureMenu(pictureForm, pictureBrowser, ports.system.dialogs, ports.system.desktop, ports.system.settings,
+                  ports.window.side),
+      downloadedPictures(form.places, form.manual, pictureForm, pictureBrowser, navigation),
       manualWalk(form.manual, form.series, form.options, form.collect, manual.desk, manual.series, manual.tables),
       autoNavigate(form.menus.mnuPopUpMNStatus.item("mnuMNStatusAutoNavigate"_L1), form.manual, form.limits, runs,
                    manualWalk, siteVisit, manual.links),
@@ -172,6 +177,8 @@ void Program::connectManualRun()
     QObject::connect(&inet, &cInetWS::InetStatus, &form,
                      [this](int state) { status.UpDateStatus(inetStateText(state)); });
     QObject::connect(&runs, &Runs::stopping, &downloads, &Downloads::cancel);
+    QObject::connect(&manualItems, &ManualItems::fileArrived, &form,
+                     [this](const QString &name) { downloadedPictures.OpenFiles(name); });
 }
 
 /// An Auto run takes no part in series, nor in collecting into the Saved Urls.

@@ -34,6 +34,8 @@
 #include "window/options/AreaCodePanel.h"
 #include "window/options/OptionReports.h"
 #include "window/options/ToolTips.h"
+#include "window/side/DownloadedPictures.h"
+#include "window/side/PictureMenu.h"
 #include "window/states/ManualColours.h"
 #include "window/states/StateOfControls.h"
 
@@ -48,12 +50,13 @@ struct Program
         ClipboardText &clipboard;
         SettingsStore &settings;
     };
-    /// What can be seen: the main window, menus, side windows.
+    /// What can be seen: the main window, menus, side windows, pictures.
     struct WindowPorts
     {
         WindowPlace &place;
         PopUpMenus &menus;
         SideWindows &side;
+        PictureScreen &pictures;
     };
     /// The ways out, which live as long as the Program.
     struct Ports
@@ -130,6 +133,10 @@ struct Program
     cInetWS inet;
     Downloads downloads;
     ManualItems manualItems;
+    frmFoto pictureForm;
+    PictureBrowser pictureBrowser;
+    PictureMenu pictureMenu;
+    DownloadedPictures downloadedPictures;
     ManualWalk manualWalk;
     AutoNavigate autoNavigate;
     ManualRun manualRun;

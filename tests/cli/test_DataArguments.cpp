@@ -29,7 +29,8 @@ class DataCommandLineTest : public ProgramTest
     }
     [[nodiscard]] bool run(const QString &words)
     {
-        Program data({pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, folder.path()});
+        Program data(
+            {pump, dialogs, desktop, clipboard, settings, place, menus, side, pictures, browsers, folder.path()});
         QObject::connect(&data.status, &StatusLine::told, &data.form,
                          [this](const QString &text) { statuses.append(text); });
         return runDataCommand(data, parseArguments(words.split(u' ')).data);

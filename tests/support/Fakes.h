@@ -1,6 +1,7 @@
 // Stand-ins for the ways out of the program: what was asked for is kept, what is answered is set by the test.
 #pragma once
 
+#include "app/PictureScreen.h"
 #include "app/Ports.h"
 #include "app/SideWindows.h"
 #include "util/Errors.h"
@@ -153,6 +154,20 @@ class FakeSideWindows : public SideWindows
 
   private:
     std::function<void(const QString &directory)> mChosen;
+};
+
+/// Keeps which pictures were shown; refuses those whose names hold `refused`.
+class FakePictures : public PictureScreen
+{
+  public:
+    void LoadPicture(const QString &path) override
+    {
+        if (!refused.isEmpty() && path.contains(refused))
+            throw RuntimeError(ErrorNumber::InvalidPicture, QStringLiteral("Invalid picture"));
+        shown.append(path);
+    }
+    QStringList shown;
+    QString refused;
 };
 
 /// Keeps which menus were shown; `choice` does what the user does in one that is open.

@@ -19,8 +19,8 @@ class ProgramTest : public testing::Test
     /// Starts the program as its windows do.
     void load()
     {
-        program = std::make_unique<Program>(
-            Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, folder.path()});
+        program = std::make_unique<Program>(Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus,
+                                                           side, pictures, browsers, folder.path()});
         QObject::connect(&program->status, &StatusLine::told, &program->form,
                          [this](const QString &text) { statuses.append(text); });
         QObject::connect(&program->siteVisit, &SiteVisit::visiting, &program->form,
@@ -93,6 +93,7 @@ class ProgramTest : public testing::Test
     FakePlace place;
     FakeMenus menus;
     FakeSideWindows side;
+    FakePictures pictures;
     FakeFactory browsers{pump};
     std::unique_ptr<Program> program;
     std::function<void()> whenLoaded = [] {}; ///< what is done before a browser is connected

@@ -1,0 +1,57 @@
+// The picture browser's state as a passive object: the list, the two directories, the menus. What the list shows are
+// names in lower case; beside them stand the files' own names. Knows controls.
+#pragma once
+
+#include "app/MenuTables.h"
+#include "controls/ListControls.h"
+#include "controls/SimpleControls.h"
+
+class frmFoto : public QObject
+{
+    Q_OBJECT
+
+  public:
+    ListBox lstFoto{QStringLiteral("lstFoto"), this};
+    PictureBox picFoto{QStringLiteral("picFoto"), this};
+    Menu mnuFotoPopUpAction{QStringLiteral("mnuFotoPopUpAction"), MenuTables::mnuFotoPopUpAction, this};
+    Menu mnuFotoMore{QStringLiteral("mnuFotoMore"), MenuTables::mnuFotoMore, this};
+
+    [[nodiscard]] bool isOpen() const { return mOpen; }
+    /// Shows the window, in front of the others.
+    void show();
+    /// Closes it.
+    void unload();
+
+    [[nodiscard]] const QString &caption() const { return mCaption; }
+    void setCaption(const QString &caption);
+
+    // Both end in the folder separator, or are empty.
+    [[nodiscard]] const QString &activeDirectory() const { return mActiveDirectory; }
+    [[nodiscard]] const QString &moveToDirectory() const { return mMoveToDirectory; }
+    void setMoveToDirectory(const QString &directory);
+
+    /// Puts the files of a directory on the list; none is chosen.
+    void setPictures(const QString &directory, const QStringList &files);
+    /// One file more at the end of the list, under the name as it is; one outside the directory is given by its path.
+    void addPicture(const QString &file);
+    /// A file comes back to its place in the list, or to its end; none is chosen.
+    void insertPicture(int index, const QString &file);
+    /// Takes an item off the list.
+    void removePicture(int index);
+    /// Chooses an item, or none with -1: the list's Click, if that is another one.
+    void choosePicture(int index);
+    /// The file's path; "" outside the list.
+    [[nodiscard]] QString picturePath(int index) const;
+    [[nodiscard]] QString chosenPath() const { return picturePath(lstFoto.listIndex()); }
+
+  Q_SIGNALS:
+    void shown();
+    void unloaded();
+    /// Caption or move-to directory is another one.
+    void changed();
+
+  private:
+    QString mCaption, mActiveDirectory, mMoveToDirectory;
+    QStringList mFiles; ///< parallel to the list
+    bool mOpen = false;
+};

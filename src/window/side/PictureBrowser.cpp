@@ -1,0 +1,210 @@
+#include "window/side/PictureBrowser.h"
+
+#include "app/SettingKeys.h"
+#include "window/side/PictureFolder.h"
+#include "window/side/PictureMoves.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+using PictureFolder::isSameDirectory;
+
+namespace {
+constexpr auto module = "frmFoto"_L1;
+constexpr int flashTurns = 101;
+} // namespace
+
+class PictureBrowser::Bracket
+{
+  public:
+    explicit Bracket(PictureBrowser &browser) : mBrowser(browser) { mBrowser.EnableDisable(false); }
+    ~Bracket() { mBrowser.EnableDisable(true); }
+    Q_DISABLE_COPY_MOVE(Bracket)
+
+  private:
+    PictureBrowser &mBrowser;
+};
+
+class PictureBrowser::Flash
+{
+  public:
+    Flash(PictureBrowser &browser, Colour colour) : mList(browser.mForm.lstFoto)
+    {
+        mList.setBackColor(colour);
+        for (int turn = 0; turn < flashTurns; ++turn)
+            browser.mPump.doEvents();
+    }
+    ~Flash() { mList.setBackColor(Colours::Window); }
+    Q_DISABLE_COPY_MOVE(Flash)
+
+  private:
+    ListBox &mList;
+};
+
+PictureBrowser::PictureBrowser(ErrorReceiver &log, frmFoto &form, PictureScreen &screen, EventPump &pump,
+                               SettingsStore &settings, PopUpMenus &menus)
+    : mLog(log), mForm(form), mScreen(screen), mPump(pump), mSettings(settings)
+{
+    connect(&form.lstFoto, &ListBox::Click, this, &PictureBrowser::lstFoto_Click);
+    connect(&form.lstFoto, &Control::keyPressed, this, &PictureBrowser::lstFoto_KeyDown);
+    connect(&form.lstFoto, &Control::mousePressed, this, [&form, &menus](MouseButton button) {
+        if (button == MouseButton::Right)
+            menus.popUp(form.mnuFotoPopUpAction);
+    });
+    EnableDisable(true);
+}
+
+void PictureBrowser::Form_Load()
+{
+    const QString stored = mSettings.GetSetting(Sections::Foto, Keys::MoveToDir);
+    const bool usable = QFileInfo(stored).isDir() && !isSameDirectory(stored, mForm.activeDirectory());
+    mForm.setMoveToDirectory(usable ? PictureFolder::directoryOf(stored) : QString());
+    EnableDisable(true);
+}
+
+void PictureBrowser::LoadDirectory(const QString &sDirectory)
+{
+    guarded(mLog, {module, "Sub LoadDirectory"_L1}, [&] {
+        const QString directory = PictureFolder::directoryOf(sDirectory);
+        if (directory.isEmpty())
+            return;
+        if (!mForm.isOpen())
+            Form_Load();
+        mForm.setPictures(directory, PictureFolder::pictures(directory));
+        mForm.show();
+        mForm.choosePicture(mForm.lstFoto.listCount() - 1);
+    });
+}
+
+void PictureBrowser::addPicture(const QString &path)
+{
+    const QFileInfo file(path);
+    const bool isBeside = isSameDirectory(file.path(), mForm.activeDirectory());
+    mForm.addPicture(isBeside ? file.fileName() : file.absoluteFilePath());
+}
+
+void PictureBrowser::setMoveToDirectory(const QString &directory)
+{
+    mForm.setMoveToDirectory(directory);
+    EnableDisable(true);
+    mSettings.SaveSetting(Sections::Foto, Keys::MoveToDir, directory);
+}
+
+/// A picture that cannot be shown is logged; where the walk stands is told all the same.
+void PictureBrowser::lstFoto_Click()
+{
+    const int index = mForm.lstFoto.listIndex();
+    if (index < 0)
+        return;
+    guarded(mLog, {module, "Sub lstFoto_Click"_L1}, [&] { mScreen.LoadPicture(mForm.chosenPath()); });
+    mForm.setCaption(u"%1 of %2"_s.arg(index + 1).arg(mForm.lstFoto.listCount()));
+    mForm.lstFoto.setToolTipText("Move to Dir = "_L1 + mForm.moveToDirectory());
+}
+
+void PictureBrowser::lstFoto_KeyDown(EditKey key)
+{
+    if (key == EditKey::Delete)
+        DeleteIt();
+    else if (canMove())
+        MoveIt();
+}
+
+bool PictureBrowser::canMove() const
+{
+    return !mForm.moveToDirectory().isEmpty() && QFileInfo(mForm.moveToDirectory()).isDir();
+}
+
+/// What is enabled again are the commands that can do something.
+void PictureBrowser::EnableDisable(bool enabled)
+{
+    for (Control *const control : mForm.findChildren<Control *>(Qt::FindDirectChildrenOnly))
+        control->setEnabled(enabled);
+    mForm.mnuFotoPopUpAction.item("mnuFotoMoveIt"_L1).setEnabled(enabled && !mForm.moveToDirectory().isEmpty());
+    mForm.mnuFotoMore.item("mnuFotoUndo"_L1).setEnabled(enabled && !mDone.isEmpty());
+}
+
+void PictureBrowser::DeleteIt()
+{
+    guarded(mLog, {module, "Sub DeleteIt"_L1}, [&] {
+        const Bracket bracket(*this);
+        if (mForm.lstFoto.listIndex() < 0)
+            return;
+        const Flash flash(*this, Colours::Red);
+        deleteChosen(mForm.lstFoto.listIndex());
+    });
+}
+
+/// What another program has taken away leaves the list.
+QString PictureBrowser::demandFile(int index)
+{
+    const QString path = mForm.picturePath(index);
+    if (!QFileInfo(path).isFile()) {
+        takeOff(index);
+        throw RuntimeError(ErrorNumber::FileNotFound, u"File not found: "_s + path);
+    }
+    return path;
+}
+
+void PictureBrowser::deleteChosen(int index)
+{
+    const QString path = demandFile(index);
+    if (mForm.mnuFotoMore.item("mnuFotoToTrash"_L1).isChecked())
+        keep({path, PictureMoves::toTrash(path), index, true});
+    else
+        PictureMoves::kill(path);
+    takeOff(index);
+}
+
+void PictureBrowser::MoveIt()
+{
+    guarded(mLog, {module, "Sub MoveIt"_L1}, [&] {
+        const Bracket bracket(*this);
+        if (mForm.lstFoto.listIndex() < 0 || !canMove())
+            return;
+        if (isSameDirectory(mForm.moveToDirectory(), mForm.activeDirectory()))
+            return mForm.setMoveToDirectory({});
+        const Flash flash(*this, Colours::Green);
+        moveChosen(mForm.lstFoto.listIndex());
+    });
+}
+
+void PictureBrowser::moveChosen(int index)
+{
+    const QString path = demandFile(index);
+    const QString target = mForm.moveToDirectory() + QFileInfo(path).fileName();
+    keep({path, PictureMoves::move(path, target), index, false});
+    takeOff(index);
+}
+
+/// The walk goes from the end of the list to its start.
+void PictureBrowser::takeOff(int index)
+{
+    mForm.removePicture(index);
+    if (index >= 1)
+        mForm.choosePicture(index - 1);
+}
+
+void PictureBrowser::keep(const Done &done)
+{
+    mDone.append(done);
+    if (mDone.size() > mostUndone)
+        mDone.removeFirst();
+}
+
+void PictureBrowser::undo()
+{
+    guarded(mLog, {module, "Sub mnuFotoUndo_Click"_L1}, [&] {
+        const Bracket bracket(*this);
+        if (mDone.isEmpty())
+            return;
+        const Done done = mDone.takeLast();
+        const QString path =
+            done.inTrash ? PictureMoves::fromTrash(done.to, done.from) : PictureMoves::move(done.to, done.from);
+        const QFileInfo file(path);
+        if (!isSameDirectory(file.path(), mForm.activeDirectory()))
+            return;
+        const int index = std::min(done.index, mForm.lstFoto.listCount());
+        mForm.insertPicture(index, file.fileName());
+        mForm.choosePicture(index);
+    });
+}

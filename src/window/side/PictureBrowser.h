@@ -1,0 +1,62 @@
+// The picture browser: walks the pictures of a directory, moves them on to another one or deletes them, and takes that
+// back. The window shows what the form holds.
+#pragma once
+
+#include "app/PictureScreen.h"
+#include "app/Ports.h"
+#include "app/frmFoto.h"
+#include "util/Errors.h"
+
+class PictureBrowser : public QObject
+{
+    Q_OBJECT
+
+  public:
+    /// Moves that can be taken back.
+    static constexpr int mostUndone = 1000;
+
+    PictureBrowser(ErrorReceiver &log, frmFoto &form, PictureScreen &screen, EventPump &pump, SettingsStore &settings,
+                   PopUpMenus &menus);
+
+    /// Opens the window, if it is not, with the pictures of a directory; for a file with those beside it. The last one
+    /// is on show. Nothing for what is not there.
+    void LoadDirectory(const QString &sDirectory);
+    /// Adds a file, given by its path, to the open window's list.
+    void addPicture(const QString &path);
+    /// Takes a directory as target of the moves.
+    void setMoveToDirectory(const QString &directory);
+    void MoveIt();
+    void DeleteIt();
+    /// Takes back the last move, or the last deletion through the trash.
+    void undo();
+
+  private:
+    /// No control can be used while it lives.
+    class Bracket;
+    /// The list has another colour while it lives.
+    class Flash;
+    struct Done
+    {
+        QString from, to;
+        int index; ///< where it stood in the list
+        bool inTrash;
+    };
+
+    void Form_Load();
+    void lstFoto_Click();
+    void lstFoto_KeyDown(EditKey key);
+    void EnableDisable(bool enabled);
+    [[nodiscard]] QString demandFile(int index);
+    void moveChosen(int index);
+    void deleteChosen(int index);
+    void takeOff(int index);
+    void keep(const Done &done);
+    [[nodiscard]] bool canMove() const;
+
+    ErrorReceiver &mLog;
+    frmFoto &mForm;
+    PictureScreen &mScreen;
+    EventPump &mPump;
+    SettingsStore &mSettings;
+    QList<Done> mDone;
+};
