@@ -23,6 +23,12 @@ void frmFoto::setCaption(const QString &caption)
     Q_EMIT changed();
 }
 
+void frmFoto::setNotice(const QString &notice)
+{
+    mNotice = notice;
+    Q_EMIT changed();
+}
+
 void frmFoto::setMoveToDirectory(const QString &directory)
 {
     mMoveToDirectory = directory;

@@ -25,6 +25,10 @@ class frmFoto : public QObject
     [[nodiscard]] const QString &caption() const { return mCaption; }
     void setCaption(const QString &caption);
 
+    /// What went wrong last; "" when nothing did.
+    [[nodiscard]] const QString &notice() const { return mNotice; }
+    void setNotice(const QString &notice);
+
     // Both end in the folder separator, or are empty.
     [[nodiscard]] const QString &activeDirectory() const { return mActiveDirectory; }
     [[nodiscard]] const QString &moveToDirectory() const { return mMoveToDirectory; }
@@ -47,11 +51,11 @@ class frmFoto : public QObject
   Q_SIGNALS:
     void shown();
     void unloaded();
-    /// Caption or move-to directory is another one.
+    /// Caption, notice or directories are other ones.
     void changed();
 
   private:
-    QString mCaption, mActiveDirectory, mMoveToDirectory;
+    QString mCaption, mNotice, mActiveDirectory, mMoveToDirectory;
     QStringList mFiles; ///< parallel to the list
     bool mOpen = false;
 };

@@ -1,8 +1,7 @@
 #include "desktop/DesktopGridWindow.h"
 
+#include "desktop/KeptPlace.h"
 #include "window/WindowPlaces.h"
-
-#include <QScreen>
 
 DesktopGridWindow::DesktopGridWindow(frmfxg &form, SettingsStore &settings, QWidget &main)
     : mForm(form), mSettings(settings), mMain(main)
@@ -17,11 +16,10 @@ void DesktopGridWindow::show()
         mWindow = new GridWindow(mForm, &mMain);
         mWindow->setAttribute(Qt::WA_DeleteOnClose);
         mWindow->setWindowIcon(mMain.windowIcon());
-        const QString name = mWindow->objectName();
-        mWindow->resize(storedSize(mSettings, name, mWindow->size()));
-        mWindow->setGeometry(AlignFF(mSettings, name, mWindow->geometry(), mMain.screen()->availableGeometry()));
-        connect(mWindow, &GridWindow::closing, this, [this, name] {
-            SaveFF(mSettings, name, mWindow->geometry());
+        mWindow->resize(storedSize(mSettings, mWindow->objectName(), mWindow->size()));
+        KeptPlace::restore(*mWindow, mSettings, mMain);
+        connect(mWindow, &GridWindow::closing, this, [this] {
+            KeptPlace::store(*mWindow, mSettings);
             mForm.unload();
         });
     }

@@ -1,11 +1,10 @@
 #include "desktop/DesktopSideWindows.h"
 
 #include "app/SettingKeys.h"
-#include "window/WindowPlaces.h"
+#include "desktop/KeptPlace.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +17,7 @@ void DesktopSideWindows::magnify(const QString &text)
         frmMagnify = new MagnifyWindow(mMain);
         frmMagnify->setAttribute(Qt::WA_DeleteOnClose);
         QObject::connect(frmMagnify, &MagnifyWindow::closing, frmMagnify,
-                         [this] { SaveFF(mSettings, frmMagnify->objectName(), frmMagnify->geometry()); });
+                         [this] { KeptPlace::store(*frmMagnify, mSettings); });
     }
     frmMagnify->Magnify(text);
     if (isNew)
@@ -32,8 +31,7 @@ void DesktopSideWindows::placeMagnifier()
     frmMagnify->placeUnder(*mMain);
     saveOnTop(mSettings, frmMagnify->objectName(), true);
     if (mSettings.GetSetting(Sections::Main, Keys::KeepMagnifyPlace, u"0"_s) == "1"_L1)
-        frmMagnify->setGeometry(
-            AlignFF(mSettings, frmMagnify->objectName(), frmMagnify->geometry(), mMain->screen()->availableGeometry()));
+        KeptPlace::restore(*frmMagnify, mSettings, *mMain);
 }
 
 void DesktopSideWindows::showAbout()

@@ -5,9 +5,11 @@
 #include "app/SettingKeys.h"
 #include "desktop/DesktopBrowsers.h"
 #include "desktop/DesktopGridWindow.h"
+#include "desktop/DesktopPictures.h"
 #include "desktop/DesktopSideWindows.h"
 #include "desktop/MainWindowPlace.h"
 #include "desktop/OneInstance.h"
+#include "desktop/PictureStart.h"
 #include "desktop/Splash.h"
 #include "engine/BrowserSwitches.h"
 #include "engine/webengine/WebEngineSetup.h"
@@ -75,6 +77,15 @@ void rememberFolding(MainWindow &window, SettingsStore &settings)
     });
 }
 
+/// The command line behind the program's name.
+QStringList words(int argc, char *argv[])
+{
+    QStringList all;
+    for (int i = 1; i < argc; ++i)
+        all.append(QString::fromLocal8Bit(argv[i]));
+    return all;
+}
+
 int runHarvester(const QString &appName, const QStringList &switches, Splash &splash)
 {
     QtEventPump pump;
@@ -85,15 +96,18 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     QtMenus menus;
     IniSettings settings(appName);
     DesktopSideWindows side(settings, desktop);
+    DesktopPictures pictures(settings);
     DesktopBrowsers browsers({dataFolder(), switches, false});
     if (browsers.sandboxOff())
         std::fputs("Running as root: the browser's sandbox is off\n", stderr);
     settings.SaveSetting(Sections::Main, Keys::WorkingPath, programFolder() + u'/');
-    Program program({pump, dialogs, desktop, clipboard, settings, place, menus, side, browsers, programFolder()});
+    Program program(
+        {pump, dialogs, desktop, clipboard, settings, place, menus, side, pictures, browsers, programFolder()});
     MainWindow window(program.form);
     place.set(&window);
     menus.set(&window);
     side.set(&window);
+    pictures.set(program.pictureForm);
     const DesktopGridWindow gridWindow(program.dataSide.gridForm, settings, window);
     QObject::connect(&window, &MainWindow::helpRequested, &window, [&side] { side.showHelp(); });
     rememberFolding(window, settings);
@@ -125,8 +139,11 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
 int main(int argc, char *argv[])
 {
     keepFreedMemory();
+    const StartMode mode = startMode(words(argc, argv));
+    const bool harvests = mode.kind == StartMode::Kind::Harvester;
     const QStringList switches = BrowserSwitches::ofUser({});
-    prepareWebEngine(switches);
+    if (harvests)
+        prepareWebEngine(switches);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"trawlex"_s);
     QApplication::setApplicationDisplayName(u"Trawlex"_s);
@@ -135,18 +152,13 @@ int main(int argc, char *argv[])
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QString appName = GetRKAppName(u"trawlex"_s, programFolder());
+    if (!harvests)
+        return runPictureBrowser(appName, mode.picture);
     Splash splash;
     splash.show();
     QApplication::processEvents();
-    const StartMode mode = startMode(QApplication::arguments().mid(1));
     const OneInstance instance(appName);
     if (!instance.isFirst())
         return 0;
-    if (mode.kind == StartMode::Kind::PictureBrowser) {
-        splash.close();
-        QtDialogs().tell(u"Trawlex"_s,
-                         u"This version has no picture browser yet. Started without a file it harvests."_s);
-        return 0;
-    }
     return runHarvester(appName, switches, splash);
 }

@@ -94,8 +94,10 @@ TEST_F(PictureBrowserTest, APictureThatCannotBeShownIsLoggedAndTheNextOneCanBeCh
     EXPECT_EQ(log.locations(), QStringList{u"Sub lstFoto_Click"_s});
     EXPECT_EQ(list().size(), 2);
     EXPECT_EQ(form.caption(), u"2 of 2"_s);
+    EXPECT_EQ(form.notice(), u"Invalid picture"_s);
     form.choosePicture(0);
     EXPECT_EQ(shownName(), u"a.jpg"_s);
+    EXPECT_EQ(form.notice(), QString());
 }
 
 TEST_F(PictureBrowserTest, DelDeletesTheFileAndWalksTheListFromItsEndToItsStart)

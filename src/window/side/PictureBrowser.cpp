@@ -54,6 +54,18 @@ PictureBrowser::PictureBrowser(ErrorReceiver &log, frmFoto &form, PictureScreen 
     EnableDisable(true);
 }
 
+template <class Body> void PictureBrowser::procedure(QLatin1StringView location, Body &&body)
+{
+    guarded(mLog, {module, location}, [&] {
+        try {
+            body();
+        } catch (const RuntimeError &error) {
+            mForm.setNotice(error.description());
+            throw;
+        }
+    });
+}
+
 void PictureBrowser::Form_Load()
 {
     const QString stored = mSettings.GetSetting(Sections::Foto, Keys::MoveToDir);
@@ -64,7 +76,7 @@ void PictureBrowser::Form_Load()
 
 void PictureBrowser::LoadDirectory(const QString &sDirectory)
 {
-    guarded(mLog, {module, "Sub LoadDirectory"_L1}, [&] {
+    procedure("Sub LoadDirectory"_L1, [&] {
         const QString directory = PictureFolder::directoryOf(sDirectory);
         if (directory.isEmpty())
             return;
@@ -96,7 +108,8 @@ void PictureBrowser::lstFoto_Click()
     const int index = mForm.lstFoto.listIndex();
     if (index < 0)
         return;
-    guarded(mLog, {module, "Sub lstFoto_Click"_L1}, [&] { mScreen.LoadPicture(mForm.chosenPath()); });
+    mForm.setNotice({});
+    procedure("Sub lstFoto_Click"_L1, [&] { mScreen.LoadPicture(mForm.chosenPath()); });
     mForm.setCaption(u"%1 of %2"_s.arg(index + 1).arg(mForm.lstFoto.listCount()));
     mForm.lstFoto.setToolTipText("Move to Dir = "_L1 + mForm.moveToDirectory());
 }
@@ -125,7 +138,7 @@ void PictureBrowser::EnableDisable(bool enabled)
 
 void PictureBrowser::DeleteIt()
 {
-    guarded(mLog, {module, "Sub DeleteIt"_L1}, [&] {
+    procedure("Sub DeleteIt"_L1, [&] {
         const Bracket bracket(*this);
         if (mForm.lstFoto.listIndex() < 0)
             return;
@@ -157,7 +170,7 @@ void PictureBrowser::deleteChosen(int index)
 
 void PictureBrowser::MoveIt()
 {
-    guarded(mLog, {module, "Sub MoveIt"_L1}, [&] {
+    procedure("Sub MoveIt"_L1, [&] {
         const Bracket bracket(*this);
         if (mForm.lstFoto.listIndex() < 0 || !canMove())
             return;
@@ -193,7 +206,7 @@ void PictureBrowser::keep(const Done &done)
 
 void PictureBrowser::undo()
 {
-    guarded(mLog, {module, "Sub mnuFotoUndo_Click"_L1}, [&] {
+    procedure("Sub mnuFotoUndo_Click"_L1, [&] {
         const Bracket bracket(*this);
         if (mDone.isEmpty())
             return;

@@ -42,6 +42,8 @@ class PictureBrowser : public QObject
         bool inTrash;
     };
 
+    /// Runs `body` as one procedure; what it throws is logged and told in the window.
+    template <class Body> void procedure(QLatin1StringView location, Body &&body);
     void Form_Load();
     void lstFoto_Click();
     void lstFoto_KeyDown(EditKey key);

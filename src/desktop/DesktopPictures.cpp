@@ -1,0 +1,43 @@
+#include "desktop/DesktopPictures.h"
+
+#include "desktop/KeptPlace.h"
+
+DesktopPictures::~DesktopPictures()
+{
+    delete mWindow;
+}
+
+void DesktopPictures::set(frmFoto &form)
+{
+    mForm = &form;
+    connect(&form, &frmFoto::shown, this, &DesktopPictures::show);
+    connect(&form, &frmFoto::unloaded, this, &DesktopPictures::close);
+}
+
+void DesktopPictures::LoadPicture(const QString &path)
+{
+    if (mWindow)
+        mWindow->LoadPicture(path);
+}
+
+void DesktopPictures::show()
+{
+    if (!mWindow) {
+        mWindow = new PictureWindow(*mForm);
+        mWindow->setAttribute(Qt::WA_DeleteOnClose);
+        KeptPlace::restore(*mWindow, mSettings, *mWindow);
+        connect(mWindow, &PictureWindow::closing, this, [this] {
+            KeptPlace::store(*mWindow, mSettings);
+            mForm->unload();
+        });
+        Q_EMIT opened(mWindow);
+    }
+    mWindow->show();
+    mWindow->raise();
+}
+
+void DesktopPictures::close()
+{
+    if (const QPointer<PictureWindow> window = std::exchange(mWindow, nullptr))
+        window->close();
+}

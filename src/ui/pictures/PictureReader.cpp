@@ -1,0 +1,85 @@
+#include "ui/pictures/PictureReader.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr qsizetype headSize = 6;
+
+/// A file that ends where the time for it is over: a picture made to be read for ever is read no longer than that.
+class TimedFile : public QFile
+{
+  public:
+    using QFile::QFile;
+
+  protected:
+    qint64 readData(char *data, qint64 most) override { return mEnd.hasExpired() ? -1 : QFile::readData(data, most); }
+
+  private:
+    QDeadlineTimer mEnd{PictureReader::mostMilliseconds};
+};
+
+Picture refused(const QString &reason)
+{
+    return {{}, {}, false, reason};
+}
+
+/// `size` made to fit, never larger than it is.
+QSize fitted(QSize size, QSize room)
+{
+    const bool fits = room.isEmpty() || (size.width() <= room.width() && size.height() <= room.height());
+    return fits ? size : size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+Picture readWith(QImageReader &reader, QSize room)
+{
+    const QSize size = reader.size();
+    if (!size.isValid() || qint64(size.width()) * size.height() > PictureReader::mostPixels)
+        return refused(size.isValid() ? u"has too many pixels"_s : u"is damaged"_s);
+    reader.setAutoTransform(true);
+    // The camera was held upright: what is read is turned afterwards.
+    const bool turns = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const QSize within = fitted(size, turns ? room.transposed() : room);
+    if (within != size)
+        reader.setScaledSize(within);
+    Picture picture;
+    picture.moves = reader.supportsAnimation() && reader.imageCount() > 1;
+    picture.size = turns ? size.transposed() : size;
+    if (!reader.read(&picture.image))
+        return refused(reader.error() == QImageReader::InvalidDataError ? u"is damaged"_s : reader.errorString());
+    return picture;
+}
+} // namespace
+
+QByteArray PictureReader::formatOf(QByteArrayView head)
+{
+    if (head.startsWith("\xFF\xD8\xFF"))
+        return "jpeg";
+    if (head.startsWith("GIF87a") || head.startsWith("GIF89a"))
+        return "gif";
+    return head.startsWith("BM") ? "bmp" : QByteArray();
+}
+
+Picture PictureReader::read(const QString &path, QSize room)
+{
+    static const bool limited = (QImageReader::setAllocationLimit(mostMegabytes), true);
+    static_cast<void>(limited);
+    static const QStringList endings{u"jpg"_s, u"jpeg"_s, u"gif"_s, u"bmp"_s};
+    if (!endings.contains(QFileInfo(path).suffix().toLower()))
+        return refused(u"is no jpg, gif or bmp by its name"_s);
+    TimedFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return refused(file.errorString());
+    const QByteArray format = formatOf(file.peek(headSize));
+    if (format.isEmpty())
+        return refused(u"is no jpg, gif or bmp"_s);
+    if (file.size() > largestFile)
+        return refused(u"is too large a file"_s);
+    QImageReader reader(&file, format);
+    reader.setAutoDetectImageFormat(false);
+    return readWith(reader, room);
+}
