@@ -107,7 +107,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     place.set(&window);
     menus.set(&window);
     side.set(&window);
-    pictures.set(program.pictureForm);
+    pictures.set(program.foto);
     const DesktopGridWindow gridWindow(program.dataSide.gridForm, settings, window);
     QObject::connect(&window, &MainWindow::helpRequested, &window, [&side] { side.showHelp(); });
     rememberFolding(window, settings);

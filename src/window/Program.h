@@ -133,10 +133,10 @@ struct Program
     cInetWS inet;
     Downloads downloads;
     ManualItems manualItems;
-    frmFoto pictureForm;
-    PictureBrowser pictureBrowser;
-    PictureMenu pictureMenu;
-    DownloadedPictures downloadedPictures;
+    frmFoto foto;
+    PictureBrowser pictures;
+    PictureMenu fotoMenu;
+    DownloadedPictures downloadedPictures{form.places, form.manual, foto, pictures, navigation};
     ManualWalk manualWalk;
     AutoNavigate autoNavigate;
     ManualRun manualRun;

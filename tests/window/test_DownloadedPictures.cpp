@@ -24,20 +24,20 @@ class DownloadedPicturesTest : public ProgramTest
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         Q_EMIT program->manualItems.fileArrived(name);
     }
-    [[nodiscard]] QStringList list() const { return program->pictureForm.lstFoto.items(); }
+    [[nodiscard]] QStringList list() const { return program->foto.lstFoto.items(); }
 };
 
 TEST_F(DownloadedPicturesTest, TheFirstOneOpensThePictureBrowserAndTheOthersAreAdded)
 {
     fetch(u"One.jpg"_s);
-    EXPECT_TRUE(program->pictureForm.isOpen());
+    EXPECT_TRUE(program->foto.isOpen());
     EXPECT_EQ(list(), QStringList{u"one.jpg"_s});
     fetch(u"Two.jpg"_s);
     EXPECT_EQ(list(), (QStringList{u"one.jpg"_s, u"Two.jpg"_s})) << "the name as it came";
     EXPECT_EQ(pictures.shown, QStringList{files() + u"One.jpg"_s}) << "the walk of the user is not disturbed";
-    program->pictureForm.choosePicture(1);
+    program->foto.choosePicture(1);
     EXPECT_EQ(pictures.shown.constLast(), files() + u"Two.jpg"_s);
-    program->pictureForm.unload();
+    program->foto.unload();
     fetch(u"three.jpg"_s);
     EXPECT_EQ(list(), (QStringList{u"one.jpg"_s, u"three.jpg"_s, u"two.jpg"_s})) << "opened anew";
 }
@@ -57,7 +57,7 @@ TEST_F(DownloadedPicturesTest, APictureOfAnotherFolderIsShownFromThere)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     program->downloadedPictures.OpenFiles(elsewhere);
     EXPECT_EQ(list(), (QStringList{u"one.jpg"_s, u"two.jpg"_s}));
-    program->pictureForm.choosePicture(1);
+    program->foto.choosePicture(1);
     EXPECT_EQ(pictures.shown.constLast(), elsewhere);
 }
 
@@ -65,7 +65,7 @@ TEST_F(DownloadedPicturesTest, WithoutThePictureBrowserTheBrowserShowsTheFile)
 {
     form().manual.chkMNUseFotoBrwse.setValue(0);
     fetch(u"no #1.jpg"_s);
-    EXPECT_FALSE(program->pictureForm.isOpen());
+    EXPECT_FALSE(program->foto.isOpen());
     EXPECT_EQ(browser().navigated, QStringList{"file://"_L1 + files() + "no%20%231.jpg"_L1});
 }
 
@@ -75,7 +75,7 @@ TEST_F(DownloadedPicturesTest, WhereNothingIsToBeOpenedNothingIs)
     for (const int picturesWanted : {0, 1}) {
         form().manual.chkMNUseFotoBrwse.setValue(picturesWanted);
         fetch(u"one.jpg"_s);
-        EXPECT_FALSE(program->pictureForm.isOpen());
+        EXPECT_FALSE(program->foto.isOpen());
         EXPECT_EQ(browser().navigated, QStringList());
     }
 }
