@@ -30,7 +30,7 @@ class SettingsFaults : public ProgramTest
     {
         ends = 0;
         program = std::make_unique<Program>(
-            Program::Ports{{pump, dialogs, desktop, clipboard, store}, {place, menus, side}, browsers, folder.path()});
+            Program::Ports{{pump, dialogs, desktop, clipboard, store}, {place, menus, side, pictures}, browsers, folder.path()});
         QObject::connect(&program->lifeCycle, &LifeCycle::ended, &program->form, [this] { ++ends; });
         ASSERT_TRUE(program->startUp.Form_Load());
         program->startUp.settle();
