@@ -2,6 +2,7 @@
 
 #include "app/SettingKeys.h"
 #include "desktop/KeptPlace.h"
+#include "window/WindowPlaces.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
