@@ -136,15 +136,24 @@ void cLstBx::PopulateListBox(ListBox &list, const QStringList &values, bool noBl
         list.addItems(added);
 }
 
+QString cLstBx::truncated(const QString &item, const QString &text, Cut cut)
+{
+    const qsizetype at = cUtility::indexIgnoringCase(item, text);
+    return at < 0 ? item : cut == Cut::LeftSide ? item.mid(at + text.size()) : item.left(at);
+}
+
 void cLstBx::TruncateList(ListBox &list, const QString &text, Cut cut)
 {
     QStringList items;
     items.reserve(list.listCount());
-    for (const QString &item : list.items()) {
-        const qsizetype at = cUtility::indexIgnoringCase(item, text);
-        items.append(at < 0 ? item : cut == Cut::LeftSide ? item.mid(at + text.size()) : item.left(at));
-    }
+    for (const QString &item : list.items())
+        items.append(truncated(item, text, cut));
     PopulateListBox(list, items, true, true);
+}
+
+bool cLstBx::isToGo(const QString &item, const QString &text, Remove which)
+{
+    return cUtility::holdsIgnoringCase(item, text) == (which == Remove::Containing);
 }
 
 void cLstBx::ClearItemsCorNC(ListBox &list, const QString &text, Remove which)
@@ -154,6 +163,6 @@ void cLstBx::ClearItemsCorNC(ListBox &list, const QString &text, Remove which)
     std::vector<bool> gone;
     gone.reserve(static_cast<std::size_t>(list.listCount()));
     for (const QString &item : list.items())
-        gone.push_back(cUtility::holdsIgnoringCase(item, text) == (which == Remove::Containing));
+        gone.push_back(isToGo(item, text, which));
     list.removeItems(gone);
 }

@@ -40,8 +40,10 @@ void PopulateListBox(ListBox &list, const QStringList &values, bool noBlanks, bo
 /// Cuts each item at `text` (ignoring case), which goes with the cut side; items without it stay. Items that are, or
 /// become, blank vanish, and nothing stays selected.
 enum class Cut { LeftSide, RightSide };
+[[nodiscard]] QString truncated(const QString &item, const QString &text, Cut cut);
 void TruncateList(ListBox &list, const QString &text, Cut cut);
 /// Takes out the items that hold `text` (ignoring case), or those that do not. Nothing with "".
 enum class Remove { Containing, NotContaining };
+[[nodiscard]] bool isToGo(const QString &item, const QString &text, Remove which);
 void ClearItemsCorNC(ListBox &list, const QString &text, Remove which);
 } // namespace cLstBx

@@ -145,17 +145,21 @@ QStringList cIEText::GetBaseUrls(const QStringList &addresses)
     return orEmptyList(servers);
 }
 
+bool cIEText::UniqueServers::isFirst(QStringView address)
+{
+    const QString server = lowered(GetServerFromUrl(address, hostOnly));
+    if ((mKnown.isEmpty() && server.isEmpty()) || mKnown.contains(server))
+        return false;
+    mKnown.insert(server);
+    return true;
+}
+
 QStringList cIEText::GetUniqueServers(const QStringList &addresses)
 {
-    QSet<QString> known;
+    UniqueServers servers;
     QStringList kept;
-    for (const QString &address : addresses) {
-        const QString server = lowered(GetServerFromUrl(address, hostOnly));
-        if ((kept.isEmpty() && server.isEmpty()) || known.contains(server))
-            continue;
-        known += server;
-        kept += address;
-    }
+    std::copy_if(addresses.begin(), addresses.end(), std::back_inserter(kept),
+                 [&](const QString &address) { return servers.isFirst(address); });
     return orEmptyList(kept);
 }
 

@@ -3,6 +3,7 @@
 // upon. All functions are total: where a rule passes over an error they give the told result. Works on text alone.
 #pragma once
 
+#include <QSet>
 #include <QStringList>
 #include <QVariant>
 
@@ -38,6 +39,17 @@ inline constexpr ServerParts hostOnly{true, true, false};
 
 /// The servers (`keepAll`) of all addresses that have one, in order, repeats included; the empty list when none has.
 [[nodiscard]] QStringList GetBaseUrls(const QStringList &addresses);
+
+/// Tells of addresses, asked one after the other, whether each is the first of its server (`hostOnly`, case ignored).
+/// Those without a server are not until there has been one with a server, and are one server from then on.
+class UniqueServers
+{
+  public:
+    [[nodiscard]] bool isFirst(QStringView address);
+
+  private:
+    QSet<QString> mKnown;
+};
 
 /// The first address of each server (`hostOnly`, case ignored), whole and in order; the empty list when nothing is
 /// left. Addresses without a server are dropped until the first one with a server is kept, and are one server from then

@@ -49,32 +49,41 @@ ManualRemove::ManualRemove(const Context &context, const Menu &menu, const Manua
     connectCommands(*this, rows, menu, context.log, work.work());
 }
 
-/// Makes of each item what `change` answers, or nothing. The list takes it at the end, all at once; it stays as it is
-/// where nothing is left, where the user cancels, and where something else joined it meanwhile.
-template <class Change> void ManualRemove::eachItem(const QString &text, bool noBlanks, Change change)
+/// Looks at each item, and at the end, all at once, does what has come of it. The list stays as it is where the user
+/// cancels, and where something else joined it meanwhile.
+template <class Look, class Finish> void ManualRemove::overItems(const QString &text, Look look, Finish finish)
 {
     mWork.count(text, [&]() -> QString {
         const QStringList before = list().items();
-        QStringList after;
-        after.reserve(before.size());
-        for (qsizetype at = 0; at < before.size() && mWork.goOn(at, before.size()); ++at) {
-            if (const std::optional<QString> item = change(before[at]))
-                after.append(*item);
-        }
+        for (qsizetype at = 0; at < before.size() && mWork.goOn(at, before.size()); ++at)
+            look(before[at]);
         if (mWork.isCancelled())
             return u"Cancelled"_s;
         if (list().items() != before)
             return u"List has changed"_s;
-        if (!after.isEmpty())
-            cLstBx::PopulateListBox(list(), after, noBlanks, true);
+        finish();
         return {};
+    });
+}
+
+/// Makes of each item what `change` answers, or nothing.
+template <class Change> void ManualRemove::eachItem(const QString &text, Refill refill, Change change)
+{
+    QStringList after;
+    const auto look = [&](const QString &item) {
+        if (const std::optional<QString> changed = change(item))
+            after.append(*changed);
+    };
+    overItems(text, look, [&] {
+        if (refill.evenEmpty || !after.isEmpty())
+            cLstBx::PopulateListBox(list(), after, refill.noBlanks, true);
     });
 }
 
 void ManualRemove::repeats()
 {
     QSet<QString> seen;
-    eachItem(u"Working"_s, false, [&](const QString &item) -> std::optional<QString> {
+    eachItem(u"Working"_s, {false, false}, [&](const QString &item) -> std::optional<QString> {
         if (item.isEmpty() || seen.contains(item))
             return {};
         seen.insert(item);
@@ -85,7 +94,7 @@ void ManualRemove::repeats()
 void ManualRemove::reduceToServer()
 {
     QSet<QString> seen;
-    eachItem(u"Working"_s, false, [&](const QString &item) -> std::optional<QString> {
+    eachItem(u"Working"_s, {false, false}, [&](const QString &item) -> std::optional<QString> {
         const QString server = cIEText::GetServerFromUrl(item, cIEText::keepAll);
         if (server.isEmpty() || seen.contains(server))
             return {};
@@ -96,16 +105,17 @@ void ManualRemove::reduceToServer()
 
 void ManualRemove::uniqueServers()
 {
-    mWork.count(u"Working"_s, [&] {
-        const QStringList kept = cIEText::GetUniqueServers(cLstBx::GetItems(list(), cLstBx::Which::All));
-        cLstBx::PopulateListBox(list(), kept, true, true);
-        return QString();
+    cIEText::UniqueServers servers;
+    eachItem(u"Working"_s, {true, true}, [&](const QString &item) -> std::optional<QString> {
+        if (cUtility::Trim(item).isEmpty() || !servers.isFirst(item))
+            return {};
+        return item;
     });
 }
 
 void ManualRemove::RemoveProtocol()
 {
-    eachItem("Removing "_L1 + protocol.toString(), true, withoutProtocol);
+    eachItem("Removing "_L1 + protocol.toString(), {false, true}, withoutProtocol);
 }
 
 void ManualRemove::truncate(cLstBx::Cut cut)
@@ -115,11 +125,9 @@ void ManualRemove::truncate(cLstBx::Cut cut)
         mContext.dialogs.input(u"Enter text"_s, side.title, mContext.settings.GetSetting(Sections::Main, side.key));
     if (text.isEmpty())
         return;
-    mWork.count(side.status + text, [&] {
-        mContext.settings.SaveSetting(Sections::Main, side.key, text);
-        cLstBx::TruncateList(list(), text, cut);
-        return QString();
-    });
+    mContext.settings.SaveSetting(Sections::Main, side.key, text);
+    eachItem(side.status + text, {true, true},
+             [&](const QString &item) { return std::optional(cLstBx::truncated(item, text, cut)); });
 }
 
 QString ManualRemove::selectedItem() const
@@ -140,9 +148,9 @@ void ManualRemove::MNExtendedRemove(cLstBx::Remove which)
         mContext.dialogs.input("Remove items "_L1 + negation + "containing text"_L1, u"Enter text"_s, proposal);
     if (text.isEmpty())
         return;
-    mWork.count(u"Working"_s, [&] {
-        mContext.settings.SaveSetting(Sections::Main, Keys::ItemsContaining, text);
-        cLstBx::ClearItemsCorNC(list(), text, which);
-        return QString();
-    });
+    mContext.settings.SaveSetting(Sections::Main, Keys::ItemsContaining, text);
+    std::vector<bool> gone;
+    overItems(
+        u"Working"_s, [&](const QString &item) { gone.push_back(cLstBx::isToGo(item, text, which)); },
+        [&] { list().removeItems(gone); });
 }

@@ -25,7 +25,13 @@ class ManualRemove : public QObject
     void MNExtendedRemove(cLstBx::Remove which);
     [[nodiscard]] QString selectedItem() const;
 
-    template <class Change> void eachItem(const QString &text, bool noBlanks, Change change);
+    /// How the list takes what the items have become: also where nothing is left of them; without blank ones.
+    struct Refill
+    {
+        bool evenEmpty, noBlanks;
+    };
+    template <class Change> void eachItem(const QString &text, Refill refill, Change change);
+    template <class Look, class Finish> void overItems(const QString &text, Look look, Finish finish);
 
     Context mContext;
     const ManualDesk &mDesk;
