@@ -147,7 +147,7 @@ ImportPage::ImportPage(QObject *form)
 }
 
 OptionBoxes::OptionBoxes(QObject *form)
-    : chkSMA(u"chkSMA"_s, 10, form), chkSMD(u"chkSMD"_s, 9, form), chkSMV(u"chkSMV"_s, 5, form)
+    : chkSMA(u"chkSMA"_s, 11, form), chkSMD(u"chkSMD"_s, 9, form), chkSMV(u"chkSMV"_s, 5, form)
 {
 }
 

@@ -5,6 +5,7 @@
 namespace SMA {
 constexpr int ServersOnly = 0, ConvertHex = 1, ReturnToStart = 2, DownloadByFtp = 3, OpenNextOnDelete = 4;
 constexpr int IncrementPassUrl = 5, IncrementSavedUrl = 6, PromptBeforeEnd = 7, OpenDirOnTimer = 8, UniqueServers = 9;
+constexpr int DownloadAsBrowser = 10;
 } // namespace SMA
 
 /// "Settings" / "Misc" / "Save".

@@ -1,15 +1,11 @@
 #include "harvest/Downloads.h"
 
+#include "app/OptionNumbers.h"
+
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-constexpr int secondWayOption = 3;
-constexpr auto section = "SecFrmSearch"_L1;
-constexpr auto asBrowserKey = "chkSMADownloadAsBrowser"_L1;
-} // namespace
 
 Downloads::Downloads(const Context &context, const FilePlaces &places, const Limits &limits, const OptionBoxes &options,
                      BrowserHolder &browser, Transfers &transfers, cInetWS &inet)
@@ -30,7 +26,7 @@ QString Downloads::fetch(const QString &url, const QString &name)
 
 Download Downloads::transfer(const QString &url, const QString &target)
 {
-    if (mOptions.chkSMA(secondWayOption).value() == 1)
+    if (mOptions.chkSMA(SMA::DownloadByFtp).value() == 1)
         return cInternet(mTransfers, mContext.log).APIDownLoad(url, target, leastSize());
     return mInet.DownLoad(url, target, leastSize(), browserTraits(url));
 }
@@ -38,7 +34,7 @@ Download Downloads::transfer(const QString &url, const QString &target)
 /// What many servers of pictures ask for: the browser's name, its cookies, and the page that it stands on.
 BrowserTraits Downloads::browserTraits(const QString &url)
 {
-    if (!mBrowser.isSet() || mContext.settings.GetSetting(section, asBrowserKey, u"1"_s) != "1"_L1)
+    if (!mBrowser.isSet() || mOptions.chkSMA(SMA::DownloadAsBrowser).value() != 1)
         return {};
     return {mBrowser->userAgent(), mBrowser->GetSiteUrl(), mBrowser->cookiesFor(url)};
 }

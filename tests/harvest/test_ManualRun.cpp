@@ -1,5 +1,6 @@
 // The Manual run over a list and over a series, as sites and as files, with and without Auto Navigate: order, pace,
 // statuses, stops, and where Go resumes.
+#include "app/OptionNumbers.h"
 #include "store/Transaction.h"
 #include "support/ProgramFixture.h"
 #include "transfer/RawServer.h"
@@ -407,7 +408,7 @@ TEST_F(Fetching, TheFirstWaySpeaksForTheBrowser)
 
 TEST_F(Fetching, SwitchedOffItDoesNot)
 {
-    settings.preset("chkSMADownloadAsBrowser", u"0"_s);
+    form().options.chkSMA(SMA::DownloadAsBrowser).setValue(0);
     server.route("/a.jpg", okReply("xyz"_ba));
     browser().cookies[server.address(u"/a.jpg"_s)] = u"visitor=7"_s;
     fill({server.address(u"/a.jpg"_s)});

@@ -57,6 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
         KeyCase{"chkSMAPassUrlAutoIncr", "chkSMA(5)", "1", "0", "0"},
         KeyCase{"chkSMASavedUrlAutoIncr", "chkSMA(6)", "0", "1", "1"},
         KeyCase{"chkShutDownPrompt", "chkSMA(7)", "1", "0", "0"}, KeyCase{"chkSTmrRCDir", "chkSMA(8)", "1", "0", "0"},
+        KeyCase{"chkSMADownloadAsBrowser", "chkSMA(10)", "1", "0", "0"},
         KeyCase{"chkSMSUniqueServers", "chkSMA(9)", "0", "1", "1"},
         KeyCase{"chkOpenHtmlExports", "chkSMD(0)", "1", "0", "0"},
         KeyCase{"chkUniqueBaseUrls", "chkSMD(1)", "1", "0", "0"},

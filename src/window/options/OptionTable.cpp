@@ -88,6 +88,7 @@ constexpr OptionRow rows[] = {
     value("incSmRPPause"_L1, "incSmRPPause"_L1, "010"_L1, "Seconds that a saved result page is given to arrive (0 takes the time of the links)"_L1).atExit(15),
     box("chkSMA(6)"_L1, "chkSMASavedUrlAutoIncr"_L1, "0"_L1, "Incr Saved Url ON"_L1, "Incr Saved Url OFF"_L1, "Move to the next Saved Url after one was opened"_L1, "Increment Saved Url on open Url click. (A)"_L1),
     box("chkSMA(9)"_L1, "chkSMSUniqueServers"_L1, "0"_L1, "Unique servers ON"_L1, "Unique servers OFF"_L1, "(If Checked) All Urls loaded (Auto [all links screened], Manual [Doesn't work on auto page url collect]) will be screened for second instances of the same server and second instances will be removed from the list"_L1, "Unique Servers (A,M)"_L1),
+    box("chkSMA(10)"_L1, "chkSMADownloadAsBrowser"_L1, "1"_L1, "Downloads as browser ON"_L1, "Downloads as browser OFF"_L1, "(If checked) Downloads tell the server the web browser's name, its cookies and the page that it shows, since many picture pages refuse otherwise. Not with Win Api FTP"_L1, "Downloads follow the web browser. (M)"_L1),
     value("incMNDLTiming"_L1, "incMNDLTiming"_L1, "004"_L1, "Seconds that a download is given (0 takes the time of the items)"_L1).atExit(16),
 
     value("cboANList"_L1, "cboANList"_L1, "0"_L1, "List of Saved Urls and Pass Urls"_L1).with(Loaded::WithDatabase).ifItFits(),
