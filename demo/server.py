@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""The demo web: a made-up search service and thirty made-up sites on loopback, told apart by the Host header.
+"""The demo web: a made-up search service and made-up sites on loopback, told apart by the Host header.
 
     python3 server.py [--port N] [--seconds N] [--stop-with-parent] [--log FILE]
 
 Content lies in sites/: one folder per host, style.css and buoy.svg for all of them, and answers.json for the addresses
-that are answered in an unusual way (another file, status, delay, redirect). To be used from a test:
+that are answered in an unusual way (another file, status, delay, redirect, headers that must be sent); "*.png" there
+stands for all files of that kind. What cannot be told that a made-up host is here, as a download, finds it in the path:
+http://localhost:PORT/www.pier-pictures.com/. To be used from a test:
 
     with server.start() as demo: ... demo.port ...
 """
@@ -20,7 +22,8 @@ from urllib.parse import parse_qs, quote, unquote, urlsplit
 
 SITES = Path(__file__).resolve().parent / "sites"
 SERVICE = "www.findery-demo.com"
-TYPES = {".html": "text/html", ".css": "text/css", ".svg": "image/svg+xml"}
+TYPES = {".html": "text/html", ".css": "text/css", ".svg": "image/svg+xml", ".png": "image/png"}
+OWN_NAMES = ("localhost", "127.0.0.1")
 LEDGER_LINES = 11000
 NOT_FOUND = """<!doctype html>
 <html lang="en">
@@ -102,15 +105,25 @@ def searched(path, query):
     return None
 
 
-def answer(host, target):
+def is_refused(special, headers):
+    """Something that must stand in the request's headers does not."""
+    return any(text not in (headers or {}).get(name, "") for name, text in special.get("needs", {}).items())
+
+
+def answer(host, target, headers=None):
     """What the site `host` answers to the request target `target` (path and query)."""
     path, _, query = target.partition("?")
     path = unquote(path)
+    if host in OWN_NAMES:
+        host, _, path = path.removeprefix("/").partition("/")
+        path = "/" + path
     if host == SERVICE and (found := searched(path, query)):
         return found
     if host in HOSTS and path == "/favicon.ico":
         return Answer(204)
-    special = ANSWERS.get(host + path, {})
+    special = ANSWERS.get(host + path) or ANSWERS.get(f"{host}/*{Path(path).suffix}", {})
+    if is_refused(special, headers):
+        return Answer(403, "text/plain", body=b"For visitors of these pages alone.")
     if "redirect" in special:
         return redirect(special["redirect"])
     file = SITES / special["file"] if "file" in special else FILES.get(host + path)
@@ -134,7 +147,8 @@ class Handler(BaseHTTPRequestHandler):
             if target.startswith("http://"):        # asked as a proxy would be
                 parts = urlsplit(target)
                 host, target = parts.netloc, parts._replace(scheme="", netloc="").geturl()
-            found = answer(host.rpartition("@")[2].partition(":")[0].strip().lower(), target or "/")
+            found = answer(host.rpartition("@")[2].partition(":")[0].strip().lower(), target or "/",
+                           self.headers)
         except (ValueError, OSError):
             found = not_found()
         self.server.note(f"{found.status} {host} {target}")

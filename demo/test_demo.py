@@ -30,10 +30,10 @@ class Served(unittest.TestCase):
     def setUpClass(cls):
         cls.demo = cls.enterClassContext(server.start())
 
-    def ask(self, host, target, method="GET"):
+    def ask(self, host, target, method="GET", **headers):
         connection = http.client.HTTPConnection("127.0.0.1", self.demo.port, timeout=10)
         with contextlib.closing(connection):
-            connection.request(method, target, headers={"Host": host})
+            connection.request(method, target, headers={"Host": host, **headers})
             response = connection.getresponse()
             return response, response.read()
 
@@ -50,7 +50,7 @@ class Answers(Served):
             if "slow" in address:
                 continue
             host, _, name = address.partition("/")
-            response, body = self.ask(host, "/" + name)
+            response, body = self.ask(host, "/" + name, Referer=f"http://{host}/", Cookie="pier=open")
             with self.subTest(address):
                 self.assertIn(response.status, (200, 401))
                 self.assertEqual(int(response.headers["Content-Length"]), len(body))
@@ -102,6 +102,24 @@ class Answers(Served):
         response, _ = self.ask("www.findery-demo.com", "/url?to=http%3A//www.north-harbour.com/contact.html&rank=1")
         self.assertEqual((response.status, response.headers["Location"]), (302, "http://www.north-harbour.com/contact.html"))
 
+    def test_pictures_are_for_visitors_of_their_pages(self):
+        for host, path in (("www.pier-pictures.com", "/"), ("localhost:80", "/www.pier-pictures.com/")):
+            page, _ = self.ask(host, path + "boats-1.html")
+            self.assertEqual(page.headers["Set-Cookie"], "pier=open")
+            visitor = {"Referer": f"http://{host}{path}boats-1.html", "Cookie": "a=b; pier=open"}
+            for left_out in ("Referer", "Cookie"):
+                some = {name: value for name, value in visitor.items() if name != left_out}
+                self.assertEqual(self.ask(host, path + "boat-1.png", **some)[0].status, 403)
+            response, body = self.ask(host, path + "boat-1.png", **visitor)
+            self.assertEqual((response.status, response.headers["Content-Type"]), (200, "image/png"))
+            self.assertEqual(body[:4], b"\x89PNG")
+
+    def test_a_host_may_stand_in_the_path(self):
+        self.assertIn(b"pigeon", self.ask("localhost", "/www.quietbay.com/")[1])
+        for path in ("/", "/www.nobody.com/", "/../server.py", "/www.quietbay.com/../../server.py"):
+            with self.subTest(path):
+                self.assertEqual(self.ask("localhost", path)[0].status, 404)
+
     def test_one_connection_serves_many_requests(self):
         connection = http.client.HTTPConnection("127.0.0.1", self.demo.port, timeout=5)
         with contextlib.closing(connection):
@@ -152,7 +170,7 @@ class Program(unittest.TestCase):
 
 class Expectations(unittest.TestCase):
     def test_thirty_sites_thirty_links(self):
-        self.assertEqual(len(server.HOSTS), 31 + len(SERVICES))
+        self.assertEqual(len(server.HOSTS), 32 + len(SERVICES))
         self.assertEqual(len(EXPECTED["links"]), 30)
         self.assertEqual(len(set(EXPECTED["links"])), 30)
 
