@@ -40,6 +40,16 @@ void takeSetting(Arguments &arguments, const QString &value)
     arguments.settings.append({value.left(equals), value.mid(equals + 1)});
 }
 
+void takeListFile(Arguments &arguments, const QString &value)
+{
+    const QFileInfo file(value);
+    if (!file.isFile())
+        refuse(u"--list-file: no such file: %1"_s.arg(value));
+    if (!file.isReadable())
+        refuse(u"--list-file: can not be read: %1"_s.arg(value));
+    arguments.listFile = file.absoluteFilePath();
+}
+
 void takeRun(Arguments &arguments, Arguments::Run run)
 {
     if (arguments.run && *arguments.run != run)
@@ -76,6 +86,10 @@ const Option options[] = {
     {"--auto"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Auto); }, "                      run the Auto tab"_L1},
     {"--manual"_L1, false, [](Arguments &a, const QString &) { takeRun(a, Arguments::Run::Manual); }, "                    run the Manual tab"_L1},
     {"--browse"_L1, true, takeBrowse, "SECONDS             collect from the pages that the browser shows, for so long"_L1},
+    {"--list-file"_L1, true, takeListFile, "FILE             fill the manual list on show from a text file"_L1},
+    {"--list-db"_L1, false, [](Arguments &a, const QString &) { a.listDb = true; }, "                   fill it with what the database has of it"_L1},
+    {"--list-save"_L1, false, [](Arguments &a, const QString &) { a.listSave = true; }, "                 keep it in the database, before the run"_L1},
+    {"--list-print"_L1, false, [](Arguments &a, const QString &) { a.listPrint = true; }, "                print it, one item a line, after the run or alone"_L1},
     {"--export"_L1, true, [](Arguments &a, const QString &v) { a.data.takeExport(v); }, "TABLE               write a table to a file, without a browser"_L1},
     {"--format"_L1, true, [](Arguments &a, const QString &v) { a.data.takeFormat(v); }, "html|comma|tab|dat|csv|jsonl|xlsx|sqlite  the form of the file"_L1},
     {"--where"_L1, true, [](Arguments &a, const QString &v) { a.data.takeWhere(v); }, "FIELD=TEXT           only the rows that hold the text there, or equal the number"_L1},
@@ -89,6 +103,18 @@ const Option options[] = {
     {"--help"_L1, false, [](Arguments &a, const QString &) { a.help = true; }, "                      print this"_L1},
 };
 // clang-format on
+
+/// What is to be done must be said, and go together.
+void checkPurpose(const Arguments &arguments)
+{
+    arguments.data.check();
+    if (arguments.data.isWanted() && (arguments.run || arguments.hasListWork()))
+        refuse(u"--export and --import go without a run and without a list"_s);
+    if (!arguments.run && !arguments.data.isWanted() && !arguments.hasListWork())
+        refuse(u"one of --auto, --manual, --browse, --list-..., --export and --import is wanted (see --help)"_s);
+    if (!arguments.run && !arguments.open.isEmpty())
+        refuse(u"--open wants a run"_s);
+}
 } // namespace
 
 QString usage()
@@ -97,7 +123,7 @@ QString usage()
     for (const Option &option : options)
         text += u"  %1 %2\n"_s.arg(option.name, option.help);
     return text + u"\nExit status: 0 after \"Stopped (FINISHED)\", 1 after any other end, 2 for bad arguments.\n"
-                  "Of an export or import: 0 when all was done, 1 when not.\n"_s;
+                  "Without a run: 0 when all was done, 1 when not.\n"_s;
 }
 
 Arguments parseArguments(const QStringList &words)
@@ -116,10 +142,7 @@ Arguments parseArguments(const QStringList &words)
             refuse(u"%1 takes no value"_s.arg(name));
         option->take(arguments, !option->hasValue ? QString() : attached ? words[i].section(u'=', 1) : words[++i]);
     }
-    arguments.data.check();
-    if (arguments.data.isWanted() && arguments.run)
-        refuse(u"--export and --import go without a run"_s);
-    if (!arguments.run && !arguments.help && !arguments.data.isWanted())
-        refuse(u"one of --auto, --manual, --browse, --export and --import is wanted (see --help)"_s);
+    if (!arguments.help)
+        checkPurpose(arguments);
     return arguments;
 }

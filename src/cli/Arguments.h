@@ -26,9 +26,16 @@ struct Arguments
     bool untilLoaded = false;
     std::optional<Run> run;
     int browseSeconds = 0; ///< how long the browser is followed
+    QString listFile;      ///< lines of text that the manual list on show takes; "" for none
+    bool listDb = false;   ///< that list takes what is saved of it
+    bool listSave = false; ///< it is saved before the run
+    bool listPrint = false;
     bool json = false;
     DataArguments data;
     bool help = false;
+
+    /// Something is to be done with the list on show, so that no run is needed.
+    [[nodiscard]] bool hasListWork() const { return !listFile.isEmpty() || listDb || listSave || listPrint; }
 };
 
 /// What stands behind --help.

@@ -47,17 +47,19 @@ bool Outcome::isFinished() const
     return mStatus == "Stopped (FINISHED)"_L1;
 }
 
-QByteArray Outcome::json() const
+QByteArray Outcome::json(bool list) const
 {
     QJsonObject rows;
     for (auto row = mRows.begin(); row != mRows.end(); ++row)
         rows.insert(row.key(), row.value());
-    const QJsonObject object{{u"status"_s, mStatus},
-                             {u"links"_s, QJsonArray::fromStringList(mLinks)},
-                             {u"rows"_s, rows},
-                             {u"files"_s, mFiles},
-                             {u"refused"_s, mRefused},
-                             {u"lists"_s, listsObject(mLists)},
-                             {u"seconds"_s, static_cast<double>(mElapsed.elapsed()) / 1000.0}};
+    QJsonObject object{{u"status"_s, mStatus},
+                       {u"links"_s, QJsonArray::fromStringList(mLinks)},
+                       {u"rows"_s, rows},
+                       {u"files"_s, mFiles},
+                       {u"refused"_s, mRefused},
+                       {u"lists"_s, listsObject(mLists)},
+                       {u"seconds"_s, static_cast<double>(mElapsed.elapsed()) / 1000.0}};
+    if (list)
+        object.insert(u"list"_s, QJsonArray::fromStringList(mLists.shown().items()));
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }

@@ -16,8 +16,8 @@ class Outcome : public QObject
 
     [[nodiscard]] bool isFinished() const;
     /// One JSON object: status, links visited, rows added by table, files fetched and refused, what the manual lists
-    /// hold, seconds.
-    [[nodiscard]] QByteArray json() const;
+    /// hold, seconds; with `list` also what the list on show holds.
+    [[nodiscard]] QByteArray json(bool list = false) const;
 
   private:
     QString mStatus;

@@ -6,6 +6,7 @@
 #include "cli/ControlSetter.h"
 #include "cli/DataCommands.h"
 #include "cli/HarvestSettings.h"
+#include "cli/ListCommands.h"
 #include "cli/Outcome.h"
 #include "cli/StopSignals.h"
 #include "engine/BrowserSwitches.h"
@@ -91,6 +92,20 @@ void harvest(Program &program, EventPump &pump, const Arguments &arguments)
         browse(program, pump, arguments.browseSeconds);
 }
 
+void print(const QByteArray &text)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    std::fflush(stdout);
+}
+
+/// A click on X, which keeps a series where that is wanted, and the end.
+void stop(Program &program)
+{
+    if (program.form.runs.mbMNRunning && !program.form.runs.mbMNCancel)
+        program.manualRun.cmdMNStart_Click();
+    program.lifeCycle.end();
+}
+
 int run(Program &program, EventPump &pump, const Arguments &arguments)
 {
     StopSignals stopSignals;
@@ -103,17 +118,21 @@ int run(Program &program, EventPump &pump, const Arguments &arguments)
     }
     QObject::connect(&program.status, &StatusLine::told, &program.form, &printError);
     Outcome outcome(program);
-    QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.lifeCycle, &LifeCycle::end);
-    if (!program.startUp.Form_Load())
+    QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.form, [&program] { stop(program); });
+    // What is done with a list alone needs no browser.
+    if (!(arguments.run ? program.startUp.Form_Load() : program.startUp.load()))
         return OtherEnd;
+    giveUpStoredSeries(program, arguments);
     applySettings(program, arguments.settings);
-    harvest(program, pump, arguments);
-    if (arguments.json) {
-        const QByteArray json = outcome.json() + '\n';
-        std::fwrite(json.constData(), 1, static_cast<std::size_t>(json.size()), stdout);
-        std::fflush(stdout);
+    bool finished = prepareList(program, arguments);
+    if (finished && arguments.run) {
+        harvest(program, pump, arguments);
+        finished = outcome.isFinished();
     }
-    const bool finished = outcome.isFinished();
+    if (arguments.json)
+        print(outcome.json(arguments.listPrint) + '\n');
+    else if (arguments.listPrint)
+        print(listText(program.form.lists.shown()));
     program.lifeCycle.end();
     return finished ? Finished : OtherEnd;
 }

@@ -149,9 +149,10 @@ QString ManualFeed::loadFile(ListBox &list, const QString &path)
     const ListFile::Content content = ListFile::read(path);
     if (!content.fault.isEmpty())
         return content.fault;
-    const QStringList wanted = mDesk.usesBase() ? content.lines : links(content.lines);
+    const bool all = mDesk.usesBase();
+    const QStringList wanted = all ? content.lines : links(content.lines);
     if (mWork.isCancelled())
         return cancelled;
     cLstBx::PopulateListBox(list, cUtility::RemoveRepeatsFromArray(wanted), true, false);
-    return wanted.isEmpty() ? QString(invalidUrl) : QString();
+    return wanted.isEmpty() && !all ? QString(invalidUrl) : QString();
 }

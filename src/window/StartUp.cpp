@@ -16,15 +16,21 @@ StartUp::StartUp(const Context &context, frmSearch &form, Options &options, Data
 {
 }
 
-bool StartUp::Form_Load()
+bool StartUp::load()
 {
-    bool usable = false;
-    guarded(mContext.log, place, [&] {
+    return guardedResult(mContext.log, place, false, [&](bool &usable) {
         mOptions.GetSettings();
         usable = mLoader.LoadDBData(false) && !mLife.isEnding();
+        mForm.mbFormReady = usable;
+    });
+}
+
+bool StartUp::Form_Load()
+{
+    bool usable = load();
+    guarded(mContext.log, place, [&] {
         if (!usable)
             return mLife.end();
-        mForm.mbFormReady = true;
         connectBrowser();
     });
     if (mLife.isEnding())

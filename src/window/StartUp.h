@@ -12,7 +12,9 @@ class StartUp : public QObject
     StartUp(const Context &context, frmSearch &form, Options &options, DatabaseLoader &loader,
             BrowserConnection &connection, WindowPlace &place, LifeCycle &life);
 
-    /// Builds the form's state, opens the database, connects a browser. False when there is no usable database.
+    /// Builds the form's state and opens the database. False when there is no usable one.
+    bool load();
+    /// The same, and connects a browser. False when there is no usable database.
     /// Whoever has a window shows it at loaded(): a browser may take seconds.
     bool Form_Load();
     /// Just before the window is shown: its place, and that it stands on top.

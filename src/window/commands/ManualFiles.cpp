@@ -27,13 +27,13 @@ ManualFiles::ManualFiles(const Context &context, const Menu &menu, FilePlaces &p
 
 bool ManualFiles::loadFile(const QString &path)
 {
-    bool read = false;
+    bool taken = false;
     mWork.count(u"Please Wait"_s, [&] {
         QString message = mFeed.loadFile(mDesk.list(), path);
-        read = QFile::exists(path);
+        taken = message.isEmpty();
         return message;
     });
-    return read;
+    return taken;
 }
 
 void ManualFiles::loadChosen()

@@ -12,7 +12,7 @@ class ManualFiles : public QObject
     ManualFiles(const Context &context, const Menu &menu, FilePlaces &places, const ManualDesk &desk,
                 const ManualWork &work, ManualFeed &feed, BrowserHolder &browser);
 
-    /// "Urls (File)" of a file that is known. False where it could not be read.
+    /// "Urls (File)" of a file that is known. False where nothing of it could be taken.
     bool loadFile(const QString &path);
 
   private:

@@ -10,7 +10,7 @@ ManualStore::ManualStore(const Context &context, const Menu &menu, const ManualD
 {
     static constexpr CommandRow<ManualStore> rows[] = {
         {"mnuMNDeleteSaved"_L1, "Sub mnuMNDeleteSaved_Click"_L1, &ManualStore::deleteSaved},
-        {"mnuMNSaveToDatabase"_L1, "Sub mnuMNSaveToDatabase_Click"_L1, &ManualStore::saveToDatabase},
+        {"mnuMNSaveToDatabase"_L1, "Sub mnuMNSaveToDatabase_Click"_L1, &ManualStore::save},
         {"mnuMNSaveLast"_L1, "Sub mnuMNSaveLast_Click"_L1, &ManualStore::savePosition},
         {"mnuMNStatusSaveListWindowUrl"_L1, "Sub mnuMNStatusSaveListWindowUrl_Click"_L1, &ManualStore::saveSelectUrl},
         {"mnuMNLoadLinksIE"_L1, "Sub mnuMNLoadLinksIE_Click"_L1, &ManualStore::loadFromBrowser},
@@ -36,13 +36,16 @@ void ManualStore::deleteSaved()
     });
 }
 
-void ManualStore::saveToDatabase()
+bool ManualStore::saveToDatabase()
 {
     const QString table = mDesk.table();
+    bool saved = false;
     mWork.tell("Saving "_L1 + table + ". Please Wait"_L1, [&] {
         const QString refused = mTables.SaveMN(list(), table);
-        return refused.isEmpty() ? "Saved To "_L1 + table : refused;
+        saved = refused.isEmpty();
+        return saved ? "Saved To "_L1 + table : refused;
     });
+    return saved;
 }
 
 void ManualStore::savePosition()

@@ -13,7 +13,9 @@ class ManualStore : public QObject
     ManualStore(const Context &context, const Menu &menu, const ManualDesk &desk, const ManualWork &work,
                 ManualTables &tables, DeletedRows &deleted, ManualFeed &feed);
 
-    void saveToDatabase();
+    /// "ListTo Db". False when not all of it was kept.
+    bool saveToDatabase();
+    /// "Urls (DB)" of Load.
     void loadFromDatabase();
 
   Q_SIGNALS:
@@ -22,6 +24,7 @@ class ManualStore : public QObject
 
   private:
     [[nodiscard]] ListBox &list() const { return mDesk.list(); }
+    void save() { static_cast<void>(saveToDatabase()); }
     void deleteSaved();
     void savePosition();
     void saveSelectUrl();
