@@ -124,7 +124,10 @@ void Program::connectSites()
 /// What the start and the end ask of others.
 void Program::connectLife(const Ports &ports)
 {
-    QObject::connect(&startUp, &StartUp::formLoaded, &form, [this] { manualColours.SetMNColors(); });
+    QObject::connect(&startUp, &StartUp::formLoaded, &form, [this] {
+        manual.restorePosition();
+        manualColours.SetMNColors();
+    });
     QObject::connect(&startUp, &StartUp::settled, &windowCommands, &WindowCommands::tmrKeepOnTop_Timer);
     QObject::connect(&filesSites, &FilesSitesEvents::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
     QObject::connect(&placeCommands, &PlaceCommands::editorTestWanted, &form,
@@ -150,6 +153,9 @@ void Program::connectManual(Desktop &desktop, SideWindows &side)
     QObject::connect(&manual.tab, &ManualTab::menuWanted, &form, [this](Menu &menu) { popUps.ShowPopUp(menu); });
     QObject::connect(&manual.tab, &ManualTab::openWanted, &form,
                      [this](const QString &url) { navigation.OpenSite(url); });
+    QObject::connect(&manual.tab, &ManualTab::listChosen, &dataSide.view, &DataView::LoadTableSelectData);
+    QObject::connect(&statusBarEvents, &StatusBarEvents::selectUrlWanted, &form,
+                     [this](const QString &table) { manual.mark(table, {}); });
     const auto navigate = [this](int mode) { manualItems.NavFileOrSite(mode, {}, false); };
     QObject::connect(&manual.edit, &ManualEdit::navigateWanted, &form, navigate);
     QObject::connect(&manual.statusCommands, &ManualStatusCommands::navigateWanted, &form, navigate);

@@ -1,58 +1,12 @@
 // The commands of the two menus of the Manual tab, in the whole program.
 #include "app/MenuTables.h"
-#include "support/ProgramFixture.h"
+#include "window/ManualCommandsFixture.h"
 #include "window/commands/ManualListRules.h"
 #include "window/commands/ManualStatusRules.h"
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-class ManualCommandsTest : public RunTest
-{
-  protected:
-    ManualCommandsTest() { form().frame.sstSearch.setTab(Tab::Manual); }
-
-    [[nodiscard]] ListBox &list() { return form().lists.shown(); }
-    [[nodiscard]] MenuItem &item(QLatin1StringView name)
-    {
-        return static_cast<MenuItem &>(*form().control(QString(name)));
-    }
-    void click(QLatin1StringView name)
-    {
-        statuses.clear();
-        Menu &menu = QString(name).startsWith(u"mnuMNStatus"_s) || name == "mnuMNUseAutoBase"_L1
-                         ? form().menus.mnuPopUpMNStatus
-                         : form().menus.mnuPopUpMN;
-        menu.prepare();
-        ASSERT_TRUE(item(name).isEnabled()) << name.data();
-        item(name).click();
-    }
-    void fill(const QStringList &items, const std::vector<int> &selected = {}, int index = -1)
-    {
-        list().setItems(items);
-        std::vector<bool> flags(static_cast<std::size_t>(items.size()));
-        for (const int i : selected)
-            flags[static_cast<std::size_t>(i)] = true;
-        list().choose(index, flags);
-        statuses.clear();
-    }
-    /// Which of the menu's items are enabled, asked just before it opens.
-    [[nodiscard]] bool offers(QLatin1StringView name)
-    {
-        form().menus.mnuPopUpMN.prepare();
-        return item(name).isEnabled();
-    }
-    void addUrl(const QString &table, const QString &url) { addRow(database(), table, {{u"Url"_s, url}}); }
-    void write(const QString &path, const QByteArray &bytes)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-};
-} // namespace
 
 TEST_F(ManualCommandsTest, ClearingEmptiesTheListAndNotItsTable)
 {
@@ -175,41 +129,6 @@ TEST_F(ManualCommandsTest, TheListPositionIsSavedFoundAndLoaded)
     EXPECT_EQ(list().listIndex(), 1);
 }
 
-TEST_F(ManualCommandsTest, AListGoesToAFileUnderAProposedName)
-{
-    form().places.txtSFMNDir.setText(folder.path() + u'/');
-    fill({u"http://www.tea.com/1"_s, u"b"_s}, {0}, 0);
-    click("mnuMNSaveAsFile"_L1);
-    EXPECT_EQ(dialogs.files.constLast().prompt, folder.filePath(u"httpwwwtea-0.txt"_s));
-    EXPECT_EQ(dialogs.files.constLast().title, u"Select File"_s);
-    EXPECT_FALSE(QFile::exists(folder.filePath(u"httpwwwtea-0.txt"_s))) << "cancelled";
-    QDir(folder.path()).mkdir(u"sub"_s);
-    dialogs.fileAnswer = folder.filePath(u"sub/mine.txt"_s);
-    write(dialogs.fileAnswer, "old\r\n");
-    click("mnuMNSaveAsFile"_L1);
-    QFile file(dialogs.fileAnswer);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), QByteArray("old\r\nhttp://www.tea.com/1\r\nb\r\n")) << "added to, not overwritten";
-    EXPECT_EQ(form().places.txtSFMNDir.text(), folder.filePath(u"sub/"_s));
-    EXPECT_EQ(settings.of("txtFNSaveLocation"), folder.filePath(u"sub/"_s));
-}
-
-TEST_F(ManualCommandsTest, LinksOfAFileAreLoaded)
-{
-    dialogs.fileAnswer = folder.filePath(u"list.txt"_s);
-    write(dialogs.fileAnswer, "http://a.com\nno\nhttp://a.com\n");
-    click("mnuMNLoadLinksFile"_L1);
-    EXPECT_EQ(statuses.constFirst(), u"Please Wait"_s);
-    EXPECT_EQ(lastStatus(), u"1 loaded"_s);
-    EXPECT_EQ(settings.of("FileNFileName"), dialogs.fileAnswer);
-    write(dialogs.fileAnswer, "nothing\r\nof use\r\n");
-    click("mnuMNLoadLinksFile"_L1);
-    EXPECT_EQ(lastStatus(), u"1 loaded. InValid Url"_s);
-    dialogs.fileAnswer.clear();
-    click("mnuMNLoadLinksFile"_L1);
-    EXPECT_EQ(lastStatus(), u"1 loaded"_s) << "cancelled";
-}
-
 TEST_F(ManualCommandsTest, LinksOfThePageAreLoadedWithOrWithoutSiteData)
 {
     showResults({u"http://a.com/"_s, u"http://b.com/"_s});
@@ -237,54 +156,6 @@ TEST_F(ManualCommandsTest, OtherTablesAreLoadedUnderTheirCaptions)
         click(name);
     EXPECT_EQ(list().items(), (QStringList{u"an"_s, u"mn"_s, u"pass"_s, u"saved"_s, u"deleted"_s}));
     EXPECT_EQ(statuses, (QStringList{u"Loading"_s, u"5 loaded"_s}));
-}
-
-TEST_F(ManualCommandsTest, ItemsAreReducedInEachWay)
-{
-    const QStringList items{u"http://www.a.com/1"_s, u"http://www.a.com/1"_s, u"HTTP://www.a.com/2/"_s,
-                            u"http://www.b.com/x"_s, u"short"_s};
-    const auto left = [&](QLatin1StringView name, const QString &answer = {}) {
-        fill(items);
-        dialogs.inputAnswers = {answer};
-        click(name);
-        return list().items();
-    };
-    EXPECT_EQ(left("mnuMNRem(0)"_L1), (QStringList{items[0], items[2], items[3], items[4]}));
-    EXPECT_EQ(statuses, (QStringList{u"Working"_s, u"4 loaded"_s}));
-    EXPECT_EQ(left("mnuMNRem(1)"_L1),
-              (QStringList{u"www.a.com/1"_s, u"www.a.com/1"_s, u"www.a.com/2"_s, u"www.b.com/x"_s}));
-    EXPECT_EQ(statuses.constFirst(), u"Removing http://"_s);
-    EXPECT_EQ(left("mnuMNRem(2)"_L1, u"A.com/"_s), (QStringList{u"1"_s, u"1"_s, u"2/"_s, items[3], items[4]}));
-    EXPECT_EQ(statuses.constFirst(), u"Removing Left after A.com/"_s);
-    EXPECT_EQ(settings.of("TruncLeft"), u"A.com/"_s);
-    EXPECT_EQ(left("mnuMNRem(3)"_L1, u".com"_s),
-              (QStringList{u"http://www.a"_s, u"http://www.a"_s, u"HTTP://www.a"_s, u"http://www.b"_s, u"short"_s}));
-    EXPECT_EQ(dialogs.inputs.constLast().title, u"Urls will be truncated at text"_s);
-    EXPECT_EQ(left("mnuMNRem(4)"_L1, u"A.COM"_s), (QStringList{items[3], items[4]}));
-    EXPECT_EQ(left("mnuMNRem(5)"_L1, u"A.COM"_s), (QStringList{items[0], items[1], items[2]}));
-    EXPECT_EQ(dialogs.inputs.constLast().text, u"Remove items Not containing text"_s);
-    EXPECT_EQ(left("mnuMNUniqueServersOnly"_L1), (QStringList{items[0], items[3], items[4]}))
-        << "items without a server are one of their own";
-    EXPECT_EQ(left("mnuMNReduceToServer"_L1), (QStringList{u"http://www.a.com"_s, u"http://www.b.com"_s, u"mailto:"_s}))
-        << "what has no server is left with its protocol";
-}
-
-TEST_F(ManualCommandsTest, AnEmptyAnswerKeepsTheListAndTheSetting)
-{
-    settings.preset("FnRemove", u"old"_s);
-    settings.preset("TruncLeft", u"old"_s);
-    fill({u"a"_s, u"b"_s}, {1}, 1);
-    for (const auto name : {"mnuMNRem(2)"_L1, "mnuMNRem(3)"_L1, "mnuMNRem(4)"_L1, "mnuMNRem(5)"_L1}) {
-        click(name);
-        EXPECT_TRUE(statuses.isEmpty());
-    }
-    EXPECT_EQ(list().listCount(), 2);
-    EXPECT_EQ(settings.of("FnRemove"), u"old"_s);
-    EXPECT_EQ(settings.of("TruncLeft"), u"old"_s);
-    EXPECT_EQ(dialogs.inputs.constLast().prompt, u"b"_s) << "the selected item is proposed";
-    fill({u"a"_s, u"b"_s});
-    click("mnuMNRem(4)"_L1);
-    EXPECT_EQ(dialogs.inputs.constLast().prompt, u"old"_s) << "none is selected";
 }
 
 TEST_F(ManualCommandsTest, ItemsAreMagnifiedEditedNavigatedAndShownElsewhere)
@@ -345,26 +216,49 @@ TEST_F(ManualCommandsTest, ARestrictedMenuDuringARunOnTheListStillCopiesAndMagni
     EXPECT_TRUE(offers("mnuMNClearAllListWindows"_L1));
 }
 
-TEST_F(ManualCommandsTest, CancellingALongCommandKeepsTheList)
+TEST_F(ManualCommandsTest, TheStatusBarMarksThePageOnShow)
 {
-    QStringList many;
-    for (int i = 0; i < 500; ++i)
-        many.append(u"http://www.site%1.com/"_s.arg(i));
-    fill(many);
-    // Each look at the clock is a turn of the loop: the user presses Escape in the first.
-    pump.after(0, [this] { program->longWork.cancel(); });
-    click("mnuMNReduceToServer"_L1);
-    EXPECT_EQ(lastStatus(), u"500 loaded. Cancelled"_s);
-    EXPECT_EQ(list().items(), many);
-    EXPECT_TRUE(form().lists.cboMNList.isEnabled()) << "the controls came back";
+    form().options.chkSMD(5).setValue(1);
+    browser().pages[u"http://www.a.com/1"_s].title = u"A"_s;
+    browser().show(u"http://www.a.com/1"_s);
+    form().frame.picStatus.doubleClick();
+    EXPECT_EQ(lastStatus(), u"MNSelectUrls, Url Added"_s);
+    EXPECT_EQ(rows(u"MNSelectUrls"_s), QStringList{u"http://www.a.com/1"_s});
+    fill({u"x"_s}, {0}, 0);
+    list().endChoice();
+    EXPECT_TRUE(statuses.isEmpty()) << "what was told stands";
+    list().endChoice();
+    EXPECT_EQ(lastStatus(), u"1 Sel. Item 1 Cnt 1"_s);
+    form().frame.sstSearch.setTab(Tab::Auto);
+    form().frame.picStatus.doubleClick();
+    EXPECT_EQ(lastStatus(), u"ANSelectUrls, Url Added"_s);
+    EXPECT_EQ(rows(u"ANSelectUrls"_s, u"Note"_s), QStringList{u"A"_s});
 }
 
-TEST_F(ManualCommandsTest, NoSecondCommandRunsInsideALongOne)
+TEST_F(ManualCommandsTest, TheDataTabOffersTheTableOfTheListOnShow)
 {
-    fill({u"http://www.a.com/1"_s, u"http://www.a.com/2"_s});
-    pump.after(0, [this] { item("mnuMNClear"_L1).click(); });
-    click("mnuMNReduceToServer"_L1);
-    EXPECT_EQ(list().items(), QStringList{u"http://www.a.com"_s});
+    form().lists.cboMNList.setListIndex(2);
+    EXPECT_TRUE(form().data.cboDBTables.items().contains(u"MNUrlsC"_s));
+    EXPECT_FALSE(form().data.cboDBTables.items().contains(u"MNUrlsA"_s));
+}
+
+TEST_F(ManualCommandsTest, ASeriesComesBackWithTheProgramWhicheverTabIsOnShow)
+{
+    form().series.cboMNAutoUrl.setText(u"www.a.com/7/009"_s);
+    click("mnuMNStatusAutoIncrPos(2)"_L1);
+    for (const int tab : {Tab::Auto, Tab::Manual}) {
+        program.reset();
+        load();
+        form().frame.sstSearch.setTab(tab);
+        EXPECT_TRUE(item("mnuMNStatusAutoIncrPos(2)"_L1).isChecked()) << tab;
+        EXPECT_EQ(form().collect.lblAutoIncrPos.caption(), u"2"_s);
+        EXPECT_EQ(form().series.incMNAutoUrl.text().toLongLong(), 9);
+        EXPECT_EQ(settings.of("mnuMNStatusAutoIncrPos"), u"2"_s);
+    }
+    settings.preset("mnuMNStatusAutoIncrPos", u"17"_s);
+    program.reset();
+    load();
+    EXPECT_EQ(program->manual.desk.GetAutoIncrChecked(), 0) << "no such position";
 }
 
 TEST_F(ManualCommandsTest, AnotherListIsShownWithItsAddressAndItsCount)

@@ -29,12 +29,16 @@ ManualSide::ManualSide(const Context &shared, frmSearch &window, LongWork &work,
 
 void ManualSide::connectSelectUrls()
 {
-    const auto mark = [this](const QString &table, const QString &url) {
+    const auto marks = [this](const QString &table, const QString &url) { mark(table, url); };
+    QObject::connect(&store, &ManualStore::selectUrlWanted, &tab, marks);
+    QObject::connect(&statusCommands, &ManualStatusCommands::selectUrlWanted, &tab, marks);
+}
+
+void ManualSide::mark(const QString &table, const QString &url)
+{
+    if (table == "MNSelectUrls"_L1)
         tab.skipShowSelected();
-        selectUrls.AddSelectUrls(table, url);
-    };
-    QObject::connect(&store, &ManualStore::selectUrlWanted, &tab, mark);
-    QObject::connect(&statusCommands, &ManualStatusCommands::selectUrlWanted, &tab, mark);
+    selectUrls.AddSelectUrls(table, url);
 }
 
 void ManualSide::connectTo(const StateOfControls &states)
@@ -62,6 +66,6 @@ void ManualSide::takeDatabase()
 void ManualSide::restorePosition()
 {
     const int position = context.settings.GetSetting(Sections::Main, Keys::AutoIncrPos, u"0"_s).toInt();
-    if (position > 0)
+    if (position > 0 && position <= Series::MostPositions && desk.GetAutoIncrChecked() == 0)
         series.SetAutoIncrPos(position);
 }

@@ -49,7 +49,11 @@ struct ManualSide
     ManualStatusCommands statusCommands;
     ManualTab tab;
 
-  private:
+    /// Marks the page on show, or `url`, in `table`.
+    void mark(const QString &table, const QString &url);
+    /// The position that the last session ended with comes back.
     void restorePosition();
+
+  private:
     void connectSelectUrls();
 };
