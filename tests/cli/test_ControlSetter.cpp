@@ -70,7 +70,7 @@ TEST_P(Refused, IsOneClearLineAndChangesNothing)
 INSTANTIATE_TEST_SUITE_P(
     ControlSetter, Refused,
     testing::Values(RefusedCase{"chkNothing", "1", "--set chkNothing: there is no such control"},
-                    RefusedCase{"chkSMA(10)", "1", "--set chkSMA(10): there is no such control"},
+                    RefusedCase{"chkSMA(11)", "1", "--set chkSMA(11): there is no such control"},
                     RefusedCase{"", "1", "--set : there is no such control"},
                     RefusedCase{"lblMCColor", "1", "--set lblMCColor: this control has no value"},
                     RefusedCase{"cmdANStart", "1", "--set cmdANStart: this control has no value"},
