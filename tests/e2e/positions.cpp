@@ -1,7 +1,8 @@
 // Prints where the widgets of the main window stand, as JSON of objectName to centre in the window's pixels: those of
-// all tabs, and each tab as "sstSearch(0)". The end-to-end tests click there; both programs lay the window out the same
-// way on the same display.
+// all tabs, each tab as "sstSearch(0)", and the items of the pop-up menus. The end-to-end tests click there; both
+// programs lay the window out the same way on the same display.
 #include "app/frmSearch.h"
+#include "ui/binding/MenuMirror.h"
 #include "ui/windows/MainWindow.h"
 #include "window/options/OptionTable.h"
 
@@ -45,6 +46,20 @@ void noteVisible(QJsonObject &positions, const QWidget &window)
     }
 }
 
+/// The items of a menu and of its sub-menus, each in the pixels of the pop-up that shows it, by their names.
+void noteMenu(QJsonObject &positions, const QMenu &menu)
+{
+    for (QAction *const action : menu.actions()) {
+        if (action->isSeparator())
+            continue;
+        const QRect rect = menu.actionGeometry(action);
+        positions.insert(action->objectName(),
+                         QJsonArray{rect.center().x(), rect.center().y(), rect.width(), rect.height()});
+        if (action->menu() != nullptr)
+            noteMenu(positions, *action->menu());
+    }
+}
+
 /// Every one of `tabs`, and on each what `onTab` does.
 template <class OnTab> void visit(TabControl &tabs, OnTab onTab)
 {
@@ -79,6 +94,8 @@ int main(int argc, char *argv[])
         frame.sstSettings.setTab(outer);
         visit(*tabs, noteTab);
     }
+    for (const Menu *const menu : form.findChildren<Menu *>())
+        noteMenu(positions, *MenuMirror::mirrored(*menu, &window));
     std::puts(QJsonDocument(positions).toJson(QJsonDocument::Compact).constData());
     return 0;
 }

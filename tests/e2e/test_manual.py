@@ -16,31 +16,13 @@ PICTURES = trawlex.ROOT / "demo/sites/www.pier-pictures.com"
 MANUAL = "sstSearch(1)"
 
 
-def read_menus():
-    """Each menu item's parent and caption, in the order in which they are shown."""
+def read_parents():
+    """The item whose sub-menu shows each menu item; "" for those of the menu itself."""
     text = (trawlex.ROOT / "src/app/MenuTables.h").read_text(encoding="utf-8")
-    menus = {}
-    for menu, rows in re.findall(r"constexpr MenuRow (\w+)\[\] = \{(.*?)\n\};", text, re.DOTALL):
-        for name, parent, caption in re.findall(r'\{"([^"]+)"_L1, (?:\{\}|"([^"]+)"_L1), "([^"]*)"_L1\}', rows):
-            menus[name] = (menu, parent, caption)
-    return menus
+    return dict(re.findall(r'\{"([^"]+)"_L1, (?:\{\}|"([^"]+)"_L1), "', text))
 
 
-MENUS = read_menus()
-
-
-def keys_to(item):
-    """The keys that lead from a menu that has just opened to an item of it, and choose it."""
-    path = [item]
-    while MENUS[path[0]][1]:
-        path.insert(0, MENUS[path[0]][1])
-    keys = []
-    for depth, name in enumerate(path):
-        menu, parent, _ = MENUS[name]
-        siblings = [other for other, row in MENUS.items() if row[:2] == (menu, parent) and row[2] != "-"]
-        # A menu opens with nothing chosen, a sub-menu with its first item.
-        keys += ["Down"] * (siblings.index(name) + (depth == 0)) + ["Right"]
-    return keys[:-1] + ["Return"]
+PARENTS = read_parents()
 
 
 class ManualCase(window.WindowCase):
@@ -48,12 +30,19 @@ class ManualCase(window.WindowCase):
         return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
 
     def command(self, item, on="lstMN_0"):
-        """Opens a menu with the right button and chooses an item of it by keys."""
-        before = self.visible()
+        """Opens a menu with the right button and clicks through it to an item."""
+        path = [item]
+        while PARENTS[path[0]]:
+            path.insert(0, PARENTS[path[0]])
+        before = shown = self.visible()
         self.click(on, button=3)
-        menu = trawlex.wait_for(lambda: self.visible() - before, 20, "the menu")
-        self.type("", *keys_to(item))
-        trawlex.wait_for(lambda: not menu & self.visible(), 20, f"{item} is chosen")
+        for name in path:
+            opened = trawlex.wait_for(lambda: self.visible() - shown, 20, f"the menu with {name}")
+            shown = shown | opened
+            x, y = self.positions[name][:2]
+            self.display.do("mousemove", "--sync", "--window", min(opened), x, y)
+            self.display.do("click", 1)
+        trawlex.wait_for(lambda: not (shown - before) & self.visible(), 20, f"{item} is chosen")
 
     def choose_file(self, path):
         self.display.do("windowfocus", "--sync", self.wait_for_window("Select File"))
