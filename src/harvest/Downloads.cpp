@@ -1,6 +1,7 @@
 #include "harvest/Downloads.h"
 
 #include "app/OptionNumbers.h"
+#include "transfer/RequestRules.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
@@ -36,7 +37,9 @@ BrowserTraits Downloads::browserTraits(const QString &url)
 {
     if (!mBrowser.isSet() || mOptions.chkSMA(SMA::DownloadAsBrowser).value() != 1)
         return {};
-    return {mBrowser->userAgent(), mBrowser->GetSiteUrl(), mBrowser->cookiesFor(url)};
+    // The address box of a series holds addresses without protocol, which a browser knows no cookies for.
+    const QString address = QString::fromLatin1(RequestRules::encodedAddress(url));
+    return {mBrowser->userAgent(), mBrowser->GetSiteUrl(), mBrowser->cookiesFor(address)};
 }
 
 void Downloads::cancel()

@@ -1,5 +1,6 @@
 """The tab Manual by mouse, keys and pop-up menus, beside a real browser: lists filled in each way, edited, saved and found
 again; runs over a list, a series of pages and a series of pictures, and collecting, each stopped and resumed."""
+import contextlib
 import os
 import pathlib
 import re
@@ -26,23 +27,47 @@ PARENTS = read_parents()
 
 
 class ManualCase(window.WindowCase):
+    def start_anew(self, **options):
+        """Without tool tips: a new window is a menu then."""
+        super().start_anew(chkShowToolTips="0", **options)
+
     def visible(self):
         return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
 
+    def opened(self, shown):
+        """What has opened, once something has; else nothing."""
+        with contextlib.suppress(AssertionError):
+            return trawlex.wait_for(lambda: self.visible() - shown, 4, "a menu")
+        return set()
+
+    def point_at(self, item, menu):
+        x, y = self.positions[item][:2]
+        self.display.do("mousemove", "--sync", "--window", min(menu), x - 5, y, "mousemove", "--window", min(menu), x, y)
+
+    def choose(self, path, on):
+        """From the right button to a click on the last item of the path. False where a menu closed before that, as it
+        does when the focus comes back from a dialog that has just gone."""
+        before = self.visible()
+        self.click(on, button=3)
+        menu = self.opened(before)
+        for name in path[:-1]:
+            if menu:
+                shown = self.visible()
+                self.point_at(name, menu)
+                menu = self.opened(shown)
+        if not menu or not menu <= self.visible():
+            self.type("", "Escape", "Escape")
+            return False
+        self.point_at(path[-1], menu)
+        self.display.do("click", 1)
+        trawlex.wait_for(lambda: not menu & self.visible(), 20, f"{path[-1]} is chosen")
+        return True
+
     def command(self, item, on="lstMN_0"):
-        """Opens a menu with the right button and clicks through it to an item."""
         path = [item]
         while PARENTS[path[0]]:
             path.insert(0, PARENTS[path[0]])
-        before = shown = self.visible()
-        self.click(on, button=3)
-        for name in path:
-            opened = trawlex.wait_for(lambda: self.visible() - shown, 20, f"the menu with {name}")
-            shown = shown | opened
-            x, y = self.positions[name][:2]
-            self.display.do("mousemove", "--sync", "--window", min(opened), x, y)
-            self.display.do("click", 1)
-        trawlex.wait_for(lambda: not (shown - before) & self.visible(), 20, f"{item} is chosen")
+        trawlex.wait_for(lambda: self.choose(path, on), 60, f"a menu with {item}")
 
     def choose_file(self, path):
         self.display.do("windowfocus", "--sync", self.wait_for_window("Select File"))
@@ -66,6 +91,8 @@ class ManualCase(window.WindowCase):
         return pathlib.Path(path).read_text(encoding="utf-8").splitlines()
 
     def wait_for_items(self, items, seconds=30):
+        self.seen = None
+
         def now():
             self.seen = self.items()
             return self.seen == items
@@ -112,16 +139,19 @@ class Lists(ManualCase):
         shape = dict(part.split("=") for part in self.display.do("getwindowgeometry", "--shell", browser) if "=" in part)
         x, y = int(shape["WIDTH"]) // 2, int(shape["HEIGHT"]) * 4 // 5
         to = self.positions["lstMN_0"]
-        self.display.do("mousemove", "--sync", "--window", browser, x, y)
-        self.display.do("mousedown", 1)
+        # At a hand's pace: a browser begins a drag by and by.
+        self.display.do("mousemove", "--sync", "--window", browser, x, y, "sleep", 0.2, "mousedown", 1, "sleep", 0.2)
         for step in range(1, 11):
-            self.display.do("mousemove", "--sync", "--window", browser, x - 4 * step, y - 2 * step)
-        for step in range(1, 6):
-            self.display.do("mousemove", "--sync", "--window", self.id, to[0] + 10 - 2 * step, to[1])
+            self.display.do("mousemove", "--window", browser, x - 4 * step, y - 2 * step, "sleep", 0.05)
+        for step in range(1, 21):
+            self.display.do("mousemove", "--window", self.id, to[0] + 40 - 2 * step, to[1], "sleep", 0.05)
         self.display.do("mouseup", 1)
 
     def drop(self):
         self.dropped = ["http://www.slow-tide.com/slow.html"]
+
+        self.open_in_browser(BOATS[0], TITLES[0])   # what is selected on a page would be dragged instead
+        self.open_in_browser(GALLERY + "addresses.html", "Addresses of the pier")
 
         def arrived():
             self.drag_link()

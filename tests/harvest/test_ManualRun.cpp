@@ -406,6 +406,17 @@ TEST_F(Fetching, TheFirstWaySpeaksForTheBrowser)
     EXPECT_EQ(server.requests[0].header("Referer"), "http://www.start.com/");
 }
 
+TEST_F(Fetching, CookiesAreFoundForAnAddressWithoutProtocol)
+{
+    server.route("/a.com/p-9.jpg", okReply("xyz"_ba));
+    const QString address = server.address(u"/a.com/p-9.jpg"_s);
+    browser().cookies[address] = u"visitor=7"_s;
+    fill({address.sliced(u"http://"_s.size())});
+    clickGo();
+    ASSERT_EQ(server.requests.size(), 1);
+    EXPECT_EQ(server.requests[0].header("Cookie"), "visitor=7");
+}
+
 TEST_F(Fetching, SwitchedOffItDoesNot)
 {
     form().options.chkSMA(SMA::DownloadAsBrowser).setValue(0);
