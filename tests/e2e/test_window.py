@@ -48,10 +48,10 @@ class FreeStandingBrowser(window.WindowCase):
 
 class Options(window.WindowCase):
     """Every switch of the option pages, clicked; and clicked again after a restart, which finds them as they were left."""
-    PAGES = [((2, 2, 0), [f"chkSMA_{i}" for i in range(10)]),
+    PAGES = [((2, 2, 0), [f"chkSMA_{i}" for i in range(11)]),
              ((2, 2, 1), [f"chkSMD_{i}" for i in range(9)] + ["chkSaveToSS", "chkSaveToFile"]),
              ((2, 2, 2), [f"chkSMV_{i}" for i in range(5)])]
-    KEYS = ["chkOpenServersOnly", "chkMNCnvHex", "chkSMReturnToSearchPg", "chkSMAMUseFTP", "chkAutoNavToNextPassUrl",
+    KEYS = ["chkOpenServersOnly", "chkMNCnvHex", "chkSMReturnToSearchPg", "chkSMAMUseFTP", "chkSMADownloadAsBrowser", "chkAutoNavToNextPassUrl",
             "chkSMAPassUrlAutoIncr", "chkSMASavedUrlAutoIncr", "chkShutDownPrompt", "chkSTmrRCDir", "chkSMSUniqueServers",
             "chkOpenHtmlExports", "chkUniqueBaseUrls", "chkUniqueSelectUrls", "chkSMSaveUrlWithEmail", "chkSMSaveUrlWithPhone",
             "chkSUUseSiteTitle", "chkSMFindFax", "chkSMAMUrlIfNoData", "chkSMAMAutoAddAutoUrl", "chkSaveToSS", "chkSaveToFile",

@@ -7,9 +7,8 @@ using namespace Qt::StringLiterals;
 
 ManualSide::ManualSide(const Context &shared, frmSearch &window, LongWork &work, ClipboardText &clipboard,
                        DatabaseHolder &database, BrowserHolder &browser, ResultLinks &results)
-    : context(shared), form(window), desk(form, context.status),
-      deleted(context.log, database, work), tables(context.log, database, work),
-      filters(context, form.urlFilter, form.lists, database),
+    : context(shared), form(window), desk(form, context.status), deleted(context.log, database, work),
+      tables(context.log, database, work), filters(context, form.urlFilter, form.lists, database),
       selectUrls(context, form.browser, form.options, desk, database, browser), records(context.log, database, browser),
       links(context.log, form.urlFilter, form.blocking, form.options, browser, records, results),
       feed(context, desk, form.options, links, clipboard, work), texts(context, form.series, desk, database),
