@@ -98,6 +98,7 @@ struct DISABLED_Screenshots : WindowFixture
     void showLists()
     {
         form.manual.cmdMNStart.setCaption(u"X"_s);
+        form.manual.cboFilesSites.setListIndex(0);
         form.browser.lblTrawlexTimer.setBackColor(Colours::Blue);
         form.manual.incMNTiming.setText(u"8"_s);
         form.manual.incMNDLTiming.setText(u"4"_s);
