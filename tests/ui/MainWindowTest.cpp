@@ -48,6 +48,20 @@ TEST_F(MainWindows, FitOnALowScreenWithGoAndStatusBarInSight)
     }
 }
 
+TEST_F(MainWindows, FitOnAScreenOfFullHeightAtThreeHundredPerCent)
+{
+    constexpr QSize screen(640, 360); // 1920 x 1080 pixels
+    window.resize(screen);
+    for (int tab = 0; tab < 4; ++tab) {
+        form.frame.sstSearch.setTab(tab);
+        settle();
+        EXPECT_LE(window.height(), screen.height()) << tab;
+        EXPECT_LE(window.width(), screen.width()) << tab;
+        EXPECT_EQ(widget<QWidget>("picStatus").visibleRegion(), QRegion(widget<QWidget>("picStatus").rect())) << tab;
+    }
+    EXPECT_LE(window.minimumSizeHint().height(), screen.height());
+}
+
 TEST_F(MainWindows, TakeAsMuchRoomAsTheTabAutoNeeds)
 {
     MainWindow fresh(form);
