@@ -104,6 +104,25 @@ TEST(Contrast, ATextColourThatWasAskedForIsKeptWhereItReads)
     EXPECT_EQ(Tones::of(rgb(158, 255, 159), Colours::WindowText, light)->fill, QColor(158, 255, 159));
 }
 
+TEST(Contrast, OfEachListReadsAndTheOneThatASeriesStandsForIsGrey)
+{
+    const Colour lists[] = {Colours::White, rgb(158, 255, 159), rgb(185, 228, 255), rgb(255, 184, 186),
+                            Colours::Yellow};
+    for (const Mode mode : {Mode::Light, Mode::Dark}) {
+        const Shades shades = Shades::of(Theme::palette(mode));
+        EXPECT_FALSE(Tones::ofList(Colours::White, Colours::WindowText, shades).has_value()) << "the desktop's own";
+        const auto grey = Tones::ofList(Colours::ButtonFace, Colours::WindowText, shades);
+        ASSERT_TRUE(grey.has_value());
+        EXPECT_GE(contrast(grey->ink, grey->fill), 4.5);
+        for (const Colour colour : lists) {
+            const auto tone = Tones::ofList(colour, Colours::WindowText, shades);
+            const QColor fill = tone ? tone->fill : shades.field;
+            EXPECT_NE(fill, grey->fill) << colour;
+            EXPECT_GE(contrast(tone ? tone->ink : shades.text, fill), 7.0) << colour;
+        }
+    }
+}
+
 TEST_F(Look, LampsHaveASignForEachColour)
 {
     auto &lamp = widget<Lamp>("lblSummarySaved");

@@ -31,8 +31,6 @@ constexpr QLatin1StringView place = "_on"_L1;
 constexpr int tipLine = 60;
 /// Of a designed line: it is locked, not disabled, so that it can be read and copied at any time.
 constexpr const char *readable = "readable";
-/// How strongly a coloured text box is tinted; its text stays the desktop's.
-constexpr double tint = 0.22;
 
 QString withoutMnemonic(QString text)
 {
@@ -103,11 +101,10 @@ void Binding::showColours()
     if (qobject_cast<Mark *>(&mWidget) != nullptr)
         return;
     const Shades shades = Shades::of(QApplication::palette());
-    auto tone = Tones::of(mControl.backColor(), mControl.foreColor(), shades);
-    // Where one reads long, a light ground on a dark desktop is a lamp in the eye: the field takes a tint of it.
     const bool list = qobject_cast<QAbstractItemView *>(&mWidget) != nullptr;
-    if (tone && (qobject_cast<QLineEdit *>(&mWidget) != nullptr || (list && shades.dark)))
-        tone = Tone{mixed(shades.field, tone->fill, tint), shades.text};
+    auto tone = (list ? Tones::ofList : Tones::of)(mControl.backColor(), mControl.foreColor(), shades);
+    if (tone && qobject_cast<QLineEdit *>(&mWidget) != nullptr)
+        tone = Tones::tinted(*tone, shades);
     const bool coloured = mWidget.testAttribute(Qt::WA_SetPalette);
     if (!tone && coloured)
         mWidget.setPalette(QPalette());

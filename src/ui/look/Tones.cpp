@@ -5,6 +5,9 @@
 
 namespace {
 constexpr double readableText = 4.5;
+/// How strongly a field is tinted, and how far a list that is not to be used goes towards its text.
+constexpr double tint = 0.22;
+constexpr double greyed = 0.12;
 
 struct ReportTone
 {
@@ -59,4 +62,19 @@ std::optional<Tone> Tones::of(Colour back, Colour fore, const Shades &shades)
     }
     const QColor fill = fillOf(back, shades.dark);
     return Tone{fill, inkOn(fill)};
+}
+
+Tone Tones::tinted(const Tone &tone, const Shades &shades)
+{
+    return {mixed(shades.field, tone.fill, tint), shades.text};
+}
+
+std::optional<Tone> Tones::ofList(Colour back, Colour fore, const Shades &shades)
+{
+    if (back == Colours::ButtonFace)
+        return Tone{mixed(shades.field, shades.text, greyed), shades.text};
+    // White is what the ground of a list is anyway; a dark desktop has its own.
+    const auto tone = of(back == Colours::White ? Colours::Window : back, fore, shades);
+    // Where one reads long, a light ground on a dark desktop is a lamp in the eye.
+    return tone && shades.dark ? tinted(*tone, shades) : tone;
 }

@@ -17,4 +17,9 @@ namespace Tones {
 /// The fill of a control's back colour and the ink for its text; nothing where both are the desktop's own. A text
 /// colour that does not read on its ground gives way to black or white.
 [[nodiscard]] std::optional<Tone> of(Colour back, Colour fore, const Shades &shades);
+/// The same for a list: white is the desktop's own ground, the grey of buttons says that it is not to be used by hand,
+/// and on a dark desktop any other colour is a tint.
+[[nodiscard]] std::optional<Tone> ofList(Colour back, Colour fore, const Shades &shades);
+/// A field with a tint of the tone, and the desktop's own text.
+[[nodiscard]] Tone tinted(const Tone &tone, const Shades &shades);
 } // namespace Tones
