@@ -9,8 +9,8 @@ import unittest
 import trawlex
 import window
 
-AUTO, MANUAL, BLOCKING = [("sstSearch", 0)], [("sstSearch", 1)], [("sstSearch", 2), ("sstSettings", 0)]
-A_M, SAVE, VIEW = ([("sstSearch", 2), ("sstSettings", 2), ("sstMiscOptions", page)] for page in range(3))
+AUTO, MANUAL, BLOCKING = ["sstSearch(0)"], ["sstSearch(1)"], ["sstSearch(2)", "sstSettings(0)"]
+A_M, SAVE, VIEW = (["sstSearch(2)", "sstSettings(2)", f"sstMiscOptions({page})"] for page in range(3))
 
 # Page, name, key and digits; a step up adds one, but to the series, which goes by its own step.
 NUMBERS = [
@@ -64,10 +64,9 @@ class EveryOption(window.WindowCase):
             trawlex.wait_for(lambda: self.stored(key) == wanted, 5, key)
         self.assertEqual(self.stored(key), wanted, key)
 
-    def go_to(self, page):
+    def show(self, page):
         if page != self.page:
-            for tabs, tab in page:
-                self.click(f"{tabs}({tab})")
+            self.go_to(*page)
         self.page = page
 
     def begin(self):
@@ -100,26 +99,26 @@ class EveryOption(window.WindowCase):
     def change_all(self):
         """Gives every option its value. What is stored at once is looked at at once."""
         for page, name, _, digits in NUMBERS:
-            self.go_to(page)
+            self.show(page)
             self.type_over(name, digits.lstrip("0"))
         for page, name, key, text in TEXTS:
-            self.go_to(page)
+            self.show(page)
             self.type_over(name, text)
             self.click("picStatus")     # a box is validated when it is left
             self.assert_stored(key, text)
         for page, name, key, entry in COMBOS:
-            self.go_to(page)
+            self.show(page)
             self.choose(name, entry)
             self.assert_stored(key, str(entry))
 
     def change_a_little(self):
         """A step from where each option was left: it shows whether it was loaded."""
         for page, name, _, _ in NUMBERS:
-            self.go_to(page)
+            self.show(page)
             self.click(name, left=14)
             self.display.do("key", "Up")
         for page, name, key, text in TEXTS:
-            self.go_to(page)
+            self.show(page)
             self.click(name, left=14)
             self.display.do("key", "End")
             self.display.do("type", "5")
@@ -128,7 +127,7 @@ class EveryOption(window.WindowCase):
 
     def flip(self, rows):
         for page, name, key in rows:
-            self.go_to(page)
+            self.show(page)
             before = self.stored(key)
             self.click(name, left=10)
             self.assert_stored(key, "0" if before == "1" else "1")
@@ -161,6 +160,34 @@ class EveryOption(window.WindowCase):
         self.end()
         self.begin()
         self.flip(reversed(MASTERS))
+        self.end()
+
+    def paste_addresses(self):
+        """Two addresses come into the Manual list by the second command that its menu offers: Paste Urls."""
+        self.show(AUTO)
+        self.type_over("txtANStartTag", "http://www.tea.com/1 http://www.tea.com/2")
+        self.display.do("key", "ctrl+a", "ctrl+c")
+        self.show(MANUAL)
+        before = self.windows()
+        self.click("lstMN_0", button=3)
+        trawlex.wait_for(lambda: self.windows() != before, 10, "the list's menu")
+        self.display.do("key", "Down", "Down", "Return")
+        trawlex.wait_for(lambda: self.windows() == before, 10, "the end of the menu")
+
+    def windows(self):
+        return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
+
+    def test_what_is_done_with_the_items_of_a_list_is_kept(self):
+        self.begin_with_all_in_use()
+        self.paste_addresses()
+        self.choose("cboFilesSites", 0)
+        self.assert_stored("optFilesSites", "0")
+        self.flip([(MANUAL, "chkSMOpenDownloadedGraphics", "chkSMOpenDlGraphics"), (MANUAL, "chkMNUseFotoBrwse", "chkMNUseFotoB")])
+        self.end()
+        self.begin()
+        self.paste_addresses()
+        self.choose("cboFilesSites", 1)
+        self.assert_stored("optFilesSites", "1")
         self.end()
 
 
