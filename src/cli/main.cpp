@@ -1,5 +1,6 @@
 // trawlex-harvest: the runs of Trawlex from a terminal or from cron, on the same database.
 #include "app/QtEventPump.h"
+#include "app/StopSignals.h"
 #include "cli/Arguments.h"
 #include "cli/ConsoleBrowsers.h"
 #include "cli/ConsolePorts.h"
@@ -8,7 +9,6 @@
 #include "cli/HarvestSettings.h"
 #include "cli/ListCommands.h"
 #include "cli/Outcome.h"
-#include "cli/StopSignals.h"
 #include "engine/BrowserSwitches.h"
 #include "engine/webengine/WebEngineSetup.h"
 #include "util/Memory.h"

@@ -3,6 +3,7 @@
 #include "app/QtEventPump.h"
 #include "app/RunTally.h"
 #include "app/SettingKeys.h"
+#include "app/StopSignals.h"
 #include "desktop/DesktopBrowsers.h"
 #include "desktop/DesktopGridWindow.h"
 #include "desktop/DesktopPictures.h"
@@ -86,7 +87,31 @@ QStringList words(int argc, char *argv[])
     return all;
 }
 
-int runHarvester(const QString &appName, const QStringList &switches, Splash &splash)
+/// The system or the desktop's session wants us to end: nothing is asked any more, and an open box is no reason to
+/// stay.
+void connectEnd(Program &program, const StopSignals &stopSignals)
+{
+    const auto end = [&program] {
+        while (QWidget *box = QApplication::activeModalWidget())
+            if (!box->close())
+                break;
+        program.lifeCycle.end();
+    };
+    QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.lifeCycle, end);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &program.lifeCycle, end, Qt::DirectConnection);
+}
+
+/// A second start brings the first one's window up.
+void bringUp(QWidget &window)
+{
+    if (!window.isVisible())
+        return; // it is about to come up
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.raise();
+    window.activateWindow();
+}
+
+int runHarvester(const QString &appName, const QStringList &switches, Splash &splash, const OneInstance &instance)
 {
     QtEventPump pump;
     QtDialogs dialogs;
@@ -115,6 +140,9 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     browsers.keepPlaceIn(&settings);
     connectWindow(program, window);
     connectTally(program, window, pump);
+    const StopSignals stopSignals;
+    connectEnd(program, stopSignals);
+    QObject::connect(&instance, &OneInstance::startedAgain, &window, [&window] { bringUp(window); });
     QObject::connect(&program.startUp, &StartUp::loaded, &window, [&] {
         // Placed before it is shown, so that the window manager takes our place and nothing jumps.
         window.takeUsualSize();
@@ -157,8 +185,8 @@ int main(int argc, char *argv[])
     Splash splash;
     splash.show();
     QApplication::processEvents();
-    const OneInstance instance(appName);
+    const OneInstance instance(appName, OneInstance::usualFolder());
     if (!instance.isFirst())
-        return 0;
-    return runHarvester(appName, switches, splash);
+        return instance.tellFirst() ? 0 : 1;
+    return runHarvester(appName, switches, splash, instance);
 }

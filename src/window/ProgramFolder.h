@@ -5,7 +5,7 @@
 
 /// The executable's folder if it can be written to, else the user's data folder for trawlex; ends without separator.
 [[nodiscard]] QString programFolder();
-/// The user's data folder for trawlex, made if it is missing: browser profiles and the like.
+/// The user's data folder for trawlex, made for its user alone if it is missing: browser profiles and the like.
 [[nodiscard]] QString dataFolder();
 /// A window can be shown on this machine.
 [[nodiscard]] bool hasDisplay();

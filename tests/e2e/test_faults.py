@@ -3,8 +3,10 @@ import contextlib
 import http.server
 import os
 import pathlib
+import shutil
 import signal
 import sqlite3
+import subprocess
 import threading
 import time
 import unittest
@@ -55,6 +57,61 @@ class Faults(trawlex.Case):
         status, _ = self.finished(run)
         self.assertEqual(status, 0, run.status_lines()[-5:])
         self.assert_expected_rows(path)
+
+    def test_a_database_that_stays_locked_ends_the_run_after_a_minute_and_the_next_run_completes_it(self):
+        path = self.make_database()
+        run = self.start_harvest("iexplore", OPEN)
+        self.wait_for_status(run, "3/")
+        with contextlib.closing(sqlite3.connect(path, isolation_level=None)) as other:
+            other.execute("BEGIN IMMEDIATE")
+            status, _ = self.finished(run)
+            other.execute("ROLLBACK")
+        self.assertEqual(status, 1)
+        self.assertIn("Stopped (ERROR, DATABASE IS LOCKED)", run.status_lines())
+        self.assertEqual(self.harvest("iexplore").returncode, 0)
+        self.assert_expected_rows(path)
+
+    def test_a_disk_that_is_full_for_a_while_is_waited_for(self):
+        small = pathlib.Path(self.folder, "small")
+        small.mkdir()
+        mounted = subprocess.run(["mount", "-t", "tmpfs", "-o", "size=8m,mode=700", "none", small], check=False,
+                                 stderr=subprocess.DEVNULL)
+        if mounted.returncode != 0:
+            self.skipTest("a disk of its own takes the superuser")
+        self.addCleanup(subprocess.run, ["umount", "-l", small], check=False)
+        path = os.path.join(small, os.path.basename(self.make_database()))
+        shutil.copy(os.path.join(self.folder, "Trawlex-0.mdb"), path)
+        words = [str(small) if word == self.folder else word for word in self.words("iexplore", OPEN)]
+        with open(self.folder + "/full.txt", "w+", encoding="utf-8") as log:
+            run = subprocess.Popen(words, env=self.env, stdout=subprocess.DEVNULL, stderr=log)
+            self.addCleanup(lambda: (run.poll() is None and run.kill(), run.wait()))
+            run.status_lines = lambda: pathlib.Path(log.name).read_text(encoding="utf-8").splitlines()
+            self.wait_for_status(run, "3/")
+            with contextlib.suppress(OSError), open(small / "filler", "wb") as filler:
+                while filler.write(b"x" * 4096):
+                    filler.flush()
+            self.wait_for_status(run, "Disk is full. Waiting")
+            time.sleep(2)
+            os.remove(small / "filler")
+            self.assertEqual(run.wait(timeout=240), 0, run.status_lines()[-5:])
+        self.assert_expected_rows(path)
+
+    def test_a_database_that_is_deleted_ends_the_run_with_a_clear_line(self):
+        path = self.make_database()
+        run = self.start_harvest("iexplore", OPEN)
+        self.wait_for_status(run, "3/")
+        for tail in ("", "-wal", "-shm"):
+            pathlib.Path(path + tail).unlink(missing_ok=True)
+        status, _ = self.finished(run)
+        self.assertEqual(status, 1)
+        self.assertIn("Stopped (ERROR, DATABASE HAS BEEN MOVED OR DELETED)", run.status_lines())
+
+    def test_a_folder_for_data_that_cannot_be_made_is_told(self):
+        pathlib.Path(self.folder, "data").write_text("a file in its place", encoding="utf-8")
+        run = self.start_harvest("iexplore", OPEN)
+        status, _ = self.finished(run)
+        self.assertEqual(status, 1)
+        self.assertTrue(any("Cannot make the folder" in line for line in run.status_lines()), run.status_lines())
 
     def test_a_database_that_is_moved_ends_the_run_with_a_clear_line(self):
         path = self.make_database()

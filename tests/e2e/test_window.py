@@ -2,10 +2,40 @@
 with Go, and the end of the program. The browser stands in its own window, as a user has it."""
 import contextlib
 import re
+import signal
+import subprocess
 import unittest
 
 import trawlex
 import window
+
+
+class OneProgram(window.WindowCase):
+    def test_the_systems_wish_ends_a_run_as_a_click_would(self):
+        self.start_with(npTimimg="050", chkSaveSummary="1", chkShutDownPrompt="1")
+        self.open_in_browser(trawlex.demo_harvest.RESULT_PAGE, window.RESULT_TITLE)
+        self.click("cmdANStart")
+        self.wait_for_visit()
+        self.window.send_signal(signal.SIGTERM)
+        self.assertEqual(self.window.wait(timeout=20), 0, "nothing is asked")
+        self.assertIn("npTimimg=050", self.settings_file().read_text(encoding="utf-8"), "what is kept at the end is kept")
+
+    def test_the_systems_wish_ends_the_program_under_an_open_box(self):
+        self.start()
+        self.click("picANEnd")
+        self.wait_for_window("Program will terminate")
+        self.window.send_signal(signal.SIGTERM)
+        self.assertEqual(self.window.wait(timeout=20), 0)
+
+    def test_a_second_start_brings_the_first_ones_window_up_and_ends(self):
+        self.start()
+        self.display.do("windowminimize", "--sync", self.id)
+        self.assertIsNone(self.find_window())
+        second = subprocess.run([trawlex.WINDOW], env=self.env, cwd=self.folder, timeout=30, check=False,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.assertEqual(second.returncode, 0)
+        trawlex.wait_for(self.find_window, 10, "the window is up again")
+        self.assertIsNone(self.window.poll())
 
 
 class FreeStandingBrowser(window.WindowCase):

@@ -122,6 +122,7 @@ TEST_F(ChromiumHolder, ItIsClosedByTheProgramThatHasStartedIt)
     EXPECT_TRUE(waitFor([&] { return processes().isEmpty(); }, 5000));
     EXPECT_TRUE(waitFor([&] { return closing; }));
     EXPECT_FALSE(QFile::exists(socketPath()));
+    EXPECT_FALSE(QFileInfo(data.filePath(u"browser/SingletonLock"_s)).isSymLink()) << "it has had the time to tidy up";
     EXPECT_EQ(factory->runningBrowser(), nullptr);
 }
 

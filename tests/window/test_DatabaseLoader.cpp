@@ -1,5 +1,6 @@
 // Finding, making and testing the database at the start, and what is loaded from it.
 #include "support/ProgramFixture.h"
+#include "window/ProgramFolder.h"
 
 #include <QFile>
 
@@ -180,4 +181,17 @@ TEST_F(LoaderTest, TheListLetterDecidesWhichSavedUrlsAreShown)
     settings.preset("cboANList", u"2"_s);
     load();
     EXPECT_EQ(form().saved.cboANSavedUrls.items(), QStringList{u"Results-100"_s});
+}
+
+TEST(ProgramFolder, TheFolderForDataIsMadeForItsUserAlone)
+{
+    const QTemporaryDir home;
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    const QString folder = dataFolder();
+    EXPECT_EQ(folder, home.filePath(u"trawlex"_s));
+    EXPECT_TRUE(QFileInfo(folder).isDir());
+    constexpr QFile::Permissions others(0x0077);
+    EXPECT_EQ(QFile::permissions(folder) & others, QFile::Permissions());
+    before.isEmpty() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
 }

@@ -163,7 +163,7 @@ void ChromiumPage::onPageStuck()
     switch (++mStuck) {
     case 1:
         mConnection->send(mTargets.session(), "Page.crash"_L1);
-        mWatch.documentComing();
+        mWatch.processEnding();
         break;
     case 2:
         mTargets.replaceWindow();

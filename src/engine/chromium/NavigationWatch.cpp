@@ -9,7 +9,8 @@ namespace {
 // Short: only the page that is being left suffers from them, and the next one has its own wait.
 constexpr std::chrono::milliseconds betweenLooks{1000};
 constexpr std::chrono::milliseconds limitOfAnswer{1000};
-constexpr std::chrono::milliseconds limitOfDocument{2000};
+constexpr std::chrono::milliseconds limitOfDocument{1000};
+constexpr std::chrono::milliseconds limitOfLoss{2000};
 constexpr int breakOffsAtMost = 1;
 
 } // namespace
@@ -31,10 +32,20 @@ void NavigationWatch::begin(const QString &session)
 
 void NavigationWatch::documentComing()
 {
+    expectWithin(limitOfDocument);
+}
+
+void NavigationWatch::processEnding()
+{
+    expectWithin(limitOfLoss);
+}
+
+void NavigationWatch::expectWithin(std::chrono::milliseconds limit)
+{
     ++mLook;
     mUnanswered = true;
     mBrokenOff = breakOffsAtMost;
-    mTimer.start(limitOfDocument);
+    mTimer.start(limit);
 }
 
 void NavigationWatch::end()

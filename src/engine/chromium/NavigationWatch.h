@@ -19,6 +19,8 @@ class NavigationWatch : public QObject
     /// The new document is about to take its place: from here on the old page takes no commands, and a page that does
     /// not make room soon never will.
     void documentComing();
+    /// The old page's process is being ended, which makes room too.
+    void processEnding();
     void end();
 
   Q_SIGNALS:
@@ -27,6 +29,7 @@ class NavigationWatch : public QObject
 
   private:
     void look();
+    void expectWithin(std::chrono::milliseconds limit);
 
     DevToolsConnection &mConnection;
     QString mSession;

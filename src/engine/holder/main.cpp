@@ -5,11 +5,24 @@
 #include "util/Errors.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <cstdio>
+#include <thread>
 
 namespace {
 constexpr int wordsAtLeast = 3;
+constexpr std::chrono::seconds endLimit{5};
+constexpr std::chrono::milliseconds betweenLooks{20};
+
+/// The browser has let go of its pipe: it ends with us, so it is given the time to write what it has to.
+void leaveBehind(qint64 browser)
+{
+    QDeadlineTimer ending(endLimit);
+    while (Platform::isRunning(browser) && !ending.hasExpired())
+        std::this_thread::sleep_for(betweenLooks);
+    QCoreApplication::quit();
 }
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -24,7 +37,7 @@ int main(int argc, char *argv[])
         auto browser = std::make_unique<QLocalSocket>();
         browser->setSocketDescriptor(started.socket);
         PipeHolder holder(std::move(browser));
-        QObject::connect(&holder, &PipeHolder::ended, &application, &QCoreApplication::quit);
+        QObject::connect(&holder, &PipeHolder::ended, &application, [&started] { leaveBehind(started.pid); });
         // Without a socket nobody can drive the browser: it ends as the pipe does.
         return holder.listen(words[1]) ? QCoreApplication::exec() : 1;
     } catch (const RuntimeError &error) {

@@ -1,9 +1,10 @@
-#include "cli/StopSignals.h"
+#include "app/StopSignals.h"
 
 #include <QSocketNotifier>
 #include <csignal>
 #include <sys/socket.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 int sockets[2] = {-1, -1};
@@ -36,4 +37,7 @@ StopSignals::~StopSignals()
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
     std::signal(SIGHUP, SIG_DFL);
+    mNotifier.reset();
+    for (int &each : sockets)
+        ::close(std::exchange(each, -1));
 }

@@ -1,5 +1,5 @@
-// The terminal's wish to end (Ctrl+C, the system going down) as an event of the event loop. The only place of this
-// program that speaks to the operating system itself.
+// The wish of the terminal or the system that the program ends (Ctrl+C, a session going down) as an event of the event
+// loop. One lives at a time.
 #pragma once
 
 #include <QObject>
