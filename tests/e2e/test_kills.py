@@ -1,4 +1,4 @@
-"""Browser, page process and program are killed in the middle of runs."""
+"""Browser, page process and program are killed in the middle of runs. With TRAWLEX_KILLS=200 so often at random moments."""
 import contextlib
 import os
 import pathlib
@@ -106,6 +106,7 @@ class Kills(trawlex.Case):
                 run = self.start_harvest("iexplore")
                 trawlex.wait_for(lambda: len(self.visited(run)) >= page, 120, f"page {page}")
                 time.sleep(seconds)
+                self.assert_no_ports()
                 run.kill()
                 run.wait(timeout=10)
                 # The line of a page stands there before its rows, those of all pages before it are on the disk.
@@ -123,6 +124,30 @@ class Kills(trawlex.Case):
                     os.kill(run.pid, number)
                     run.wait(timeout=10)
                     trawlex.wait_for(lambda: not list(trawlex.processes(self.folder)), 5, "nothing is left running")
+
+    def test_a_browser_that_is_stopped_ends_with_the_program_all_the_same(self):
+        self.make_database()
+        run = self.start_harvest("iexplore")
+        trawlex.wait_for(lambda: self.visited(run), 60, "the first page")
+        os.kill(browser_process(self.folder), signal.SIGSTOP)
+        run.kill()
+        run.wait(timeout=10)
+        trawlex.wait_for(lambda: not list(trawlex.processes(self.folder)), 5, "nothing is left running")
+
+    def test_what_a_killed_browser_has_left_is_taken_away_at_the_next_start(self):
+        self.make_database()
+        temporary = pathlib.Path(self.folder, "temporary")
+        temporary.mkdir()
+        self.env["TMPDIR"] = str(temporary)
+        for _ in range(3):
+            run = self.start_harvest("iexplore")
+            trawlex.wait_for(lambda: self.visited(run), 60, "the first page")
+            run.kill()
+            run.wait(timeout=10)
+            trawlex.wait_for(lambda: not list(trawlex.processes(self.folder)), 5, "nothing is left running")
+            self.assertLessEqual(len(list(temporary.iterdir())), 1, list(temporary.iterdir()))
+        self.assertEqual(self.harvest("iexplore").returncode, 0)
+        self.assertEqual(list(temporary.iterdir()), [])
 
     def test_a_wish_to_end_stops_the_run_in_the_middle_of_a_wait(self):
         path = self.make_database()

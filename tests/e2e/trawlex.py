@@ -4,6 +4,7 @@ import io
 import json
 import os
 import pathlib
+import re
 import shutil
 import signal
 import sqlite3
@@ -75,6 +76,20 @@ def processes(mark):
     return found
 
 
+def listening_ports(pid):
+    """Inodes of the TCP sockets on which a process listens."""
+    listening = set()
+    for table in ("tcp", "tcp6"):
+        with open(f"/proc/{pid}/net/{table}", encoding="ascii") as lines:
+            listening |= {words[9] for words in map(str.split, lines) if words[3] == "0A"}
+    found = []
+    for file in os.listdir(f"/proc/{pid}/fd"):
+        match = re.match(r"socket:\[(\d+)\]", os.readlink(f"/proc/{pid}/fd/{file}"))
+        if match and match[1] in listening:
+            found.append(match[1])
+    return found
+
+
 class Case(unittest.TestCase):
     """A folder, settings and browser profile of its own; browsers that are left are ended with the test."""
     maxDiff = None
@@ -127,6 +142,12 @@ class Case(unittest.TestCase):
         self.addCleanup(lambda: (run.poll() is None and run.kill(), run.wait(), run.stdout.close()))
         run.status_lines = lambda: pathlib.Path(log.name).read_text(encoding="utf-8").splitlines()
         return run
+
+    def assert_no_ports(self):
+        """Nothing that this test has started listens on a port."""
+        for pid, line in processes(self.folder):
+            with contextlib.suppress(OSError):  # it has just ended
+                self.assertEqual(listening_ports(pid), [], line)
 
     def assert_expected_rows(self, path):
         for table, columns in TABLES.items():
