@@ -66,5 +66,10 @@ int main()
                form.runs.mbANRunning = !form.runs.mbANRunning;
                states.SetStateOfControls();
            }));
-    return 0;
+    // Figures of a call that gave up would be worth nothing.
+    const bool decided = log.entries.isEmpty() && form.autoRun.cmdANStart.isEnabled() &&
+                         form.saved.cboANList.isEnabled() == form.runs.idle();
+    if (!decided)
+        std::puts("The rules were not applied.");
+    return decided ? 0 : 1;
 }
