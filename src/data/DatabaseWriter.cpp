@@ -16,11 +16,16 @@ struct TypeWord
 constexpr TypeWord typeWords[] = {{3, "INTEGER"},     {5, "DOUBLE"},     {7, "DATETIME"},
                                   {130, "TEXT(255)"}, {203, "LONGTEXT"}, {205, "LONGBLOB"}};
 
+std::string quoted(QString name)
+{
+    return (u'"' + name.replace(u'"', "\"\""_L1) + u'"').toStdString();
+}
+
 std::string declared(const DataColumn &column)
 {
     const auto *const found = std::find_if(std::begin(typeWords), std::end(typeWords),
                                            [&](const TypeWord &word) { return word.kind == column.kind; });
-    return "\"" + column.name.toStdString() + "\" " + (found == std::end(typeWords) ? "" : found->declared);
+    return quoted(column.name).append(" ").append(found == std::end(typeWords) ? "" : found->declared);
 }
 
 class DatabaseWriter : public RowWriter
@@ -33,10 +38,10 @@ class DatabaseWriter : public RowWriter
         mDatabase.exec("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF");
         std::string definitions, places;
         for (const DataColumn &column : columns) {
-            definitions += (definitions.empty() ? "" : ",") + declared(column);
+            definitions.append(definitions.empty() ? "" : ",").append(declared(column));
             places += places.empty() ? "?" : ",?";
         }
-        const std::string name = "\"" + table.toStdString() + "\"";
+        const std::string name = quoted(table);
         mDatabase.exec("CREATE TABLE " + name + "(" + definitions + ")");
         mDatabase.exec("BEGIN");
         mInsert.emplace(mDatabase, "INSERT INTO " + name + " VALUES(" + places + ")");

@@ -1,5 +1,6 @@
 #include "data/Exports.h"
 
+#include "data/NewFile.h"
 #include "util/FileNames.h"
 
 #include <QFile>
@@ -11,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto form = "frmSearch"_L1;
-constexpr qint64 fileExists = 58;
 
 struct RsForm
 {
@@ -39,9 +39,10 @@ std::unique_ptr<RowWriter> makeWriter(DataFormat format, const QString &path, co
 
 void save(const Recordset &rows, DataFormat format, const QString &path)
 {
-    if (cUtility::isNameTaken(path))
-        throw RuntimeError(fileExists, u"File already exists: "_s + path);
-    rows.Save(path, format == DataFormat::Saved ? Recordset::SaveFormat::Binary : Recordset::SaveFormat::Xml);
+    NewFile file(path);
+    rows.Save(file.placeUntilComplete(),
+              format == DataFormat::Saved ? Recordset::SaveFormat::Binary : Recordset::SaveFormat::Xml);
+    file.commit();
 }
 
 /// A file that is to be replaced lies aside until its successor is there, and comes back if there is none.

@@ -188,6 +188,30 @@ TEST_F(ExportsTest, AFolderThatIsGoneIsAMessageInEveryForm)
     EXPECT_TRUE(files().isEmpty());
 }
 
+TEST_F(ExportsTest, AFolderInWhichNothingCanBeMadeIsAMessageInEveryForm)
+{
+    for (const ExportKind &kind : ExportKinds::all) {
+        EXPECT_FALSE(exports.exportTable({u"EmailAddress"_s, {}, {}}, kind, u"/proc/out"_s));
+        EXPECT_TRUE(lastStatus().startsWith(u"Nothing exported: "_s)) << qPrintable(lastStatus());
+        EXPECT_TRUE(lastStatus().contains(u"/proc"_s)) << kind.word.data() << ": " << qPrintable(lastStatus());
+    }
+    form.places.txtSFDBDir.setText(u"/proc/"_s);
+    choose(u"EmailAddress"_s);
+    exports.ExportRecordSet(Csv);
+    EXPECT_TRUE(lastStatus().startsWith(u"Nothing exported: "_s)) << qPrintable(lastStatus());
+}
+
+TEST_F(ExportsTest, ANameThatSomebodyTakesMeanwhileStaysHis)
+{
+    for (const ExportKind &kind : ExportKinds::all) {
+        pump.after(0, [this] { writeFile(u"out"_s, "his"); });
+        EXPECT_FALSE(exportAs(kind, u"out"_s));
+        EXPECT_EQ(bytes(pathOf(u"out"_s)), "his") << kind.word.data();
+        EXPECT_EQ(files(), QStringList{u"out"_s}) << kind.word.data();
+        QFile::remove(pathOf(u"out"_s));
+    }
+}
+
 TEST_F(ExportsTest, AFullDiskLeavesNoFileInAnyForm)
 {
     Transaction many(*database);

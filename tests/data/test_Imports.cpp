@@ -3,6 +3,7 @@
 #include "DataFixture.h"
 #include "data/ImportLists.h"
 #include "data/RowCopy.h"
+#include "store/Transaction.h"
 #include "support/Places.h"
 #include "util/RandomText.h"
 
@@ -37,6 +38,57 @@ class ImportsTest : public DataTest
         return database->GetRecordset(u"SELECT Index FROM "_s + table).RecordCount();
     }
     DatabaseHolder other;
+};
+
+/// Each look at the clock takes a millisecond, so that a long command lets events in between its rows.
+class TickingPump : public FakePump
+{
+  public:
+    [[nodiscard]] qint64 tickCount() const override { return ++mTicks; }
+
+  private:
+    mutable qint64 mTicks = 0;
+};
+
+/// 2,000 addresses to import, and something that happens in the middle of it.
+class InterruptedImportTest : public ImportsTest
+{
+  protected:
+    InterruptedImportTest()
+    {
+        Transaction rows(*other);
+        for (int i = 0; i < all; ++i)
+            addTo(*other, u"EmailAddress"_s, u"Address"_s, u"%1@b.com"_s.arg(i));
+        EXPECT_TRUE(rows.commit());
+        path = otherPath();
+    }
+    /// What the import answers when `happening` comes between its rows.
+    QString importWhile(const std::function<void()> &happening)
+    {
+        QString told;
+        int turns = 0;
+        QObject::connect(&status, &StatusLine::told, &form, [&, happening](const QString &text) {
+            if (text.startsWith(u"Importing all data "_s) && ++turns == 2)
+                happening();
+        });
+        ticked.run(u"Importing all data"_s, [&] { told = interrupted.ImportAllData(path); });
+        EXPECT_GE(turns, 2) << "how far it is, is told between the rows";
+        return told;
+    }
+    /// Whole rows alone, in their order.
+    void expectRows(qint64 atLeast, qint64 atMost)
+    {
+        const QStringList addresses = values(u"EmailAddress"_s, u"Address"_s);
+        EXPECT_GE(addresses.size(), atLeast);
+        EXPECT_LE(addresses.size(), atMost);
+        for (qsizetype i = 0; i < addresses.size(); ++i)
+            ASSERT_EQ(addresses[i], u"%1@b.com"_s.arg(i));
+    }
+    static constexpr int all = 2000;
+    QString path;
+    TickingPump ticking;
+    LongWork ticked{ticking, status};
+    Imports interrupted{log, database, ticked};
 };
 
 /// Which rows an import of MNUrlsA adds, by the method of the rules: one question a row.
@@ -276,4 +328,59 @@ TEST_F(ImportsTest, AFieldComesFromAnotherProgramsFile)
     }
     EXPECT_EQ(told, QString());
     EXPECT_GT(count(u"Block"_s), 0);
+}
+
+TEST_F(InterruptedImportTest, AFileThatIsRemovedGivesAllRowsOfTheTableAndIsThenMissed)
+{
+    other.reset();
+    EXPECT_EQ(importWhile([this] { QFile::remove(path); }), u"Import ended: PhoneNumber cannot be read"_s);
+    expectRows(all, all);
+}
+
+TEST_F(InterruptedImportTest, AFileThatIsOverwrittenGivesAllItsRowsOrSaysWhyItEnded)
+{
+    other.reset();
+    for (const bool emptied : {true, false}) {
+        static_cast<void>(database->GetRecordset(u"DELETE * FROM EmailAddress"_s));
+        const QByteArray before = bytes(path);
+        const QString told = importWhile([&] {
+            QFile file(path);
+            ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+            ASSERT_TRUE(emptied ? file.resize(0) : file.write(QByteArray(before.size(), 'x')) == before.size());
+        });
+        expectRows(told.isEmpty() ? all : 0, all);
+        EXPECT_TRUE(told.isEmpty() || told.startsWith(u"Import ended: "_s)) << qPrintable(told);
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(before);
+    }
+}
+
+TEST_F(InterruptedImportTest, RowsThatComeInMeanwhileStayOut)
+{
+    EXPECT_EQ(importWhile([this] { addTo(*other, u"EmailAddress"_s, u"Address"_s, u"late"_s); }), QString());
+    expectRows(all, all);
+}
+
+TEST_F(InterruptedImportTest, EscapeBetweenTwoRowsTakesAllOfThemBack)
+{
+    EXPECT_EQ(importWhile([this] { ticked.cancel(); }), u"Import cancelled, nothing imported"_s);
+    expectRows(0, 0);
+    EXPECT_FALSE(ticked.isUnderWay());
+}
+
+TEST_F(InterruptedImportTest, WhatAnotherProgramWritesMeanwhileWaitsAndIsKept)
+{
+    QString refused;
+    EXPECT_EQ(importWhile([&] {
+                  SQLite::Database program(database->DatabasePath().toStdString(), SQLite::OPEN_READWRITE);
+                  try {
+                      program.exec("INSERT INTO Block(UrlsContent) VALUES('x')");
+                  } catch (const SQLite::Exception &error) {
+                      refused = QString::fromUtf8(error.what());
+                  }
+              }),
+              QString());
+    EXPECT_TRUE(refused.contains(u"locked"_s)) << "an import is one transaction";
+    expectRows(all, all);
 }

@@ -4,6 +4,7 @@ import csv
 import json
 import os
 import re
+import shutil
 import sqlite3
 import subprocess
 import unittest
@@ -91,6 +92,44 @@ class DataTest(trawlex.Case):
             with open(path, encoding="utf-8") as file:
                 self.assertEqual(len(file.readlines()), count)
             os.remove(path)
+
+    def test_what_goes_wrong_is_told_and_leaves_no_file(self):
+        folder = os.path.dirname(self.database)
+        wrong = [(["--to", self.folder + "/gone/out.csv"], "Path not found"), (["--to", "/proc/out.csv"], "/proc"),
+                 (["--to", self.folder + "/out.csv", "--where", "Address=it's"], "Nothing exported")]
+        for words, told in wrong:
+            with self.subTest(words=words):
+                done = self.run_in(folder, "--export", "EmailAddress", "--format", "csv", *words)
+                self.assertEqual(done.returncode, 1, done.stderr)
+                self.assertIn(told, done.stderr)
+                self.assertFalse([name for name in os.listdir(self.folder) if "out" in name])
+        for where, count in (("Address=%@%", 1), ("Address=[a]", 0), ("Url=say \"hi\"", 1)):
+            done, path = self.export("csv", "--where", where)
+            self.assertEqual(done.returncode, 0 if count else 1, where)
+            self.assertEqual(os.path.exists(path), bool(count))
+            if count:
+                os.remove(path)
+
+    @unittest.skipUnless(shutil.which("soffice"), "LibreOffice is not installed: apt-get install libreoffice-calc-nogui")
+    def test_the_spreadsheet_opens_every_form_that_is_one(self):
+        """The saved recordset, JSON Lines and the SQLite database are for other readers."""
+        filters = {"html": [], "xlsx": [], "csv": ["--infilter=CSV:44,34,76"], "comma": ["--infilter=CSV:44,34,76"],
+                   "tab": ["--infilter=CSV:9,34,76"]}
+        for form, words in filters.items():
+            with self.subTest(form=form):
+                _, path = self.export(form)
+                source = self.folder + {"comma": "/commas.csv", "tab": "/tabs.csv"}.get(form, "/out." + form)
+                os.rename(path, source) if source != path else None
+                out = os.path.join(self.folder, "read-" + form)
+                subprocess.run(["soffice", f"-env:UserInstallation=file://{self.folder}/office", "--headless", *words,
+                                "--convert-to", "csv", "--outdir", out, source], env=self.env, check=True, timeout=120,
+                               capture_output=True)
+                with open(os.path.join(out, os.listdir(out)[0]), encoding="utf-8-sig", newline="") as file:
+                    text = file.read()
+                for cell in ("ann@site.com", "http://www.site.com/a.htm", "it's", "Zoë"):
+                    self.assertIn(cell, text)
+                if form in ("csv", "xlsx"):
+                    self.assertIn("=1+1", text, "shown, not run")
 
     def test_what_was_exported_and_imported_is_what_was_there(self):
         other = self.new_database("other")

@@ -6,11 +6,12 @@ import csv
 import json
 import os
 import sqlite3
+import time
 import unittest
 
 import test_data
-import test_window
 import trawlex
+import window
 
 COLUMNS = ["Date", "SSIndex", "Address", "Url"]
 ROWS = [("2024-05-01", 1, "mia@site.com", "http://www.site.com/a.htm"),
@@ -33,12 +34,10 @@ def table_rows(path, table):
     return [tuple(map(str, row)) for row in trawlex.rows(path, table, ["Index", *COLUMNS])]
 
 
-class DataWindow(test_window.WindowCase):
+class DataWindow(window.WindowCase):
     def setUp(self):
         super().setUp()
-        self.start_with(lstDCoTmr="0")
-        trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", "--name", "Internet Browse|blank"), 60,
-                         "the built-in browser")
+        self.start_anew(lstDCoTmr="0")
         with contextlib.closing(sqlite3.connect(self.database)) as made, made:
             made.executemany(f"INSERT INTO EmailAddress({','.join(COLUMNS)}) VALUES(?,?,?,?)", ROWS)
         self.click("sstSearch(3)")
@@ -51,22 +50,25 @@ class DataWindow(test_window.WindowCase):
         """The windows and pop-ups of the program that can be seen."""
         return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
 
-    @contextlib.contextmanager
-    def pop_up(self, what):
-        """What is done in here opens a pop-up; behind it the pop-up is there."""
+    def opened(self, what, action):
+        """The pop-up that comes when `action` is done. It takes keys a moment after it can be seen."""
         before = self.windows()
-        yield
-        trawlex.wait_for(lambda: self.windows() - before, 20, what)
+        action()
+        found = trawlex.wait_for(lambda: self.windows() - before, 20, what)
+        time.sleep(0.3)
+        return next(iter(found))
 
-    def closed(self, before, what):
-        trawlex.wait_for(lambda: self.windows() <= before, 20, what)
+    def choose_end(self, menu, item):
+        """Presses the first item of a menu (0) or the last one (-1)."""
+        geometry = dict(part.split("=") for part in self.display.do("getwindowgeometry", "--shell", menu) if "=" in part)
+        self.display.do("mousemove", "--window", menu, 30, 12 if item == 0 else int(geometry["HEIGHT"]) - 12)
+        self.display.do("click", 1)
 
     def choose(self, combo, row):
         before = self.windows()
-        with self.pop_up(combo):
-            self.click(combo)
+        self.opened(combo, lambda: self.click(combo))
         self.keys("Home", *["Down"] * row, "Return")
-        self.closed(before, combo + " is closed")
+        trawlex.wait_for(lambda: self.windows() <= before, 20, combo + " is closed")
 
     def first_cell(self, *more):
         """The grid has the focus, its first cell is the one in use."""
@@ -74,27 +76,26 @@ class DataWindow(test_window.WindowCase):
         self.keys("ctrl+Home", *more)
 
     def delete_selected(self):
-        """By the last item of the grid's menu."""
-        with self.pop_up("the grid's menu"):
-            self.keys("Menu")
-        self.keys("Up", "Return")
+        self.choose_end(self.opened("the grid's menu", lambda: self.keys("Menu")), -1)
+
+    def status_menu(self):
+        return self.opened("the status bar's menu", lambda: self.click("picStatus", button=3))
 
     def export(self, item, name):
-        with self.pop_up("the status bar's menu"):
-            self.click("picStatus", button=3)
-        with self.pop_up("the exports"):
-            self.keys("Down", "Right")
-        self.keys(*["Down"] * item, "Return")
+        menu = self.status_menu()
+        self.opened("the exports", lambda: self.choose_end(menu, 0))
+        self.keys(*["Down"] * (item + 1), "Return")
         path = os.path.join(os.path.dirname(self.database), name)
         trawlex.wait_for(lambda: os.path.exists(path), 30, name)
         return path
 
-    def choose_file(self, path):
-        dialog = self.wait_for_window("Select File")
-        self.display.do("windowfocus", "--sync", dialog)
-        self.display.do("type", "--delay", "5", path)
-        self.keys("Return")
-        trawlex.wait_for(lambda: not self.display.do("search", "--onlyvisible", "--name", "Select File"), 20, "the dialog closes")
+    def import_all(self):
+        """The box can be used once the file has been looked at: a press that came too early is repeated."""
+        for _ in range(4):
+            self.click("chkSFIAllData", left=10)
+            self.click("cmdSFIImport")
+            with contextlib.suppress(AssertionError):
+                return trawlex.wait_for(self.addresses, 10, "the rows come")
 
     def addresses(self):
         return [row[0] for row in trawlex.rows(self.database, "EmailAddress", ["Address"])]
@@ -130,11 +131,8 @@ class DataWindow(test_window.WindowCase):
         copy = os.path.join(self.folder, "copy.mdb")
         with contextlib.closing(sqlite3.connect(self.database)) as made, contextlib.closing(sqlite3.connect(copy)) as other:
             made.backup(other)
-        x, y, width, height = self.positions["fxgTrawlex"]
-        heads = y - height // 2 + 10
-        self.display.do("mousemove", "--window", self.id, x - width // 2 + 20, heads)
-        self.display.do("click", 1)
-        self.display.do("click", 1)     # the second click sorts down: the last row stands first
+        for _ in range(2):  # on the head "Index": the second click sorts down, so that the last row stands first
+            self.click("fxgTrawlex", left=20, top=10)
         self.first_cell()
         self.delete_selected()
         left = [row[2] for row in ROWS]
@@ -145,12 +143,10 @@ class DataWindow(test_window.WindowCase):
         self.first_cell()
         self.delete_selected()
         self.wait_for_addresses([], "the last row is gone")
-        for tab in ("sstSearch(2)", "sstSettings(1)", "sstFiles(1)"):
-            self.click(tab)
+        self.go_to("sstSearch(2)", "sstSettings(1)", "sstFiles(1)")
         self.click("cmdSFISelDatabase")
-        self.choose_file(copy)
-        self.click("chkSFIAllData", left=10)
-        self.click("cmdSFIImport")
+        self.answer("Select File", copy)
+        self.import_all()
         self.wait_for_addresses(left, "all rows are back")
         self.assertEqual(trawlex.rows(self.database, "EmailAddress", COLUMNS), ROWS)
         self.end()
@@ -160,10 +156,8 @@ class DataWindow(test_window.WindowCase):
         self.first_cell()
         self.delete_selected()
         self.wait_for_addresses([row[2] for row in ROWS[1:]], "a row is gone")
-        with self.pop_up("the status bar's menu"):
-            self.click("picStatus", button=3)
-        self.keys("Up", "Return")
-        self.choose_file(path)
+        self.choose_end(self.status_menu(), -1)
+        self.answer("Select File", path)
         before = self.windows()
         self.first_cell()
         self.keys("Menu")

@@ -74,6 +74,22 @@ TEST_F(Grids, KeepASelectionThatTheRightButtonLiesIn)
     EXPECT_EQ(grid.selection(), (CellBlock{0, 0, 0, 0}));
 }
 
+TEST_F(Grids, KeepASelectionThatIsPressedBeside)
+{
+    struct Few : Summaries
+    {
+        [[nodiscard]] int rowCount() const override { return 2; }
+    };
+    grid.setDataSource(std::make_shared<Few>());
+    grid.select(0, 0, {0, 0, 1, 0});
+    settle();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        QTest::mouseClick(table.viewport(), button, {}, table.viewport()->rect().center());
+        EXPECT_EQ(grid.clip(), u"1\r2"_s) << button;
+    }
+    EXPECT_TRUE(table.hasFocus());
+}
+
 TEST_F(Grids, HaveTheCellUnderTheRightButtonInUseWhenTheButtonIsTold)
 {
     grid.select(5, 2);

@@ -26,11 +26,14 @@ class GridLink : public QObject
         };
         connect(mView.selectionModel(), &QItemSelectionModel::selectionChanged, this, userChose);
         connect(mView.selectionModel(), &QItemSelectionModel::currentChanged, this, userChose);
-        connect(mView.horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        const auto clickHead = [this](int column) {
             if (mControl.isEnabled())
                 mControl.clickHead(column);
             showSortMark(); // the head has turned its own
-        });
+        };
+        // The second one of two quick clicks is a click too.
+        for (const auto click : {&QHeaderView::sectionClicked, &QHeaderView::sectionDoubleClicked})
+            connect(mView.horizontalHeader(), click, this, clickHead);
     }
 
     void show()

@@ -49,7 +49,10 @@ void GridTable::paintEvent(QPaintEvent *event)
 
 void GridTable::mousePressEvent(QMouseEvent *event)
 {
-    const bool inSelection = selectionModel() != nullptr && selectionModel()->isSelected(indexAt(event->pos()));
+    const QModelIndex pressed = indexAt(event->pos());
+    if (!pressed.isValid())
+        return; // below the last row there is nothing to choose: what is chosen stays
+    const bool inSelection = selectionModel()->isSelected(pressed);
     if (event->button() != Qt::RightButton || !inSelection)
         QTableView::mousePressEvent(event);
 }

@@ -1,5 +1,6 @@
 // The view of a grid: one block of cells may be selected, long texts lose their middle, the right mouse button leaves a
-// selection that it lies in as it is. Empty, it says in grey what belongs there.
+// selection that it lies in as it is, a press beside the cells leaves every selection. Empty, it says in grey what
+// belongs there.
 #pragma once
 
 #include <QTableView>
