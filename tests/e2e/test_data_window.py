@@ -158,12 +158,10 @@ class DataWindow(window.WindowCase):
         self.wait_for_addresses([row[2] for row in ROWS[1:]], "a row is gone")
         self.choose_end(self.status_menu(), -1)
         self.answer("Select File", path)
-        before = self.windows()
         self.first_cell()
-        self.keys("Menu")
-        self.display.do("sleep", "1")
-        self.assertEqual(self.windows(), before, "no menu opens on rows without a table")
-        self.assertEqual(len(self.addresses()), len(ROWS) - 1)
+        self.keys("Menu", "Up", "Return")   # would delete, if a menu opened
+        time.sleep(1)
+        self.wait_for_addresses([row[2] for row in ROWS[1:]], "nothing is deleted from rows without a table")
         self.end()
 
 

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <random>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -473,4 +474,26 @@ TEST(Dates, AreReadInTheirForms)
     for (const QString &text : {u""_s, u"2023-02-29"_s, u"13/1/2000"_s, u"2024-01-01T24:00"_s, u"2024-01-01 13:00 PM"_s,
                                 u"2024"_s, u"1.2.2024"_s, u"x2024-01-01"_s})
         EXPECT_FALSE(StoredDates::parse(text).has_value()) << text.toStdString();
+}
+
+TEST(StoredDates, AreKnownByTheirFormExactlyWhereReadingThemChangesNothing)
+{
+    std::mt19937 random(7);
+    const auto number = [&](int low, int high, int width) {
+        const int value = low + int(random() % unsigned(high - low + 1));
+        return QString::number(value).rightJustified(random() % 20 == 0 ? width - 1 : width, u'0');
+    };
+    int stored = 0;
+    for (int round = 0; round < 20'000; ++round) {
+        QString text = number(1998, 2025, 4) + u'-' + number(1, 13, 2) + u'-' + number(1, 31, 2);
+        if (random() % 2 == 0)
+            text += (random() % 8 == 0 ? u' ' : u'T') + number(0, 24, 2) + u':' + number(0, 60, 2) + u':' +
+                    (random() % 4 == 0 ? u"00"_s : number(0, 60, 2));
+        if (random() % 30 == 0)
+            text = text.left(10) + u"T00:00:00"_s;
+        const auto moment = StoredDates::parse(text);
+        ASSERT_EQ(StoredDates::isStored(text), moment && StoredDates::text(*moment) == text) << qPrintable(text);
+        stored += StoredDates::isStored(text) ? 1 : 0;
+    }
+    EXPECT_GT(stored, 5000);
 }

@@ -103,6 +103,9 @@ TEST_F(GridWindowTest, AClickOnAHeadReachesTheGrid)
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {header.sectionViewportPosition(1) + 20, 5});
     ASSERT_EQ(heads.count(), 1);
     EXPECT_EQ(heads.constFirst().constFirst().toInt(), 1);
-    QTest::mouseDClick(header.viewport(), Qt::LeftButton, {}, {header.sectionViewportPosition(1) + 20, 5});
-    EXPECT_EQ(heads.count(), 3) << "however quick the second click comes";
+    const QPointF place(header.sectionViewportPosition(1) + 20, 5);
+    QMouseEvent second(QEvent::MouseButtonDblClick, place, header.viewport()->mapToGlobal(place), Qt::LeftButton,
+                       Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(header.viewport(), &second);
+    EXPECT_EQ(heads.count(), 2) << "however quick the second click comes";
 }

@@ -92,6 +92,8 @@ QVariant dateFor(const QVariant &value)
         return StoredDates::text(value.toDate().startOfDay(Qt::UTC));
     if (value.typeId() == QMetaType::QDateTime)
         return StoredDates::text(value.toDateTime());
+    if (value.typeId() == QMetaType::QString && StoredDates::isStored(value.toString()))
+        return value;
     const auto moment = value.typeId() == QMetaType::QString ? StoredDates::parse(value.toString()) : std::nullopt;
     if (!moment)
         throw AdoError::error(AdoError::TypeMismatch);

@@ -86,7 +86,9 @@ void RecordWriter::setValue(const QString &field, const QString &value)
 QVariant RecordWriter::valueFor(int kind, const QString &field, const QString &value) const
 {
     if (field == "Date"_L1)
-        return kind == ColumnKind::Date && !StoredDates::parse(value) ? StoredDates::today() : value;
+        return kind == ColumnKind::Date && !StoredDates::isStored(value) && !StoredDates::parse(value)
+                   ? StoredDates::today()
+                   : value;
     if (field == "Picture"_L1)
         return fileToBlob(value);
     if (field == "FullPage"_L1)

@@ -1,6 +1,7 @@
 #include "store/rows/StoredDates.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +41,21 @@ QString StoredDates::today()
         second = now;
     }
     return text;
+}
+
+bool StoredDates::isStored(QStringView text)
+{
+    constexpr QStringView form = u"0000-00-00T00:00:00", midnight = u"T00:00:00";
+    constexpr qsizetype dateAlone = 10;
+    const bool fits = (text.size() == dateAlone || text.size() == form.size()) &&
+                      std::equal(text.begin(), text.end(), form.begin(), [](QChar unit, QChar expected) {
+                          return expected == u'0' ? unit >= u'0' && unit <= u'9' : unit == expected;
+                      });
+    if (!fits || text.endsWith(midnight))
+        return false;
+    const auto at = [text](qsizetype place, qsizetype length) { return text.sliced(place, length).toInt(); };
+    return QDate::isValid(at(0, 4), at(5, 2), at(8, 2)) &&
+           (text.size() == dateAlone || QTime::isValid(at(11, 2), at(14, 2), at(17, 2)));
 }
 
 std::optional<QDateTime> StoredDates::parse(const QString &text)

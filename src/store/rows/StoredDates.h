@@ -13,6 +13,9 @@ namespace StoredDates {
 /// Today's date, without a time.
 [[nodiscard]] QString today();
 
+/// True for a text as `text` gives it. Nearly all dates that are written are.
+[[nodiscard]] bool isStored(QStringView text);
+
 /// The moment that `text` stands for: ISO 8601 with "T" or a blank between date and time, or month/day/year with an
 /// optional time (24 hours, or with AM or PM). Nothing for any other text. Blanks around it do not matter.
 [[nodiscard]] std::optional<QDateTime> parse(const QString &text);
