@@ -248,6 +248,7 @@ class Runs(ManualCase):
         self.stop_and_resume(lambda: len(self.summaries()) >= 2)
         walked = list(zip(TITLES, BOATS))[:4:-1]
         self.wait_for_rows("SiteSummary", ["Title", "Url"], walked, 120)
+        self.assert_run_stands_still()      # the series can be chosen once the run has ended
         self.walk_series(walked)
         self.end()
 
