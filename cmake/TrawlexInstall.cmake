@@ -2,7 +2,7 @@
 include(GNUInstallDirs)
 
 install(TARGETS trawlex trawlex-harvest trawlex-mdb-reader trawlex-browser-holder RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES packaging/desktop/trawlex.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/desktop/trawlex.desktop packaging/desktop/trawlex-pictures.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/desktop/trawlex.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES src/ui/look/icons/trawlex.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/man/trawlex.1 packaging/man/trawlex-harvest.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

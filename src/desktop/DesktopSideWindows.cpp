@@ -41,7 +41,10 @@ void DesktopSideWindows::showAbout()
         return;
     if (!frmAbout) {
         frmAbout = new AboutWindow(mMain);
+        if (hasStoredPlace(mSettings, frmAbout->objectName()))
+            KeptPlace::restore(*frmAbout, mSettings, *mMain);
         QObject::connect(frmAbout, &AboutWindow::helpRequested, frmAbout, [this] { showHelp(); });
+        QObject::connect(frmAbout, &QDialog::finished, frmAbout, [this] { KeptPlace::store(*frmAbout, mSettings); });
     }
     frmAbout->show();
     frmAbout->raise();

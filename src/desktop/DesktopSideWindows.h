@@ -1,4 +1,5 @@
-// The small windows as the window program has them: over the main window, each one once; the magnifier keeps its place.
+// The small windows as the window program has them: over the main window, each one once; magnifier and about window
+// keep their places.
 #pragma once
 
 #include "app/Ports.h"

@@ -12,7 +12,8 @@ import xml.etree.ElementTree as ElementTree
 import trawlex
 
 FILES = ["bin/trawlex", "bin/trawlex-harvest", "bin/trawlex-mdb-reader", "bin/trawlex-browser-holder",
-         "share/applications/trawlex.desktop", "share/metainfo/trawlex.metainfo.xml",
+         "share/applications/trawlex.desktop", "share/applications/trawlex-pictures.desktop",
+         "share/metainfo/trawlex.metainfo.xml",
          "share/icons/hicolor/scalable/apps/trawlex.svg", "share/man/man1/trawlex.1", "share/man/man1/trawlex-harvest.1",
          "share/doc/trawlex/manual/index.html", "share/doc/trawlex/copyright"]
 

@@ -3,9 +3,11 @@
 
 #include "engine/webengine/WebEngineBrowser.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -99,4 +101,51 @@ TEST_F(BareBrowser, StandsBesideTheMainWindowOnTheScreen)
             EXPECT_EQ(place.left(), main.frameGeometry().right() + 1);
         }
     }
+}
+
+TEST_F(BareBrowser, NavigateToUrlOnAPageThatNeverCompletesReturns)
+{
+    QTcpServer silent;
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    QElapsedTimer clock;
+    clock.start();
+    window.NavigateToUrl(u"127.0.0.1:%1/"_s.arg(silent.serverPort()));
+    EXPECT_LT(clock.elapsed(), 2000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return silent.hasPendingConnections(); }, patience)) << "it was issued";
+}
+
+TEST_F(BareBrowser, AFramesDocumentCompleteRaisesNoEvent)
+{
+    page(u"one"_s);
+    page(u"two"_s);
+    QFile file(folder.filePath(u"top.html"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<title>top</title><iframe id=f src=one.html></iframe>"
+               "<script>setTimeout(() => { f.src = 'two.html'; f.onload = () => { document.title = 'loaded'; }; }, "
+               "300)</script>");
+    file.close();
+    const QString address = QUrl::fromLocalFile(file.fileName()).toString();
+    QStringList completed;
+    QObject::connect(browser.get(), &BrowserEngine::DocumentComplete, browser.get(), [&](const QString &url, bool top) {
+        if (top)
+            completed.append(url);
+    });
+    window.NavigateToUrl(address);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !completed.isEmpty(); }, patience));
+    const auto *const view = window.findChild<QWidget *>(u"WBOne"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return view->property("title") == u"loaded"_s; }, patience));
+    EXPECT_EQ(completed, QStringList{address});
+    EXPECT_EQ(addressBar().text(), address);
+}
+
+TEST_F(BareBrowser, F5LoadsThePageAgain)
+{
+    window.NavigateToUrl(page(u"harbour"_s));
+    ASSERT_TRUE(waitForTitle(u"harbour"_s));
+    QFile file(folder.filePath(u"harbour.html"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<title>harbour by night</title>");
+    file.close();
+    QTest::keyClick(&window, Qt::Key_F5);
+    EXPECT_TRUE(waitForTitle(u"harbour by night"_s));
 }

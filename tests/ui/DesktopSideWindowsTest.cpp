@@ -75,6 +75,18 @@ TEST_F(SideWindowsOfTheProgram, ShowOneAboutWindowThatLeadsToTheManual)
     EXPECT_TRUE(QFileInfo::exists(desktop.opened.first()));
 }
 
+TEST_F(SideWindowsOfTheProgram, BringTheAboutWindowBackToItsPlace)
+{
+    const QPoint place(60, 40);
+    side.showAbout();
+    shown<AboutWindow>()->move(place);
+    settle();
+    shown<AboutWindow>()->close();
+    ASSERT_TRUE(isGone<AboutWindow>());
+    side.showAbout();
+    EXPECT_EQ(shown<AboutWindow>()->pos(), place);
+}
+
 TEST_F(SideWindowsOfTheProgram, ChooseOneDirectoryAtATime)
 {
     QStringList choices;

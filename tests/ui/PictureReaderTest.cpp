@@ -86,6 +86,15 @@ TEST_F(PictureReading, FitsWhatIsTooLargeAndLeavesWhatIsNot)
               QSize(30, 1));
 }
 
+TEST_F(PictureReading, FitsAGifThatIsLargerThanItsFirstPictureSays)
+{
+    QByteArray bytes = PictureFiles::gif(1);
+    bytes[8] = 100; // as high as that in the head of the file
+    const Picture picture = PictureReader::read(PictureFiles::write(path(u"a.gif"_s), bytes), {10, 10});
+    EXPECT_EQ(picture.refusal, QString());
+    EXPECT_LE(picture.image.height(), 10);
+}
+
 TEST_F(PictureReading, TurnsWhatTheCameraHeldUpright)
 {
     QImageWriter writer(path(u"a.jpg"_s), "jpeg");

@@ -6,6 +6,7 @@
 #include "ui/windows/AboutWindow.h"
 #include "ui/windows/GridWindow.h"
 #include "ui/windows/MagnifyWindow.h"
+#include "ui/windows/PictureWindow.h"
 #include "window/options/OptionTable.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -232,6 +234,41 @@ struct DISABLED_Screenshots : WindowFixture
         take(u"magnifier"_s, magnifier);
     }
 
+    /// Some pictures of a harbour at all times of day, the last one on show.
+    void showPictures()
+    {
+        const QTemporaryDir folder;
+        QStringList names;
+        for (int hour = 0; hour < 9; ++hour) {
+            QImage picture(640, 400, QImage::Format_RGB32);
+            QPainter painter(&picture);
+            QLinearGradient sky(0, 0, 0, 260);
+            sky.setColorAt(0, QColor::fromHsv(200 + 15 * hour, 160, 240 - 18 * hour));
+            sky.setColorAt(1, QColor::fromHsv(30 + 2 * hour, 40 + 20 * hour, 250 - 8 * hour));
+            painter.fillRect(0, 0, 640, 260, sky);
+            painter.fillRect(0, 260, 640, 140, QColor::fromHsv(210, 120, 150 - 10 * hour));
+            painter.setBrush(QColor(0x22, 0x2a, 0x38));
+            painter.setPen(Qt::NoPen);
+            const int x = 60 + 45 * hour;
+            painter.drawPolygon(QPolygon({{x, 300}, {x + 160, 300}, {x + 130, 335}, {x + 30, 335}}));
+            painter.drawPolygon(QPolygon({{x + 75, 120}, {x + 75, 290}, {x + 150, 290}}));
+            painter.end();
+            names.append(u"boats-%1.jpg"_s.arg(hour + 1, 3, 10, QChar(u'0')));
+            EXPECT_TRUE(picture.save(folder.filePath(names.constLast())));
+        }
+        frmFoto foto;
+        foto.setPictures(folder.path(), names);
+        foto.setMoveToDirectory(u"/home/anna/harvest/kept/"_s);
+        foto.setCaption(u"9 of 9"_s);
+        foto.mnuFotoMore.item("mnuFotoThumbnails"_L1).setChecked(true);
+        foto.choosePicture(8);
+        PictureWindow pictures(foto);
+        pictures.show();
+        pictures.LoadPicture(foto.chosenPath());
+        QTest::qWait(500); // for the thumbnails
+        take(u"pictures"_s, pictures);
+    }
+
     struct Summaries : GridRows
     {
         [[nodiscard]] QStringList heads() const override { return {u"Index"_s, u"Date"_s, u"Title"_s, u"Url"_s}; }
@@ -278,4 +315,5 @@ TEST_F(DISABLED_Screenshots, AreTaken)
     }
     showCard();
     showSideWindows();
+    showPictures();
 }

@@ -51,6 +51,11 @@ Picture readWith(QImageReader &reader, QSize room)
     picture.size = turns ? size.transposed() : size;
     if (!reader.read(&picture.image))
         return refused(reader.error() == QImageReader::InvalidDataError ? u"is damaged"_s : reader.errorString());
+    // A gif's head and its pictures may tell different sizes.
+    if (within == size)
+        picture.size = picture.image.size();
+    if (const QSize now = fitted(picture.size, room); within == size && now != picture.size)
+        picture.image = picture.image.scaled(now, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return picture;
 }
 } // namespace

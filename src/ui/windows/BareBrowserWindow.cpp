@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QScreen>
+#include <QShortcut>
 #include <QWebEngineHistory>
 #include <QWebEnginePage>
 
@@ -41,6 +42,7 @@ BareBrowserWindow::BareBrowserWindow(std::shared_ptr<EmbeddedBrowser> browser, Q
     connect(mUi->cmdGo_1, &QPushButton::clicked, this, &BareBrowserWindow::goToAddress);
     connect(mUi->txtAddressBar, &QLineEdit::returnPressed, this,
             [this] { issue(QUrl::fromUserInput(mUi->txtAddressBar->text()).toString()); });
+    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, mUi->WBOne, &QWebEngineView::reload);
     connect(&tmrAutoRefresh, &QTimer::timeout, mUi->WBOne, &QWebEngineView::reload);
     connect(mBrowser.get(), &BrowserEngine::DocumentComplete, this,
             [this](const QString &, bool topDocument) { showLocation(topDocument); });

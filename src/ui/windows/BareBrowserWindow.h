@@ -1,5 +1,5 @@
-// The window of the built-in browser: an address bar, back, go, and the page. The browser itself is the engine's; the
-// window shows its page and tells it when the user has closed the window.
+// The window of the built-in browser: an address bar, back, go, F5, and the page. The browser itself is the engine's;
+// the window shows its page and tells it when the user has closed the window.
 #pragma once
 
 #include "browser/EmbeddedBrowser.h"
