@@ -20,6 +20,9 @@ class ListControl : public Control
     [[nodiscard]] const QStringList &items() const { return mItems; }
     [[nodiscard]] QString list(int index) const { return mItems.value(index); }
     [[nodiscard]] int listIndex() const { return mListIndex; }
+    /// What is shown where nothing stands: what belongs there, and what comes next.
+    [[nodiscard]] const QString &emptyText() const { return mEmptyText; }
+    void setEmptyText(const QString &text) { assign(mEmptyText, text); }
     /// Chooses an item, or none with -1. A changed index raises Click.
     void setListIndex(int index);
 
@@ -51,6 +54,7 @@ class ListControl : public Control
 
   private:
     QStringList mItems;
+    QString mEmptyText;
     int mListIndex = -1;
 };
 

@@ -38,6 +38,23 @@ bool isEmptyArray(const QStringList &array)
     return upperBound(array) == 0 && array.constFirst().isEmpty();
 }
 
+// The two parts of an element.
+QStringView nameOf(const QString &element)
+{
+    const qsizetype at = element.indexOf(lineEnd);
+    return QStringView(element).left(at < 0 ? element.size() : at);
+}
+
+QStringView addressOf(const QString &element)
+{
+    const qsizetype at = element.indexOf(lineEnd);
+    if (at < 0)
+        return {};
+    const QStringView behind = QStringView(element).mid(at + lineEnd.size());
+    const qsizetype end = behind.indexOf(lineEnd);
+    return end < 0 ? behind : behind.left(end);
+}
+
 void appendTo(QStringList &array, const QString &element)
 {
     if (isEmptyArray(array))
@@ -62,18 +79,20 @@ QString SavedUrls::GetSavedUrl(Answer answer, int index, const QString &item, co
 {
     return guardedResult(mContext.log, {module, "Function GetSavedUrl"_L1}, QString(), [&](QString &result) {
         const QStringList &array = mSaved.mastrSavedUrlIds;
-        for (int i = 0; i <= upperBound(array); ++i) {
-            const QStringList parts = array[i].split(lineEnd);
-            const QString address = parts.value(1);
-            const bool hit = index >= 0        ? i == index
-                             : !item.isEmpty() ? array[i] == item
-                             : !name.isEmpty() ? parts[0] == name
-                                               : !url.isEmpty() && address == url;
-            if (!hit)
-                continue;
-            result = answer == Answer::Index ? QString::number(i) : answer == Answer::Name ? parts[0] : address;
+        const auto isWanted = [&](const QString &element) {
+            return !item.isEmpty()   ? element == item
+                   : !name.isEmpty() ? nameOf(element) == name
+                                     : !url.isEmpty() && addressOf(element) == url;
+        };
+        const auto found = index < 0                    ? std::find_if(array.begin(), array.end(), isWanted)
+                           : index <= upperBound(array) ? array.begin() + index
+                                                        : array.end();
+        if (found == array.end())
             return;
-        }
+        if (answer == Answer::Index)
+            result = QString::number(found - array.begin());
+        else
+            result = (answer == Answer::Name ? nameOf(*found) : addressOf(*found)).toString();
     });
 }
 
@@ -147,7 +166,7 @@ void SavedUrls::refillBox()
     mSaved.cboANSavedUrls.clear();
     for (const QString &element : std::as_const(mSaved.mastrSavedUrlIds)) {
         if (!element.isEmpty())
-            mSaved.cboANSavedUrls.addItem(element.section(lineEnd, 0, 0));
+            mSaved.cboANSavedUrls.addItem(nameOf(element).toString());
     }
 }
 

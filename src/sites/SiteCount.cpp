@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int typingPause = 150;
-constexpr qsizetype linksInTip = 30;
+constexpr qsizetype linksInTip = 12;
+constexpr qsizetype unitsInTip = 60, unitsAtEnd = 18;
 
 /// A stage that would leave nothing is left out, as in a run.
 QStringList unlessEmpty(QStringList kept, const QStringList &before)
@@ -32,11 +33,21 @@ bool standsInList(const ComboBox &box)
                        [&](const QString &item) { return cUtility::equalIgnoringCase(item, box.text()); });
 }
 
+/// A link as a line of a tip, which is no wider than the window beside which it stands.
+QString elided(const QString &link)
+{
+    return link.size() <= unitsInTip ? link : link.left(unitsInTip - unitsAtEnd - 1) + u'…' + link.right(unitsAtEnd);
+}
+
 QString tipOf(const QStringList &links)
 {
-    QStringList shown = links.mid(0, linksInTip);
+    if (firstOf(links).isEmpty())
+        return u"No links"_s;
+    QStringList shown;
+    for (const QString &link : links.mid(0, linksInTip))
+        shown.append(elided(link));
     if (links.size() > linksInTip)
-        shown.append(u"(and %1 more)"_s.arg(links.size() - linksInTip));
+        shown.append(u"and %1 more: a click shows all"_s.arg(links.size() - linksInTip));
     return shown.join(u'\n');
 }
 } // namespace
@@ -56,6 +67,13 @@ SiteCount::SiteCount(const Context &context, const WindowFrame &frame, SiteEdito
         connect(&editor.cboSD(box), &ComboBox::changed, this, &SiteCount::changed);
     for (const NumberBox *number : {&editor.incSDMCMNC(0), &editor.incSDMCMNC(1), &editor.incSDUrlLen})
         connect(number, &NumberBox::changed, this, &SiteCount::changed);
+    for (int figure = 0; figure < figures; ++figure) {
+        connect(&editor.lblSDCount(figure + 1), &Label::mousePressed, this, [this, figure] {
+            const QStringList &left = mLeft[static_cast<std::size_t>(figure)];
+            if (!firstOf(left).isEmpty())
+                Q_EMIT linksAsked(left);
+        });
+    }
     connect(&editor.cboSDLen, &ComboBox::Click, this, &SiteCount::changed);
     connect(&editor.chkSDHex, &CheckBox::Click, this, &SiteCount::changed);
 }
@@ -150,9 +168,9 @@ void SiteCount::show()
     guarded(mContext.log, {"SiteCount"_L1, "Sub show"_L1}, [&] {
         if (std::exchange(mLinksOutdated, false))
             mLinks = mBrowser->GetLinksOnWebPage();
-        const auto stages = stagesOf(mLinks, values());
+        mLeft = stagesOf(mLinks, values());
         for (int figure = 0; figure < figures; ++figure) {
-            const QStringList &left = stages[static_cast<std::size_t>(figure)];
+            const QStringList &left = mLeft[static_cast<std::size_t>(figure)];
             Label &label = mEditor.lblSDCount(figure + 1);
             label.setCaption(QString::number(firstOf(left).isEmpty() ? 0 : left.size()));
             label.setToolTipText(tipOf(left));

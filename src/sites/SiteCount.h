@@ -29,6 +29,10 @@ class SiteCount : public QObject
     };
     [[nodiscard]] static std::array<QStringList, figures> stagesOf(const QStringList &links, const Values &values);
 
+  Q_SIGNALS:
+    /// The links behind a figure are to be shown.
+    void linksAsked(const QStringList &links);
+
   private:
     void pageChanged();
     void changed();
@@ -48,5 +52,6 @@ class SiteCount : public QObject
     SiteRecords &mRecords;
     QTimer mSoon; ///< typing shows its figures once it pauses
     QStringList mLinks;
+    std::array<QStringList, figures> mLeft;
     bool mLinksOutdated = true;
 };

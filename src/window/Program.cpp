@@ -46,7 +46,7 @@ Program::Program(const Ports &ports)
       blockingPanel(context, form, blocking, listMenu), tabEvents(context, form.frame),
       statusBarEvents(context, form, popUps), statusMenu(context, form, browser, navigation, records),
       siteMenu(context, form, records, navigation, popUps),
-      sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form),
+      sitePanel(context, form.siteEditor, siteEditing, defaultSites, browser), siteOffer(context, form, browser),
       siteCount(context, form.frame, form.siteEditor, form.options, form.runs, browser, records),
       manual(context, form, longWork, ports.system.clipboard, database, browser, links),
       transfers([&pump = ports.system.pump](qint64 milliseconds) { pump.waitForEvents(milliseconds); }),
@@ -118,7 +118,7 @@ void Program::connectSites()
 {
     QObject::connect(&states, &StateOfControls::siteEditorAsked, &form, [this] { siteEditing.SetSDState(true); });
     QObject::connect(&statusBarEvents, &StatusBarEvents::siteOfPageWanted, &sitePanel, &SitePanel::takePage);
-    QObject::connect(&siteOffer, &SiteOffer::accepted, &sitePanel, &SitePanel::takePage);
+    QObject::connect(&siteOffer, &SiteOffer::accepted, &sitePanel, &SitePanel::beginRecord);
 }
 
 /// What the start and the end ask of others.
@@ -215,6 +215,7 @@ void Program::connectData(Desktop &desktop, SideWindows &side)
         WriteEditFile(text, form.places.txtSFEditor.text(), desktop);
     });
     QObject::connect(&manual.edit, &ManualEdit::windowWanted, &dataSide.window, &DataWindow::showItems);
+    QObject::connect(&siteCount, &SiteCount::linksAsked, &dataSide.window, &DataWindow::showItems);
     QObject::connect(&loader, &DatabaseLoader::addressesWanted, &dataSide.view, &DataView::LoadTableSelectData);
     QObject::connect(&dataSide.import, &DataImport::reloadWanted, &form, [this] { loader.LoadDBData(false); });
 }

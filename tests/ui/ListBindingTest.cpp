@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "ui/widgets/DropDown.h"
 #include "ui/widgets/ItemList.h"
 
 #include <QElapsedTimer>
@@ -169,9 +170,19 @@ TEST_F(Lists, ManyRefreshesOfALongListAreCheap)
     EXPECT_LT(timer.elapsed(), 20000);
 }
 
+TEST_F(Lists, AnEmptyOneKeepsItsDesignedWordsWhereNoneAreGiven)
+{
+    EXPECT_FALSE(widget<ItemList>("lstBlockedUrlC").emptyText().isEmpty());
+}
+
 TEST_F(Lists, AnEmptyOneSaysWhatBelongsThere)
 {
-    EXPECT_FALSE(view.emptyText().isEmpty());
+    list.setEmptyText(u"Texts come here with +."_s);
+    auto &combo = widget<DropDown>("cboANMCMNCMask");
+    form.criteria.cboANMCMNCMask.setEmptyText(u"+ adds one"_s);
+    settle();
+    EXPECT_EQ(view.emptyText(), u"Texts come here with +."_s);
+    EXPECT_EQ(combo.placeholderText(), u"+ adds one"_s);
     const QImage empty = view.grab().toImage();
     view.setEmptyText(QString());
     settle();

@@ -390,3 +390,21 @@ TEST_F(SiteEditorTest, TheFiguresOfARecordUseTheLengthThatItKeeps)
     box(1).setText(u"New"_s); // no record: below 25
     EXPECT_TRUE(becomes(u"1"_s, u"1"_s));
 }
+
+TEST_F(SiteEditorTest, AFigureShowsItsLinksInShortAndAllOfThemWhenPressed)
+{
+    QStringList links;
+    for (int i = 0; i < 40; ++i)
+        links.append(u"http://www.seek.com/%1/"_s.arg(i) + QString(100, u'x'));
+    showResults(links);
+    const QDeadlineTimer limit(5000);
+    box(1).setText(u"New"_s);
+    while (editor().lblSDCount(6).caption() != u"40"_s && !limit.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    const QStringList lines = editor().lblSDCount(6).toolTipText().split(u'\n');
+    ASSERT_EQ(lines.size(), 13);
+    EXPECT_EQ(lines[12], u"and 28 more: a click shows all"_s);
+    EXPECT_TRUE(lines[0].size() == 60 && lines[0].startsWith(u"http://www.seek.com/0/x"_s));
+    editor().lblSDCount(6).mouseDown(MouseButton::Left);
+    EXPECT_EQ(program->dataSide.gridForm.lstMN.items(), links);
+}

@@ -138,17 +138,35 @@ TEST_F(SiteMenuTest, TheRightButtonOfGoShowsTheMenuAndAClickOpensTheSite)
 TEST_F(SiteMenuTest, AnUnknownSiteOffersTheWayToTheEditor)
 {
     form().mbMainShown = true;
-    browser().pages[u"http://www.new.com/?q=tea"_s].title = u"New"_s;
+    browser().pages[u"http://www.new.com/?q=tea"_s].title = u"Bob's search"_s;
     browser().show(u"http://www.new.com/?q=tea"_s);
     form().saved.cmdANSavedAdd.click();
     pump.doEvents();
     ASSERT_EQ(dialogs.asked.size(), 1);
     EXPECT_EQ(form().frame.sstSearch.tab(), Tab::Settings);
     EXPECT_EQ(form().frame.sstMiscOptions.tab(), Tab::Sites);
-    EXPECT_EQ(form().siteEditor.cboSD(1).text(), u"New"_s);
+    EXPECT_EQ(form().siteEditor.cboSD(1).text(), u"Bobs search"_s);
+    EXPECT_EQ(form().siteEditor.cboSD(2).text(), u"www.new.com"_s);
+    form().siteEditor.cmdSD(1).click();
+    EXPECT_EQ(lastStatus(), u"Added Bobs search"_s); // nothing had to be typed
+    EXPECT_TRUE(program->records.IsSiteDataSaved());
+    browser().show(u"http://www.other.com/"_s);
     form().frame.sstSearch.setTab(Tab::Auto);
     dialogs.answer = UserDialogs::Answer::No;
     form().saved.cmdANSavedAdd.click();
     pump.doEvents();
+    EXPECT_EQ(form().frame.sstSearch.tab(), Tab::Auto);
+}
+
+TEST_F(SiteMenuTest, GoWithoutAPageTellsWhereTheSearchServicesAre)
+{
+    form().mbMainShown = true;
+    browser().show(u"about:blank"_s);
+    form().autoRun.cmdANStart.click();
+    pump.doEvents();
+    EXPECT_EQ(lastStatus(), u"No data saved for site"_s);
+    EXPECT_TRUE(dialogs.asked.isEmpty());
+    ASSERT_EQ(dialogs.told.size(), 1);
+    EXPECT_TRUE(dialogs.told[0].text.contains(u"right button on Go"_s));
     EXPECT_EQ(form().frame.sstSearch.tab(), Tab::Auto);
 }

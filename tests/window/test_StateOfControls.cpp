@@ -250,3 +250,28 @@ TEST_F(StatesTest, OneFileNeedsPagesSavedToFiles)
     apply();
     expect(false, {"chkSaveToFile", "chkSaveToSS", "chkPutInOneFile"});
 }
+
+TEST_F(StatesTest, EmptyListsTellTheNextStep)
+{
+    const auto texts = [this] {
+        apply();
+        const Criteria &criteria = form().criteria;
+        return QStringList{criteria.cboANMCMNCMask.emptyText(), criteria.mustContain.items.emptyText(),
+                           criteria.mustNotContain.items.emptyText()};
+    };
+    const QString save = u"Tick what to save from a page first"_s;
+    EXPECT_EQ(texts(), (QStringList{save, save, save}));
+    form().outputs.chkSaveEmail.setValue(1);
+    const QString contain = u"Tick Must contain to keep only pages that hold a text."_s;
+    const QString containNot = u"Tick Must not contain to rule pages out by a text."_s;
+    EXPECT_EQ(texts(), (QStringList{u"Tick Must contain or Must not contain"_s, contain, containNot}));
+    form().criteria.mustContain.on.setValue(1);
+    const QString choose = u"Choose a set above, or add one with +."_s;
+    EXPECT_EQ(texts(), (QStringList{u"No sets yet: + adds one"_s, choose, containNot}));
+    EXPECT_TRUE(form().criteria.cmdANMCMaskAdd.isEnabled()); // the step that is told can be taken
+    form().criteria.mustNotContain.on.setValue(1);
+    criteriaSet();
+    EXPECT_EQ(texts(), (QStringList{u"Choose a set"_s, u"Texts that a page must contain come here with +."_s,
+                                    u"Texts that rule a page out come here with +."_s}));
+    EXPECT_TRUE(form().criteria.mustContain.add.isEnabled());
+}

@@ -97,10 +97,12 @@ Bound Bindings::bind(ComboBox &control, DropDown &widget)
         widget.setCompleter(nullptr);
         widget.lineEdit()->setPlaceholderText(widget.placeholderText());
     }
+    const QString designed = widget.placeholderText();
     TextListModel &model = modelOf(widget);
     widget.setModel(&model);
-    const auto show = [&control, &widget, &model] {
+    const auto show = [&control, &widget, &model, designed] {
         model.setTexts(control.items());
+        widget.setPlaceholderText(control.emptyText().isEmpty() ? designed : control.emptyText());
         widget.setCurrentIndex(control.listIndex());
         if (widget.isEditable() && widget.currentText() != control.text())
             widget.setEditText(control.text());

@@ -10,7 +10,8 @@ namespace {
 class SelectionLink : public QObject
 {
   public:
-    SelectionLink(ListBox &control, ItemList &view) : QObject(&view), mControl(control), mView(view)
+    SelectionLink(ListBox &control, ItemList &view)
+        : QObject(&view), mControl(control), mView(view), mDesigned(view.emptyText())
     {
         mModel = new TextListModel(this);
         mView.setModel(mModel);
@@ -30,6 +31,7 @@ class SelectionLink : public QObject
         deliver();
         mShowing = true;
         mModel->setTexts(mControl.items());
+        mView.setEmptyText(mControl.emptyText().isEmpty() ? mDesigned : mControl.emptyText());
         showSelection();
         mShowing = false;
     }
@@ -75,6 +77,7 @@ class SelectionLink : public QObject
 
     ListBox &mControl;
     ItemList &mView;
+    QString mDesigned;
     TextListModel *mModel;
     bool mShowing = false, mPending = false;
 };

@@ -12,6 +12,8 @@ FigureLabel::FigureLabel(QWidget *parent) : QLabel(parent)
     QFont digits = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     digits.setPointSizeF(font().pointSizeF() * 0.9);
     setFont(digits);
+    setCursor(Qt::PointingHandCursor); // a press shows what it counts
+    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -23,7 +25,8 @@ QSize FigureLabel::minimumSizeHint() const
 void FigureLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(Shades::of(palette()).quiet);
+    const Shades shades = Shades::of(palette());
+    painter.setPen(hasFocus() ? shades.accent : shades.quiet);
     painter.setFont(font());
     painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, text());
 }

@@ -1,4 +1,4 @@
-// A figure in a narrow column: right-aligned, in the fixed font, quiet.
+// A figure in a narrow column: right-aligned, in the fixed font, quiet. It may be pressed.
 #pragma once
 
 #include <QLabel>

@@ -4,13 +4,14 @@
 
 #include "app/Context.h"
 #include "app/frmSearch.h"
+#include "driver/BrowserHolder.h"
 
 class SiteOffer : public QObject
 {
     Q_OBJECT
 
   public:
-    SiteOffer(const Context &context, frmSearch &form);
+    SiteOffer(const Context &context, frmSearch &form, BrowserHolder &browser);
 
   Q_SIGNALS:
     /// The editor is on show, and a record is to be begun for the page on show.
@@ -18,8 +19,10 @@ class SiteOffer : public QObject
 
   private:
     void offer();
+    [[nodiscard]] bool isPageOnShow();
 
     Context mContext;
     frmSearch &mForm;
+    BrowserHolder &mBrowser;
     bool mAsking = false;
 };

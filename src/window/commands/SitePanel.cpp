@@ -82,3 +82,12 @@ void SitePanel::takePage()
         mEditing.SetSDState(false);
     });
 }
+
+void SitePanel::beginRecord()
+{
+    takePage();
+    guarded(mContext.log, {module, "Sub beginRecord"_L1}, [&] {
+        mEditor.cboSD(1).setText(mEditor.cboSD(1).text().remove(u'\''));
+        mEditor.cboSD(2).setText(cIEText::GetServerFromUrl(mBrowser->GetSiteUrl(), cIEText::hostOnly));
+    });
+}

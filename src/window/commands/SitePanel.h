@@ -17,6 +17,8 @@ class SitePanel : public QObject
 
     /// Begins a record for the page on show: its title and its server stand in emptied boxes.
     void takePage();
+    /// The same with a name and a server that + takes as they stand.
+    void beginRecord();
 
   private:
     void cboSD_Click(int box);

@@ -19,7 +19,8 @@ std::vector<Control *> controlsOf(const frmSearch &form, QLatin1StringView names
 } // namespace
 
 StateOfControls::StateOfControls(ErrorReceiver &log, frmSearch &form)
-    : mLog(log), mForm(form), mResets(bind(resetRows())), mEnabling(bind(enablingRows())), mColours(bind(colourRows()))
+    : mLog(log), mForm(form), mResets(bind(resetRows())), mEnabling(bind(enablingRows())), mColours(bind(colourRows())),
+      mEmptyTexts(bind(emptyTextRows()))
 {
     for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly)) {
         if (isOffByDefault(control->name()))
@@ -50,6 +51,7 @@ void StateOfControls::SetStateOfControls()
         for (auto state = states.begin(); state != states.end(); ++state)
             state.key()->setEnabled(state.value());
         colour(facts);
+        tellNextStep(facts);
         if (facts.initialized && facts.onManual && facts.canBeginSeries())
             Q_EMIT seriesPositionAsked();
         if (facts.initialized && facts.onSites)
@@ -94,4 +96,17 @@ void StateOfControls::colour(const StateFacts &facts) const
                 control->setForeColor(*colour.row->fore);
         }
     }
+}
+
+void StateOfControls::tellNextStep(const StateFacts &facts) const
+{
+    QHash<Control *, QString> texts;
+    for (const Bound<EmptyTextRow> &row : mEmptyTexts) {
+        for (Control *list : row.controls) {
+            if (row.row->rule(facts))
+                texts.insert(list, row.row->text);
+        }
+    }
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        static_cast<ListControl *>(text.key())->setEmptyText(text.value());
 }

@@ -41,6 +41,7 @@ class StateOfControls : public QObject, public ControlStates
     void setBack();
     [[nodiscard]] Plan plan(const StateFacts &facts) const;
     void colour(const StateFacts &facts) const;
+    void tellNextStep(const StateFacts &facts) const;
 
     ErrorReceiver &mLog;
     frmSearch &mForm;
@@ -48,5 +49,6 @@ class StateOfControls : public QObject, public ControlStates
     std::vector<Bound<ResetRow>> mResets;
     std::vector<Bound<EnablingRow>> mEnabling;
     std::vector<Bound<ColourRow>> mColours;
+    std::vector<Bound<EmptyTextRow>> mEmptyTexts;
     bool mUnderWay = false;
 };

@@ -109,6 +109,20 @@ constexpr ColourRow colours[] = {
     {[](F f) { return f.initialized && f.autoRun; }, "lblTrawlexTimer"_L1, Colours::Red, Colours::White},
     {[](F f) { return onAuto(f) && f.idle; }, "lblUrlSaved lblSummarySaved lblEmailSaved lblPageSaved lblPhoneSaved lblMCColor lblMNCColor"_L1, Colours::ButtonFace, {}},
 };
+
+// Each says the step that comes next; the first step of all is the last row.
+constexpr EmptyTextRow emptyTexts[] = {
+    {always, "cboANSavedUrls"_L1, "+ keeps this page"_L1},
+    {always, "cboANMCMNCMask"_L1, "No sets yet: + adds one"_L1},
+    {[](F f) { return f.hasSets; }, "cboANMCMNCMask"_L1, "Choose a set"_L1},
+    {always, "lstANMC"_L1, "Texts that a page must contain come here with +."_L1},
+    {always, "lstANMNC"_L1, "Texts that rule a page out come here with +."_L1},
+    {[](F f) { return !f.setChosen; }, "lstANMC lstANMNC"_L1, "Choose a set above, or add one with +."_L1},
+    {[](F f) { return !f.mustContain; }, "lstANMC"_L1, "Tick Must contain to keep only pages that hold a text."_L1},
+    {[](F f) { return !f.mustNotContain; }, "lstANMNC"_L1, "Tick Must not contain to rule pages out by a text."_L1},
+    {[](F f) { return !usesCriteria(f); }, "cboANMCMNCMask"_L1, "Tick Must contain or Must not contain"_L1},
+    {[](F f) { return !f.hasOutput; }, "cboANMCMNCMask lstANMC lstANMNC"_L1, "Tick what to save from a page first"_L1},
+};
 // clang-format on
 
 /// The array's name of a member, else the name itself.
@@ -144,4 +158,9 @@ std::span<const EnablingRow> enablingRows()
 std::span<const ColourRow> colourRows()
 {
     return colours;
+}
+
+std::span<const EmptyTextRow> emptyTextRows()
+{
+    return emptyTexts;
 }

@@ -34,9 +34,18 @@ struct ColourRow
     std::optional<Colour> fore;
 };
 
+/// What lists say while they are empty. A later row whose rule holds wins over an earlier one.
+struct EmptyTextRow
+{
+    StateRule rule;
+    QLatin1StringView controls;
+    QLatin1StringView text;
+};
+
 /// Off unless a row that is in force turns it on. Any other control stays as it is where no row decides.
 [[nodiscard]] bool isOffByDefault(const QString &control);
 /// In the order in which one setting back leads to the next.
 [[nodiscard]] std::span<const ResetRow> resetRows();
 [[nodiscard]] std::span<const EnablingRow> enablingRows();
 [[nodiscard]] std::span<const ColourRow> colourRows();
+[[nodiscard]] std::span<const EmptyTextRow> emptyTextRows();
