@@ -163,11 +163,12 @@ void SavedUrls::AddSavedUrl(bool report, const QString &letter)
 
 void SavedUrls::refillBox()
 {
-    mSaved.cboANSavedUrls.clear();
+    QStringList names;
     for (const QString &element : std::as_const(mSaved.mastrSavedUrlIds)) {
         if (!element.isEmpty())
-            mSaved.cboANSavedUrls.addItem(nameOf(element).toString());
+            names.append(nameOf(element).toString());
     }
+    mSaved.cboANSavedUrls.setItems(names);
 }
 
 void SavedUrls::RemoveSavedUrl()

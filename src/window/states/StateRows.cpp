@@ -112,7 +112,7 @@ constexpr ColourRow colours[] = {
 
 // Each says the step that comes next; the first step of all is the last row.
 constexpr EmptyTextRow emptyTexts[] = {
-    {always, "cboANSavedUrls"_L1, "+ keeps this page"_L1},
+    {always, "cboANSavedUrls"_L1, "+ saves one"_L1},
     {always, "cboANMCMNCMask"_L1, "No sets yet: + adds one"_L1},
     {[](F f) { return f.hasSets; }, "cboANMCMNCMask"_L1, "Choose a set"_L1},
     {always, "lstANMC"_L1, "Texts that a page must contain come here with +."_L1},
