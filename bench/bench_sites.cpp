@@ -48,7 +48,7 @@ struct Desk
     {
         browsers.running = std::make_shared<FakeBrowser>(pump);
         program = std::make_unique<Program>(Program::Ports{
-            {pump, dialogs, desktop, clipboard, settings}, {place, menus, side}, browsers, folder.path()});
+            {pump, dialogs, desktop, clipboard, settings}, {place, menus, side, pictures}, browsers, folder.path()});
         if (!program->startUp.Form_Load())
             std::exit(1);
     }
@@ -70,6 +70,7 @@ struct Desk
     FakePlace place;
     FakeMenus menus;
     FakeSideWindows side;
+    FakePictures pictures;
     FakeFactory browsers{pump};
     std::unique_ptr<Program> program;
 };
