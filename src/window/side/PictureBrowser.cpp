@@ -150,7 +150,7 @@ void PictureBrowser::DeleteIt()
 /// What another program has taken away leaves the list.
 QString PictureBrowser::demandFile(int index)
 {
-    const QString path = mForm.picturePath(index);
+    QString path = mForm.picturePath(index);
     if (!QFileInfo(path).isFile()) {
         takeOff(index);
         throw RuntimeError(ErrorNumber::FileNotFound, u"File not found: "_s + path);

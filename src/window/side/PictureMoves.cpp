@@ -84,7 +84,7 @@ QString PictureMoves::copy(const QString &source, const QString &wanted)
     to.setFileTime(from.fileTime(QFile::FileModificationTime), QFile::FileModificationTime);
     if (!cUtility::flushToDisk(to))
         fail(wanted, to.errorString());
-    const QString path = vacantName(wanted);
+    QString path = vacantName(wanted);
     if (!to.rename(path))
         fail(path, to.errorString());
     to.setAutoRemove(false);
@@ -126,7 +126,7 @@ QString PictureMoves::toTrash(const QString &path)
 
 QString PictureMoves::fromTrash(const QString &inTrash, const QString &wanted)
 {
-    const QString path = move(inTrash, wanted);
+    QString path = move(inTrash, wanted);
     // What the desktop keeps about a file in the trash stands beside the folder of the files.
     const QFileInfo file(inTrash);
     QFile::remove(QDir(file.path()).filePath("../info/"_L1 + file.fileName() + ".trashinfo"_L1));
