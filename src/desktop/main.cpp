@@ -25,7 +25,6 @@
 #include "window/WindowPlaces.h"
 
 #include <QApplication>
-#include <QShortcut>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -39,8 +38,7 @@ void connectWindow(Program &program, MainWindow &window)
         QApplication::closeAllWindows();
         QApplication::quit();
     });
-    QObject::connect(new QShortcut(Qt::Key_Escape, &window), &QShortcut::activated, &program.longWork,
-                     &LongWork::cancel);
+    QObject::connect(&window, &MainWindow::cancelRequested, &program.longWork, &LongWork::cancel);
     QObject::connect(&program.runs, &Runs::progress, &window,
                      [&window](int number, int count) { window.setProgress(number - 1, count); });
     QObject::connect(&program.runs, &Runs::finalized, &window, [&window] { window.setProgress(0, 0); });

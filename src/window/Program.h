@@ -90,7 +90,6 @@ struct Program
     CriteriaSets criteria;
     Blocking blocking;
     LongWork longWork;
-    DeletedRows deletedRows;
     PageData pageData;
     PageFiles pageFiles;
     Findings findings;
@@ -117,7 +116,6 @@ struct Program
     ManualColours manualColours;
     RunEvents runEvents;
     SavedPanel savedPanel;
-    PassUrlsMenu passUrlsMenu;
     ListMenu listMenu;
     CriteriaPanel criteriaPanel;
     BlockingPanel blockingPanel;
@@ -129,6 +127,7 @@ struct Program
     SiteOffer siteOffer;
     SiteCount siteCount;
     ManualSide manual;
+    PassUrlsMenu passUrlsMenu;
     Transfers transfers;
     cInetWS inet;
     Downloads downloads;

@@ -139,6 +139,15 @@ TEST_F(MainWindows, AskForHelpWithF1)
     EXPECT_EQ(asked.times(), 1);
 }
 
+TEST_F(MainWindows, AskForTheEndOfALongCommandWithEscape)
+{
+    const Raised asked(window, &MainWindow::cancelRequested);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    widget<QWidget>("cmdANStart").setFocus();
+    QTest::keyClick(&widget<QWidget>("cmdANStart"), Qt::Key_Escape);
+    EXPECT_EQ(asked.times(), 2);
+}
+
 TEST_F(MainWindows, AreMovedByTheirTabStrip)
 {
     auto &tabs = widget<QTabBar>("sstSearch");

@@ -261,6 +261,14 @@ TEST_F(ManualCommandsTest, ASeriesComesBackWithTheProgramWhicheverTabIsOnShow)
     EXPECT_EQ(program->manual.desk.GetAutoIncrChecked(), 0) << "no such position";
 }
 
+TEST_F(ManualCommandsTest, NoCommandRunsInsideALongOneOfAnotherTab)
+{
+    const QStringList links{u"http://www.a.com/1"_s, u"http://www.a.com/2"_s};
+    fill(links);
+    EXPECT_TRUE(program->longWork.run(u"Importing"_s, [this] { click("mnuMNReduceToServer"_L1); }));
+    EXPECT_EQ(list().items(), links);
+}
+
 TEST_F(ManualCommandsTest, AnotherListIsShownWithItsAddressAndItsCount)
 {
     settings.preset("txtMNGenerateUrlC", u"www.c.com/1"_s);

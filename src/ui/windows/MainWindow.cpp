@@ -168,6 +168,7 @@ void MainWindow::addKeys()
         connect(new QShortcut(key, this), &QShortcut::activated, this, action);
     };
     onKey(Qt::Key_F1, [this] { Q_EMIT helpRequested(); });
+    onKey(Qt::Key_Escape, [this] { Q_EMIT cancelRequested(); });
     onKey(Qt::Key_F6, [this] { moveFocus(Step::Next); });
     onKey(Qt::SHIFT | Qt::Key_F6, [this] { moveFocus(Step::Previous); });
     for (int tab = 0; tab < mUi->sstSearch->count(); ++tab)

@@ -42,6 +42,8 @@ class MainWindow : public QWidget
     void closeRequested();
     void foldingChanged();
     void helpRequested();
+    /// The user wants the command that is under way to end.
+    void cancelRequested();
 
   protected:
     void showEvent(QShowEvent *event) override;
