@@ -131,6 +131,19 @@ TEST_F(CriteriaTest, RemovingASetMovesToTheOneBefore)
     EXPECT_EQ(rows(u"MNC"_s, u"MaskName"_s), (QStringList{u"One"_s, u"Three"_s}));
 }
 
+TEST_F(CriteriaTest, RemovingTheFirstOfTwoSetsLeavesTheOtherWithinReach)
+{
+    addSet(u"One"_s);
+    addSet(u"Two"_s);
+    ComboBox &masks = form().criteria.cboANMCMNCMask;
+    masks.setListIndex(0);
+    form().criteria.cmdANMCMaskMinus.click();
+    EXPECT_EQ(masks.items(), QStringList{u"Two"_s});
+    EXPECT_TRUE(masks.isEnabled());
+    masks.choose(0);
+    EXPECT_EQ(masks.text(), u"Two"_s);
+}
+
 TEST_F(CriteriaTest, RemovingTheOnlySetLeavesNothingChosen)
 {
     addSet(u"One"_s);
@@ -297,6 +310,22 @@ TEST_F(CriteriaTest, SelectKeepsWhatTheUserHasSelected)
     form().criteria.mustContain.demand.setListIndex(2);
     EXPECT_FALSE(form().criteria.mustContain.items.isSelected(0));
     EXPECT_TRUE(form().criteria.mustContain.items.isSelected(1));
+}
+
+TEST_F(CriteriaTest, SelectComesBackAsAllSinceASelectionIsNotKept)
+{
+    addSet(u"Tea"_s);
+    addItems(List::MustContain, {u"green"_s});
+    form().criteria.mustContain.demand.setListIndex(2);
+    statuses.clear();
+    restart();
+    EXPECT_EQ(form().criteria.cboANMCMNCMask.text(), u"Tea"_s);
+    EXPECT_EQ(form().criteria.mustContain.demand.listIndex(), 0);
+    EXPECT_FALSE(statuses.contains(u"MC Not selected"_s)) << "silent before the form is ready";
+    browser().pages[u"http://www.site1.com/"_s].html = u"<body>a page about coffee, of some length</body>"_s;
+    browser().show(u"http://www.site1.com/"_s);
+    PageReading page(program->browser);
+    EXPECT_FALSE(program->pageTests.IsMCGo(page));
 }
 
 TEST_F(CriteriaTest, TheListsTipIsItsOneSelectedItem)

@@ -190,6 +190,18 @@ TEST_F(ConnectionTest, ChoosingTheOtherBrowserConnectsItAndStoresTheChoice)
     EXPECT_EQ(settings.of("lstDCoTmr"), u"0"_s);
 }
 
+TEST_F(ConnectionTest, ChoosingTheBrowserThatIsChosenAlreadyConnectsItAgain)
+{
+    startWithoutBrowser();
+    EXPECT_FALSE(form().browser.mbInitialized);
+    browsers.running = std::make_shared<FakeBrowser>(pump);
+    statuses.clear();
+    form().browser.cboANWBSelect.choose(1);
+    EXPECT_EQ(statuses, (QStringList{u"Initializing browser"_s, u"Initialized"_s}));
+    EXPECT_TRUE(form().browser.mbInitialized);
+    EXPECT_TRUE(form().autoRun.cmdANStart.isEnabled());
+}
+
 TEST_F(ConnectionTest, AnotherChoiceWhileABrowserIsAwaitedReplacesTheAttempt)
 {
     browsers.internal = std::make_shared<FakeBrowser>(pump);
