@@ -86,8 +86,6 @@ class WindowPlace
     [[nodiscard]] virtual QRect screen() const = 0;
     virtual void putOnTop(bool onTop) = 0;
     virtual void minimize() = 0;
-    /// Pixels of the screen for each of ours.
-    [[nodiscard]] virtual double scale() const = 0;
 };
 
 /// Pop-up menus.

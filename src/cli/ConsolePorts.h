@@ -63,5 +63,4 @@ class NoWindow : public WindowPlace
     [[nodiscard]] QRect screen() const override { return {}; }
     void putOnTop(bool) override {}
     void minimize() override {}
-    [[nodiscard]] double scale() const override { return 1; }
 };

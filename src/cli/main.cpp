@@ -5,7 +5,7 @@
 #include "cli/ConsoleBrowsers.h"
 #include "cli/ConsolePorts.h"
 #include "cli/ControlSetter.h"
-#include "cli/DataCommands.h"
+#include "cli/DataWork.h"
 #include "cli/HarvestSettings.h"
 #include "cli/ListCommands.h"
 #include "cli/Outcome.h"

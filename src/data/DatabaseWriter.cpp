@@ -8,13 +8,13 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-struct TypeWord
+struct DeclaredType
 {
     int kind;
     const char *declared;
 };
-constexpr TypeWord typeWords[] = {{3, "INTEGER"},     {5, "DOUBLE"},     {7, "DATETIME"},
-                                  {130, "TEXT(255)"}, {203, "LONGTEXT"}, {205, "LONGBLOB"}};
+constexpr DeclaredType typeWords[] = {{3, "INTEGER"},     {5, "DOUBLE"},     {7, "DATETIME"},
+                                      {130, "TEXT(255)"}, {203, "LONGTEXT"}, {205, "LONGBLOB"}};
 
 std::string quoted(QString name)
 {
@@ -24,7 +24,7 @@ std::string quoted(QString name)
 std::string declared(const DataColumn &column)
 {
     const auto *const found = std::find_if(std::begin(typeWords), std::end(typeWords),
-                                           [&](const TypeWord &word) { return word.kind == column.kind; });
+                                           [&](const DeclaredType &word) { return word.kind == column.kind; });
     return quoted(column.name).append(" ").append(found == std::end(typeWords) ? "" : found->declared);
 }
 

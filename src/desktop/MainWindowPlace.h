@@ -40,7 +40,6 @@ class MainWindowPlace : public WindowPlace
         if (mWindow)
             mWindow->showMinimized();
     }
-    [[nodiscard]] double scale() const override { return mWindow ? mWindow->devicePixelRatioF() : 1; }
 
   private:
     MainWindow *mWindow = nullptr;

@@ -4,7 +4,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr int serversOnlyOption = 0;
 constexpr auto kind = Runs::Kind::Auto;
 const QString goCaption = u"Go"_s;
 } // namespace
@@ -40,7 +39,7 @@ void AutoRun::StartProcessAN()
 void AutoRun::run()
 {
     Walk walk;
-    walk.serversOnly = mOptions.chkSMA(serversOnlyOption).isOn();
+    walk.serversOnly = mOptions.chkSMA(SMA::ServersOnly).isOn();
     if (!mPages.begin(walk.serversOnly)) {
         mPanel.cmdANStart.setCaption(goCaption);
         return mContext.status.UpDateStatus(u"No data saved for site"_s);

@@ -6,7 +6,6 @@ using CollectState::Kind;
 namespace {
 constexpr auto module = "frmSearch"_L1;
 constexpr int listCount = 5;
-constexpr int faxOnlyOption = 6;
 } // namespace
 
 /// A menu of five lists and the kind of change that it makes.
@@ -128,5 +127,5 @@ void CollectChoice::ShowAutoCollectState()
     const CollectState::Targets lists = targets();
     mLabels.mbNavListCollecting =
         CollectState::isTarget(mLists.cboMNList.text(), lists) && mDesk.GetAutoIncrChecked() < 1;
-    mContext.status.UpDateStatus(CollectState::text(state(), lists, mOptions.chkSMD(faxOnlyOption).isOn()));
+    mContext.status.UpDateStatus(CollectState::text(state(), lists, mOptions.chkSMD(SMD::FaxOnly).isOn()));
 }

@@ -7,9 +7,8 @@
 #include "util/Text.h"
 
 namespace {
-constexpr int faxOnlyOption = 6;
 constexpr int shortestPage = 10;
-} // namespace
+}
 
 QStringList Findings::emails(PageReading &page) const
 {
@@ -33,5 +32,5 @@ QStringList Findings::phones(PageReading &page) const
 
 bool Findings::faxOnly() const
 {
-    return mOptions.chkSMD(faxOnlyOption).isOn();
+    return mOptions.chkSMD(SMD::FaxOnly).isOn();
 }

@@ -5,9 +5,8 @@
 #include "util/Text.h"
 
 namespace {
-constexpr int keepSeriesOption = 8;
 constexpr int itemOfList = 1;
-} // namespace
+}
 
 ManualWalk::ManualWalk(ManualPanel &panel, SeriesPanel &series, const OptionBoxes &options,
                        const CollectLabels &collecting, const ManualDesk &desk, AutoIncr &autoIncr,
@@ -67,7 +66,7 @@ void ManualWalk::select(qint64 place)
 
 void ManualWalk::keepSeries()
 {
-    if (mOptions.chkSMD(keepSeriesOption).value() == 1)
+    if (mOptions.chkSMD(SMD::SaveAutoTextOnStop).value() == 1)
         mAutoIncr.MaintainAutoIncr();
 }
 

@@ -5,7 +5,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int urlIfNoData = 7;
 constexpr int longestWait = 60;
 /// How many milliseconds another program's writing is waited for before it is told; input is not live meanwhile.
 constexpr int patienceAtFirst = 500;
@@ -82,7 +81,7 @@ StoreFault PageKeeping::write(PageReading &page, const KeepingOrder &order, Kept
     if (order.phone)
         kept.phone = mRows.SavePhone(page);
     const bool noData = kept.summary % 2 == 0 && !kept.file && !kept.email && !kept.phone;
-    if (order.url && (!mOptions.chkSMD(urlIfNoData).isOn() || noData))
+    if (order.url && (!mOptions.chkSMD(SMD::PassUrlIfNoData).isOn() || noData))
         kept.url = mRows.SavePassUrl(page);
     return StoreFault::None;
 }

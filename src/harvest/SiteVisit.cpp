@@ -2,10 +2,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int returnToStartOption = 2;
-}
-
 SiteVisit::SiteVisit(const Context &context, const OptionBoxes &options, Runs &runs, PageVisit &visit,
                      ErrorPages &errorPages, PageScreening &screening)
     : mContext(context), mOptions(options), mRuns(runs), mVisit(visit), mErrorPages(errorPages), mScreening(screening)
@@ -48,6 +44,6 @@ bool SiteVisit::show(const QString &url, qint64 seconds)
 
 void SiteVisit::returnTo(const QString &start)
 {
-    if (mOptions.chkSMA(returnToStartOption).value() == 1)
+    if (mOptions.chkSMA(SMA::ReturnToStart).value() == 1)
         mVisit.open(start);
 }

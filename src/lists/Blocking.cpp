@@ -1,5 +1,6 @@
 #include "lists/Blocking.h"
 
+#include "app/SettingKeys.h"
 #include "controls/cLstBx.h"
 #include "lists/BlockedRows.h"
 #include "lists/ChosenItem.h"
@@ -16,7 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr auto section = "SecFrmSearch"_L1;
 constexpr auto urlField = "UrlsContent"_L1;
 constexpr auto emailField = "EmailContent"_L1;
 constexpr cIEText::ServerParts nameAlone{false, false, false};
@@ -33,6 +33,7 @@ struct Blocking::Row
     QLatin1StringView field, otherField;
     ListBox &list;
     CheckBox &box;
+    QLatin1StringView boxKey; ///< of the option that the box is
     QLatin1StringView title;
     QLatin1StringView adding, removing;
 };
@@ -44,6 +45,7 @@ Blocking::Row Blocking::row(Kind kind) const
                 emailField,
                 mLists.urls.items,
                 mLists.urls.on,
+                Keys::UrlBlocking,
                 "Urls Must Not contain"_L1,
                 "Sub AddBlockedUrl"_L1,
                 "Sub RemoveBlockedUrl"_L1};
@@ -51,6 +53,7 @@ Blocking::Row Blocking::row(Kind kind) const
             urlField,
             mLists.email.items,
             mLists.email.on,
+            Keys::EmailBlocking,
             "Emails Must Not contain"_L1,
             "Sub AddBlockedEC"_L1,
             "Sub RemoveBlockedEC"_L1};
@@ -108,7 +111,7 @@ void Blocking::addNew(const Row &row, const QStringList &items)
     if (row.list.listCount() == 0)
         return;
     row.list.setListIndex(0);
-    row.box.setValue(mContext.settings.GetSetting(section, row.box.name(), u"0"_s).toInt());
+    row.box.setValue(mContext.settings.GetSetting(Sections::Main, row.boxKey, u"0"_s).toInt());
 }
 
 void Blocking::add(Kind kind, const QString &item)

@@ -12,25 +12,25 @@ namespace {
 constexpr auto cache = "UrlsCache"_L1;
 
 /// Which of its own values a row of a family keeps.
-struct Family
+struct KeptFields
 {
     QLatin1StringView name;
     bool date, index, maskName;
 };
-constexpr Family families[] = {
+constexpr KeptFields families[] = {
     {"RPgUrls"_L1, true, false, true}, {"PassUrls"_L1, true, true, true}, {"MNUrls"_L1, false, false, false}};
 
-const Family &familyOf(const QString &table)
+const KeptFields &familyOf(const QString &table)
 {
     const auto found = std::find_if(std::begin(families), std::end(families),
-                                    [&](const Family &family) { return table.chopped(1) == family.name; });
+                                    [&](const KeptFields &family) { return table.chopped(1) == family.name; });
     return found == std::end(families) ? families[2] : *found;
 }
 } // namespace
 
 QList<QStringList> DeletedRows::records(const QString &table)
 {
-    const Family &family = familyOf(table);
+    const KeptFields &family = familyOf(table);
     const QString now = QDateTime::currentDateTime().toString(Qt::ISODate);
     QList<QStringList> found;
     Recordset rows = mDatabase->GetRecordset("SELECT * FROM "_L1 + table);

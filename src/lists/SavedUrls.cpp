@@ -1,5 +1,6 @@
 #include "lists/SavedUrls.h"
 
+#include "app/SettingKeys.h"
 #include "store/FixNull.h"
 #include "store/Schema.h"
 #include "util/Arrays.h"
@@ -12,11 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr auto section = "SecFrmSearch"_L1;
 constexpr auto lineEnd = "\r\n"_L1;
-constexpr int openNextOnDelete = 4;
-constexpr int incrementPassUrl = 5;
-constexpr int incrementSavedUrl = 6;
 
 struct KindRow
 {
@@ -200,7 +197,7 @@ void SavedUrls::RemoveSavedUrl()
             mSaved.chkUseSavedUrls.setValue(0);
         }
         mContext.status.UpDateStatus(QString::number(count) + row(kind).label);
-        if (count > 0 && kind == Kind::PassUrl && mOptions.chkSMA(openNextOnDelete).value() == 1)
+        if (count > 0 && kind == Kind::PassUrl && mOptions.chkSMA(SMA::OpenNextOnDelete).value() == 1)
             cmdANSavedGo_Click();
     });
     mContext.states.SetStateOfControls();
@@ -217,28 +214,34 @@ void SavedUrls::cmdANSavedGo_Click()
             return;
         Q_EMIT opening();
         mNavigation.OpenSite(url);
-        const int option = mSaved.mbPassUrlsLoaded ? incrementPassUrl : incrementSavedUrl;
+        const int option = mSaved.mbPassUrlsLoaded ? SMA::IncrementPassUrl : SMA::IncrementSavedUrl;
         if (mOptions.chkSMA(option).value() == 1 && index + 1 < mSaved.cboANSavedUrls.listCount())
             mSaved.cboANSavedUrls.setListIndex(index + 1);
     });
 }
 
+/// Each list has a position of its own.
+QString SavedUrls::positionKey() const
+{
+    return Keys::SavedUrlPos + mSaved.cboANList.text();
+}
+
 void SavedUrls::SaveSavedUrlPos()
 {
     if (const int index = mSaved.cboANSavedUrls.listIndex(); index >= 0)
-        mContext.settings.SaveSetting(section, "ANListIndex"_L1 + mSaved.cboANList.text(), QString::number(index));
+        mContext.settings.SaveSetting(Sections::Main, positionKey(), QString::number(index));
 }
 
 void SavedUrls::SetSavedUrlPos()
 {
-    const int index = mContext.settings.GetSetting(section, "ANListIndex"_L1 + mSaved.cboANList.text(), u"0"_s).toInt();
+    const int index = mContext.settings.GetSetting(Sections::Main, positionKey(), u"0"_s).toInt();
     if (index >= 0 && index < mSaved.cboANSavedUrls.listCount())
         mSaved.cboANSavedUrls.setListIndex(index);
 }
 
 void SavedUrls::ResetSavedUrlPos()
 {
-    mContext.settings.SaveSetting(section, "ANListIndex"_L1 + mSaved.cboANList.text(), u"0"_s);
+    mContext.settings.SaveSetting(Sections::Main, positionKey(), u"0"_s);
 }
 
 QString SavedUrls::chosenAddress()

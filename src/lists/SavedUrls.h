@@ -54,6 +54,7 @@ class SavedUrls : public QObject
 
   private:
     void refillBox();
+    [[nodiscard]] QString positionKey() const;
 
     Context mContext;
     SavedAddresses &mSaved;

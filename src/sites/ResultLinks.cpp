@@ -9,9 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-constexpr int convertHexOption = 1;
-constexpr int uniqueServersOption = 9;
-} // namespace
+}
 
 QStringList ResultLinks::GetLinks()
 {
@@ -27,7 +25,7 @@ QStringList ResultLinks::GetLinks()
             if (QStringList kept = (this->*stage)(links, site); !firstOf(kept).isEmpty())
                 links = std::move(kept);
         }
-        if (mOptions.chkSMA(uniqueServersOption).value() == 1)
+        if (mOptions.chkSMA(SMA::UniqueServers).value() == 1)
             links = cIEText::GetUniqueServers(links);
         links = cUtility::RemoveRepeatsFromArray(links);
         if (mBlocked.on.value() == 1)
@@ -47,7 +45,7 @@ QStringList ResultLinks::SDProcessCnvHex(const QStringList &links, const QString
 {
     return guardedResult(mLog, {module, "Function SDProcessCnvHex"_L1}, emptyList(), [&](QStringList &kept) {
         const bool active = firstOf(mRecords.GetSearchSiteData(site, SiteField::CnvHex)) == "1"_L1 ||
-                            mOptions.chkSMA(convertHexOption).value() == 1;
+                            mOptions.chkSMA(SMA::ConvertHex).value() == 1;
         kept = active ? LinkStages::cnvHex(links) : links;
     });
 }

@@ -1,7 +1,7 @@
 #include "transfer/CurlMulti.h"
 
 #include "transfer/Exchange.h"
-#include "transfer/Platform.h"
+#include "transfer/Sockets.h"
 
 #include <QScopeGuard>
 #include <algorithm>
@@ -136,7 +136,7 @@ int CurlMulti::closeSocket(void *self, curl_socket_t socket)
             exchange->note(state);
     };
     tellAll(InetState::Disconnecting);
-    const int status = Platform::closeSocket(socket);
+    const int status = Sockets::close(socket);
     tellAll(InetState::Disconnected);
     return status;
 }

@@ -8,7 +8,7 @@ DataSide::DataSide(const Context &context, frmSearch &form, DatabaseHolder &data
                    LongWork &work, ClipboardText &clipboard, PopUpMenus &menus)
     : view(context, form.data, form.lists.cboMNList, form.saved.cboANList, database),
       card(context.log, form.data, database),
-      exports(context, form.data, form.places, form.options.chkSMD(0), database, navigation, work),
+      exports(context, form.data, form.places, form.options.chkSMD(SMD::OpenExports), database, navigation, work),
       imports(context.log, database, work),
       window(context, form.browser, gridForm, database, navigation, clipboard, menus),
       commands(context, form.browser, form.data, form.menus.mnuPopUpDB, view, database, clipboard),

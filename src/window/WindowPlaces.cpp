@@ -50,7 +50,7 @@ QSize storedSize(const SettingsStore &settings, const QString &name, QSize byDef
 
 bool hasStoredPlace(const SettingsStore &settings, const QString &name)
 {
-    return !settings.GetSetting(name, u"NSWE_L"_s).isEmpty();
+    return !settings.GetSetting(name, Keys::Left).isEmpty();
 }
 
 void saveOnTop(SettingsStore &settings, const QString &name, bool onTop)

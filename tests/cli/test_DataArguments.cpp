@@ -1,6 +1,6 @@
 // Exports and imports on the command line: what is understood, and what is refused with one clear line.
 #include "cli/Arguments.h"
-#include "cli/DataCommands.h"
+#include "cli/DataWork.h"
 #include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;

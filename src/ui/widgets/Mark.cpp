@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-struct Outcome
+struct Report
 {
     Colour colour;
     Drawing::Sign sign;
@@ -16,7 +16,7 @@ struct Outcome
 };
 
 /// The first stands for any colour that is not told.
-constexpr std::array<Outcome, 5> outcomes{{
+constexpr std::array<Report, 5> reports{{
     {Colours::ButtonFace, Drawing::Sign::Dash, "nothing to report"_L1},
     {Colours::Green, Drawing::Sign::Tick, "yes"_L1},
     {Colours::Red, Drawing::Sign::Cross, "no"_L1},
@@ -24,11 +24,11 @@ constexpr std::array<Outcome, 5> outcomes{{
     {Colours::Blue, Drawing::Sign::Square, "stopped"_L1},
 }};
 
-const Outcome &outcomeOf(Colour colour)
+const Report &reportOf(Colour colour)
 {
-    const auto *const found = std::find_if(outcomes.begin(), outcomes.end(),
-                                           [colour](const Outcome &outcome) { return outcome.colour == colour; });
-    return found == outcomes.end() ? outcomes.front() : *found;
+    const auto *const found = std::find_if(reports.begin(), reports.end(),
+                                           [colour](const Report &report) { return report.colour == colour; });
+    return found == reports.end() ? reports.front() : *found;
 }
 } // namespace
 
@@ -41,12 +41,12 @@ void Mark::setColour(Colour colour)
 
 Drawing::Sign Mark::sign() const
 {
-    return outcomeOf(mColour).sign;
+    return reportOf(mColour).sign;
 }
 
 QString Mark::meaning() const
 {
-    return outcomeOf(mColour).meaning;
+    return reportOf(mColour).meaning;
 }
 
 QColor Mark::fill() const

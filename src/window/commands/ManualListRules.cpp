@@ -5,14 +5,6 @@ using namespace Qt::StringLiterals;
 namespace {
 using F = const ManualListFacts &;
 
-constexpr bool always(F)
-{
-    return true;
-}
-constexpr bool never(F)
-{
-    return false;
-}
 constexpr bool isEmpty(F f)
 {
     return f.items == 0;

@@ -5,14 +5,6 @@ using namespace Qt::StringLiterals;
 namespace {
 using F = const ManualStatusFacts &;
 
-constexpr bool always(F)
-{
-    return true;
-}
-constexpr bool never(F)
-{
-    return false;
-}
 constexpr bool isIdle(F f)
 {
     return f.idle;

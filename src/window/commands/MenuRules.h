@@ -15,6 +15,16 @@ template <class Facts> struct MenuRule
     Test enabled;
 };
 
+/// The tests of rows that are in force, or enable, whatever the facts.
+template <class Facts> constexpr bool always(const Facts &)
+{
+    return true;
+}
+template <class Facts> constexpr bool never(const Facts &)
+{
+    return false;
+}
+
 template <class Facts> void applyRules(const Menu &menu, std::span<const MenuRule<Facts>> rules, const Facts &facts)
 {
     for (const MenuRule<Facts> &rule : rules) {

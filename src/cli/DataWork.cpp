@@ -1,4 +1,4 @@
-#include "cli/DataCommands.h"
+#include "cli/DataWork.h"
 
 #include "cli/ConsolePorts.h"
 
