@@ -1,7 +1,7 @@
-// Counts how often a control raises an event, and tells which error a call raises.
+// Counts how often a control raises an event.
 #pragma once
 
-#include "util/Errors.h"
+#include "support/ErrorOf.h"
 
 #include <QObject>
 
@@ -21,14 +21,3 @@ template <class Sender, class Signal> class SignalCount
     int mCount = 0;
     QMetaObject::Connection mConnection;
 };
-
-/// The number of the error that `body` raises; 0 if it raises none.
-template <class Body> qint64 errorOf(Body &&body)
-{
-    try {
-        body();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}

@@ -220,7 +220,7 @@ TEST_F(ExportsTest, AFullDiskLeavesNoFileInAnyForm)
     ASSERT_TRUE(many.commit());
     for (const ExportKind &kind : ExportKinds::all) {
         {
-            const SmallFiles full(4096);
+            const FullDisk full(4096);
             EXPECT_FALSE(exportAs(kind, u"out"_s)) << kind.word.data();
         }
         EXPECT_TRUE(files().isEmpty()) << kind.word.data() << ": " << qPrintable(files().join(u' '));
@@ -273,7 +273,7 @@ TEST_F(ExportsTest, AReplacementThatFailsGivesTheOldFileBack)
     Recordset rows = database->GetRecordset(u"SELECT Address FROM EmailAddress"_s);
     dialogs.answer = UserDialogs::Answer::Yes;
     {
-        const SmallFiles full(0);
+        const FullDisk full(0);
         exports.ExportRsToFile(rows, 1, pathOf(u"rs"_s));
     }
     EXPECT_EQ(bytes(pathOf(u"rs"_s)), "mine");

@@ -300,7 +300,7 @@ TEST_F(ImportsTest, AFullDiskIsAMessageAndNothingIsImported)
         addRow(*other, u"SiteSummary"_s, {{u"Url"_s, QString::number(i)}, {u"FullPage"_s, QString(5000, u'x')}});
     QString told;
     {
-        const SmallFiles full(400'000);
+        const FullDisk full(400'000);
         told = imports.ImportAllData(otherPath());
     }
     EXPECT_TRUE(told.startsWith(u"Nothing imported"_s)) << qPrintable(told);

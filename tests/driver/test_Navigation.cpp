@@ -1,8 +1,5 @@
 // The one gate through which every run navigates.
-#include "app/frmSearch.h"
-#include "driver/Navigation.h"
-#include "support/FakeBrowser.h"
-#include "support/Fakes.h"
+#include "support/FormFixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,37 +7,7 @@ namespace {
 constexpr int internalMode = 0;
 constexpr int freeStandingMode = 1;
 
-class NavigationTest : public testing::Test
-{
-  protected:
-    NavigationTest()
-    {
-        holder.set(std::make_unique<cIEObject>(log, desktop, clipboard, browsers));
-        holder->InitializeObject(browser);
-        QObject::connect(&status, &StatusLine::told, &status, [this](const QString &text) { told.append(text); });
-    }
-    ~NavigationTest() override
-    {
-        holder.release();
-        pump.doEvents();
-    }
-
-    RecordingLog log;
-    FakePump pump;
-    FakeDesktop desktop;
-    FakeClipboard clipboard;
-    FakeFactory browsers{pump};
-    std::shared_ptr<FakeBrowser> browser = std::make_shared<FakeBrowser>(pump);
-    BrowserHolder holder;
-    frmSearch form;
-    Tips tips{form.options.chkSMV(0)};
-    StatusLine status{form.frame.picStatus, tips};
-    CountingStates states;
-    FakeDialogs dialogs;
-    MemorySettings settings;
-    Navigation navigation{{log, status, states, dialogs, settings, tips}, form.browser, holder};
-    QStringList told;
-};
+using NavigationTest = FormTest;
 
 struct OpenCase
 {
@@ -65,8 +32,8 @@ TEST_P(Opening, IsIssuedOrRefusedWithAStatus)
     const OpenCase &row = GetParam();
     form.browser.cboANWBSelect.setListIndex(row.mode);
     EXPECT_EQ(navigation.OpenSite(row.url), !row.navigated.isEmpty());
-    EXPECT_EQ(browser->navigated, row.navigated.isEmpty() ? QStringList() : QStringList{row.navigated});
-    EXPECT_EQ(told, row.navigated.isEmpty() ? QStringList{u"Invalid url "_s + row.url} : QStringList());
+    EXPECT_EQ(window().navigated, row.navigated.isEmpty() ? QStringList() : QStringList{row.navigated});
+    EXPECT_EQ(statuses, row.navigated.isEmpty() ? QStringList{u"Invalid url "_s + row.url} : QStringList());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -87,16 +54,16 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(NavigationTest, ReturnsBeforeThePageIsThere)
 {
-    browser->pages[u"http://www.tea.com/"_s].loadTime = 60'000;
+    window().pages[u"http://www.tea.com/"_s].loadTime = 60'000;
     const qint64 start = pump.tickCount();
     EXPECT_TRUE(navigation.OpenSite(u"http://www.tea.com/"_s));
     EXPECT_EQ(pump.tickCount(), start);
-    EXPECT_TRUE(holder->isLoading());
+    EXPECT_TRUE(browser->isLoading());
 }
 
 TEST_F(NavigationTest, WithoutADriverItIsAnErrorInTheLogAndFalse)
 {
-    holder.release();
+    browser.release();
     EXPECT_FALSE(navigation.OpenSite(u"http://www.tea.com/"_s));
     EXPECT_EQ(log.locations(), QStringList{u"Function OpenSite"_s});
 }

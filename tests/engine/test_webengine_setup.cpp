@@ -3,6 +3,7 @@
 #include "engine/BrowserSwitches.h"
 #include "engine/Platform.h"
 #include "engine/webengine/WebEngineSetup.h"
+#include "support/EnvironmentVariable.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -10,25 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Sets a variable of the environment for one test.
-class Variable
-{
-  public:
-    Variable(const char *name, const QByteArray &value) : mName(name), mBefore(qgetenv(name)) { qputenv(name, value); }
-    ~Variable()
-    {
-        if (mBefore.isNull())
-            qunsetenv(mName);
-        else
-            qputenv(mName, mBefore);
-    }
-    Q_DISABLE_COPY_MOVE(Variable)
-
-  private:
-    const char *mName;
-    QByteArray mBefore;
-};
 
 constexpr const char *mappedVariable = "TRAWLEX_TEST_MAPPED";
 
@@ -72,16 +54,17 @@ TEST(WebEngineSwitches, LaterSwitchesStandBehindOurOwnAndListsAreJoined)
 
 TEST(WebEngineSwitches, TheVariableComesBeforeTheCommandLine)
 {
-    const Variable variable("TRAWLEX_BROWSER_ARGS", "--a  --rules=\"MAP * 127.0.0.1:80\" \"--b=x y\"");
+    const EnvironmentVariable variable("TRAWLEX_BROWSER_ARGS", "--a  --rules=\"MAP * 127.0.0.1:80\" \"--b=x y\"");
     EXPECT_EQ(BrowserSwitches::ofUser({u"--c"_s}),
               (QStringList{u"--a"_s, u"--rules=MAP * 127.0.0.1:80"_s, u"--b=x y"_s, u"--c"_s}));
 }
 
 TEST(WebEngineSwitches, PreparingJoinsWhatStandsAndTheUsersSwitchesInThatOrder)
 {
-    const Variable standing("QTWEBENGINE_CHROMIUM_FLAGS", "--stands \"--with=a blank\" --disable-features=Standing");
-    const Variable sandbox("QTWEBENGINE_DISABLE_SANDBOX", qgetenv("QTWEBENGINE_DISABLE_SANDBOX"));
-    const Variable platform("QT_QPA_PLATFORM", "offscreen");
+    const EnvironmentVariable standing("QTWEBENGINE_CHROMIUM_FLAGS",
+                                       "--stands \"--with=a blank\" --disable-features=Standing");
+    const EnvironmentVariable sandbox("QTWEBENGINE_DISABLE_SANDBOX", qgetenv("QTWEBENGINE_DISABLE_SANDBOX"));
+    const EnvironmentVariable platform("QT_QPA_PLATFORM", "offscreen");
     const WebEnginePreparation prepared =
         prepareWebEngine({u"--disable-features=Users"_s, u"--host-resolver-rules=MAP * 127.0.0.1:80"_s});
     EXPECT_TRUE(prepared.switches.contains(u"--disable-gpu"_s)); // no display, so nothing to draw with

@@ -1,22 +1,12 @@
 // The walk of an Auto run over the links of one result page: order, pace, statuses, stops, and where Go resumes.
-#include "support/ProgramFixture.h"
+#include "WalkFixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr qint64 second = 1000;
 
-class AutoRunTest : public RunTest
-{
-  protected:
-    QStringList site(std::initializer_list<int> numbers) const
-    {
-        QStringList all;
-        for (const int number : numbers)
-            all.append(u"http://www.site%1.com/"_s.arg(number));
-        return all;
-    }
-};
+using AutoRunTest = WalkTest;
 } // namespace
 
 TEST_F(AutoRunTest, VisitsEveryLinkInOrderAtThePaceOfTheCountdown)
@@ -24,47 +14,33 @@ TEST_F(AutoRunTest, VisitsEveryLinkInOrderAtThePaceOfTheCountdown)
     showResults(makeSites(3));
     const qint64 start = pump.seconds();
     clickStart();
-    EXPECT_EQ(browser().navigated, site({1, 2, 3}));
+    EXPECT_EQ(window().navigated, site({1, 2, 3}));
     EXPECT_EQ(pump.seconds() - start, 15);
     EXPECT_EQ(statuses, (QStringList{u"1/3 http://www.site1.com/"_s, u"2/3 http://www.site2.com/"_s,
                                      u"3/3 http://www.site3.com/"_s, u"Stopped (FINISHED)"_s}));
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
-    EXPECT_EQ(form().autoRun.cmdANStart.caption(), u"Go"_s);
-    EXPECT_FALSE(form().runs.mbANRunning);
-    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(form.autoRun.mlngANLinkIndex, 0);
+    EXPECT_EQ(form.autoRun.cmdANStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form.runs.mbANRunning);
+    EXPECT_EQ(ended, 1);
 }
 
 TEST_F(AutoRunTest, SleepsBetweenTheSecondsOfAWait)
 {
-    form().autoRun.incANTiming.setText(u"030"_s);
+    form.autoRun.incANTiming.setText(u"030"_s);
     showResults(makeSites(1));
     clickStart();
     EXPECT_LE(pump.waits, 40);
 }
 
-TEST_F(AutoRunTest, TheTimerCountsUpAndKeepsItsLastValue)
-{
-    showResults(makeSites(1));
-    QStringList shown;
-    QObject::connect(&form().browser.lblTrawlexTimer, &Control::changed, &form(), [&] {
-        if (shown.isEmpty() || shown.constLast() != form().browser.lblTrawlexTimer.caption())
-            shown.append(form().browser.lblTrawlexTimer.caption());
-    });
-    clickStart();
-    EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"5"_s);
-    for (const auto *number : {"1", "2", "3", "4", "5"})
-        EXPECT_TRUE(shown.contains(QLatin1StringView(number))) << number;
-}
-
 TEST_F(AutoRunTest, WithoutARecordOfTheSiteNoRunTakesPlace)
 {
-    browser().pages[u"http://www.other.com/"_s].links = makeSites(2);
-    browser().show(u"http://www.other.com/"_s);
+    window().pages[u"http://www.other.com/"_s].links = makeSites(2);
+    window().show(u"http://www.other.com/"_s);
     clickStart();
     EXPECT_EQ(statuses, QStringList{u"No data saved for site"_s});
-    EXPECT_EQ(runs, 0);
-    EXPECT_EQ(form().autoRun.cmdANStart.caption(), u"Go"_s);
-    EXPECT_TRUE(browser().navigated.isEmpty());
+    EXPECT_EQ(ended, 0);
+    EXPECT_EQ(form.autoRun.cmdANStart.caption(), u"Go"_s);
+    EXPECT_TRUE(window().navigated.isEmpty());
 }
 
 TEST_F(AutoRunTest, APageWithoutLinksIsFinishedAtOnce)
@@ -74,19 +50,26 @@ TEST_F(AutoRunTest, APageWithoutLinksIsFinishedAtOnce)
     EXPECT_EQ(statuses, QStringList{u"Stopped (FINISHED)"_s});
 }
 
-TEST_F(AutoRunTest, WhileItRunsTheButtonSaysXAndTheTimerIsRed)
+TEST_F(AutoRunTest, EachSecondOfAWaitIsTold)
 {
     showResults(makeSites(1));
-    QString caption;
-    Colour colour = 0;
-    pump.after(second, [&] {
-        caption = form().autoRun.cmdANStart.caption();
-        colour = form().browser.lblTrawlexTimer.backColor();
-    });
+    QList<qint64> told;
+    QObject::connect(&timer, &cTimer::TimeCount, &form, [&](qint64 count) { told.append(count); });
     clickStart();
-    EXPECT_EQ(caption, u"X"_s);
-    EXPECT_EQ(colour, Colours::Red);
-    EXPECT_EQ(form().browser.lblTrawlexTimer.backColor(), Colours::ButtonFace);
+    EXPECT_EQ(told, (QList<qint64>{1, 2, 3, 4, 5}));
+}
+
+TEST_F(AutoRunTest, AWaitThatIsEndedHasItsPageScreenedAtOnceAndTheRunGoesOn)
+{
+    form.outputs.chkSaveSummary.setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
+    showResults(makeSites(2));
+    pump.after(2 * second, [&] { runs.endWait(); });
+    const qint64 start = pump.seconds();
+    clickStart();
+    EXPECT_EQ(pump.seconds() - start, 2 + 5);
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({1, 2}));
+    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
 }
 
 TEST_F(AutoRunTest, XStopsInTheMiddleOfAWaitAndGoOpensTheSameLinkAgain)
@@ -97,18 +80,18 @@ TEST_F(AutoRunTest, XStopsInTheMiddleOfAWaitAndGoOpensTheSameLinkAgain)
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
     EXPECT_EQ(pump.seconds() - start, 7);
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
-    EXPECT_EQ(form().browser.lblTrawlexTimer.caption(), u"0"_s);
-    browser().navigated.clear();
+    EXPECT_EQ(form.autoRun.mlngANLinkIndex, 1);
+    EXPECT_EQ(form.browser.lblTrawlexTimer.caption(), u"0"_s);
+    window().navigated.clear();
     clickStart();
-    EXPECT_EQ(browser().navigated, site({2, 3, 4}));
+    EXPECT_EQ(window().navigated, site({2, 3, 4}));
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
 }
 
 TEST_F(AutoRunTest, ThePageThatWasWaitedForWhenXCameIsNotScreened)
 {
-    form().outputs.chkSaveSummary.setValue(1);
-    form().options.chkSMD(1).setValue(0);
+    form.outputs.chkSaveSummary.setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
     showResults(makeSites(2));
     pump.after(7 * second, [&] { clickStart(); });
     clickStart();
@@ -119,57 +102,35 @@ TEST_F(AutoRunTest, GoAfterFinishedTakesTheLinksOfThePageOnShowAfresh)
 {
     showResults(makeSites(2));
     clickStart();
-    browser().pages[u"http://www.seek.com/more"_s].links = site({2});
-    browser().show(u"http://www.seek.com/more"_s);
-    browser().navigated.clear();
+    window().pages[u"http://www.seek.com/more"_s].links = site({2});
+    window().show(u"http://www.seek.com/more"_s);
+    window().navigated.clear();
     clickStart();
-    EXPECT_EQ(browser().navigated, site({2}));
-}
-
-TEST_F(AutoRunTest, ALeftClickOnTheTimerScreensThePageAtOnceAndTheRunGoesOn)
-{
-    form().outputs.chkSaveSummary.setValue(1);
-    form().options.chkSMD(1).setValue(0);
-    showResults(makeSites(2));
-    pump.after(2 * second, [&] { form().browser.lblTrawlexTimer.mouseDown(MouseButton::Left); });
-    const qint64 start = pump.seconds();
-    clickStart();
-    EXPECT_EQ(pump.seconds() - start, 2 + 5);
-    EXPECT_EQ(rows(u"SiteSummary"_s), site({1, 2}));
-    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-}
-
-TEST_F(AutoRunTest, ARightClickOnTheTimerDoesNotEndTheWait)
-{
-    showResults(makeSites(1));
-    pump.after(2 * second, [&] { form().browser.lblTrawlexTimer.mouseDown(MouseButton::Right); });
-    const qint64 start = pump.seconds();
-    clickStart();
-    EXPECT_EQ(pump.seconds() - start, 5);
+    EXPECT_EQ(window().navigated, site({2}));
 }
 
 TEST_F(AutoRunTest, ATimeOfZeroDoesNotTakeThePageThatStandsThereForTheOneAskedFor)
 {
-    form().autoRun.incANTiming.setText(u"0"_s);
-    form().outputs.chkSaveSummary.setValue(1);
-    form().options.chkSMD(1).setValue(0);
+    form.autoRun.incANTiming.setText(u"0"_s);
+    form.outputs.chkSaveSummary.setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
     const QStringList links = makeSites(2);
     for (const QString &link : links)
-        browser().pages[link].loadTime = 10 * second;
+        window().pages[link].loadTime = 10 * second;
     showResults(links);
     const qint64 start = pump.tickCount();
     clickStart();
     EXPECT_EQ(pump.tickCount(), start);
-    EXPECT_EQ(browser().navigated, links);
+    EXPECT_EQ(window().navigated, links);
     EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
 }
 
 TEST_F(AutoRunTest, APageThatIsSlowerThanTheCountdownIsScreenedAsItStands)
 {
-    form().outputs.chkSaveSummary.setValue(1);
-    form().options.chkSMD(1).setValue(0);
+    form.outputs.chkSaveSummary.setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
     const QStringList links = makeSites(2);
-    browser().pages[links[1]].loadTime = 60 * second;
+    window().pages[links[1]].loadTime = 60 * second;
     showResults(links);
     clickStart();
     EXPECT_EQ(rows(u"SiteSummary"_s), site({1})); // the first page stood there at both times
@@ -181,7 +142,7 @@ TEST_F(AutoRunTest, WhatIsNoLinkIsPassedOverWithAStatusAndWithoutAWait)
     showResults({u"javascript:void(0)"_s, u"http://www.site1.com/"_s});
     const qint64 start = pump.seconds();
     clickStart();
-    EXPECT_EQ(browser().navigated, site({1}));
+    EXPECT_EQ(window().navigated, site({1}));
     EXPECT_EQ(pump.seconds() - start, 5);
     EXPECT_TRUE(statuses.contains(u"Invalid url javascript:void(0)"_s));
     EXPECT_EQ(visited, site({1}));
@@ -189,11 +150,11 @@ TEST_F(AutoRunTest, WhatIsNoLinkIsPassedOverWithAStatusAndWithoutAWait)
 
 TEST_F(AutoRunTest, QuickBlockedLinksArePassedOverWithoutStatusAndWait)
 {
-    form().blocking.mastrQB = {u"SITE2"_s, u"site3."_s};
+    form.blocking.mastrQB = {u"SITE2"_s, u"site3."_s};
     showResults(makeSites(4));
     const qint64 start = pump.seconds();
     clickStart();
-    EXPECT_EQ(browser().navigated, site({1, 4}));
+    EXPECT_EQ(window().navigated, site({1, 4}));
     EXPECT_EQ(pump.seconds() - start, 10);
     EXPECT_EQ(statuses,
               (QStringList{u"1/4 http://www.site1.com/"_s, u"4/4 http://www.site4.com/"_s, u"Stopped (FINISHED)"_s}));
@@ -201,54 +162,42 @@ TEST_F(AutoRunTest, QuickBlockedLinksArePassedOverWithoutStatusAndWait)
 
 TEST_F(AutoRunTest, ServersOnlyOpensTheServersOfTheLinks)
 {
-    form().options.chkSMA(0).setValue(1);
+    form.options.chkSMA(SMA::ServersOnly).setValue(1);
     showResults({u"http://www.site1.com/deep/page.html"_s, u"http://www.site2.com/x"_s});
     clickStart();
-    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com"_s, u"http://www.site2.com"_s}));
+    EXPECT_EQ(window().navigated, (QStringList{u"http://www.site1.com"_s, u"http://www.site2.com"_s}));
 }
 
 TEST_F(AutoRunTest, ReturnsToThePageItBeganOnWhenItHasFinished)
 {
-    form().options.chkSMA(2).setValue(1);
+    form.options.chkSMA(SMA::ReturnToStart).setValue(1);
     showResults(makeSites(1));
     clickStart();
-    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com/"_s, u"http://www.seek.com/?q=tea"_s}));
+    EXPECT_EQ(window().navigated, (QStringList{u"http://www.site1.com/"_s, u"http://www.seek.com/?q=tea"_s}));
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
 }
 
 TEST_F(AutoRunTest, DoesNotReturnToTheStartPageWhenTheUserStops)
 {
-    form().options.chkSMA(2).setValue(1);
+    form.options.chkSMA(SMA::ReturnToStart).setValue(1);
     showResults(makeSites(2));
     pump.after(second, [&] { clickStart(); });
     clickStart();
-    EXPECT_EQ(browser().navigated, site({1}));
+    EXPECT_EQ(window().navigated, site({1}));
 }
 
 TEST_F(AutoRunTest, ResetInTheMiddleStopsAndTheNextGoStartsAfresh)
 {
     showResults(makeSites(3));
-    pump.after(7 * second, [&] { program->autoRun.ResetProcessAN(); });
+    pump.after(7 * second, [&] { autoRun.ResetProcessAN(); });
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
-    EXPECT_EQ(form().autoRun.mastrLinks, emptyList());
-    browser().show(u"http://www.seek.com/?q=tea"_s);
-    browser().navigated.clear();
+    EXPECT_EQ(form.autoRun.mlngANLinkIndex, 0);
+    EXPECT_EQ(form.autoRun.mastrLinks, emptyList());
+    window().show(u"http://www.seek.com/?q=tea"_s);
+    window().navigated.clear();
     clickStart();
-    EXPECT_EQ(browser().navigated, site({1, 2, 3}));
-}
-
-TEST_F(AutoRunTest, ChangingTheListLetterDiscardsAPendingWalk)
-{
-    showResults(makeSites(3));
-    pump.after(7 * second, [&] { clickStart(); });
-    clickStart();
-    ASSERT_EQ(form().autoRun.mlngANLinkIndex, 1);
-    form().saved.cboANList.setListIndex(1);
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 0);
-    EXPECT_EQ(form().autoRun.mastrLinks, emptyList());
-    EXPECT_EQ(lastStatus(), u"0 loaded"_s);
+    EXPECT_EQ(window().navigated, site({1, 2, 3}));
 }
 
 TEST_F(AutoRunTest, AGoClickedBeforeTheStoppedRunHasUnwoundStartsNoSecondRun)
@@ -258,85 +207,34 @@ TEST_F(AutoRunTest, AGoClickedBeforeTheStoppedRunHasUnwoundStartsNoSecondRun)
     pump.after(2 * second, [&] {
         clickStart(); // X
         clickStart(); // Go, in the same moment
-        running = runs;
+        running = ended;
     });
     clickStart();
     EXPECT_EQ(running, 0);
-    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(ended, 1);
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(browser().navigated, site({1}));
-}
-
-TEST_F(AutoRunTest, TheBrowsersClosingInTheMiddleOfAWaitEndsTheRunOnTheSpot)
-{
-    form().outputs.chkSaveSummary.setValue(1);
-    showResults(makeSites(3));
-    FakeBrowser &window = browser();
-    pump.after(7 * second, [&] { window.close(); });
-    const qint64 start = pump.seconds();
-    clickStart();
-    EXPECT_EQ(pump.seconds() - start, 7);
-    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().frame.picStatus.printed(), u"Stopped (USER)..."_s);
-    EXPECT_FALSE(form().browser.mbInitialized);
-    EXPECT_FALSE(program->browser.isSet());
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
-    EXPECT_TRUE(form().browser.cmdANInitialize.isEnabled());
-    EXPECT_FALSE(form().autoRun.cmdANStart.isEnabled());
-}
-
-TEST_F(AutoRunTest, AfterTheBrowserIsConnectedAgainGoResumesTheWalk)
-{
-    showResults(makeSites(3));
-    const auto pages = browser().pages;
-    FakeBrowser &window = browser();
-    pump.after(7 * second, [&] { window.close(); });
-    clickStart();
-    browsers.running = std::make_shared<FakeBrowser>(pump);
-    browser().pages = pages;
-    form().browser.cmdANInitialize.click();
-    ASSERT_TRUE(form().browser.mbInitialized);
-    clickStart();
-    EXPECT_EQ(browser().navigated, site({2, 3}));
-    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+    EXPECT_EQ(window().navigated, site({1}));
 }
 
 TEST_F(AutoRunTest, ALinkListThatWasNeverDimensionedEndsTheRunWithAnUnknownError)
 {
     addSaved(u"Results-100"_s, u"http://www.seek.com/?q=tea"_s);
-    program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
-    form().saved.chkUseSavedUrls.setValue(1);
+    savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
+    form.saved.chkUseSavedUrls.setValue(1);
     // A driver that has never had a browser gives no list at all.
-    program->browser.set(std::make_unique<cIEObject>(program->log, desktop, clipboard, browsers));
+    browser.set(std::make_unique<cIEObject>(log, desktop, clipboard, browsers));
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (ERROR, UNKNOWN)"_s);
-    EXPECT_EQ(form().autoRun.cmdANStart.caption(), u"Go"_s);
-    EXPECT_FALSE(form().runs.mbANRunning);
-}
-
-TEST_F(AutoRunTest, WithErrorMessagesOnTheStatusComesBeforeTheBox)
-{
-    form().options.chkSMV(1).setValue(1);
-    qputenv("LOGFILES", folder.path().toUtf8());
-    form().mbFormReady = false;
-    form().saved.chkUseSavedUrls.setValue(1); // without any Saved Url
-    form().mbFormReady = true;
-    bool toldBefore = false;
-    dialogs.duringError = [&] { toldBefore = statuses.contains(u"Stopped (ERROR, UNKNOWN)"_s); };
-    clickStart();
-    qunsetenv("LOGFILES");
-    EXPECT_TRUE(toldBefore);
-    ASSERT_EQ(dialogs.errors.size(), 1);
-    EXPECT_TRUE(dialogs.errors[0].text.contains(u"Module=frmSearch: ErrLoc=Sub StartProcessAN: "_s));
-    EXPECT_TRUE(dialogs.errors[0].text.endsWith(u"Err#=380"_s));
+    EXPECT_EQ(form.autoRun.cmdANStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form.runs.mbANRunning);
 }
 
 TEST_F(AutoRunTest, APageThatCannotBeReadIsLeftAndTheRunGoesOn)
 {
-    form().outputs.chkSaveSummary.setValue(1);
-    form().options.chkSMD(1).setValue(0);
+    form.outputs.chkSaveSummary.setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
     const QStringList links = makeSites(2);
-    browser().pages[links[0]].readingFails = RuntimeError(50'001, u"took too long"_s);
+    window().pages[links[0]].readingFails = RuntimeError(50'001, u"took too long"_s);
     showResults(links);
     clickStart();
     EXPECT_EQ(rows(u"SiteSummary"_s), site({2}));
@@ -365,17 +263,17 @@ class McmncStop : public AutoRunTest, public testing::WithParamInterface<McmncCa
 TEST_P(McmncStop, LeavesThePositionAsTold)
 {
     const McmncCase &row = GetParam();
-    form().outputs.chkMCMNCStop.setValue(1);
+    form.outputs.chkMCMNCStop.setValue(1);
     wantOnly(u"site %1,"_s.arg(row.stopsOn));
     showResults(makeSites(row.links));
     clickStart();
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, row.index);
+    EXPECT_EQ(form.autoRun.mlngANLinkIndex, row.index);
     const QString last = u"%1/%2 http://www.site%1.com/"_s.arg(row.stopsOn).arg(row.links);
     EXPECT_EQ(lastStatus(), row.status.isEmpty() ? last : QString(row.status));
-    EXPECT_EQ(form().browser.picANEnd.backColor(), Colours::Red);
-    browser().navigated.clear();
+    EXPECT_EQ(form.browser.picANEnd.backColor(), Colours::Red);
+    window().navigated.clear();
     clickStart();
-    EXPECT_EQ(browser().navigated.value(0),
+    EXPECT_EQ(window().navigated.value(0),
               row.nextLink == 0 ? QString() : u"http://www.site%1.com/"_s.arg(row.nextLink));
 }
 
@@ -393,9 +291,9 @@ INSTANTIATE_TEST_SUITE_P(AutoRun, McmncStop,
 
 TEST_F(AutoRunTest, TheWritersRunBeforeTheMcmncStop)
 {
-    form().outputs.chkMCMNCStop.setValue(1);
-    form().outputs.chkSaveSummary.setValue(1);
-    form().options.chkSMD(1).setValue(0);
+    form.outputs.chkMCMNCStop.setValue(1);
+    form.outputs.chkSaveSummary.setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
     wantOnly(u"site 1,"_s);
     showResults(makeSites(5));
     clickStart();
@@ -405,7 +303,7 @@ TEST_F(AutoRunTest, TheWritersRunBeforeTheMcmncStop)
 
 TEST_F(AutoRunTest, ANewGoForgetsAnEarlierMcmncStop)
 {
-    form().outputs.chkMCMNCStop.setValue(1);
+    form.outputs.chkMCMNCStop.setValue(1);
     wantOnly(u"site 1,"_s);
     showResults(makeSites(6));
     clickStart();

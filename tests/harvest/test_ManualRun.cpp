@@ -1,8 +1,8 @@
 // The Manual run over a list and over a series, as sites and as files, with and without Auto Navigate: order, pace,
 // statuses, stops, and where Go resumes.
-#include "app/OptionNumbers.h"
+#include "WalkFixture.h"
+#include "harvest/ManualRun.h"
 #include "store/Transaction.h"
-#include "support/ProgramFixture.h"
 #include "transfer/RawServer.h"
 
 #include <QFile>
@@ -13,56 +13,58 @@ namespace {
 constexpr qint64 second = 1000;
 enum What { File = 0, Site = 1 };
 
-class ManualRunTest : public RunTest
+class ManualRunTest : public WalkTest
 {
   protected:
     ManualRunTest()
     {
-        form().frame.sstSearch.setTab(Tab::Manual);
-        form().manual.cboFilesSites.setListIndex(Site);
-        form().manual.incMNTiming.setText(u"005"_s);
-        form().manual.incMNDLTiming.setText(u"000"_s);
-        form().places.txtSFMNDir.setText(folder.path() + u'/');
-        form().options.chkSMD(1).setValue(0);
-        browser().show(u"http://www.start.com/"_s);
+        QObject::connect(&form.manual.cmdMNStart, &Button::Click, &form, [this] { manualRun.cmdMNStart_Click(); });
+        QObject::connect(&runs, &Runs::stopping, &downloads, &Downloads::cancel);
+        QObject::connect(&inet, &cInetWS::InetStatus, &form,
+                         [this](int state) { status.UpDateStatus(inetStateText(state)); });
+        form.frame.sstSearch.setTab(Tab::Manual);
+        form.manual.cboFilesSites.setListIndex(Site);
+        form.manual.incMNTiming.setText(u"005"_s);
+        form.manual.incMNDLTiming.setText(u"000"_s);
+        form.series.incMNStep.setText(u"001"_s);
+        form.places.txtSFMNDir.setText(folder.path() + u'/');
+        form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
+        form.options.chkSMA(SMA::DownloadAsBrowser).setValue(1);
+        window().show(u"http://www.start.com/"_s);
         statuses.clear();
     }
-    [[nodiscard]] ListBox &list() { return form().lists.shown(); }
-    /// Fills the list on show and has its controls made usable.
-    void fill(const QStringList &items)
-    {
-        list().setItems(items);
-        program->states.SetStateOfControls();
-        statuses.clear();
-    }
+    [[nodiscard]] ListBox &list() { return form.lists.shown(); }
+    void fill(const QStringList &items) { list().setItems(items); }
     /// The address in the box, with that number as the one that changes.
     void setSeries(const QString &address, int position = 1)
     {
-        form().series.cboMNAutoUrl.setText(address);
-        program->manual.series.SetAutoIncrPos(position);
-        ASSERT_EQ(program->manual.desk.GetAutoIncrChecked(), position);
-        program->states.SetStateOfControls();
+        form.series.cboMNAutoUrl.setText(address);
+        series.SetAutoIncrPos(position);
+        ASSERT_EQ(desk.GetAutoIncrChecked(), position);
         statuses.clear();
     }
-    void clickGo()
-    {
-        ASSERT_TRUE(form().manual.cmdMNStart.isEnabled());
-        form().manual.cmdMNStart.click();
-    }
-    void clickX() { form().manual.cmdMNStart.click(); }
-    [[nodiscard]] MenuItem &item(const QString &name) { return *qobject_cast<MenuItem *>(form().control(name)); }
-    static QStringList sitesAt(std::initializer_list<int> numbers)
-    {
-        QStringList all;
-        for (const int number : numbers)
-            all.append(u"http://www.site%1.com/"_s.arg(number));
-        return all;
-    }
+    void clickGo() { form.manual.cmdMNStart.click(); }
+    void clickX() { form.manual.cmdMNStart.click(); }
+    [[nodiscard]] MenuItem &item(const QString &name) { return *qobject_cast<MenuItem *>(form.control(name)); }
     [[nodiscard]] QByteArray content(const QString &name)
     {
         QFile file(folder.filePath(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
     }
+
+    ManualDesk desk{form, status};
+    ManualTables tables{log, database, work};
+    AutoText texts{context, form.series, desk, database};
+    AutoIncr series{context, form, desk, texts};
+    DiscoveredLinks discovered{log, form.urlFilter, form.blocking, form.options, browser, records, resultLinks};
+    Transfers transfers{[this](qint64 milliseconds) { pump.waitForEvents(milliseconds); }};
+    cInetWS inet{transfers, log};
+    Downloads downloads{context, form.places, form.limits, form.options, browser, transfers, inet};
+    ManualItems manualItems{context, form.manual, desk, downloads, navigation};
+    ManualWalk walk{form.manual, form.series, form.options, form.collect, desk, series, tables};
+    AutoNavigate autoNavigate{
+        item(u"mnuMNStatusAutoNavigate"_s), form.manual, form.limits, runs, walk, siteVisit, discovered};
+    ManualRun manualRun{context, form.manual, runs, walk, manualItems, autoNavigate, siteVisit};
 };
 } // namespace
 
@@ -71,17 +73,17 @@ class ManualRunTest : public RunTest
 TEST_F(ManualRunTest, AListOfSitesIsVisitedInOrderAtThePaceOfTheCountdown)
 {
     fill(makeSites(3));
-    form().outputs.chkSaveSummary.setValue(1);
+    form.outputs.chkSaveSummary.setValue(1);
     const qint64 start = pump.seconds();
     statuses.clear();
     clickGo();
-    EXPECT_EQ(browser().navigated, sitesAt({1, 2, 3}));
+    EXPECT_EQ(window().navigated, site({1, 2, 3}));
     EXPECT_EQ(pump.seconds() - start, 15);
     EXPECT_EQ(statuses, (QStringList{u"1/3 http://www.site1.com/"_s, u"2/3 http://www.site2.com/"_s,
                                      u"3/3 http://www.site3.com/"_s, u"Stopped (FINISHED)"_s}));
-    EXPECT_EQ(rows(u"SiteSummary"_s), sitesAt({1, 2, 3}));
-    EXPECT_EQ(form().manual.cmdMNStart.caption(), u"Go"_s);
-    EXPECT_FALSE(form().runs.mbMNRunning);
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({1, 2, 3}));
+    EXPECT_EQ(form.manual.cmdMNStart.caption(), u"Go"_s);
+    EXPECT_FALSE(form.runs.mbMNRunning);
 }
 
 TEST_F(ManualRunTest, WithNothingChosenTheWalkBeginsAtTheFirstItemOnce)
@@ -89,7 +91,7 @@ TEST_F(ManualRunTest, WithNothingChosenTheWalkBeginsAtTheFirstItemOnce)
     fill(makeSites(2));
     ASSERT_EQ(list().listIndex(), -1);
     clickGo();
-    EXPECT_EQ(browser().navigated, sitesAt({1, 2}));
+    EXPECT_EQ(window().navigated, site({1, 2}));
 }
 
 TEST_F(ManualRunTest, TheWalkBeginsAtTheChosenItemAndShowsTheOneInTurn)
@@ -99,7 +101,7 @@ TEST_F(ManualRunTest, TheWalkBeginsAtTheChosenItemAndShowsTheOneInTurn)
     std::vector<bool> during;
     pump.after(second, [&] { during = list().selection(); });
     clickGo();
-    EXPECT_EQ(browser().navigated, sitesAt({2, 3}));
+    EXPECT_EQ(window().navigated, site({2, 3}));
     EXPECT_EQ(during, (std::vector<bool>{false, true, false}));
     EXPECT_EQ(list().listIndex(), 2);
 }
@@ -111,28 +113,28 @@ TEST_F(ManualRunTest, XStopsInAWaitAndGoOpensTheSameItemAgain)
     clickGo();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
     EXPECT_EQ(list().listIndex(), 1);
-    browser().navigated.clear();
+    window().navigated.clear();
     clickGo();
-    EXPECT_EQ(browser().navigated, sitesAt({2, 3}));
+    EXPECT_EQ(window().navigated, site({2, 3}));
 }
 
 TEST_F(ManualRunTest, AfterAStopOnAMatchTheWalkResumesBehindIt)
 {
-    form().outputs.chkMCMNCStop.setValue(1);
+    form.outputs.chkMCMNCStop.setValue(1);
     wantOnly(u"site 2,"_s);
     fill(makeSites(4));
     clickGo();
     EXPECT_EQ(lastStatus(), u"Stopped (MCMNC)"_s);
-    EXPECT_EQ(form().browser.picANEnd.backColor(), Colours::Blue);
-    browser().navigated.clear();
+    EXPECT_EQ(form.browser.picANEnd.backColor(), Colours::Blue);
+    window().navigated.clear();
     clickGo();
-    EXPECT_EQ(browser().navigated, sitesAt({3, 4}));
+    EXPECT_EQ(window().navigated, site({3, 4}));
 }
 
 TEST_F(ManualRunTest, AnEmptyListHasOneTurnWithNothingInIt)
 {
-    program->manualRun.StartProcessMN();
-    EXPECT_TRUE(browser().navigated.isEmpty());
+    manualRun.StartProcessMN();
+    EXPECT_TRUE(window().navigated.isEmpty());
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
 }
 
@@ -140,69 +142,58 @@ TEST_F(ManualRunTest, WhatIsNoLinkIsPassedOver)
 {
     fill({u"nonsense"_s, u"http://www.site1.com/"_s});
     clickGo();
-    EXPECT_EQ(browser().navigated, sitesAt({1}));
+    EXPECT_EQ(window().navigated, site({1}));
     EXPECT_TRUE(statuses.contains(u"Invalid url nonsense"_s));
 }
 
 TEST_F(ManualRunTest, ReturnsToThePageItBeganOnWhenItHasFinished)
 {
-    form().options.chkSMA(2).setValue(1);
+    form.options.chkSMA(SMA::ReturnToStart).setValue(1);
     fill(makeSites(1));
     clickGo();
-    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com/"_s, u"http://www.start.com/"_s}));
-}
-
-TEST_F(ManualRunTest, TheBrowsersClosingIsTheUsersStop)
-{
-    fill(makeSites(3));
-    FakeBrowser &window = browser();
-    pump.after(7 * second, [&] { window.close(); });
-    clickGo();
-    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(list().listIndex(), 1);
+    EXPECT_EQ(window().navigated, (QStringList{u"http://www.site1.com/"_s, u"http://www.start.com/"_s}));
 }
 
 TEST_F(ManualRunTest, AnErrorPageGivesWayToItsServer)
 {
-    form().limits.incNotFoundMinSize.setText(u"000900"_s);
+    form.limits.incNotFoundMinSize.setText(u"000900"_s);
     fill({u"http://www.site1.com/gone.html"_s});
-    browser().pages[u"http://www.site1.com/gone.html"_s].html = u"<p>not found</p>"_s;
+    window().pages[u"http://www.site1.com/gone.html"_s].html = u"<p>not found</p>"_s;
     clickGo();
-    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.site1.com/gone.html"_s, u"http://www.site1.com"_s}));
+    EXPECT_EQ(window().navigated, (QStringList{u"http://www.site1.com/gone.html"_s, u"http://www.site1.com"_s}));
 }
 
 TEST_F(ManualRunTest, APageThatCannotBeStoredKeepsTheWalkOnItsItem)
 {
-    form().outputs.chkSaveSummary.setValue(1);
+    form.outputs.chkSaveSummary.setValue(1);
     fill(makeSites(3));
-    RecordingLog log;
     cAdoMdb other(log);
-    ASSERT_TRUE(other.LoadDatabase(database().DatabasePath()));
+    ASSERT_TRUE(other.LoadDatabase(database->DatabasePath()));
     auto lock = std::make_unique<Transaction>(other);
     clickGo();
     EXPECT_EQ(lastStatus(), u"Stopped (ERROR, DATABASE IS LOCKED)"_s);
     EXPECT_EQ(list().listIndex(), 0);
     lock.reset();
     clickGo();
-    EXPECT_EQ(rows(u"SiteSummary"_s), sitesAt({1, 2, 3}));
+    EXPECT_EQ(rows(u"SiteSummary"_s), site({1, 2, 3}));
 }
 
 TEST_F(ManualRunTest, GoIsRefusedWhileTheListOnShowIsCollectedInto)
 {
     fill(makeSites(1));
-    form().collect.mbNavListCollecting = true;
+    form.collect.mbNavListCollecting = true;
     clickGo();
     EXPECT_EQ(statuses, QStringList{u"Can't Collect in Navigate List"_s});
-    EXPECT_EQ(form().manual.cmdMNStart.caption(), u"Go"_s);
+    EXPECT_EQ(form.manual.cmdMNStart.caption(), u"Go"_s);
 }
 
 TEST_F(ManualRunTest, TheBaseTakesTheItemInEveryPlaceThatIsMarked)
 {
-    form().series.cboMNAutoUrl.setText(u"www.~ins~.com/~ins~.html"_s);
+    form.series.cboMNAutoUrl.setText(u"www.~ins~.com/~ins~.html"_s);
     item(u"mnuMNUseAutoBase"_s).setChecked(true);
     fill({u"tea"_s, u"milk"_s});
     clickGo();
-    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.tea.com/tea.html"_s, u"http://www.milk.com/milk.html"_s}));
+    EXPECT_EQ(window().navigated, (QStringList{u"http://www.tea.com/tea.html"_s, u"http://www.milk.com/milk.html"_s}));
 }
 
 TEST_F(ManualRunTest, AnEmptyBaseGivesTheItemAlone)
@@ -210,7 +201,7 @@ TEST_F(ManualRunTest, AnEmptyBaseGivesTheItemAlone)
     item(u"mnuMNUseAutoBase"_s).setChecked(true);
     fill({u"http://www.site1.com/"_s});
     clickGo();
-    EXPECT_EQ(browser().navigated, sitesAt({1}));
+    EXPECT_EQ(window().navigated, site({1}));
 }
 
 // A series.
@@ -219,12 +210,12 @@ TEST_F(ManualRunTest, ASeriesOfOneDigitEndsAtNine)
 {
     setSeries(u"www.pics.com/page1.html"_s);
     clickGo();
-    ASSERT_EQ(browser().navigated.size(), 9);
-    EXPECT_EQ(browser().navigated.constFirst(), u"http://www.pics.com/page1.html"_s);
-    EXPECT_EQ(browser().navigated.constLast(), u"http://www.pics.com/page9.html"_s);
+    ASSERT_EQ(window().navigated.size(), 9);
+    EXPECT_EQ(window().navigated.constFirst(), u"http://www.pics.com/page1.html"_s);
+    EXPECT_EQ(window().navigated.constLast(), u"http://www.pics.com/page9.html"_s);
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.pics.com/page9.html"_s);
-    EXPECT_EQ(form().series.incMNAutoUrl.value(), 9);
+    EXPECT_EQ(form.series.cboMNAutoUrl.text(), u"www.pics.com/page9.html"_s);
+    EXPECT_EQ(form.series.incMNAutoUrl.value(), 9);
 }
 
 TEST_F(ManualRunTest, ASeriesKeepsItsZerosAndResumesWhereItStood)
@@ -232,31 +223,30 @@ TEST_F(ManualRunTest, ASeriesKeepsItsZerosAndResumesWhereItStood)
     setSeries(u"www.pics.com/a2/page008.html"_s, 2);
     pump.after(17 * second, [&] { clickX(); });
     clickGo();
-    EXPECT_EQ(browser().navigated,
+    EXPECT_EQ(window().navigated,
               (QStringList{u"http://www.pics.com/a2/page008.html"_s, u"http://www.pics.com/a2/page009.html"_s,
                            u"http://www.pics.com/a2/page010.html"_s, u"http://www.pics.com/a2/page011.html"_s}));
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.pics.com/a2/page011.html"_s);
-    browser().navigated.clear();
+    EXPECT_EQ(form.series.cboMNAutoUrl.text(), u"www.pics.com/a2/page011.html"_s);
+    window().navigated.clear();
     pump.after(2 * second, [&] { clickX(); });
     clickGo();
-    EXPECT_EQ(browser().navigated, QStringList{u"http://www.pics.com/a2/page011.html"_s});
+    EXPECT_EQ(window().navigated, QStringList{u"http://www.pics.com/a2/page011.html"_s});
 }
 
 TEST_F(ManualRunTest, TheStepOfASeriesIsTheBoxs)
 {
-    form().series.incMNStep.setText(u"003"_s);
+    form.series.incMNStep.setText(u"003"_s);
     setSeries(u"www.pics.com/page1.html"_s);
     pump.after(12 * second, [&] { clickX(); });
     clickGo();
-    EXPECT_EQ(browser().navigated,
-              (QStringList{u"http://www.pics.com/page1.html"_s, u"http://www.pics.com/page4.html"_s,
-                           u"http://www.pics.com/page7.html"_s}));
+    EXPECT_EQ(window().navigated, (QStringList{u"http://www.pics.com/page1.html"_s, u"http://www.pics.com/page4.html"_s,
+                                               u"http://www.pics.com/page7.html"_s}));
 }
 
 TEST_F(ManualRunTest, AStoppedSeriesIsKeptWhereThatIsWanted)
 {
-    form().options.chkSMD(8).setValue(1);
+    form.options.chkSMD(SMD::SaveAutoTextOnStop).setValue(1);
     setSeries(u"www.pics.com/page1.html"_s);
     pump.after(7 * second, [&] { clickX(); });
     clickGo();
@@ -267,17 +257,17 @@ TEST_F(ManualRunTest, AStoppedSeriesIsKeptWhereThatIsWanted)
 
 TEST_F(ManualRunTest, AutoNavigateWalksTheLinksOfEachPageOfTheSeries)
 {
-    form().outputs.chkSaveSummary.setValue(1);
+    form.outputs.chkSaveSummary.setValue(1);
     const QStringList sites = makeSites(4);
-    browser().pages[u"http://www.pics.com/list8"_s].links = {sites[0], sites[1]};
-    browser().pages[u"http://www.pics.com/list9"_s].links = {sites[2]};
+    window().pages[u"http://www.pics.com/list8"_s].links = {sites[0], sites[1]};
+    window().pages[u"http://www.pics.com/list9"_s].links = {sites[2]};
     setSeries(u"www.pics.com/list8"_s);
     item(u"mnuMNStatusAutoNavigate"_s).setChecked(true);
     pump.after(22 * second, [&] { clickX(); });
     const qint64 start = pump.seconds();
     clickGo();
-    EXPECT_EQ(browser().navigated.mid(0, 5), (QStringList{u"http://www.pics.com/list8"_s, sites[0], sites[1],
-                                                          u"http://www.pics.com/list9"_s, sites[2]}));
+    EXPECT_EQ(window().navigated.mid(0, 5), (QStringList{u"http://www.pics.com/list8"_s, sites[0], sites[1],
+                                                         u"http://www.pics.com/list9"_s, sites[2]}));
     EXPECT_EQ(pump.seconds() - start, 22) << "2 of pause and 5 a link";
     EXPECT_EQ(statuses.value(0), u"8/16 | 0/1"_s);
     EXPECT_EQ(statuses.value(1), u"8/16 | 1/1"_s);
@@ -287,23 +277,23 @@ TEST_F(ManualRunTest, AutoNavigateWalksTheLinksOfEachPageOfTheSeries)
 TEST_F(ManualRunTest, AutoNavigateResumesOnTheLinkWhereItStood)
 {
     const QStringList sites = makeSites(3);
-    browser().pages[u"http://www.pics.com/list8"_s].links = sites;
+    window().pages[u"http://www.pics.com/list8"_s].links = sites;
     setSeries(u"www.pics.com/list8"_s);
     item(u"mnuMNStatusAutoNavigate"_s).setChecked(true);
     pump.after(8 * second, [&] { clickX(); }); // 2 of pause, 5 of the first link
     clickGo();
-    EXPECT_EQ(form().manual.mlngMNLinkIndex, 1);
-    browser().navigated.clear();
+    EXPECT_EQ(form.manual.mlngMNLinkIndex, 1);
+    window().navigated.clear();
     pump.after(8 * second, [&] { clickX(); });
     clickGo();
-    EXPECT_EQ(browser().navigated, (QStringList{u"http://www.pics.com/list8"_s, sites[1], sites[2]}));
+    EXPECT_EQ(window().navigated, (QStringList{u"http://www.pics.com/list8"_s, sites[1], sites[2]}));
 }
 
 TEST_F(ManualRunTest, WithFilesAutoNavigateIsSwitchedOffWithAMessageAndTheRunGoesOn)
 {
-    form().manual.cboFilesSites.setListIndex(File);
+    form.manual.cboFilesSites.setListIndex(File);
     setSeries(u"www.pics.com/nofile8"_s);
-    QObject::connect(&program->runs, &Runs::progress, &form(), [this](int number, int) {
+    QObject::connect(&runs, &Runs::progress, &form, [this](int number, int) {
         if (number == 1)
             item(u"mnuMNStatusAutoNavigate"_s).setChecked(true); // the tab does not offer it for files
     });
@@ -312,7 +302,7 @@ TEST_F(ManualRunTest, WithFilesAutoNavigateIsSwitchedOffWithAMessageAndTheRunGoe
     EXPECT_EQ(statuses, (QStringList{u"Type = File. No Full Auto"_s, u"Stopped (FINISHED)"_s}));
     EXPECT_FALSE(item(u"mnuMNStatusAutoNavigate"_s).isChecked());
     EXPECT_EQ(pump.seconds() - start, 2);
-    EXPECT_TRUE(browser().navigated.isEmpty()) << "what is no file is passed over in a list of files";
+    EXPECT_TRUE(window().navigated.isEmpty()) << "what is no file is passed over in a list of files";
 }
 
 // Files.
@@ -323,8 +313,8 @@ class Fetching : public ManualRunTest
   protected:
     Fetching()
     {
-        form().manual.cboFilesSites.setListIndex(File);
-        QObject::connect(&program->downloads, &Downloads::fetched, &form(),
+        form.manual.cboFilesSites.setListIndex(File);
+        QObject::connect(&downloads, &Downloads::fetched, &form,
                          [this](const Downloads::Fetched &file) { files.append(file); });
     }
     /// Only what says something of items and ends; states of a transfer are between them.
@@ -354,7 +344,7 @@ TEST_F(Fetching, FilesOfAListLieInTheFolderByteForByte)
     EXPECT_EQ(told(), (QStringList{u"1/1 a.jpg"_s, u"2/1 b.jpg"_s, u"Stopped (FINISHED)"_s}));
     ASSERT_EQ(files.size(), 2);
     EXPECT_EQ(files[0].size, 9);
-    EXPECT_TRUE(browser().navigated.isEmpty());
+    EXPECT_TRUE(window().navigated.isEmpty());
     EXPECT_TRUE(statuses.contains(u"Connecting..."_s));
 }
 
@@ -373,7 +363,7 @@ TEST_F(Fetching, ATakenNameGetsANumberAndNothingIsOverwritten)
 
 TEST_F(Fetching, AFileThatIsTooSmallIsToldAndNotLeftBehind)
 {
-    form().limits.incSFMinGraphicSize.setText(u"000100"_s);
+    form.limits.incSFMinGraphicSize.setText(u"000100"_s);
     server.route("/a.jpg", okReply("small"_ba));
     fill({server.address(u"/a.jpg"_s)});
     clickGo();
@@ -389,15 +379,15 @@ TEST_F(Fetching, WhatIsNoFileIsPassedOver)
     clickGo();
     EXPECT_EQ(told(), QStringList{u"Stopped (FINISHED)"_s});
     EXPECT_TRUE(files.isEmpty());
-    EXPECT_TRUE(browser().navigated.isEmpty());
+    EXPECT_TRUE(window().navigated.isEmpty());
 }
 
 TEST_F(Fetching, TheFirstWaySpeaksForTheBrowser)
 {
     server.route("/a.jpg", okReply("x"_ba + "yz"_ba));
     const QString address = server.address(u"/a.jpg"_s);
-    browser().cookies[address] = u"visitor=7"_s;
-    browser().agent = u"Fake/2.0"_s;
+    window().cookies[address] = u"visitor=7"_s;
+    window().agent = u"Fake/2.0"_s;
     fill({address});
     clickGo();
     ASSERT_EQ(server.requests.size(), 1);
@@ -410,7 +400,7 @@ TEST_F(Fetching, CookiesAreFoundForAnAddressWithoutProtocol)
 {
     server.route("/a.com/p-9.jpg", okReply("xyz"_ba));
     const QString address = server.address(u"/a.com/p-9.jpg"_s);
-    browser().cookies[address] = u"visitor=7"_s;
+    window().cookies[address] = u"visitor=7"_s;
     fill({address.sliced(u"http://"_s.size())});
     clickGo();
     ASSERT_EQ(server.requests.size(), 1);
@@ -419,9 +409,9 @@ TEST_F(Fetching, CookiesAreFoundForAnAddressWithoutProtocol)
 
 TEST_F(Fetching, SwitchedOffItDoesNot)
 {
-    form().options.chkSMA(SMA::DownloadAsBrowser).setValue(0);
+    form.options.chkSMA(SMA::DownloadAsBrowser).setValue(0);
     server.route("/a.jpg", okReply("xyz"_ba));
-    browser().cookies[server.address(u"/a.jpg"_s)] = u"visitor=7"_s;
+    window().cookies[server.address(u"/a.jpg"_s)] = u"visitor=7"_s;
     fill({server.address(u"/a.jpg"_s)});
     clickGo();
     ASSERT_EQ(server.requests.size(), 1);
@@ -431,7 +421,7 @@ TEST_F(Fetching, SwitchedOffItDoesNot)
 
 TEST_F(Fetching, TheSecondWayTakesAnEmptyAnswerAsAFile)
 {
-    form().options.chkSMA(3).setValue(1);
+    form.options.chkSMA(SMA::DownloadByFtp).setValue(1);
     server.route("/a.jpg", okReply({}));
     fill({server.address(u"/a.jpg"_s)});
     clickGo();
@@ -440,11 +430,11 @@ TEST_F(Fetching, TheSecondWayTakesAnEmptyAnswerAsAFile)
 
 TEST_F(Fetching, TheWaitBehindAFileIsItsOwn)
 {
-    form().manual.incMNDLTiming.setText(u"002"_s);
+    form.manual.incMNDLTiming.setText(u"002"_s);
     server.route("/a.jpg", okReply("xyz"_ba));
     fill({server.address(u"/a.jpg"_s), server.address(u"/a.jpg"_s)});
     qint64 shown = 0;
-    QObject::connect(&program->timer, &cTimer::TimeCount, &form(), [&](qint64 count) { shown = count; });
+    QObject::connect(&timer, &cTimer::TimeCount, &form, [&](qint64 count) { shown = count; });
     clickGo();
     EXPECT_EQ(shown, 2);
 }
@@ -456,7 +446,7 @@ TEST_F(Fetching, XInTheMiddleOfADownloadEndsItAndLeavesNoFile)
     slow.pause = 20;
     server.route("/a.jpg", slow);
     fill({server.address(u"/a.jpg"_s), server.address(u"/a.jpg"_s)});
-    QObject::connect(&program->inet, &cInetWS::InetStatus, &form(), [this](int state) {
+    QObject::connect(&inet, &cInetWS::InetStatus, &form, [this](int state) {
         if (state == static_cast<int>(InetState::ReceivingResponse))
             pump.after(0, [this] { clickX(); });
     });

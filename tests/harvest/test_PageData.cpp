@@ -1,35 +1,35 @@
 // The text of a page that is stored, and the colours of the two tag boxes.
-#include "support/ProgramFixture.h"
+#include "PageFixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 const QString address = u"http://www.site1.com/"_s;
 
-class PageDataTest : public RunTest
+class PageDataTest : public PageTest
 {
   protected:
     PageDataTest()
     {
-        FakePage &page = browser().pages[address];
+        FakePage &page = window().pages[address];
         page.html = u"<p>One, two</p>"_s;
         page.text = u"One, two\r\nthree\nfour"_s;
         page.links = {u"http://www.a.com/x"_s, u"http://www.b.com/y"_s};
-        browser().show(address);
-        form().outputs.chkSavePages.setValue(1);
+        window().show(address);
+        form.outputs.chkSavePages.setValue(1);
     }
     QString data(PageData::Target target)
     {
-        browser().show(address);
-        PageReading reading(program->browser);
-        return program->pageData.GetPageData(reading, target);
+        window().show(address);
+        PageReading reading(browser);
+        return pageData.GetPageData(reading, target);
     }
 };
 } // namespace
 
 TEST_F(PageDataTest, IsEmptyUnlessPagesAreSaved)
 {
-    form().outputs.chkSavePages.setValue(0);
+    form.outputs.chkSavePages.setValue(0);
     EXPECT_EQ(data(PageData::Target::File), QString());
     EXPECT_EQ(data(PageData::Target::SiteSummary), QString());
 }
@@ -48,8 +48,8 @@ class Targets : public PageDataTest, public testing::WithParamInterface<TargetCa
 TEST_P(Targets, FollowTheTwoSwitches)
 {
     const TargetCase &row = GetParam();
-    form().outputs.chkSaveToSS.setValue(row.toSummary);
-    form().outputs.chkSaveToFile.setValue(row.toFile);
+    form.outputs.chkSaveToSS.setValue(row.toSummary);
+    form.outputs.chkSaveToFile.setValue(row.toFile);
     EXPECT_EQ(!data(PageData::Target::SiteSummary).isEmpty(), row.inSummary);
     EXPECT_EQ(!data(PageData::Target::File).isEmpty(), row.inFile);
 }
@@ -67,31 +67,31 @@ TEST_F(PageDataTest, AsHtmlItIsTheMarkup)
 
 TEST_F(PageDataTest, AsTextItIsOneLineWithoutCommas)
 {
-    form().outputs.cboANSaveType.setListIndex(1);
+    form.outputs.cboANSaveType.setListIndex(1);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"One  two three four"_s);
 }
 
 TEST_F(PageDataTest, AsLinksEachOneIsALineAndTheTagsApplyToEach)
 {
-    form().outputs.cboANSaveType.setListIndex(2);
+    form.outputs.cboANSaveType.setListIndex(2);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"http://www.a.com/x\r\nhttp://www.b.com/y\r\n"_s);
-    form().outputs.txtANStopTag.setText(u".com"_s);
+    form.outputs.txtANStopTag.setText(u".com"_s);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"http://www.a\r\nhttp://www.b\r\n"_s);
 }
 
 TEST_F(PageDataTest, APageWithoutLinksIsOneLineEnd)
 {
-    browser().pages[address].links.clear();
-    form().outputs.cboANSaveType.setListIndex(2);
+    window().pages[address].links.clear();
+    form.outputs.cboANSaveType.setListIndex(2);
     EXPECT_EQ(data(PageData::Target::SiteSummary), u"\r\n"_s);
 }
 
 TEST_F(PageDataTest, ATextShorterThanTheMinimumIsNotStored)
 {
-    const auto length = browser().pages[address].html.size();
-    form().limits.incSFMinFileSize.setText(QString::number(length));
+    const auto length = window().pages[address].html.size();
+    form.limits.incSFMinFileSize.setText(QString::number(length));
     EXPECT_EQ(data(PageData::Target::SiteSummary).size(), length);
-    form().limits.incSFMinFileSize.setText(QString::number(length + 1));
+    form.limits.incSFMinFileSize.setText(QString::number(length + 1));
     EXPECT_EQ(data(PageData::Target::SiteSummary), QString());
 }
 
@@ -118,13 +118,13 @@ constexpr Colour before = Colours::Blue; ///< what the boxes show from the page 
 TEST_P(Segments, AreCutAndTheBoxesTellWhatWasFound)
 {
     const SegmentCase &row = GetParam();
-    form().outputs.txtANStartTag.setText(row.start);
-    form().outputs.txtANStopTag.setText(row.stop);
-    form().outputs.txtANStartTag.setBackColor(before);
-    form().outputs.txtANStopTag.setBackColor(before);
-    EXPECT_EQ(program->pageData.GetStringSegment(u"ab[Begin]middle[End]yz"_s), row.result);
-    EXPECT_EQ(form().outputs.txtANStartTag.backColor(), row.startColour);
-    EXPECT_EQ(form().outputs.txtANStopTag.backColor(), row.stopColour);
+    form.outputs.txtANStartTag.setText(row.start);
+    form.outputs.txtANStopTag.setText(row.stop);
+    form.outputs.txtANStartTag.setBackColor(before);
+    form.outputs.txtANStopTag.setBackColor(before);
+    EXPECT_EQ(pageData.GetStringSegment(u"ab[Begin]middle[End]yz"_s), row.result);
+    EXPECT_EQ(form.outputs.txtANStartTag.backColor(), row.startColour);
+    EXPECT_EQ(form.outputs.txtANStopTag.backColor(), row.stopColour);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,7 +1,7 @@
 // What happens to the page on show: the tests it has to pass, the colours that report the outcome, and the fallback to
 // the server of an error page.
+#include "WalkFixture.h"
 #include "controls/cLstBx.h"
-#include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,33 +9,33 @@ namespace {
 constexpr qint64 second = 1000;
 const QString address = u"http://www.site1.com/page.html"_s;
 
-class ScreeningTest : public RunTest
+class ScreeningTest : public WalkTest
 {
   protected:
     ScreeningTest()
     {
-        form().options.chkSMD(1).setValue(0);
+        form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
         page().html = u"<body>Green tea and BLACK coffee, nothing else here</body>"_s;
         page().title = u"A page"_s;
         page().text = u"Green tea and BLACK coffee, nothing else here"_s;
-        browser().show(address);
+        window().show(address);
     }
-    FakePage &page() { return browser().pages[address]; }
+    FakePage &page() { return window().pages[address]; }
     void screen()
     {
-        browser().show(address);
-        PageReading reading(program->browser);
-        program->screening.CollectData(reading);
+        window().show(address);
+        PageReading reading(browser);
+        screening.CollectData(reading);
     }
     bool mustContain()
     {
-        PageReading reading(program->browser);
-        return program->pageTests.IsMCGo(reading);
+        PageReading reading(browser);
+        return pageTests.IsMCGo(reading);
     }
     bool mustNotContain()
     {
-        PageReading reading(program->browser);
-        return program->pageTests.IsMNCGo(reading);
+        PageReading reading(browser);
+        return pageTests.IsMNCGo(reading);
     }
     static void fill(ListBox &list, const QStringList &items)
     {
@@ -63,20 +63,20 @@ class ScreeningTest : public RunTest
 
 TEST_F(ScreeningTest, MustContainOffLetsEveryPageGoAndLeavesItsLampNeutral)
 {
-    fill(form().criteria.mustContain.items, {u"cocoa"_s});
-    form().criteria.mustContain.lamp.setBackColor(Colours::Red);
+    fill(form.criteria.mustContain.items, {u"cocoa"_s});
+    form.criteria.mustContain.lamp.setBackColor(Colours::Red);
     EXPECT_TRUE(mustContain());
-    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::ButtonFace);
-    EXPECT_EQ(browser().reads, 0);
+    EXPECT_EQ(form.criteria.mustContain.lamp.backColor(), Colours::ButtonFace);
+    EXPECT_EQ(window().reads, 0);
 }
 
 TEST_F(ScreeningTest, AnEmptyListLetsEveryPageGoWithAGreenLamp)
 {
-    on({&form().outputs.chkMCMNCStop, &form().criteria.mustContain.on, &form().criteria.mustNotContain.on});
+    on({&form.outputs.chkMCMNCStop, &form.criteria.mustContain.on, &form.criteria.mustNotContain.on});
     EXPECT_TRUE(mustContain());
     EXPECT_TRUE(mustNotContain());
-    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::Green);
-    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), Colours::Green);
+    EXPECT_EQ(form.criteria.mustContain.lamp.backColor(), Colours::Green);
+    EXPECT_EQ(form.criteria.mustNotContain.lamp.backColor(), Colours::Green);
 }
 
 TEST_F(ScreeningTest, ChangedTextsHoldForTheNextPage)
@@ -123,16 +123,16 @@ class MustNotContainTable : public ScreeningTest, public testing::WithParamInter
 TEST_P(MustContainTable, Decides)
 {
     const TextCase &row = GetParam();
-    on({&form().outputs.chkMCMNCStop, &form().criteria.mustContain.on});
-    form().criteria.mustContain.caseSensitive.setValue(row.caseSensitive ? 1 : 0);
-    fill(form().criteria.mustContain.items, row.items);
-    form().criteria.mustContain.demand.setListIndex(row.mode);
-    cLstBx::UnSelect(form().criteria.mustContain.items);
+    on({&form.outputs.chkMCMNCStop, &form.criteria.mustContain.on});
+    form.criteria.mustContain.caseSensitive.setValue(row.caseSensitive ? 1 : 0);
+    fill(form.criteria.mustContain.items, row.items);
+    form.criteria.mustContain.demand.setListIndex(row.mode);
+    cLstBx::UnSelect(form.criteria.mustContain.items);
     for (const int index : row.userSelection)
-        form().criteria.mustContain.items.setSelected(index, true);
+        form.criteria.mustContain.items.setSelected(index, true);
     EXPECT_EQ(mustContain(), row.mayGo);
-    EXPECT_EQ(selected(form().criteria.mustContain.items), row.selectedAfter);
-    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), row.mayGo ? Colours::Green : Colours::Red);
+    EXPECT_EQ(selected(form.criteria.mustContain.items), row.selectedAfter);
+    EXPECT_EQ(form.criteria.mustContain.lamp.backColor(), row.mayGo ? Colours::Green : Colours::Red);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -165,16 +165,16 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_P(MustNotContainTable, Decides)
 {
     const TextCase &row = GetParam();
-    on({&form().outputs.chkMCMNCStop, &form().criteria.mustNotContain.on});
-    form().criteria.mustNotContain.caseSensitive.setValue(row.caseSensitive ? 1 : 0);
-    fill(form().criteria.mustNotContain.items, row.items);
-    form().criteria.mustNotContain.demand.setListIndex(row.mode);
-    cLstBx::UnSelect(form().criteria.mustNotContain.items);
+    on({&form.outputs.chkMCMNCStop, &form.criteria.mustNotContain.on});
+    form.criteria.mustNotContain.caseSensitive.setValue(row.caseSensitive ? 1 : 0);
+    fill(form.criteria.mustNotContain.items, row.items);
+    form.criteria.mustNotContain.demand.setListIndex(row.mode);
+    cLstBx::UnSelect(form.criteria.mustNotContain.items);
     for (const int index : row.userSelection)
-        form().criteria.mustNotContain.items.setSelected(index, true);
+        form.criteria.mustNotContain.items.setSelected(index, true);
     EXPECT_EQ(mustNotContain(), row.mayGo);
-    EXPECT_EQ(selected(form().criteria.mustNotContain.items), row.selectedAfter);
-    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), row.mayGo ? Colours::Green : Colours::Red);
+    EXPECT_EQ(selected(form.criteria.mustNotContain.items), row.selectedAfter);
+    EXPECT_EQ(form.criteria.mustNotContain.lamp.backColor(), row.mayGo ? Colours::Green : Colours::Red);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -192,8 +192,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ScreeningTest, AFailingTestRefusesThePage)
 {
-    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on});
-    fill(form().criteria.mustContain.items, {u"tea"_s});
+    on({&form.outputs.chkSaveSummary, &form.criteria.mustContain.on});
+    fill(form.criteria.mustContain.items, {u"tea"_s});
     page().readingFails = RuntimeError(50'001, u"took too long"_s);
     screen();
     EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
@@ -203,30 +203,29 @@ TEST_F(ScreeningTest, AFailingTestRefusesThePage)
 
 TEST_F(ScreeningTest, APageBelowTheMinimumIsNeitherTestedNorStored)
 {
-    on({&form().outputs.chkSaveSummary, &form().outputs.chkSavePages, &form().criteria.mustContain.on});
-    fill(form().criteria.mustContain.items, {u"cocoa"_s});
-    for (Label *lamp : {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
-                        &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved, &form().criteria.mustContain.lamp,
-                        &form().criteria.mustNotContain.lamp})
+    on({&form.outputs.chkSaveSummary, &form.outputs.chkSavePages, &form.criteria.mustContain.on});
+    fill(form.criteria.mustContain.items, {u"cocoa"_s});
+    for (Label *lamp : {&form.outputs.lblSummarySaved, &form.outputs.lblPageSaved, &form.outputs.lblEmailSaved,
+                        &form.outputs.lblPhoneSaved, &form.outputs.lblUrlSaved, &form.criteria.mustContain.lamp,
+                        &form.criteria.mustNotContain.lamp})
         lamp->setBackColor(Colours::Yellow);
-    form().browser.picANEnd.setBackColor(Colours::Yellow);
-    form().limits.incSMDMinHtmlSize.setText(QString::number(page().html.size() + 1));
+    form.browser.picANEnd.setBackColor(Colours::Yellow);
+    form.limits.incSMDMinHtmlSize.setText(QString::number(page().html.size() + 1));
     screen();
     EXPECT_EQ(lastStatus(), u"Insufficient Size"_s);
     EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
-    for (const Label *lamp :
-         {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
-          &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved})
+    for (const Label *lamp : {&form.outputs.lblSummarySaved, &form.outputs.lblPageSaved, &form.outputs.lblEmailSaved,
+                              &form.outputs.lblPhoneSaved, &form.outputs.lblUrlSaved})
         EXPECT_EQ(lamp->backColor(), Colours::ButtonFace) << lamp->name().toStdString();
-    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::Yellow);
-    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), Colours::Yellow);
-    EXPECT_EQ(form().browser.picANEnd.backColor(), Colours::Yellow);
+    EXPECT_EQ(form.criteria.mustContain.lamp.backColor(), Colours::Yellow);
+    EXPECT_EQ(form.criteria.mustNotContain.lamp.backColor(), Colours::Yellow);
+    EXPECT_EQ(form.browser.picANEnd.backColor(), Colours::Yellow);
 }
 
 TEST_F(ScreeningTest, APageExactlyAsLongAsTheMinimumPasses)
 {
-    on({&form().outputs.chkSaveSummary});
-    form().limits.incSMDMinHtmlSize.setText(QString::number(page().html.size()));
+    on({&form.outputs.chkSaveSummary});
+    form.limits.incSMDMinHtmlSize.setText(QString::number(page().html.size()));
     screen();
     EXPECT_EQ(rows(u"SiteSummary"_s), QStringList{address});
 }
@@ -234,29 +233,28 @@ TEST_F(ScreeningTest, APageExactlyAsLongAsTheMinimumPasses)
 TEST_F(ScreeningTest, AMinimumOfZeroReadsNothingToTestIt)
 {
     screen();
-    EXPECT_EQ(browser().reads, 0);
+    EXPECT_EQ(window().reads, 0);
 }
 
 TEST_F(ScreeningTest, AnUnwantedTextRefusesAPageThatHoldsTheWantedOne)
 {
-    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on, &form().criteria.mustNotContain.on});
-    fill(form().criteria.mustContain.items, {u"tea"_s});
-    fill(form().criteria.mustNotContain.items, {u"coffee"_s});
+    on({&form.outputs.chkSaveSummary, &form.criteria.mustContain.on, &form.criteria.mustNotContain.on});
+    fill(form.criteria.mustContain.items, {u"tea"_s});
+    fill(form.criteria.mustNotContain.items, {u"coffee"_s});
     screen();
     EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
-    EXPECT_EQ(form().criteria.mustContain.lamp.backColor(), Colours::Green);
-    EXPECT_EQ(form().criteria.mustNotContain.lamp.backColor(), Colours::Red);
+    EXPECT_EQ(form.criteria.mustContain.lamp.backColor(), Colours::Green);
+    EXPECT_EQ(form.criteria.mustNotContain.lamp.backColor(), Colours::Red);
 }
 
 TEST_F(ScreeningTest, ARefusedPageLeavesTheReportLabelsAsTheLastPassedPageSetThem)
 {
-    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on});
-    form().runs.mbANRunning = true; // labels are cleared when idle
+    on({&form.outputs.chkSaveSummary, &form.criteria.mustContain.on});
     screen();
-    ASSERT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
-    fill(form().criteria.mustContain.items, {u"cocoa"_s});
+    ASSERT_EQ(form.outputs.lblSummarySaved.backColor(), Colours::Green);
+    fill(form.criteria.mustContain.items, {u"cocoa"_s});
     screen();
-    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
+    EXPECT_EQ(form.outputs.lblSummarySaved.backColor(), Colours::Green);
 }
 
 namespace {
@@ -276,18 +274,18 @@ class EndMarkTable : public ScreeningTest, public testing::WithParamInterface<En
 TEST_P(EndMarkTable, TellsWhetherTheRunGoesOn)
 {
     const EndMark &row = GetParam();
-    on({&form().outputs.chkSaveSummary, &form().criteria.mustContain.on});
-    form().outputs.chkMCMNCStop.setValue(row.stopOn ? 1 : 0);
-    fill(form().criteria.mustContain.items, {row.passes ? u"tea"_s : u"cocoa"_s});
-    form().runs.mbANRunning = row.autoRun;
-    form().runs.mbMNRunning = row.manualRun;
-    form().browser.picANEnd.setBackColor(Colours::Yellow);
+    on({&form.outputs.chkSaveSummary, &form.criteria.mustContain.on});
+    form.outputs.chkMCMNCStop.setValue(row.stopOn ? 1 : 0);
+    fill(form.criteria.mustContain.items, {row.passes ? u"tea"_s : u"cocoa"_s});
+    form.runs.mbANRunning = row.autoRun;
+    form.runs.mbMNRunning = row.manualRun;
+    form.browser.picANEnd.setBackColor(Colours::Yellow);
     screen();
-    EXPECT_EQ(form().browser.picANEnd.backColor(), row.colour);
-    EXPECT_EQ(form().runs.mbANMCMNCStopped, row.stopsAuto);
-    EXPECT_EQ(form().runs.mbANCancel, row.stopsAuto);
-    EXPECT_EQ(form().runs.mbMNMCMNCStopped, row.stopsManual);
-    EXPECT_EQ(form().runs.mbMNCancel, row.stopsManual);
+    EXPECT_EQ(form.browser.picANEnd.backColor(), row.colour);
+    EXPECT_EQ(form.runs.mbANMCMNCStopped, row.stopsAuto);
+    EXPECT_EQ(form.runs.mbANCancel, row.stopsAuto);
+    EXPECT_EQ(form.runs.mbMNMCMNCStopped, row.stopsManual);
+    EXPECT_EQ(form.runs.mbMNCancel, row.stopsManual);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -301,50 +299,45 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ScreeningTest, WithNothingToSaveAllReportLabelsAreNeutral)
 {
-    for (Label *lamp : {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
-                        &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved})
+    for (Label *lamp : {&form.outputs.lblSummarySaved, &form.outputs.lblPageSaved, &form.outputs.lblEmailSaved,
+                        &form.outputs.lblPhoneSaved, &form.outputs.lblUrlSaved})
         lamp->setBackColor(Colours::Yellow);
     screen();
-    for (const Label *lamp :
-         {&form().outputs.lblSummarySaved, &form().outputs.lblPageSaved, &form().outputs.lblEmailSaved,
-          &form().outputs.lblPhoneSaved, &form().outputs.lblUrlSaved})
+    for (const Label *lamp : {&form.outputs.lblSummarySaved, &form.outputs.lblPageSaved, &form.outputs.lblEmailSaved,
+                              &form.outputs.lblPhoneSaved, &form.outputs.lblUrlSaved})
         EXPECT_EQ(lamp->backColor(), Colours::ButtonFace) << lamp->name().toStdString();
 }
 
 TEST_F(ScreeningTest, WhatWasFoundIsGreenAndWhatWasNotIsRed)
 {
-    form().runs.mbANRunning = true;
-    on({&form().outputs.chkSaveSummary, &form().outputs.chkSaveEmail, &form().outputs.chkSavePhone,
-        &form().outputs.chkSaveUrl, &form().outputs.chkSavePages, &form().outputs.chkSaveToFile});
-    form().options.chkSMD(7).setValue(0);
+    on({&form.outputs.chkSaveSummary, &form.outputs.chkSaveEmail, &form.outputs.chkSavePhone, &form.outputs.chkSaveUrl,
+        &form.outputs.chkSavePages, &form.outputs.chkSaveToFile});
+    form.options.chkSMD(SMD::PassUrlIfNoData).setValue(0);
     page().html = u"<body>Write to info@teahouse.com, please do so as soon as you can manage it</body>"_s;
     screen();
-    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
-    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Green);
-    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Green);
-    EXPECT_EQ(form().outputs.lblPhoneSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().outputs.lblUrlSaved.backColor(), Colours::Green);
+    EXPECT_EQ(form.outputs.lblSummarySaved.backColor(), Colours::Green);
+    EXPECT_EQ(form.outputs.lblPageSaved.backColor(), Colours::Green);
+    EXPECT_EQ(form.outputs.lblEmailSaved.backColor(), Colours::Green);
+    EXPECT_EQ(form.outputs.lblPhoneSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form.outputs.lblUrlSaved.backColor(), Colours::Green);
 }
 
 TEST_F(ScreeningTest, TheSameAddressASecondTimeIsYellowAndAddsNoRow)
 {
-    form().runs.mbANRunning = true;
-    on({&form().outputs.chkSaveSummary});
+    on({&form.outputs.chkSaveSummary});
     screen();
-    ASSERT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
+    ASSERT_EQ(form.outputs.lblSummarySaved.backColor(), Colours::Green);
     screen();
-    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Yellow);
+    EXPECT_EQ(form.outputs.lblSummarySaved.backColor(), Colours::Yellow);
     EXPECT_EQ(rows(u"SiteSummary"_s).size(), 1);
 }
 
 TEST_F(ScreeningTest, APageThatWentIntoTheTableAloneShowsAsNotSavedToFile)
 {
-    form().runs.mbANRunning = true;
-    on({&form().outputs.chkSaveSummary, &form().outputs.chkSavePages, &form().outputs.chkSaveToSS,
-        &form().outputs.chkSaveUrl});
-    form().outputs.chkSaveToFile.setValue(0);
+    on({&form.outputs.chkSaveSummary, &form.outputs.chkSavePages, &form.outputs.chkSaveToSS, &form.outputs.chkSaveUrl});
+    form.outputs.chkSaveToFile.setValue(0);
     screen();
-    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form.outputs.lblPageSaved.backColor(), Colours::Red);
     EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{page().html});
 }
 
@@ -366,17 +359,16 @@ class PassUrlTable : public ScreeningTest, public testing::WithParamInterface<Pa
 TEST_P(PassUrlTable, IsPassedOnByTheRule)
 {
     const PassUrlCase &row = GetParam();
-    form().runs.mbANRunning = true;
-    form().options.chkSMD(7).setValue(row.ifNoData ? 1 : 0);
-    form().outputs.chkSaveSummary.setValue(row.summary ? 1 : 0);
-    on({&form().outputs.chkSaveUrl, &form().outputs.chkSaveEmail});
+    form.options.chkSMD(SMD::PassUrlIfNoData).setValue(row.ifNoData ? 1 : 0);
+    form.outputs.chkSaveSummary.setValue(row.summary ? 1 : 0);
+    on({&form.outputs.chkSaveUrl, &form.outputs.chkSaveEmail});
     if (row.seenBefore)
-        addRow(database(), u"SiteSummary"_s, {{u"Url"_s, address}});
+        addRow(*database, u"SiteSummary"_s, {{u"Url"_s, address}});
     if (row.hasEmail)
         page().html += u" info@teahouse.com "_s;
     screen();
     EXPECT_EQ(rows(u"PassUrlsA"_s), row.passed ? QStringList{address} : QStringList());
-    EXPECT_EQ(form().outputs.lblUrlSaved.backColor(), row.passed ? Colours::Green : Colours::Red);
+    EXPECT_EQ(form.outputs.lblUrlSaved.backColor(), row.passed ? Colours::Green : Colours::Red);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screening, PassUrlTable,
@@ -392,8 +384,7 @@ INSTANTIATE_TEST_SUITE_P(Screening, PassUrlTable,
 
 TEST_F(ScreeningTest, TellsTheRowsOfEachPageByTable)
 {
-    form().runs.mbANRunning = true;
-    on({&form().outputs.chkSaveSummary, &form().outputs.chkSaveEmail});
+    on({&form.outputs.chkSaveSummary, &form.outputs.chkSaveEmail});
     page().html += u" info@teahouse.com and sales@teahouse.com "_s;
     screen();
     ASSERT_EQ(stored.size(), 1);
@@ -403,17 +394,16 @@ TEST_F(ScreeningTest, TellsTheRowsOfEachPageByTable)
 
 TEST_F(ScreeningTest, RowsThatDoNotReachTheFileAreRedAndAreNotTold)
 {
-    form().runs.mbANRunning = true;
-    on({&form().outputs.chkSaveSummary, &form().outputs.chkSaveEmail, &form().outputs.chkSaveUrl,
-        &form().outputs.chkSavePages, &form().outputs.chkSaveToFile});
+    on({&form.outputs.chkSaveSummary, &form.outputs.chkSaveEmail, &form.outputs.chkSaveUrl, &form.outputs.chkSavePages,
+        &form.outputs.chkSaveToFile});
     page().html += u" info@teahouse.com "_s;
-    database().CloseConnection();
+    database->CloseConnection();
     screen();
     EXPECT_TRUE(stored.isEmpty());
-    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().outputs.lblUrlSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().outputs.lblPageSaved.backColor(), Colours::Red); // the page is stored whole or not at all
+    EXPECT_EQ(form.outputs.lblSummarySaved.backColor(), Colours::Red);
+    EXPECT_EQ(form.outputs.lblEmailSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form.outputs.lblUrlSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form.outputs.lblPageSaved.backColor(), Colours::Red); // the page is stored whole or not at all
 }
 
 // Error pages.
@@ -424,9 +414,9 @@ class NotFoundTest : public ScreeningTest
   protected:
     NotFoundTest()
     {
-        form().outputs.chkSaveSummary.setValue(1);
-        form().limits.incNotFoundMinSize.setText(u"000200"_s);
-        browser().pages[u"http://www.site1.com"_s].html = u"<body>the front page</body>"_s;
+        form.outputs.chkSaveSummary.setValue(1);
+        form.limits.incNotFoundMinSize.setText(u"000200"_s);
+        window().pages[u"http://www.site1.com"_s].html = u"<body>the front page</body>"_s;
         showResults({address});
     }
 };
@@ -451,7 +441,7 @@ TEST_P(ErrorTexts, AreLookedForInTheMarkupAndTheTitleWithoutRegardToCase)
     clickStart();
     const QStringList expected =
         GetParam().isErrorPage ? QStringList{address, u"http://www.site1.com"_s} : QStringList{address};
-    EXPECT_EQ(browser().navigated, expected);
+    EXPECT_EQ(window().navigated, expected);
     EXPECT_EQ(pump.seconds() - start, GetParam().isErrorPage ? 10 : 5);
     EXPECT_EQ(statuses.contains(u"404 - Opening Server"_s), GetParam().isErrorPage);
     EXPECT_EQ(rows(u"SiteSummary"_s), QStringList{expected.constLast()});
@@ -470,39 +460,39 @@ TEST_F(NotFoundTest, ALongerPageIsTakenAsReal)
 {
     page().html = u"404 "_s + QString(197, u'x');
     clickStart();
-    EXPECT_EQ(browser().navigated, QStringList{address});
+    EXPECT_EQ(window().navigated, QStringList{address});
 }
 
 TEST_F(NotFoundTest, APageExactlyAsLongAsTheLimitIsTested)
 {
     page().html = u"404 "_s + QString(196, u'x');
     clickStart();
-    EXPECT_EQ(browser().navigated.size(), 2);
+    EXPECT_EQ(window().navigated.size(), 2);
 }
 
 TEST_F(NotFoundTest, ALimitOfZeroTestsNoPageOfARun)
 {
-    form().limits.incNotFoundMinSize.setText(u"0"_s);
+    form.limits.incNotFoundMinSize.setText(u"0"_s);
     page().html = u"404"_s;
     clickStart();
-    EXPECT_EQ(browser().navigated, QStringList{address});
+    EXPECT_EQ(window().navigated, QStringList{address});
 }
 
 TEST_F(NotFoundTest, CalledWithALimitOfZeroItTestsPagesOfEveryLength)
 {
-    form().limits.incNotFoundMinSize.setText(u"0"_s);
+    form.limits.incNotFoundMinSize.setText(u"0"_s);
     page().html = u"404 "_s + QString(5000, u'x');
-    browser().show(address);
-    program->errorPages.PageNotFound();
-    EXPECT_EQ(browser().navigated, QStringList{u"http://www.site1.com"_s});
+    window().show(address);
+    errorPages.PageNotFound();
+    EXPECT_EQ(window().navigated, QStringList{u"http://www.site1.com"_s});
 }
 
 TEST_F(NotFoundTest, ServersOnlyLeavesTheTestOut)
 {
-    form().options.chkSMA(0).setValue(1);
-    browser().pages[u"http://www.site1.com"_s].html = u"404"_s;
+    form.options.chkSMA(SMA::ServersOnly).setValue(1);
+    window().pages[u"http://www.site1.com"_s].html = u"404"_s;
     clickStart();
-    EXPECT_EQ(browser().navigated, QStringList{u"http://www.site1.com"_s});
+    EXPECT_EQ(window().navigated, QStringList{u"http://www.site1.com"_s});
 }
 
 TEST_F(NotFoundTest, XInTheWaitForTheServerEndsTheRun)
@@ -511,6 +501,6 @@ TEST_F(NotFoundTest, XInTheWaitForTheServerEndsTheRun)
     pump.after(7300, [&] { clickStart(); });
     showResults({address, u"http://www.site2.com/"_s});
     clickStart();
-    EXPECT_EQ(browser().navigated.size(), 2);
+    EXPECT_EQ(window().navigated.size(), 2);
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
 }

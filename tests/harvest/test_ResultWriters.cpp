@@ -1,6 +1,6 @@
 // Rows and files of an accepted page, each new thing once.
+#include "PageFixture.h"
 #include "store/sqlite/Connection.h"
-#include "support/ProgramFixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,52 +8,52 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-class WritersTest : public RunTest
+class WritersTest : public PageTest
 {
   protected:
     WritersTest()
     {
-        form().options.chkSMD(1).setValue(0);
-        form().places.txtSFMNDir.setText(folder.path() + u'/');
+        form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
+        form.places.txtSFMNDir.setText(folder.path() + u'/');
         show(u"http://www.site1.com/a/page.html"_s);
     }
     void show(const QString &address, const QString &html = u"<body>a page of no interest</body>"_s)
     {
-        FakePage &page = browser().pages[address];
+        FakePage &page = window().pages[address];
         page.html = html;
         page.title = u"A title"_s;
-        browser().show(address);
+        window().show(address);
     }
-    PageReading page() { return PageReading(program->browser); }
+    PageReading page() { return PageReading(browser); }
     int saveSummary()
     {
         PageReading reading = page();
-        return program->writers.SaveSummary(reading);
+        return writers.SaveSummary(reading);
     }
     bool saveFile()
     {
         PageReading reading = page();
-        return program->pageFiles.SaveFile(reading);
+        return pageFiles.SaveFile(reading);
     }
     bool savePassUrl()
     {
         PageReading reading = page();
-        return program->writers.SavePassUrl(reading);
+        return writers.SavePassUrl(reading);
     }
     bool saveEmail()
     {
         PageReading reading = page();
-        return program->writers.SaveEmail(reading);
+        return writers.SaveEmail(reading);
     }
     bool savePhone()
     {
         PageReading reading = page();
-        return program->writers.SavePhone(reading);
+        return writers.SavePhone(reading);
     }
     QString index(const QString &url = {})
     {
         PageReading reading = page();
-        return program->writers.GetSSIndex(reading, url);
+        return writers.GetSSIndex(reading, url);
     }
     QByteArray fileContent(const QString &name)
     {
@@ -62,8 +62,8 @@ class WritersTest : public RunTest
     }
     void savePagesToFile()
     {
-        form().outputs.chkSavePages.setValue(1);
-        form().outputs.chkSaveToFile.setValue(1);
+        form.outputs.chkSavePages.setValue(1);
+        form.outputs.chkSaveToFile.setValue(1);
     }
 };
 
@@ -86,7 +86,7 @@ TEST_F(WritersTest, ASummaryIsTitleAndAddress)
 
 TEST_F(WritersTest, WithPagesSavedToTheTableThePageIsInTheRow)
 {
-    form().outputs.chkSavePages.setValue(1);
+    form.outputs.chkSavePages.setValue(1);
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithPage);
     EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{u"<body>a page of no interest</body>"_s});
 }
@@ -94,7 +94,7 @@ TEST_F(WritersTest, WithPagesSavedToTheTableThePageIsInTheRow)
 TEST_F(WritersTest, WithPagesSavedToFilesAloneTheRowHasNone)
 {
     savePagesToFile();
-    form().outputs.chkSaveToSS.setValue(0);
+    form.outputs.chkSaveToSS.setValue(0);
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
     EXPECT_EQ(rows(u"SiteSummary"_s, u"FullPage"_s), QStringList{QString()});
 }
@@ -103,16 +103,16 @@ TEST_F(WritersTest, ARowThatIsNotWrittenIsNotReported)
 {
     show(u"http://www.site1.com/"_s,
          u"<body>Call us at 212-555-0100 or write to ann@tea.com, whenever you like to</body>"_s);
-    database().connection()->refuseWrites();
+    database->connection()->refuseWrites();
     EXPECT_EQ(saveSummary(), ResultWriters::NothingSaved);
     EXPECT_FALSE(savePassUrl());
     EXPECT_FALSE(saveEmail());
     EXPECT_FALSE(savePhone());
-    EXPECT_TRUE(program->writers.takeAdded().isEmpty());
-    database().connection()->allowWrites();
+    EXPECT_TRUE(writers.takeAdded().isEmpty());
+    database->connection()->allowWrites();
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
     EXPECT_TRUE(savePassUrl() && saveEmail() && savePhone());
-    EXPECT_EQ(program->writers.takeAdded(),
+    EXPECT_EQ(writers.takeAdded(),
               (QMap<QString, int>{
                   {u"SiteSummary"_s, 1}, {u"PassUrlsA"_s, 1}, {u"EmailAddress"_s, 1}, {u"PhoneNumber"_s, 1}}));
 }
@@ -126,7 +126,7 @@ TEST_F(WritersTest, AnAddressThatStandsThereIsNotAddedAgain)
 
 TEST_F(WritersTest, UniqueServersKeepOneRowForASite)
 {
-    form().options.chkSMD(1).setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(1);
     EXPECT_EQ(saveSummary(), ResultWriters::AddedWithoutPage);
     show(u"http://www.site1.com/other.html"_s);
     EXPECT_EQ(saveSummary(), ResultWriters::AlreadyThere);
@@ -150,7 +150,7 @@ TEST_F(WritersTest, APageWithoutAnAddressHasNoSummary)
 
 TEST_F(WritersTest, UniqueServersOfAPageWithoutAServerSaveNothing)
 {
-    form().options.chkSMD(1).setValue(1);
+    form.options.chkSMD(SMD::UniqueInSummary).setValue(1);
     show(u"file:///home/page"_s);
     EXPECT_EQ(saveSummary(), ResultWriters::NothingSaved);
 }
@@ -161,7 +161,7 @@ TEST_F(WritersTest, AFileHoldsThePageAndALineEnd)
 {
     savePagesToFile();
     EXPECT_TRUE(saveFile());
-    EXPECT_EQ(withoutMark(fileContent(u"Page-1.htm"_s)), "<body>a page of no interest</body>\r\n");
+    EXPECT_EQ(fileContent(u"Page-1.htm"_s), "\xEF\xBB\xBF<body>a page of no interest</body>\r\n");
 }
 
 TEST_F(WritersTest, FileNamesClimbAndNeverOverwrite)
@@ -192,7 +192,7 @@ TEST_F(WritersTest, DigitsInTheFoldersNameDoNotClimb)
     savePagesToFile();
     const QString sub = folder.path() + u"/2024-05/"_s;
     ASSERT_TRUE(QDir().mkpath(sub));
-    form().places.txtSFMNDir.setText(sub);
+    form.places.txtSFMNDir.setText(sub);
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(QFile::exists(sub + u"Page-2.htm"_s));
@@ -201,10 +201,10 @@ TEST_F(WritersTest, DigitsInTheFoldersNameDoNotClimb)
 TEST_F(WritersTest, BlanksAroundTheFolderDoNotCountAndOtherCharactersDo)
 {
     savePagesToFile();
-    form().places.txtSFMNDir.setText(u"  "_s + folder.path() + u"/ "_s);
+    form.places.txtSFMNDir.setText(u"  "_s + folder.path() + u"/ "_s);
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(QFile::exists(folder.filePath(u"Page-1.htm"_s)));
-    form().places.txtSFMNDir.setText(folder.path() + u"/\t"_s);
+    form.places.txtSFMNDir.setText(folder.path() + u"/\t"_s);
     EXPECT_TRUE(saveFile());
     EXPECT_TRUE(QFile::exists(folder.filePath(u"\tPage-1.htm"_s)));
 }
@@ -212,7 +212,7 @@ TEST_F(WritersTest, BlanksAroundTheFolderDoNotCountAndOtherCharactersDo)
 TEST_F(WritersTest, InOneFilePagesFollowOneAnotherDividedByTheLineEnd)
 {
     savePagesToFile();
-    form().outputs.chkPutInOneFile.setValue(1);
+    form.outputs.chkPutInOneFile.setValue(1);
     EXPECT_TRUE(saveFile());
     show(u"http://www.site2.com/"_s, u"<body>second</body>"_s);
     EXPECT_TRUE(saveFile());
@@ -224,20 +224,20 @@ TEST_F(WritersTest, InOneFilePagesFollowOneAnotherDividedByTheLineEnd)
 TEST_F(WritersTest, TextAndLinksAreTxtFiles)
 {
     savePagesToFile();
-    browser().pages[u"http://www.site1.com/a/page.html"_s].text = u"the text"_s;
-    browser().show(u"http://www.site1.com/a/page.html"_s);
-    form().outputs.cboANSaveType.setListIndex(1);
+    window().pages[u"http://www.site1.com/a/page.html"_s].text = u"the text"_s;
+    window().show(u"http://www.site1.com/a/page.html"_s);
+    form.outputs.cboANSaveType.setListIndex(1);
     EXPECT_TRUE(saveFile());
-    form().outputs.cboANSaveType.setListIndex(2);
+    form.outputs.cboANSaveType.setListIndex(2);
     EXPECT_TRUE(saveFile());
-    EXPECT_EQ(withoutMark(fileContent(u"Page-1.txt"_s)), "the text\r\n");
-    EXPECT_EQ(withoutMark(fileContent(u"Page-2.txt"_s)), "\r\n\r\n"); // no link: one line end, and the file's own
+    EXPECT_EQ(fileContent(u"Page-1.txt"_s), "the text\r\n");
+    EXPECT_EQ(fileContent(u"Page-2.txt"_s), "\r\n\r\n"); // no link: one line end, and the file's own
 }
 
 TEST_F(WritersTest, WithNothingToStoreNoFileIsMade)
 {
     savePagesToFile();
-    form().limits.incSFMinFileSize.setText(u"009999"_s);
+    form.limits.incSFMinFileSize.setText(u"009999"_s);
     EXPECT_FALSE(saveFile());
     EXPECT_FALSE(QFile::exists(folder.filePath(u"Page-1.htm"_s)));
 }
@@ -245,7 +245,7 @@ TEST_F(WritersTest, WithNothingToStoreNoFileIsMade)
 TEST_F(WritersTest, AFolderThatIsNotThereIsAFileNotSaved)
 {
     savePagesToFile();
-    form().places.txtSFMNDir.setText(folder.path() + u"/gone/"_s);
+    form.places.txtSFMNDir.setText(folder.path() + u"/gone/"_s);
     EXPECT_FALSE(saveFile());
 }
 
@@ -262,7 +262,7 @@ TEST_F(WritersTest, APassUrlGetsTheNextFreeName)
 
 TEST_F(WritersTest, APassUrlGoesToTheListInForce)
 {
-    form().saved.cboANList.setListIndex(3);
+    form.saved.cboANList.setListIndex(3);
     EXPECT_TRUE(savePassUrl());
     EXPECT_EQ(rows(u"PassUrlsD"_s), QStringList{u"http://www.site1.com/a/page.html"_s});
     EXPECT_TRUE(rows(u"PassUrlsA"_s).isEmpty());
@@ -285,8 +285,8 @@ TEST_F(WritersTest, APassUrlLosesItsQuotes)
 
 TEST_F(WritersTest, WithSummariesOnAPassUrlCarriesTheIndexOfItsPage)
 {
-    form().outputs.chkSaveSummary.setValue(1);
-    addRow(database(), u"SiteSummary"_s, {{u"Url"_s, u"http://www.other.com/"_s}});
+    form.outputs.chkSaveSummary.setValue(1);
+    addRow(*database, u"SiteSummary"_s, {{u"Url"_s, u"http://www.other.com/"_s}});
     saveSummary();
     EXPECT_TRUE(savePassUrl());
     EXPECT_EQ(rows(u"PassUrlsA"_s, u"SSIndex"_s), QStringList{rows(u"SiteSummary"_s, u"Index"_s).constLast()});
@@ -294,7 +294,7 @@ TEST_F(WritersTest, WithSummariesOnAPassUrlCarriesTheIndexOfItsPage)
 
 TEST_F(WritersTest, WithSummariesOnAndNoRowOfThePageTheIndexIsMinusOne)
 {
-    form().outputs.chkSaveSummary.setValue(1);
+    form.outputs.chkSaveSummary.setValue(1);
     EXPECT_TRUE(savePassUrl());
     EXPECT_EQ(rows(u"PassUrlsA"_s, u"SSIndex"_s), QStringList{u"-1"_s});
 }
@@ -323,16 +323,16 @@ TEST_F(WritersTest, AddressesThatDifferInCaseAreOne)
 
 TEST_F(WritersTest, AnAddressWithAQuoteEndsItsWriterAndTheOthersGoOn)
 {
-    form().runs.mbANRunning = true;
-    for (CheckBox *box : {&form().outputs.chkSaveEmail, &form().outputs.chkSaveSummary, &form().outputs.chkSaveUrl})
+    form.runs.mbANRunning = true;
+    for (CheckBox *box : {&form.outputs.chkSaveEmail, &form.outputs.chkSaveSummary, &form.outputs.chkSaveUrl})
         box->setValue(1);
-    form().options.chkSMD(7).setValue(0);
+    form.options.chkSMD(SMD::PassUrlIfNoData).setValue(0);
     // What stands at the very beginning of a page is taken into an address whatever it is.
     show(u"http://www.site1.com/"_s, u"'ann@tea.com and bob@tea.com are what is to be found here"_s);
     PageReading reading = page();
-    program->screening.CollectData(reading);
+    screening.CollectData(reading);
     EXPECT_TRUE(rows(u"EmailAddress"_s, u"Address"_s).isEmpty());
-    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form.outputs.lblEmailSaved.backColor(), Colours::Red);
     EXPECT_EQ(rows(u"SiteSummary"_s).size(), 1);
     EXPECT_EQ(rows(u"PassUrlsA"_s).size(), 1);
     show(u"http://www.site2.com/"_s, u" ann@tea.com and bob@tea.com are what is to be found here"_s);
@@ -349,7 +349,7 @@ TEST_F(WritersTest, APageWithoutAddressesSavesNone)
 
 TEST_F(WritersTest, WithoutTheOptionTheRowsUrlIsEmpty)
 {
-    form().options.chkSMD(3).setValue(0);
+    form.options.chkSMD(SMD::UrlWithEmail).setValue(0);
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com is the one and only address here</body>"_s);
     EXPECT_TRUE(saveEmail());
     EXPECT_EQ(rows(u"EmailAddress"_s), QStringList{QString()});
@@ -357,8 +357,8 @@ TEST_F(WritersTest, WithoutTheOptionTheRowsUrlIsEmpty)
 
 TEST_F(WritersTest, BlockedTextsKeepAddressesOutWithoutRegardToCase)
 {
-    form().blocking.email.items.addItem(u"@SPAM"_s);
-    form().blocking.email.on.setValue(1);
+    form.blocking.email.items.addItem(u"@SPAM"_s);
+    form.blocking.email.on.setValue(1);
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com and bob@spam.com are what is here</body>"_s);
     EXPECT_TRUE(saveEmail());
     EXPECT_EQ(rows(u"EmailAddress"_s, u"Address"_s), QStringList{u"ann@tea.com"_s});
@@ -368,14 +368,14 @@ TEST_F(WritersTest, BlockedTextsKeepAddressesOutWithoutRegardToCase)
 
 TEST_F(WritersTest, WithBlockingOffNothingIsKeptOut)
 {
-    form().blocking.email.items.addItem(u"@spam"_s);
+    form.blocking.email.items.addItem(u"@spam"_s);
     show(u"http://www.site1.com/"_s, u"<body> bob@spam.com is all that there is to be found here</body>"_s);
     EXPECT_TRUE(saveEmail());
 }
 
 TEST_F(WritersTest, AddressesCarryTheIndexOfTheirPagesSummary)
 {
-    form().outputs.chkSaveSummary.setValue(1);
+    form.outputs.chkSaveSummary.setValue(1);
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com is the one and only address here</body>"_s);
     EXPECT_TRUE(saveEmail());
     EXPECT_EQ(rows(u"EmailAddress"_s, u"SSIndex"_s), QStringList{u"-1"_s});
@@ -387,16 +387,16 @@ TEST_F(WritersTest, AddressesCarryTheIndexOfTheirPagesSummary)
 
 TEST_F(WritersTest, AQueryThatFailsEndsItsWriterAndTheOthersGoOn)
 {
-    form().runs.mbANRunning = true;
-    for (CheckBox *box : {&form().outputs.chkSaveEmail, &form().outputs.chkSaveSummary, &form().outputs.chkSaveUrl})
+    form.runs.mbANRunning = true;
+    for (CheckBox *box : {&form.outputs.chkSaveEmail, &form.outputs.chkSaveSummary, &form.outputs.chkSaveUrl})
         box->setValue(1);
-    form().options.chkSMD(7).setValue(0);
-    ASSERT_TRUE(database().RemoveTable(u"EmailAddress"_s));
+    form.options.chkSMD(SMD::PassUrlIfNoData).setValue(0);
+    ASSERT_TRUE(database->RemoveTable(u"EmailAddress"_s));
     show(u"http://www.site1.com/"_s, u"<body> ann@tea.com is the one and only address here</body>"_s);
     PageReading reading = page();
-    program->screening.CollectData(reading);
-    EXPECT_EQ(form().outputs.lblEmailSaved.backColor(), Colours::Red);
-    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::Green);
+    screening.CollectData(reading);
+    EXPECT_EQ(form.outputs.lblEmailSaved.backColor(), Colours::Red);
+    EXPECT_EQ(form.outputs.lblSummarySaved.backColor(), Colours::Green);
     EXPECT_EQ(rows(u"SiteSummary"_s).size(), 1);
     EXPECT_EQ(rows(u"PassUrlsA"_s).size(), 1);
 }
@@ -417,8 +417,8 @@ TEST_F(WritersTest, NumbersAreStoredOnceAsAnyOrFax)
 
 TEST_F(WritersTest, FaxNumbersOnly)
 {
-    form().options.chkSMD(6).setValue(1);
-    form().options.chkSMD(4).setValue(0);
+    form.options.chkSMD(SMD::FaxOnly).setValue(1);
+    form.options.chkSMD(SMD::UrlWithPhone).setValue(0);
     show(
         u"http://www.site1.com/"_s,
         u"<body>Call us at 212-555-0100 at any time of the day that suits you. Fax: 212-555-0101, day and night, always</body>"_s);
@@ -430,8 +430,8 @@ TEST_F(WritersTest, FaxNumbersOnly)
 
 TEST_F(WritersTest, NumbersCarryTheIndexOfTheirPagesSummary)
 {
-    form().outputs.chkSaveSummary.setValue(1);
-    addRow(database(), u"SiteSummary"_s, {{u"Url"_s, u"http://www.other.com/"_s}});
+    form.outputs.chkSaveSummary.setValue(1);
+    addRow(*database, u"SiteSummary"_s, {{u"Url"_s, u"http://www.other.com/"_s}});
     show(u"http://www.site1.com/"_s, u"<body>Call us at 212-555-0100, whenever you like to call us</body>"_s);
     EXPECT_TRUE(savePhone());
     EXPECT_EQ(rows(u"PhoneNumber"_s, u"SSIndex"_s), QStringList{u"-1"_s});
@@ -443,7 +443,7 @@ TEST_F(WritersTest, NumbersCarryTheIndexOfTheirPagesSummary)
 
 TEST_F(WritersTest, OnlyTheChosenAreaCodesCount)
 {
-    form().areaCodes.txtSBSelAreaCodes.setText(u" 415 "_s);
+    form.areaCodes.txtSBSelAreaCodes.setText(u" 415 "_s);
     show(u"http://www.site1.com/"_s,
          u"<body>Call us at 212-555-0100 or at 415-555-0101, whenever you like to call us</body>"_s);
     EXPECT_TRUE(savePhone());
@@ -481,7 +481,7 @@ TEST_P(SummaryIndex, FindsTheFirstRowInTableOrder)
 {
     const IndexCase &row = GetParam();
     for (const QString &url : row.summaryUrls)
-        addRow(database(), u"SiteSummary"_s, {{u"Url"_s, url}});
+        addRow(*database, u"SiteSummary"_s, {{u"Url"_s, url}});
     show(row.page);
     const QStringList indexes = rows(u"SiteSummary"_s, u"Index"_s);
     EXPECT_EQ(index(row.url), row.row == 0 ? u"-1"_s : indexes.at(row.row - 1));

@@ -1,6 +1,7 @@
-// Runs whose browser dies, whose pages do not come, and whose database or disk refuses: nothing is lost in silence.
+// Runs whose pages do not come, and whose database or disk refuses: nothing is lost in silence.
+#include "WalkFixture.h"
+#include "harvest/UntilLoaded.h"
 #include "store/Transaction.h"
-#include "support/ProgramFixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,194 +11,28 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr qint64 second = 1000;
 
-class RunFaults : public RunTest
+class RunFaults : public WalkTest
 {
   protected:
     RunFaults()
     {
-        form().outputs.chkSaveSummary.setValue(1);
-        form().options.chkSMD(1).setValue(0);
-    }
-    /// Another window with the same pages takes the place of the one that runs.
-    std::shared_ptr<FakeBrowser> putNextInPlace()
-    {
-        auto dying = browsers.running;
-        browsers.running = std::make_shared<FakeBrowser>(pump);
-        browsers.running->pages = dying->pages;
-        gone.append(dying);
-        return dying;
-    }
-    void dieAfter(qint64 milliseconds)
-    {
-        pump.after(milliseconds, [this] { putNextInPlace()->die(); });
-    }
-    /// Everything that any of the browsers was sent to.
-    QStringList navigated()
-    {
-        QStringList all;
-        for (const auto &browser : gone)
-            all += browser->navigated;
-        return all + browser().navigated;
+        form.outputs.chkSaveSummary.setValue(1);
+        form.options.chkSMD(SMD::UniqueInSummary).setValue(0);
     }
     void lockDatabase()
     {
         other = std::make_unique<cAdoMdb>(log);
-        ASSERT_TRUE(other->LoadDatabase(database().DatabasePath()));
+        ASSERT_TRUE(other->LoadDatabase(database->DatabasePath()));
         lock = std::make_unique<Transaction>(*other);
         ASSERT_TRUE(lock->isActive());
     }
     int toldTimes(const QString &text) const { return static_cast<int>(statuses.count(text)); }
 
-    RecordingLog log;
     std::unique_ptr<cAdoMdb> other;
     std::unique_ptr<Transaction> lock;
-    QList<std::shared_ptr<FakeBrowser>> gone;
 };
 
-/// Screens a page with what its browser sends on the way: it dies when it is read.
-class DiesWhenRead : public FakeBrowser
-{
-  public:
-    DiesWhenRead(FakePump &pump, QString address) : FakeBrowser(pump), mPump(pump), mAddress(std::move(address)) {}
-    [[nodiscard]] PageContent content() override
-    {
-        if (LocationURL() != mAddress)
-            return FakeBrowser::content();
-        mPump.after(0, [this] { onDeath(); });
-        throw RuntimeError(462, u"The remote server machine does not exist or is unavailable"_s);
-    }
-    std::function<void()> onDeath;
-
-  private:
-    FakePump &mPump;
-    QString mAddress;
-};
 } // namespace
-
-// Browsers that die.
-
-TEST_F(RunFaults, ABrowserThatDiesInAWaitIsStartedAgainAndThePageOpenedAgain)
-{
-    const QStringList sites = makeSites(3);
-    showResults(sites);
-    dieAfter(7 * second); // in the wait for the second page
-    clickStart();
-    EXPECT_EQ(navigated(), (QStringList{sites[0], sites[1], sites[1], sites[2]}));
-    EXPECT_EQ(rows(u"SiteSummary"_s), sites);
-    EXPECT_TRUE(statuses.contains(u"Browser has ended. Starting it again"_s));
-    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-    EXPECT_TRUE(form().browser.mbInitialized);
-}
-
-TEST_F(RunFaults, AProgramThatHasToBeStartedIsWaitedFor)
-{
-    const QStringList sites = makeSites(2);
-    showResults(sites);
-    browsers.program = QCoreApplication::applicationFilePath();
-    pump.after(2 * second, [&] {
-        auto dying = browsers.running;
-        browsers.running.reset();
-        browsers.startsAfter = 1500;
-        gone.append(dying);
-        dying->die();
-    });
-    clickStart();
-    EXPECT_EQ(browsers.started.size(), 1);
-    EXPECT_EQ(browser().navigated, sites);
-    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-}
-
-TEST_F(RunFaults, APageOnWhichTheBrowserDiesThreeTimesIsPassedOver)
-{
-    const QStringList sites = makeSites(3);
-    showResults(sites);
-    for (int death = 0; death < 3; ++death)
-        dieAfter((7 + 2 * death) * second);
-    clickStart();
-    EXPECT_EQ(navigated(), (QStringList{sites[0], sites[1], sites[1], sites[1], sites[2]}));
-    EXPECT_EQ(rows(u"SiteSummary"_s), (QStringList{sites[0], sites[2]}));
-    EXPECT_EQ(toldTimes(u"Passed over "_s + sites[1]), 1);
-    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-}
-
-TEST_F(RunFaults, ABrowserThatDiesWhileAPageIsReadIsAskedForThatPageAgain)
-{
-    const QStringList sites = makeSites(3);
-    auto dying = std::make_shared<DiesWhenRead>(pump, sites[1]);
-    dying->pages = browser().pages;
-    dying->onDeath = [&] { putNextInPlace()->die(); };
-    browsers.running = dying;
-    program->connection.InitializeIE();
-    showResults(sites);
-    statuses.clear();
-    clickStart();
-    EXPECT_EQ(navigated(), (QStringList{sites[0], sites[1], sites[1], sites[2]}));
-    EXPECT_EQ(rows(u"SiteSummary"_s), sites);
-    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-}
-
-TEST_F(RunFaults, ABrowserThatDiesOnAResultPageIsAskedForItAgain)
-{
-    const QStringList sites = makeSites(1);
-    addSaved(u"Results-100"_s, u"http://www.seek.com/?page=1"_s);
-    browser().pages[u"http://www.seek.com/?page=1"_s].links = sites;
-    program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
-    form().saved.chkUseSavedUrls.setValue(1);
-    dieAfter(second);
-    clickStart();
-    EXPECT_EQ(rows(u"SiteSummary"_s), sites);
-    EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-}
-
-TEST_F(RunFaults, ABrowserThatCannotBeStartedAgainEndsTheRunOnThatPage)
-{
-    const QStringList sites = makeSites(3);
-    showResults(sites);
-    pump.after(7 * second, [&] {
-        auto dying = browsers.running;
-        browsers.running.reset();
-        gone.append(dying);
-        dying->die();
-    });
-    clickStart();
-    EXPECT_EQ(lastStatus(), u"Stopped (ERROR, NO BROWSER)"_s);
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
-    EXPECT_FALSE(form().browser.mbInitialized);
-}
-
-TEST_F(RunFaults, ABrowserThatDiesBetweenTwoRunsIsNotStartedAgain)
-{
-    putNextInPlace()->die();
-    EXPECT_EQ(lastStatus(), u"Not initialized"_s);
-    EXPECT_FALSE(form().browser.mbInitialized);
-}
-
-TEST_F(RunFaults, ABrowserThatTheUserClosesEndsTheRun)
-{
-    showResults(makeSites(3));
-    pump.after(7 * second, [&] { putNextInPlace()->close(); });
-    clickStart();
-    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_FALSE(statuses.contains(u"Browser has ended. Starting it again"_s));
-}
-
-TEST_F(RunFaults, XWhileTheBrowserIsStartedAgainStopsTheRunOnThatPage)
-{
-    const QStringList sites = makeSites(3);
-    showResults(sites);
-    browsers.program = QCoreApplication::applicationFilePath();
-    pump.after(7 * second, [&] {
-        auto dying = browsers.running;
-        browsers.running.reset();
-        browsers.startsAfter = 5 * second;
-        gone.append(dying);
-        dying->die();
-    });
-    pump.after(9 * second, [&] { clickStart(); });
-    clickStart();
-    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
-}
 
 // Pages that do not come.
 
@@ -211,17 +46,17 @@ class NotReached : public RunFaults, public testing::WithParamInterface<Missing>
 TEST_P(NotReached, IsNeitherScreenedNorStored)
 {
     const QStringList sites = makeSites(3);
-    FakePage &page = browser().pages[sites[1]];
+    FakePage &page = window().pages[sites[1]];
     page.loadTime = GetParam() == Missing::Late ? 60 * second : 0;
     page.fails = GetParam() == Missing::ErrorPage;
     page.nothing = GetParam() == Missing::Nothing;
     if (GetParam() == Missing::Process)
-        pump.after(7 * second, [&] { browser().loseProcess(); });
+        pump.after(7 * second, [&] { window().loseProcess(); });
     showResults(sites);
     QList<Colour> lamps;
-    QObject::connect(&program->status, &StatusLine::told, &form(), [&](const QString &text) {
+    QObject::connect(&status, &StatusLine::told, &form, [&](const QString &text) {
         if (text == "Not reached"_L1)
-            lamps = {form().outputs.lblSummarySaved.backColor(), form().outputs.lblUrlSaved.backColor()};
+            lamps = {form.outputs.lblSummarySaved.backColor(), form.outputs.lblUrlSaved.backColor()};
     });
     clickStart();
     EXPECT_EQ(rows(u"SiteSummary"_s), (QStringList{sites[0], sites[2]}));
@@ -236,23 +71,23 @@ INSTANTIATE_TEST_SUITE_P(Run, NotReached,
 
 TEST_F(RunFaults, APageThatDoesNotComeIsNotTakenForAnErrorPageOfItsServer)
 {
-    form().limits.incNotFoundMinSize.setText(u"000900"_s);
+    form.limits.incNotFoundMinSize.setText(u"000900"_s);
     const QStringList sites = makeSites(1);
-    browser().pages[sites[0]].fails = true;
-    browser().pages[sites[0]].html = u"cannot find server"_s;
+    window().pages[sites[0]].fails = true;
+    window().pages[sites[0]].html = u"cannot find server"_s;
     showResults(sites);
     clickStart();
-    EXPECT_EQ(browser().navigated, sites);
+    EXPECT_EQ(window().navigated, sites);
 }
 
 TEST_F(RunFaults, AResultPageThatDoesNotComeHasNoLinks)
 {
     addSaved(u"Results-100"_s, u"http://www.seek.com/?page=1"_s);
-    FakePage &page = browser().pages[u"http://www.seek.com/?page=1"_s];
+    FakePage &page = window().pages[u"http://www.seek.com/?page=1"_s];
     page.links = makeSites(1);
-    browser().pages[u"http://www.seek.com/?page=1"_s].fails = true;
-    program->savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
-    form().saved.chkUseSavedUrls.setValue(1);
+    window().pages[u"http://www.seek.com/?page=1"_s].fails = true;
+    savedUrls.LoadSavedUrls(SavedUrls::Kind::SavedUrl);
+    form.saved.chkUseSavedUrls.setValue(1);
     clickStart();
     EXPECT_EQ(toldTimes(u"Not reached"_s), 1);
     EXPECT_TRUE(visited.isEmpty());
@@ -261,7 +96,7 @@ TEST_F(RunFaults, AResultPageThatDoesNotComeHasNoLinks)
 TEST_F(RunFaults, APageThatTheBrowserDoesNotGiveIsLeftOut)
 {
     const QStringList sites = makeSites(2);
-    browser().pages[sites[0]].readingFails = RuntimeError(50'001, u"took too long"_s);
+    window().pages[sites[0]].readingFails = RuntimeError(50'001, u"took too long"_s);
     showResults(sites);
     clickStart();
     EXPECT_EQ(toldTimes(u"Not readable"_s), 1);
@@ -280,7 +115,6 @@ TEST_F(RunFaults, ALockedDatabaseIsWaitedForAndNothingIsLost)
     EXPECT_EQ(rows(u"SiteSummary"_s), sites);
     EXPECT_EQ(toldTimes(u"Database is locked. Waiting"_s), 1);
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
-    EXPECT_EQ(form().outputs.lblSummarySaved.backColor(), Colours::ButtonFace); // idle
 }
 
 TEST_F(RunFaults, AfterAMinuteTheRunStopsOnThatPageAndGoResumesWithIt)
@@ -295,9 +129,9 @@ TEST_F(RunFaults, AfterAMinuteTheRunStopsOnThatPageAndGoResumesWithIt)
     EXPECT_TRUE(dialogs.told.isEmpty());
     lock.reset();
     EXPECT_EQ(rows(u"SiteSummary"_s), QStringList{sites[0]});
-    browser().navigated.clear();
+    window().navigated.clear();
     clickStart();
-    EXPECT_EQ(browser().navigated, sites.mid(1));
+    EXPECT_EQ(window().navigated, sites.mid(1));
     EXPECT_EQ(rows(u"SiteSummary"_s), sites);
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
 }
@@ -310,7 +144,7 @@ TEST_F(RunFaults, XEndsThatWaitAndGoResumesWithThePage)
     pump.after(15 * second, [&] { clickStart(); });
     clickStart();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
+    EXPECT_EQ(form.autoRun.mlngANLinkIndex, 1);
     lock.reset();
     clickStart();
     EXPECT_EQ(rows(u"SiteSummary"_s), sites);
@@ -331,7 +165,7 @@ TEST_F(RunFaults, StoppedOnTheFirstPageOfAllGoResumesWithIt)
 
 TEST_F(RunFaults, UntilLoadedDoesNotEndThatWait)
 {
-    const UntilLoaded untilLoaded(program->timer, program->browser);
+    const UntilLoaded untilLoaded(timer, browser);
     const QStringList sites = makeSites(1);
     showResults(sites);
     lockDatabase();
@@ -345,7 +179,7 @@ TEST_F(RunFaults, ADatabaseThatIsMovedEndsTheRunAtOnceWithAMessage)
 {
     const QStringList sites = makeSites(3);
     showResults(sites);
-    const QString path = database().DatabasePath();
+    const QString path = database->DatabasePath();
     pump.after(7 * second, [&] { ASSERT_TRUE(QFile::rename(path, path + u".moved"_s)); });
     const qint64 start = pump.seconds();
     clickStart();
@@ -354,14 +188,14 @@ TEST_F(RunFaults, ADatabaseThatIsMovedEndsTheRunAtOnceWithAMessage)
     ASSERT_EQ(dialogs.told.size(), 1);
     EXPECT_EQ(dialogs.told[0].text, u"Database has been moved or deleted: "_s + path);
     EXPECT_EQ(stored.size(), 1); // the first page's row; nothing is reported that is not there
-    EXPECT_EQ(form().autoRun.mlngANLinkIndex, 1);
+    EXPECT_EQ(form.autoRun.mlngANLinkIndex, 1);
 }
 
 TEST_F(RunFaults, APageFileIsTakenBackWhereItsRowsAreNotStored)
 {
-    form().outputs.chkSavePages.setValue(1);
-    form().outputs.chkSaveToFile.setValue(1);
-    form().places.txtSFMNDir.setText(folder.path() + u'/');
+    form.outputs.chkSavePages.setValue(1);
+    form.outputs.chkSaveToFile.setValue(1);
+    form.places.txtSFMNDir.setText(folder.path() + u'/');
     const QStringList sites = makeSites(1);
     showResults(sites);
     lockDatabase();
@@ -376,9 +210,9 @@ TEST_F(RunFaults, APageFileIsTakenBackWhereItsRowsAreNotStored)
 
 TEST_F(RunFaults, AFolderForPagesThatIsMissingEndsTheRunOnThatPage)
 {
-    form().outputs.chkSavePages.setValue(1);
-    form().outputs.chkSaveToFile.setValue(1);
-    form().places.txtSFMNDir.setText(folder.path() + u"/gone/"_s);
+    form.outputs.chkSavePages.setValue(1);
+    form.outputs.chkSaveToFile.setValue(1);
+    form.places.txtSFMNDir.setText(folder.path() + u"/gone/"_s);
     const QStringList sites = makeSites(2);
     showResults(sites);
     clickStart();
@@ -395,8 +229,8 @@ TEST_F(RunFaults, AFolderForPagesThatIsMissingEndsTheRunOnThatPage)
 
 TEST_F(RunFaults, AnAddressLongerThanItsColumnIsFoundAgainAtTheNextVisit)
 {
-    form().outputs.chkSaveUrl.setValue(1);
-    form().options.chkSMD(7).setValue(0);
+    form.outputs.chkSaveUrl.setValue(1);
+    form.options.chkSMD(SMD::PassUrlIfNoData).setValue(0);
     const QString address = u"http://www.site1.com/"_s + QString(300, u'x');
     showResults({address, address + u"1"_s, address + u"2"_s});
     clickStart();

@@ -1,15 +1,14 @@
-// What the tests of faults share: files of any content, rights that count, and a disk that is full.
+// What the tests of faults share: files of any content, and rights that count.
 #pragma once
 
 #include "StoreFixture.h"
 #include "store/AdoErrors.h"
 #include "store/Transaction.h"
+#include "support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
 #include <QScopeGuard>
-#include <csignal>
-#include <sys/resource.h>
 #include <unistd.h>
 
 class FaultTest : public StoreTest
@@ -64,23 +63,4 @@ class FaultTest : public StoreTest
         for (const QString &name : QDir(mFolder.path()).entryList(QDir::Files))
             QFile::setPermissions(pathOf(name), QFile::Permissions(0x6666));
     }
-};
-
-// No file may grow beyond `bytes` while it stands, as on a full disk.
-class FullDisk
-{
-  public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &mBefore);
-        const rlimit limit{bytes, mBefore.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &mBefore); }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-  private:
-    rlimit mBefore{};
 };

@@ -5,6 +5,7 @@
 #include "store/Transaction.h"
 #include "store/rows/StoredDates.h"
 #include "store/sqlite/BlobFiles.h"
+#include "support/ErrorOf.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,17 +15,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-/// The number of the error that `body` raises; 0 for none.
-template <class Body> qint64 errorOf(Body &&body)
-{
-    try {
-        body();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
-
 // What the process holds in memory now.
 qint64 residentBytes()
 {

@@ -194,10 +194,8 @@ class FakePlace : public WindowPlace
     [[nodiscard]] QRect screen() const override { return {0, 0, 1920, 1080}; }
     void putOnTop(bool onTop) override { onTopCalls.append(onTop); }
     void minimize() override { ++minimized; }
-    [[nodiscard]] double scale() const override { return pixels; }
 
     QRect rect{300, 200, 400, 560};
-    double pixels = 1;
     int minimized = 0;
     QList<bool> onTopCalls;
 };

@@ -2,38 +2,15 @@
 // on its lists.
 #pragma once
 
-#include "app/Context.h"
-#include "app/LongWork.h"
 #include "lists/ManualDesk.h"
 #include "lists/ManualTables.h"
 #include "sites/DiscoveredLinks.h"
-#include "support/Database.h"
-#include "support/FakeBrowser.h"
+#include "support/FormWithDatabase.h"
 
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-class ManualTest : public testing::Test
+class ManualTest : public FormDatabaseTest
 {
   protected:
-    ManualTest()
-    {
-        makeDatabase(database, log, folder.path());
-        auto driver = std::make_unique<cIEObject>(log, desktop, clipboard, browsers);
-        browsers.running = std::make_shared<FakeBrowser>(pump);
-        driver->InitializeObject(browsers.running);
-        browser.set(std::move(driver));
-        form.browser.mbInitialized = true;
-        form.mbFormReady = true;
-        QObject::connect(&status, &StatusLine::told, &form, [this](const QString &text) { statuses.append(text); });
-    }
-
     [[nodiscard]] ListBox &list() { return form.lists.shown(); }
-    [[nodiscard]] QString lastStatus() const { return statuses.isEmpty() ? QString() : statuses.constLast(); }
-    [[nodiscard]] QStringList rows(const QString &table, const QString &field = QStringLiteral("Url"))
-    {
-        return column(*database, table, field);
-    }
     void addUrl(const QString &table, const QString &url) { addRow(*database, table, {{QStringLiteral("Url"), url}}); }
     void useBase(bool on) { form.menus.mnuPopUpMNStatus.item(QStringLiteral("mnuMNUseAutoBase")).setChecked(on); }
     void setSeries(int position)
@@ -55,38 +32,8 @@ class ManualTest : public testing::Test
         page.title = title;
         browsers.running->show(address);
     }
-    /// The user presses Escape as soon as a long command lets events in.
-    void cancelSoon()
-    {
-        pump.after(0, [this] { work.cancel(); });
-    }
-    QString file(const QString &name, const QByteArray &bytes)
-    {
-        const QString path = folder.filePath(name);
-        QFile written(path);
-        EXPECT_TRUE(written.open(QIODevice::WriteOnly));
-        written.write(bytes);
-        return path;
-    }
 
-    QTemporaryDir folder;
-    frmSearch form;
-    RecordingLog log;
-    FakePump pump;
-    FakeDialogs dialogs;
-    FakeDesktop desktop;
-    FakeClipboard clipboard;
-    MemorySettings settings;
-    CountingStates states;
-    FakeFactory browsers{pump};
-    Tips tips{form.options.chkSMV(0)};
-    StatusLine status{form.frame.picStatus, tips};
-    Context context{log, status, states, dialogs, settings, tips};
-    DatabaseHolder database;
-    BrowserHolder browser;
-    LongWork work{pump, status};
     ManualDesk desk{form, status};
     DeletedRows deleted{log, database, work};
     ManualTables tables{log, database, work};
-    QStringList statuses;
 };

@@ -5,8 +5,7 @@
 #include <QFileInfo>
 
 #ifdef Q_OS_LINUX
-#include <csignal>
-#include <sys/resource.h>
+#include "support/FullDisk.h"
 #endif
 
 using namespace Qt::StringLiterals;
@@ -91,24 +90,6 @@ TEST_F(Files, AFolderThatGoesDuringTheTransferIsAnError)
 }
 
 #ifdef Q_OS_LINUX
-/// Lets no file of this process grow above `bytes`.
-class FullDisk
-{
-  public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &mBefore);
-        const rlimit less{bytes, mBefore.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &less);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &mBefore); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-  private:
-    rlimit mBefore{};
-};
-
 TEST_F(Files, AFullDiskLeavesNoFile)
 {
     server.route("/big.jpg", okReply(allBytes(400'000)));
