@@ -147,7 +147,8 @@ ImportPage::ImportPage(QObject *form)
 }
 
 OptionBoxes::OptionBoxes(QObject *form)
-    : chkSMA(u"chkSMA"_s, 11, form), chkSMD(u"chkSMD"_s, 9, form), chkSMV(u"chkSMV"_s, 5, form)
+    : chkSMA(u"chkSMA"_s, SMA::Count, form), chkSMD(u"chkSMD"_s, SMD::Count, form),
+      chkSMV(u"chkSMV"_s, SMV::Count, form)
 {
 }
 
