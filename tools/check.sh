@@ -6,5 +6,6 @@ build=$1
 cd "$(dirname "$0")/.."
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
 python3 tools/check_includes.py
+python3 tools/check_names.py
 python3 tools/check_words.py
 tools/tidy.sh "$build"

@@ -2,6 +2,8 @@
 
 #include "util/Errors.h"
 
+using namespace Qt::StringLiterals;
+
 Control::Control(const QString &name, QObject *parent, const QString &caption) : QObject(parent), mCaption(caption)
 {
     setObjectName(name);
@@ -9,12 +11,12 @@ Control::Control(const QString &name, QObject *parent, const QString &caption) :
 
 void Control::restore(const QString &)
 {
-    throw RuntimeError(ErrorNumber::InvalidPropertyValue, QStringLiteral("Invalid property value"));
+    throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"Invalid property value"_s);
 }
 
 void Control::enter(const QString &)
 {
-    refuse(QStringLiteral("this control has no value"));
+    refuse(u"this control has no value"_s);
 }
 
 void Control::refuse(const QString &reason)
@@ -27,6 +29,6 @@ int Control::wholeNumber(const QString &text)
     bool converts = false;
     const int number = text.toInt(&converts);
     if (!converts)
-        throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
+        throw RuntimeError(ErrorNumber::TypeMismatch, u"Type mismatch"_s);
     return number;
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr qint64 textIsReadOnly = 383;
 }
@@ -20,8 +22,8 @@ void ListControl::checkIndex(int index, qint64 errorNumber) const
 {
     if (index < 0 || index >= listCount())
         throw RuntimeError(errorNumber, errorNumber == ErrorNumber::InvalidPropertyValue
-                                            ? QStringLiteral("Invalid property value")
-                                            : QStringLiteral("Invalid procedure call or argument"));
+                                            ? u"Invalid property value"_s
+                                            : u"Invalid procedure call or argument"_s);
 }
 
 void ListControl::setListIndex(int index)
@@ -101,7 +103,7 @@ void ComboBox::setText(const QString &text)
     if (mStyle == Style::DropDownList) {
         const auto index = items().indexOf(text);
         if (index < 0)
-            throw RuntimeError(textIsReadOnly, QStringLiteral("'Text' property is read-only"));
+            throw RuntimeError(textIsReadOnly, u"'Text' property is read-only"_s);
         return setListIndex(static_cast<int>(index));
     }
     if (mText == text)
@@ -136,7 +138,7 @@ void ComboBox::enter(const QString &value)
     else if (mStyle == Style::DropDownCombo)
         setText(value);
     else
-        refuse(QStringLiteral("there is no item \"%1\"").arg(value));
+        refuse(u"there is no item \"%1\""_s.arg(value));
 }
 
 void ComboBox::choose(int index)

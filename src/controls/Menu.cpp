@@ -18,22 +18,22 @@ void MenuItem::click()
 
 QString MenuItem::stored() const
 {
-    return mChecked ? QStringLiteral("True") : QStringLiteral("False");
+    return mChecked ? u"True"_s : u"False"_s;
 }
 
 void MenuItem::restore(const QString &value)
 {
-    setChecked(value == QLatin1StringView("True") || value == QLatin1StringView("1"));
+    setChecked(value == "True"_L1 || value == "1"_L1);
 }
 
 void MenuItem::enter(const QString &value)
 {
-    if (value != QLatin1StringView("0") && value != QLatin1StringView("1"))
-        refuse(QStringLiteral("a menu item takes 0 or 1, not \"%1\"").arg(value));
-    if (mChecked == (value == QLatin1StringView("1")))
+    if (value != "0"_L1 && value != "1"_L1)
+        refuse(u"a menu item takes 0 or 1, not \"%1\""_s.arg(value));
+    if (mChecked == (value == "1"_L1))
         return;
     if (!isEnabled())
-        refuse(QStringLiteral("this menu item is disabled at the moment"));
+        refuse(u"this menu item is disabled at the moment"_s);
     click();
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 bool isDigits(const QString &text)
 {
@@ -52,7 +54,7 @@ bool NumberBox::takes(const QString &text) const
 void NumberBox::enter(const QString &value)
 {
     if (!takes(value))
-        refuse(QStringLiteral("takes up to %1 digits, not \"%2\"").arg(mDigits).arg(value));
+        refuse(u"takes up to %1 digits, not \"%2\""_s.arg(mDigits).arg(value));
     setText(value);
 }
 

@@ -2,10 +2,12 @@
 
 #include "util/Errors.h"
 
+using namespace Qt::StringLiterals;
+
 void CheckBox::setValue(int value)
 {
     if (value < 0 || value > 2)
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue, QStringLiteral("Invalid property value"));
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"Invalid property value"_s);
     if (!assign(mValue, value))
         return;
     Q_EMIT altered();
@@ -14,8 +16,8 @@ void CheckBox::setValue(int value)
 
 void CheckBox::enter(const QString &value)
 {
-    if (value != QLatin1StringView("0") && value != QLatin1StringView("1"))
-        refuse(QStringLiteral("a box takes 0 or 1, not \"%1\"").arg(value));
+    if (value != "0"_L1 && value != "1"_L1)
+        refuse(u"a box takes 0 or 1, not \"%1\""_s.arg(value));
     setValue(value.toInt());
 }
 
@@ -47,7 +49,7 @@ TabControl::TabControl(const QString &name, QStringList captions, QObject *paren
 void TabControl::setTab(int tab)
 {
     if (tab < 0 || tab >= mCaptions.size())
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue, QStringLiteral("Invalid property value"));
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue, u"Invalid property value"_s);
     if (assign(mTab, tab))
         Q_EMIT Click();
 }

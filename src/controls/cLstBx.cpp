@@ -7,6 +7,8 @@
 #include <QSet>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr qsizetype shortestBeginning = 2;
 
@@ -93,7 +95,7 @@ QString cLstBx::CopySelected(const ListBox &list, const QString &delimiter)
 
 QString cLstBx::CutLst(ListBox &list)
 {
-    QString text = CopySelected(list, QStringLiteral("\r\n"));
+    QString text = CopySelected(list, u"\r\n"_s);
     ClearSelected(list);
     return text;
 }

@@ -5,6 +5,8 @@
 
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 DesktopBrowsers::~DesktopBrowsers()
 {
     delete mobjWBare;
@@ -13,8 +15,8 @@ DesktopBrowsers::~DesktopBrowsers()
 std::shared_ptr<BrowserEngine> DesktopBrowsers::internalBrowser()
 {
     if (!mInternal) {
-        mInternal = std::make_shared<WebEngineBrowser>(
-            WebEngineOptions{.storageFolder = dataFolder() + QStringLiteral("/internal")});
+        mInternal =
+            std::make_shared<WebEngineBrowser>(WebEngineOptions{.storageFolder = dataFolder() + u"/internal"_s});
         mobjWBare = new BareBrowserWindow(mInternal);
         QObject::connect(mInternal.get(), &BrowserEngine::WindowClosing, mInternal.get(), [this] { forget(); });
         QObject::connect(mobjWBare, &BareBrowserWindow::closing, mobjWBare, [this] { savePlace(); });

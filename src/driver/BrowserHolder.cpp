@@ -1,9 +1,11 @@
 #include "driver/BrowserHolder.h"
 
+using namespace Qt::StringLiterals;
+
 cIEObject *BrowserHolder::operator->() const
 {
     if (!mobjIE)
-        throw RuntimeError(ErrorNumber::ObjectNotSet, QStringLiteral("Object variable or With block variable not set"));
+        throw RuntimeError(ErrorNumber::ObjectNotSet, u"Object variable or With block variable not set"_s);
     return mobjIE.get();
 }
 

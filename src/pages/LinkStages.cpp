@@ -33,14 +33,14 @@ qint64 wholeNumber(const QString &text)
     bool isNumber = false;
     const double number = text.trimmed().toDouble(&isNumber);
     if (!isNumber || !(number > -1e9 && number < 1e9))
-        throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
+        throw RuntimeError(ErrorNumber::TypeMismatch, u"Type mismatch"_s);
     return static_cast<qint64>(std::nearbyint(number));
 }
 
 /// The number that a text begins with; 0 if it begins with none.
 qint64 leadingNumber(const QString &text)
 {
-    static const QRegularExpression pattern(QStringLiteral("^ *([+-]?[0-9]{1,9})"));
+    static const QRegularExpression pattern(u"^ *([+-]?[0-9]{1,9})"_s);
     return pattern.match(text).captured(1).toLongLong();
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 struct ErrorText
 {
@@ -40,6 +42,6 @@ RuntimeError AdoError::error(qint64 number)
 {
     const auto *const found =
         std::find_if(errorTexts.begin(), errorTexts.end(), [number](const auto &row) { return row.number == number; });
-    return {number, found == errorTexts.end() ? QStringLiteral("Application-defined or object-defined error")
+    return {number, found == errorTexts.end() ? u"Application-defined or object-defined error"_s
                                               : QString::fromLatin1(found->text)};
 }

@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 struct FaultRow
 {
@@ -13,13 +15,13 @@ struct FaultRow
 };
 
 constexpr std::array faultRows{
-    FaultRow{StoreFault::Locked, QLatin1StringView("Database is locked"), true},
-    FaultRow{StoreFault::Full, QLatin1StringView("Disk is full"), true},
-    FaultRow{StoreFault::ReadOnly, QLatin1StringView("Database is read-only"), true},
-    FaultRow{StoreFault::Unreadable, QLatin1StringView("Database cannot be read"), false},
-    FaultRow{StoreFault::Damaged, QLatin1StringView("Database is damaged"), false},
-    FaultRow{StoreFault::Gone, QLatin1StringView("Database has been moved or deleted"), false},
-    FaultRow{StoreFault::Failed, QLatin1StringView("Disk does not answer"), true},
+    FaultRow{StoreFault::Locked, "Database is locked"_L1, true},
+    FaultRow{StoreFault::Full, "Disk is full"_L1, true},
+    FaultRow{StoreFault::ReadOnly, "Database is read-only"_L1, true},
+    FaultRow{StoreFault::Unreadable, "Database cannot be read"_L1, false},
+    FaultRow{StoreFault::Damaged, "Database is damaged"_L1, false},
+    FaultRow{StoreFault::Gone, "Database has been moved or deleted"_L1, false},
+    FaultRow{StoreFault::Failed, "Disk does not answer"_L1, true},
 };
 
 const FaultRow *rowOf(StoreFault fault)

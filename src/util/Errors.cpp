@@ -2,6 +2,8 @@
 
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 RuntimeError currentError()
 {
     try {
@@ -9,10 +11,10 @@ RuntimeError currentError()
     } catch (const RuntimeError &error) {
         return error;
     } catch (const std::bad_alloc &) {
-        return {ErrorNumber::OutOfMemory, QStringLiteral("Out of memory")};
+        return {ErrorNumber::OutOfMemory, u"Out of memory"_s};
     } catch (const std::exception &error) {
         return {ErrorNumber::InternalError, QString::fromUtf8(error.what())};
     } catch (...) {
-        return {ErrorNumber::InternalError, QStringLiteral("Internal error")};
+        return {ErrorNumber::InternalError, u"Internal error"_s};
     }
 }

@@ -26,8 +26,7 @@ struct Query
 void runDelete(const Query &query);
 
 /// The keys of a query's rows in its order, fetched as far as they are asked for; all at once where that is not the
-/// table's. Rows that are added to the table
-/// after the set was made do not belong to it.
+/// table's. Rows that are added to the table after the set was made do not belong to it.
 class KeySet
 {
   public:

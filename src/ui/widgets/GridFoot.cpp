@@ -4,11 +4,13 @@
 #include <QHBoxLayout>
 #include <QShortcut>
 
+using namespace Qt::StringLiterals;
+
 GridFoot::GridFoot(GridTable &grid)
     : QWidget(grid.parentWidget()), mGrid(grid), mPlace(new QLabel(this)), mFind(new GridFind(grid, this))
 {
-    mPlace->setObjectName(QStringLiteral("gridPlace"));
-    mFind->setObjectName(QStringLiteral("gridFind"));
+    mPlace->setObjectName(u"gridPlace"_s);
+    mFind->setObjectName(u"gridFind"_s);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 0, 0, 0);
     layout->addWidget(mPlace);
