@@ -9,6 +9,11 @@ class PageTest : public FormDatabaseTest
   protected:
     PageTest()
     {
+        // As a first start has them.
+        form.places.txtSFMNDir.setText(folder.path() + QLatin1StringView("/"));
+        form.outputs.chkSaveToSS.setValue(1);
+        form.options.chkSMD(SMD::UrlWithEmail).setValue(1);
+        form.options.chkSMD(SMD::UrlWithPhone).setValue(1);
         QObject::connect(&keeping, &PageKeeping::rowsStored, &form,
                          [this](const QMap<QString, int> &rows) { stored.append(rows); });
     }

@@ -81,16 +81,16 @@ TEST_F(ScreeningTest, AnEmptyListLetsEveryPageGoWithAGreenLamp)
 
 TEST_F(ScreeningTest, ChangedTextsHoldForTheNextPage)
 {
-    on({&form().outputs.chkMCMNCStop, &form().criteria.mustContain.on, &form().criteria.mustNotContain.on});
-    fill(form().criteria.mustContain.items, {u"Tea"_s});
-    fill(form().criteria.mustNotContain.items, {u"milk"_s});
+    on({&form.outputs.chkMCMNCStop, &form.criteria.mustContain.on, &form.criteria.mustNotContain.on});
+    fill(form.criteria.mustContain.items, {u"Tea"_s});
+    fill(form.criteria.mustNotContain.items, {u"milk"_s});
     EXPECT_TRUE(mustContain());
     EXPECT_TRUE(mustNotContain());
-    form().criteria.mustContain.caseSensitive.setValue(1);
+    form.criteria.mustContain.caseSensitive.setValue(1);
     EXPECT_FALSE(mustContain());
-    form().criteria.mustContain.items.setItems({u"tea"_s});
+    form.criteria.mustContain.items.setItems({u"tea"_s});
     EXPECT_TRUE(mustContain());
-    form().criteria.mustNotContain.items.addItem(u"coffee"_s);
+    form.criteria.mustNotContain.items.addItem(u"coffee"_s);
     EXPECT_FALSE(mustNotContain());
 }
 

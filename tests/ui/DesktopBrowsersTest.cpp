@@ -6,12 +6,17 @@
 #include "support/EnvironmentVariable.h"
 #include "support/Fakes.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 struct BrowsersOfTheProgram : WindowFixture
 {
+    // The engine may still write into its folder, which then is not empty in the moment of its removal.
+    BrowsersOfTheProgram() { folder.setAutoRemove(false); }
+    ~BrowsersOfTheProgram() override { QDir(folder.path()).removeRecursively(); }
+
     /// A start of the program, as far as the browser's window goes: opens it, and gives its place.
     template <class Body> void withBrowserWindow(Body &&body)
     {

@@ -172,6 +172,21 @@ TEST_F(LoaderTest, BlockingWithoutTextsGoesOff)
     EXPECT_EQ(form().blocking.email.on.value(), 0);
 }
 
+TEST_F(LoaderTest, AStartWithTextsRestoresTheBoxAndTheFirstItem)
+{
+    load();
+    addRow(database(), u"Block"_s, {{u"UrlsContent"_s, u"ads"_s}, {u"EmailContent"_s, u"spam"_s}});
+    settings.preset("chkUrlBlocking", u"1"_s);
+    settings.preset("chkEmailBlocking", u"1"_s);
+    form().outputs.chkSaveEmail.setValue(1);
+    program->lifeCycle.end();
+    program.reset();
+    load();
+    EXPECT_EQ(form().blocking.urls.on.value(), 1);
+    EXPECT_EQ(form().blocking.email.on.value(), 1);
+    EXPECT_EQ(form().blocking.urls.items.listIndex(), 0);
+}
+
 TEST_F(LoaderTest, TheListLetterDecidesWhichSavedUrlsAreShown)
 {
     load();

@@ -1,0 +1,149 @@
+// What a Manual run takes one after the other: where it begins and ends, what the boxes show, where it resumes.
+#include "harvest/ManualWalk.h"
+
+#include "support/FormWithDatabase.h"
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+class ManualWalkTest : public FormDatabaseTest
+{
+  protected:
+    ManualWalkTest() { form.series.incMNStep.setText(u"001"_s); }
+    [[nodiscard]] ListBox &list() { return form.lists.shown(); }
+    /// Everything that a walk begun now takes.
+    QStringList all(bool behindStop = false)
+    {
+        walk.begin(behindStop);
+        QStringList taken;
+        for (qint64 item = walk.first(); item <= walk.last(); ++item)
+            taken.append(walk.take(item));
+        return taken;
+    }
+    void setSeries(const QString &address, int position)
+    {
+        form.series.cboMNAutoUrl.setText(address);
+        series.SetAutoIncrPos(position);
+    }
+
+    ManualDesk desk{form, status};
+    ManualTables tables{log, database, work};
+    AutoText texts{context, form.series, desk, database};
+    AutoIncr series{context, form, desk, texts};
+    ManualWalk walk{form.manual, form.series, form.options, form.collect, desk, series, tables};
+};
+} // namespace
+
+TEST_F(ManualWalkTest, OfAListIsItsItemsFromTheChosenOneOn)
+{
+    std::mt19937 random(11);
+    for (int round = 0; round < 300; ++round) {
+        QStringList items;
+        for (unsigned i = 1 + random() % 6; i > 0; --i)
+            items.append(u"http://www.site%1.com/"_s.arg(i));
+        list().setItems(items);
+        const int chosen = static_cast<int>(random() % (items.size() + 1)) - 1;
+        list().setListIndex(chosen);
+        const bool behindStop = random() % 2 == 0;
+        qsizetype first = std::max(chosen, 0);
+        if (behindStop && first + 1 < items.size())
+            ++first; // the last item is taken once more
+        ASSERT_EQ(all(behindStop), items.mid(first)) << "round " << round;
+        EXPECT_FALSE(walk.isSeries());
+    }
+}
+
+TEST_F(ManualWalkTest, TheItemInTurnIsTheOneThatIsSelected)
+{
+    list().setItems({u"http://a.com/"_s, u"http://b.com/"_s, u"http://c.com/"_s});
+    list().choose(0, {true, true, true});
+    walk.begin(false);
+    EXPECT_EQ(walk.take(1), u"http://b.com/"_s);
+    EXPECT_EQ(list().listIndex(), 1);
+    EXPECT_EQ(list().selection(), (std::vector<bool>{false, true, false}));
+}
+
+TEST_F(ManualWalkTest, AnEmptyListHasOneTurnWithNothingInIt)
+{
+    EXPECT_EQ(all(), QStringList{QString()});
+    EXPECT_EQ(walk.first(), -1);
+}
+
+TEST_F(ManualWalkTest, TheListIsTheOneThatWasOnShowAtTheBeginning)
+{
+    list().setItems({u"http://a.com/"_s});
+    walk.begin(false);
+    form.lists.cboMNList.setListIndex(2);
+    EXPECT_EQ(&walk.list(), &form.lists.lstMN(0));
+}
+
+TEST_F(ManualWalkTest, ASeriesIsAsLongAsItsDigitsCanCount)
+{
+    struct Row
+    {
+        QString address;
+        int position;
+        int length;
+        QString last;
+    };
+    const Row rows[] = {
+        {u"www.pics.com/p1.jpg"_s, 1, 9, u"www.pics.com/p9.jpg"_s},
+        {u"www.pics.com/p01.jpg"_s, 1, 99, u"www.pics.com/p99.jpg"_s},
+        {u"www.pics.com/a3/p5.jpg"_s, 2, 9, u"www.pics.com/a3/p13.jpg"_s},
+        {u"www.pics.com/a3/p5.jpg"_s, 1, 9, u"www.pics.com/a11/p5.jpg"_s},
+        {u"www.pics.com/p00001.jpg"_s, 1, 5001, u"www.pics.com/p05001.jpg"_s},
+    };
+    for (const Row &row : rows) {
+        setSeries(row.address, row.position);
+        const QStringList taken = all();
+        EXPECT_TRUE(walk.isSeries());
+        EXPECT_EQ(taken.size(), row.length) << qPrintable(row.address);
+        EXPECT_EQ(taken.constFirst(), row.address);
+        EXPECT_EQ(taken.constLast(), row.last);
+        EXPECT_EQ(form.series.cboMNAutoUrl.text(), row.last) << "the box shows how far it has come";
+        EXPECT_EQ(walk.shownLast(), row.length - 1);
+        series.SetAutoIncrPos(row.position); // given up again
+    }
+}
+
+TEST_F(ManualWalkTest, ASeriesGoesByTheStepOfTheBox)
+{
+    form.series.incMNStep.setText(u"005"_s);
+    setSeries(u"www.pics.com/p1.jpg"_s, 1);
+    EXPECT_EQ(all().mid(0, 3),
+              (QStringList{u"www.pics.com/p1.jpg"_s, u"www.pics.com/p6.jpg"_s, u"www.pics.com/p11.jpg"_s}));
+}
+
+TEST_F(ManualWalkTest, MayNotBeginInAListThatIsCollectedInto)
+{
+    EXPECT_TRUE(walk.mayBegin());
+    form.collect.mbNavListCollecting = true;
+    EXPECT_FALSE(walk.mayBegin());
+}
+
+TEST_F(ManualWalkTest, TheTableRemembersWhereAListStood)
+{
+    addRow(*database, u"MNUrlsA"_s, {{u"Url"_s, u"http://a.com/"_s}});
+    addRow(*database, u"MNUrlsA"_s, {{u"Url"_s, u"http://b.com/"_s}});
+    list().setItems({u"http://a.com/"_s, u"http://b.com/"_s});
+    walk.begin(false);
+    static_cast<void>(walk.take(1));
+    walk.savePosition();
+    EXPECT_EQ(rows(u"MNUrlsA"_s, u"LastUrl"_s).constFirst(), u"http://b.com/"_s);
+}
+
+TEST_F(ManualWalkTest, AStoppedSeriesIsKeptWhereTheOptionSaysSo)
+{
+    setSeries(u"www.pics.com/p1.jpg"_s, 1);
+    walk.begin(false);
+    static_cast<void>(walk.take(walk.first()));
+    static_cast<void>(walk.take(walk.first() + 1));
+    form.options.chkSMD(SMD::SaveAutoTextOnStop).setValue(0);
+    walk.keepSeries();
+    EXPECT_TRUE(rows(u"AutoTextA"_s).isEmpty());
+    form.options.chkSMD(SMD::SaveAutoTextOnStop).setValue(1);
+    walk.keepSeries();
+    EXPECT_EQ(rows(u"AutoTextA"_s), QStringList{u"www.pics.com/p2.jpg"_s});
+}
