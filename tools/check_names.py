@@ -18,7 +18,7 @@ MEMBER = re.compile(
     r"^    (?=\w)(?!static |using |friend |enum |class |struct |template )[\w:<>, *&]+[ &*](\w+)(?:\{[^;()]*\}| = [^;()]*)?;", re.MULTILINE)
 
 CAMEL = re.compile(r"^(?:(?:c|frm)(?=[A-Z]))?[A-Z][A-Za-z0-9]*$|^frmfxg$")
-MARKED = re.compile(r"^m[A-Z]\w*$|^m(?:obj|str|s|lng|int|b|astr|o)[A-Z]\w*$|^(?:frm|tmr|txt)[A-Z]\w*$|^mn[A-Z]\w*$")
+MARKED = re.compile(r"^m[A-Z]\w*$|^m(?:obj|str|s|lng|int|b|astr|o)[A-Z]\w*$|^(?:frm|tmr|txt|lst|pic|lbl|cmd)[A-Z]\w*$|^mn[A-Z]\w*$")
 COMMENT = re.compile(r"//[^\n]*")
 
 

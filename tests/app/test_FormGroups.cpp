@@ -59,7 +59,7 @@ TEST_F(FormGroupsTest, EachControlIsFoundByItsNameWhichNoOtherHas)
         EXPECT_EQ(form.control(control->name()), control) << qPrintable(control->name());
     EXPECT_EQ(form.control(u"cmdNothing"_s), nullptr);
     EXPECT_EQ(form.control(u"chkSMA"_s), nullptr) << "a member of an array is named with its number";
-    EXPECT_EQ(form.control(u"chkSMA(10)"_s), nullptr);
+    EXPECT_EQ(form.control(u"chkSMA(11)"_s), nullptr);
 }
 
 TEST_F(FormGroupsTest, EachControlIsOfTheKindThatItsNameSays)
@@ -88,7 +88,7 @@ TEST_F(FormGroupsTest, NumberBoxesHaveTheirDigits)
 TEST_F(FormGroupsTest, ArraysHaveTheirMembers)
 {
     const std::pair<QString, std::pair<int, int>> arrays[] = {
-        {u"chkSMA"_s, {0, 9}},         {u"chkSMD"_s, {0, 8}},       {u"chkSMV"_s, {0, 4}}, {u"lstMN"_s, {0, 4}},
+        {u"chkSMA"_s, {0, 10}},        {u"chkSMD"_s, {0, 8}},       {u"chkSMV"_s, {0, 4}}, {u"lstMN"_s, {0, 4}},
         {u"cmdBlockedUrlC"_s, {0, 1}}, {u"cmdBlockedEC"_s, {0, 1}}, {u"cboSD"_s, {1, 8}},  {u"cmdSD"_s, {1, 16}},
         {u"incSDMCMNC"_s, {0, 1}},     {u"lblSDCount"_s, {1, 6}}};
     for (const auto &[name, bounds] : arrays) {
@@ -150,15 +150,18 @@ TEST_F(FormGroupsTest, TheListOnShowIsTheOneOfTheChosenLetter)
 TEST_F(FormGroupsTest, SwitchesHaveTheNumbersOfTheRules)
 {
     const std::pair<int, int> numbers[] = {
-        {SMA::ServersOnly, 0},      {SMA::ConvertHex, 1},       {SMA::ReturnToStart, 2},      {SMA::DownloadByFtp, 3},
-        {SMA::OpenNextOnDelete, 4}, {SMA::IncrementPassUrl, 5}, {SMA::IncrementSavedUrl, 6},  {SMA::PromptBeforeEnd, 7},
-        {SMA::OpenDirOnTimer, 8},   {SMA::UniqueServers, 9},    {SMD::OpenExports, 0},        {SMD::UniqueInSummary, 1},
-        {SMD::UniqueInSelect, 2},   {SMD::UrlWithEmail, 3},     {SMD::UrlWithPhone, 4},       {SMD::TitleAsNote, 5},
-        {SMD::FaxOnly, 6},          {SMD::PassUrlIfNoData, 7},  {SMD::SaveAutoTextOnStop, 8}, {SMV::ToolTips, 0},
-        {SMV::ErrorMessages, 1},    {SMV::BlockPopUps, 2},      {SMV::KeepMagnifyPlace, 3},   {SMV::OrientAtStart, 4}};
+        {SMA::ServersOnly, 0},       {SMA::ConvertHex, 1},         {SMA::ReturnToStart, 2},
+        {SMA::DownloadByFtp, 3},     {SMA::OpenNextOnDelete, 4},   {SMA::IncrementPassUrl, 5},
+        {SMA::IncrementSavedUrl, 6}, {SMA::PromptBeforeEnd, 7},    {SMA::OpenDirOnTimer, 8},
+        {SMA::UniqueServers, 9},     {SMA::DownloadAsBrowser, 10}, {SMD::OpenExports, 0},
+        {SMD::UniqueInSummary, 1},   {SMD::UniqueInSelect, 2},     {SMD::UrlWithEmail, 3},
+        {SMD::UrlWithPhone, 4},      {SMD::TitleAsNote, 5},        {SMD::FaxOnly, 6},
+        {SMD::PassUrlIfNoData, 7},   {SMD::SaveAutoTextOnStop, 8}, {SMV::ToolTips, 0},
+        {SMV::ErrorMessages, 1},     {SMV::BlockPopUps, 2},        {SMV::KeepMagnifyPlace, 3},
+        {SMV::OrientAtStart, 4}};
     for (const auto &[name, number] : numbers)
         EXPECT_EQ(name, number);
-    EXPECT_EQ(form.options.chkSMA.last(), SMA::UniqueServers);
+    EXPECT_EQ(form.options.chkSMA.last(), SMA::DownloadAsBrowser);
     EXPECT_EQ(form.options.chkSMD.last(), SMD::SaveAutoTextOnStop);
     EXPECT_EQ(form.options.chkSMV.last(), SMV::OrientAtStart);
 }
