@@ -18,8 +18,9 @@ void DesktopGridWindow::show()
         mWindow->setWindowIcon(mMain.windowIcon());
         mWindow->resize(storedSize(mSettings, mWindow->objectName(), mWindow->size()));
         KeptPlace::restore(*mWindow, mSettings, mMain);
-        connect(mWindow, &GridWindow::closing, this, [this] {
-            KeptPlace::store(*mWindow, mSettings);
+        // Closed by the program, it is no longer ours in that moment.
+        connect(mWindow, &GridWindow::closing, this, [this, window = mWindow.data()] {
+            KeptPlace::store(*window, mSettings);
             mForm.unload();
         });
     }

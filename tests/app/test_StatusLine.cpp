@@ -79,7 +79,7 @@ TEST(FormState, FindsControlsByName)
     const frmSearch form;
     EXPECT_EQ(form.control(u"chkSMA(9)"_s), &form.options.chkSMA(9));
     EXPECT_EQ(form.control(u"lstANMC"_s), &form.criteria.mustContain.items);
-    EXPECT_EQ(form.control(u"chkSMA(10)"_s), nullptr);
+    EXPECT_EQ(form.control(u"chkSMA(11)"_s), nullptr);
     EXPECT_EQ(form.control(u"nothing"_s), nullptr);
 }
 

@@ -1,37 +1,13 @@
-// What the window program adds to the windows themselves: one program at a time, the main window's place in the pixels
-// of other programs, and the detached grid, made when it is wanted.
+// What the window program adds to the windows themselves: the main window's place in the pixels of other programs, and
+// the detached grid, made when it is wanted.
 #include "desktop/DesktopGridWindow.h"
 #include "desktop/MainWindowPlace.h"
-#include "desktop/OneInstance.h"
 
 #include "WindowFixture.h"
 #include "support/EnvironmentVariable.h"
 #include "support/Fakes.h"
 
-#include <QTemporaryDir>
-
 using namespace Qt::StringLiterals;
-
-TEST(OneInstances, TheFirstOneAloneIsFirstUntilItEnds)
-{
-    const QTemporaryDir folder;
-    const EnvironmentVariable runtime("XDG_RUNTIME_DIR", folder.path().toUtf8());
-    auto first = std::make_unique<OneInstance>(u"trawlex-ann"_s);
-    EXPECT_TRUE(first->isFirst());
-    EXPECT_FALSE(OneInstance(u"trawlex-ann"_s).isFirst());
-    EXPECT_FALSE(OneInstance(u"trawlex-ann"_s).isFirst()) << "a second one that was refused takes nothing away";
-    first.reset();
-    EXPECT_TRUE(OneInstance(u"trawlex-ann"_s).isFirst());
-}
-
-TEST(OneInstances, OfAnotherUserOrFolderIsAProgramOfItsOwn)
-{
-    const QTemporaryDir folder;
-    const EnvironmentVariable runtime("XDG_RUNTIME_DIR", folder.path().toUtf8());
-    const OneInstance ann(u"trawlex-ann"_s);
-    EXPECT_TRUE(OneInstance(u"trawlex-bob"_s).isFirst());
-    EXPECT_TRUE(OneInstance(u"trawlex-ann-/opt/trawlex: 2"_s).isFirst()) << "no name is too odd for a file";
-}
 
 struct MainWindowPlaces : WindowFixture
 {
