@@ -23,6 +23,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
@@ -162,13 +163,21 @@ void MainWindow::setFoldedGroups(const QStringList &names)
         group->setFolded(names.contains(group->objectName()));
 }
 
+/// A shortcut would take the key from the side windows, which it closes.
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT cancelRequested();
+    else
+        QWidget::keyPressEvent(event);
+}
+
 void MainWindow::addKeys()
 {
     const auto onKey = [this](const QKeySequence &key, auto action) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, action);
     };
     onKey(Qt::Key_F1, [this] { Q_EMIT helpRequested(); });
-    onKey(Qt::Key_Escape, [this] { Q_EMIT cancelRequested(); });
     onKey(Qt::Key_F6, [this] { moveFocus(Step::Next); });
     onKey(Qt::SHIFT | Qt::Key_F6, [this] { moveFocus(Step::Previous); });
     for (int tab = 0; tab < mUi->sstSearch->count(); ++tab)

@@ -50,6 +50,7 @@ class MainWindow : public QWidget
     void closeEvent(QCloseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
   private:
     void dressWidgets();
