@@ -75,6 +75,7 @@ TEST_F(Magnifiers, OpenUnderTheMainWindowAsWideAsTheScreen)
 
 TEST_F(Magnifiers, CloseByADoubleClickAndByEscape)
 {
+    const Raised cancelled(window, &MainWindow::cancelRequested);
     const Raised closings(magnifier, &MagnifyWindow::closing);
     magnifier.Magnify(u"a"_s);
     magnifier.show();
@@ -84,6 +85,7 @@ TEST_F(Magnifiers, CloseByADoubleClickAndByEscape)
     QTest::keyClick(&magnifier, Qt::Key_Escape);
     EXPECT_FALSE(magnifier.isVisible());
     EXPECT_EQ(closings.times(), 2);
+    EXPECT_EQ(cancelled.times(), 0) << "Escape is the magnifier's own";
 }
 
 struct About : WindowFixture
