@@ -185,15 +185,6 @@ void MainWindow::addKeys()
               [this, tab] { mUi->sstSearch->setCurrentIndex(tab); });
 }
 
-/// No shortcut: those of the main window hold in its tool windows too, which close by the same key.
-void MainWindow::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT cancelRequested();
-    else
-        QWidget::keyPressEvent(event);
-}
-
 /// The Tab key does not run through the window; F6 does, and each control has its mnemonic or its place on that way.
 void MainWindow::TurnOffTabStop()
 {
