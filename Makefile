@@ -4,15 +4,15 @@
 JOBS ?= $(shell nproc)
 PRESET ?= dev
 CTEST = ctest --test-dir build/$(1) --output-on-failure --no-tests=error -j $(JOBS)
-# Real browsers under a virtual display, two suites at a time: one that a busy machine has cheated of a key gets a second try.
-E2E = $(call CTEST,$(1)) -L e2e --repeat until-pass:2
+# Real browsers and real clicks, two suites at a time: one that a busy machine has cheated of a key or a second gets a second try.
+LIVE = $(call CTEST,$(1)) -LE unit --repeat until-pass:2
 
 run: build
 	@packaging/run.sh build/$(PRESET)/bin
 
 test: build
-	$(call CTEST,$(PRESET)) -LE e2e
-	$(call E2E,$(PRESET))
+	$(call CTEST,$(PRESET)) -L unit
+	$(call LIVE,$(PRESET))
 
 # Qt WebEngine frees some of its own objects by a base class that does not know their size.
 test-asan: deps
