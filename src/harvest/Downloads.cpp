@@ -32,14 +32,17 @@ Download Downloads::transfer(const QString &url, const QString &target)
     return mInet.DownLoad(url, target, leastSize(), browserTraits(url));
 }
 
-/// What many servers of pictures ask for: the browser's name, its cookies, and the page that it stands on.
+/// What many servers of pictures ask for: the browser's name, its cookies, and the page that it stands on. A file that
+/// it shows, as the last one that was fetched, is no page to have come from.
 BrowserTraits Downloads::browserTraits(const QString &url)
 {
     if (!mBrowser.isSet() || mOptions.chkSMA(SMA::DownloadAsBrowser).value() != 1)
         return {};
     // The address box of a series holds addresses without protocol, which a browser knows no cookies for.
     const QString address = QString::fromLatin1(RequestRules::encodedAddress(url));
-    return {mBrowser->userAgent(), mBrowser->GetSiteUrl(), mBrowser->cookiesFor(address)};
+    if (const QString page = mBrowser->GetSiteUrl(); !page.startsWith("file:"_L1, Qt::CaseInsensitive))
+        mPage = page;
+    return {mBrowser->userAgent(), mPage, mBrowser->cookiesFor(address)};
 }
 
 void Downloads::cancel()

@@ -52,5 +52,6 @@ class Downloads : public QObject
     Transfers &mTransfers;
     cInetWS &mInet;
     Fetched mLast;
+    QString mPage; // that the browser stood on last
     bool mIsUnderWay = false;
 };

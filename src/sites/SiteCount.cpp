@@ -14,7 +14,7 @@ constexpr qsizetype linksInTip = 12;
 constexpr qsizetype unitsInTip = 60, unitsAtEnd = 18;
 
 /// A stage that would leave nothing is left out, as in a run.
-QStringList unlessEmpty(QStringList kept, const QStringList &before)
+QStringList unlessEmpty(const QStringList &kept, const QStringList &before)
 {
     return firstOf(kept).isEmpty() ? before : kept;
 }

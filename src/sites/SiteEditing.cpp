@@ -138,7 +138,7 @@ QString SiteEditing::writeSlot(Recordset &record, SiteField field, const QString
 {
     const auto slotHolding = [&](const QString &wanted) {
         for (int slot = 1; slot <= lastSlot; ++slot) {
-            const QString name = SiteRecords::slotName(field, slot);
+            QString name = SiteRecords::slotName(field, slot);
             if (cUtility::equalIgnoringCase(FixNull(record.Fields()[name]), wanted))
                 return name;
         }

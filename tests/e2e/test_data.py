@@ -113,7 +113,7 @@ class DataTest(trawlex.Case):
     @unittest.skipUnless(shutil.which("soffice"), "LibreOffice is not installed: apt-get install libreoffice-calc-nogui")
     def test_the_spreadsheet_opens_every_form_that_is_one(self):
         """The saved recordset, JSON Lines and the SQLite database are for other readers."""
-        filters = {"html": [], "xlsx": [], "csv": ["--infilter=CSV:44,34,76"], "comma": ["--infilter=CSV:44,34,76"],
+        filters = {"html": ["--infilter=HTML (StarCalc)"], "xlsx": [], "csv": ["--infilter=CSV:44,34,76"], "comma": ["--infilter=CSV:44,34,76"],
                    "tab": ["--infilter=CSV:9,34,76"]}
         for form, words in filters.items():
             with self.subTest(form=form):
@@ -122,7 +122,7 @@ class DataTest(trawlex.Case):
                 os.rename(path, source) if source != path else None
                 out = os.path.join(self.folder, "read-" + form)
                 subprocess.run(["soffice", f"-env:UserInstallation=file://{self.folder}/office", "--headless", *words,
-                                "--convert-to", "csv", "--outdir", out, source], env=self.env, check=True, timeout=120,
+                                "--convert-to", "csv:Text - txt - csv (StarCalc):44,34,76", "--outdir", out, source], env=self.env, check=True, timeout=120,
                                capture_output=True)
                 with open(os.path.join(out, os.listdir(out)[0]), encoding="utf-8-sig", newline="") as file:
                     text = file.read()

@@ -396,6 +396,17 @@ TEST_F(Fetching, TheFirstWaySpeaksForTheBrowser)
     EXPECT_EQ(server.requests[0].header("Referer"), "http://www.start.com/");
 }
 
+TEST_F(Fetching, TheFileOnShowIsNotThePageThatTheNextOneIsAskedFrom)
+{
+    server.route("/a.jpg", okReply("xyz"_ba));
+    server.route("/b.jpg", okReply("xyz"_ba));
+    QObject::connect(&downloads, &Downloads::fetched, &form, [this] { window().show(u"file:///tmp/a.jpg"_s); });
+    fill({server.address(u"/a.jpg"_s), server.address(u"/b.jpg"_s)});
+    clickGo();
+    ASSERT_EQ(server.requests.size(), 2);
+    EXPECT_EQ(server.requests[1].header("Referer"), "http://www.start.com/");
+}
+
 TEST_F(Fetching, CookiesAreFoundForAnAddressWithoutProtocol)
 {
     server.route("/a.com/p-9.jpg", okReply("xyz"_ba));
