@@ -115,3 +115,11 @@ bool DefaultSites::AddDefaultSSData()
         done = transaction.commit();
     });
 }
+
+bool DefaultSites::SSExists(QString address)
+{
+    return guardedResult(mLog, {module, "Function SSExists"_L1}, false, [&](bool &exists) {
+        address.remove(u'\'');
+        exists = !mDatabase->GetRecordset(u"SELECT * FROM SiteSummary WHERE Url='%1'"_s.arg(address)).isEmpty();
+    });
+}

@@ -16,6 +16,8 @@ class DefaultSites
     [[nodiscard]] bool IsDefaultSDLoaded();
     /// Puts the 26 records in the place of all there are. False, and nothing is changed, if the file refuses them.
     bool AddDefaultSSData();
+    /// A summary of this address is stored; single quotes in it do not count.
+    [[nodiscard]] bool SSExists(QString address);
 
   private:
     ErrorReceiver &mLog;
