@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr long BufferSize = 256 * 1024;
+constexpr long BufferSize = 256L * 1024;
 constexpr char Protocols[] = "http,https,ftp,ftps";
 
 Exchange &exchangeOf(void *self)

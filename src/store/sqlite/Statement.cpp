@@ -8,7 +8,7 @@ namespace {
 constexpr std::size_t mostIdleStatements = 200;
 // From this length on a text gets the room that is kept, as long as that does not grow beyond reason.
 constexpr qsizetype longText = 4096;
-constexpr qsizetype largestRoom = 4 * 1024 * 1024;
+constexpr qsizetype largestRoom = qsizetype(4) * 1024 * 1024;
 
 QString textOf(sqlite3_stmt *row, int column)
 {
