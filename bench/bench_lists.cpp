@@ -2,9 +2,7 @@
 // each beside its mark of a second for the shorter list, and how much longer the longer one takes. A tenfold list may
 // take 12 times as long (n log n). Time is wall time; TRAWLEX_BENCH_ITEMS gives another shorter length.
 #include "app/QtEventPump.h"
-#include "support/FakeBrowser.h"
-#include "support/Fakes.h"
-#include "window/Program.h"
+#include "support/Outside.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -18,7 +16,7 @@ namespace {
 constexpr double mark = 1000;
 constexpr double growthMark = 12;
 
-struct Desk
+struct Desk : Outside
 {
     explicit Desk(int length)
     {
@@ -41,19 +39,9 @@ struct Desk
         item->click();
     }
 
-    QTemporaryDir folder;
-    QtEventPump pump;
-    FakeDialogs dialogs;
-    FakeDesktop desktop;
-    FakeClipboard clipboard;
-    MemorySettings settings;
-    FakePlace place;
-    FakeMenus menus;
-    FakeSideWindows side;
-    FakePump pages;
-    FakeFactory browsers{pages};
-    std::shared_ptr<FakeBrowser> browser = browsers.running = std::make_shared<FakeBrowser>(pages);
-    Program program{{{pump, dialogs, desktop, clipboard, settings}, {place, menus, side}, browsers, folder.path()}};
+    QtEventPump events;
+    std::shared_ptr<FakeBrowser> browser = browsers.running = std::make_shared<FakeBrowser>(pump);
+    Program program{ports(settings, events)};
     QStringList items;
     QString text;
 };

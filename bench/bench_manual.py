@@ -9,8 +9,6 @@ Of a run the time from its first item to its end counts, as its status lines tel
 
     python3 bench_manual.py BIN_FOLDER [ROUNDS]
 """
-import asyncio
-import multiprocessing
 import os
 import pathlib
 import re
@@ -23,6 +21,7 @@ import time
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "demo"))
 import harvest  # noqa: E402
+import loopback  # noqa: E402
 import record  # noqa: E402
 
 SITES, FILES, SIZE = 100, 500, 100_000
@@ -47,34 +46,15 @@ def answer(host, path):
     return page(f"The site {host}", f"<p>Write to desk@{host.removeprefix('www.')} or call 212-555-0188 by day.</p>" * 40)
 
 
-class Server(asyncio.Protocol):
-    PICTURE = os.urandom(SIZE)
-
-    def __init__(self):
-        self.unread = b""
-
-    def connection_made(self, transport):
-        self.transport = transport
-
-    def data_received(self, data):
-        self.unread += data
-        while b"\r\n\r\n" in self.unread:
-            head, self.unread = self.unread.split(b"\r\n\r\n", 1)
-            path = head.split(b" ", 2)[1].decode()
-            host = re.search(rb"\r\nhost: ([^:\r]+)", head.lower())[1].decode()
-            picture = path.endswith(".jpg")
-            body = self.PICTURE if picture else answer(host, path)
-            kind = b"image/jpeg" if picture else b"text/html"
-            self.transport.write(b"HTTP/1.1 200 OK\r\nContent-Type: %s\r\nContent-Length: %d\r\n\r\n" % (kind, len(body)) + body)
+PICTURE = loopback.reply(b"image/jpeg", os.urandom(SIZE))
 
 
-def serve(port):
-    async def run():
-        server = await asyncio.get_running_loop().create_server(Server, "127.0.0.1", 0)
-        port.send(server.sockets[0].getsockname()[1])
-        await server.serve_forever()
-
-    asyncio.run(run())
+def reply_to(head):
+    path = head.split(b" ", 2)[1].decode()
+    if path.endswith(".jpg"):
+        return PICTURE
+    host = re.search(rb"\r\nhost: ([^:\r]+)", head.lower())[1].decode()
+    return loopback.reply(b"text/html", answer(host, path))
 
 
 class Bench:
@@ -183,20 +163,16 @@ def report(what, ours, other, aim):
 def main():
     program = pathlib.Path(sys.argv[1]) / "trawlex-harvest"
     rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 5
-    ours, theirs = multiprocessing.Pipe()
-    server = multiprocessing.Process(target=serve, args=(theirs,), daemon=True)
-    server.start()
-    port = ours.recv()
-    times = {auto: [], manual: [], fetch: [], curl: []}
-    for _ in range(rounds):
-        for work in (auto, manual, fetch):
-            times[work].append(in_new_folder(program, port, work))
-        times[curl].append(curl(port))
-    report(f"{SITES} sites of a list, beside the Auto run", times[manual], times[auto], 1.1)
-    report(f"{FILES} files of a list, beside curl", times[fetch], times[curl], 1.2)
-    seen = in_new_folder(program, port, collect)
-    print(f"memory after 10 collected pages {seen[10] / 1024:.1f} MB, after 1,000 {seen[1000] / 1024:.1f} MB")
-    server.terminate()
+    with loopback.serving(reply_to) as port:
+        times = {auto: [], manual: [], fetch: [], curl: []}
+        for _ in range(rounds):
+            for work in (auto, manual, fetch):
+                times[work].append(in_new_folder(program, port, work))
+            times[curl].append(curl(port))
+        report(f"{SITES} sites of a list, beside the Auto run", times[manual], times[auto], 1.1)
+        report(f"{FILES} files of a list, beside curl", times[fetch], times[curl], 1.2)
+        seen = in_new_folder(program, port, collect)
+        print(f"memory after 10 collected pages {seen[10] / 1024:.1f} MB, after 1,000 {seen[1000] / 1024:.1f} MB")
 
 
 if __name__ == "__main__":

@@ -4,8 +4,7 @@
 #include "pages/PageTexts.h"
 #include "store/Transaction.h"
 #include "support/Database.h"
-#include "support/FakeBrowser.h"
-#include "window/Program.h"
+#include "support/Outside.h"
 
 #include <QElapsedTimer>
 #include <cstdio>
@@ -42,13 +41,12 @@ void require(bool done)
 }
 
 /// The program on a database of its own, with a browser that costs nothing.
-struct Desk
+struct Desk : Outside
 {
     Desk()
     {
         browsers.running = std::make_shared<FakeBrowser>(pump);
-        program = std::make_unique<Program>(Program::Ports{
-            {pump, dialogs, desktop, clipboard, settings}, {place, menus, side, pictures}, browsers, folder.path()});
+        program = std::make_unique<Program>(ports());
         if (!program->startUp.Form_Load())
             std::exit(1);
     }
@@ -61,17 +59,6 @@ struct Desk
             std::exit(1);
     }
 
-    QTemporaryDir folder;
-    FakePump pump;
-    FakeDialogs dialogs;
-    FakeDesktop desktop;
-    FakeClipboard clipboard;
-    MemorySettings settings;
-    FakePlace place;
-    FakeMenus menus;
-    FakeSideWindows side;
-    FakePictures pictures;
-    FakeFactory browsers{pump};
     std::unique_ptr<Program> program;
 };
 

@@ -6,8 +6,6 @@ server is a process of its own.
 
     python3 bench_transfer.py BIN_FOLDER [ROUNDS]
 """
-import asyncio
-import multiprocessing
 import os
 import pathlib
 import statistics
@@ -16,34 +14,12 @@ import sys
 import tempfile
 import time
 
+import loopback
+
 FILES, SIZE, AIM = 500, 100_000, 1.2
 
 
-class Server(asyncio.Protocol):
-    """Answers every request with the same bytes and keeps the connection."""
-
-    ANSWER = b"HTTP/1.1 200 OK\r\nContent-Type: image/jpeg\r\nContent-Length: %d\r\n\r\n" % SIZE + os.urandom(SIZE)
-
-    def __init__(self):
-        self.unread = b""
-
-    def connection_made(self, transport):
-        self.transport = transport
-
-    def data_received(self, data):
-        self.unread += data
-        while b"\r\n\r\n" in self.unread:
-            self.unread = self.unread.split(b"\r\n\r\n", 1)[1]
-            self.transport.write(self.ANSWER)
-
-
-def serve(port):
-    async def run():
-        server = await asyncio.get_running_loop().create_server(Server, "127.0.0.1", 0)
-        port.send(server.sockets[0].getsockname()[1])
-        await server.serve_forever()
-
-    asyncio.run(run())
+ANSWER = loopback.reply(b"image/jpeg", os.urandom(SIZE))
 
 
 def seconds_of(command):
@@ -63,21 +39,17 @@ def timed(make_command):
 def main():
     program = pathlib.Path(sys.argv[1]) / "fetch_series"
     rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
-    ours, theirs = multiprocessing.Pipe()
-    server = multiprocessing.Process(target=serve, args=(theirs,), daemon=True)
-    server.start()
-    port = ours.recv()
-    addresses = [f"http://127.0.0.1:{port}/p-{number:03}.jpg" for number in range(1, FILES + 1)]
-    commands = {
-        "curl, one connection": lambda folder: ["curl", "-sS", "--no-progress-meter", "--output-dir", folder,
-                                                "--remote-name-all", *addresses],
-        "trawlex": lambda folder: [program, folder, *addresses],
-    }
-    times = {name: [] for name in commands}
-    for _ in range(rounds):
-        for name, make_command in commands.items():
-            times[name].append(timed(make_command))
-    server.terminate()
+    with loopback.serving(lambda head: ANSWER) as port:
+        addresses = [f"http://127.0.0.1:{port}/p-{number:03}.jpg" for number in range(1, FILES + 1)]
+        commands = {
+            "curl, one connection": lambda folder: ["curl", "-sS", "--no-progress-meter", "--output-dir", folder,
+                                                    "--remote-name-all", *addresses],
+            "trawlex": lambda folder: [program, folder, *addresses],
+        }
+        times = {name: [] for name in commands}
+        for _ in range(rounds):
+            for name, make_command in commands.items():
+                times[name].append(timed(make_command))
     medians = {name: statistics.median(values) for name, values in times.items()}
     print(f"{FILES} files of {SIZE // 1000} kB, medians of {rounds} rounds\n")
     for name, median in medians.items():

@@ -95,8 +95,7 @@ TEST_F(ListCommandsTest, AListThatCannotBeKeptIsAFailure)
 
 TEST_F(ListCommandsTest, AFileAloneIsReadWithoutABrowser)
 {
-    program = std::make_unique<Program>(Program::Ports{
-        {pump, dialogs, desktop, clipboard, settings}, {place, menus, side, pictures}, browsers, folder.path()});
+    program = std::make_unique<Program>(ports());
     ASSERT_TRUE(program->startUp.load());
     EXPECT_FALSE(form().browser.mbInitialized);
     arguments.listFile = file("http://www.a.com/\n");

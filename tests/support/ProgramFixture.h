@@ -3,10 +3,9 @@
 #pragma once
 
 #include "support/Database.h"
-#include "support/FakeBrowser.h"
-#include "window/Program.h"
+#include "support/Outside.h"
 
-class ProgramTest : public testing::Test
+class ProgramTest : public testing::Test, protected Outside
 {
   protected:
     ProgramTest()
@@ -19,8 +18,7 @@ class ProgramTest : public testing::Test
     /// Starts the program as its windows do.
     void load()
     {
-        program = std::make_unique<Program>(Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus,
-                                                           side, pictures, browsers, folder.path()});
+        program = std::make_unique<Program>(ports());
         QObject::connect(&program->status, &StatusLine::told, &program->form,
                          [this](const QString &text) { statuses.append(text); });
         QObject::connect(&program->siteVisit, &SiteVisit::visiting, &program->form,
@@ -84,17 +82,6 @@ class ProgramTest : public testing::Test
         form().criteria.mustContain.on.setValue(1);
     }
 
-    QTemporaryDir folder;
-    FakePump pump;
-    FakeDialogs dialogs;
-    FakeDesktop desktop;
-    FakeClipboard clipboard;
-    MemorySettings settings;
-    FakePlace place;
-    FakeMenus menus;
-    FakeSideWindows side;
-    FakePictures pictures;
-    FakeFactory browsers{pump};
     std::unique_ptr<Program> program;
     std::function<void()> whenLoaded = [] {}; ///< what is done before a browser is connected
     QStringList statuses, visited;

@@ -143,8 +143,7 @@ TEST_F(OptionsTest, DirectoriesAndTheDatabasesNameAreReadInAnyCase)
     settings.preset("SearchKeyTxtSaveLocation Text", folder.path() + u"/data/"_s);
     settings.preset("txtFNSaveLocation", folder.path() + u"/"_s);
     settings.values.insert(u"mStartUp/DatabaseName"_s, u"Mine.mdb"_s);
-    program = std::make_unique<Program>(Program::Ports{pump, dialogs, desktop, clipboard, settings, place, menus, side,
-                                                       pictures, browsers, folder.path()});
+    program = std::make_unique<Program>(ports());
     program->options.GetSettings();
     EXPECT_EQ(form().places.txtSFDBDir.text(), folder.path() + u"/data/"_s);
     EXPECT_EQ(form().places.txtSFMNDir.text(), folder.path() + u'/');

@@ -29,8 +29,7 @@ class SettingsFaults : public ProgramTest
     void startOn(SettingsStore &store)
     {
         ends = 0;
-        program = std::make_unique<Program>(Program::Ports{
-            {pump, dialogs, desktop, clipboard, store}, {place, menus, side, pictures}, browsers, folder.path()});
+        program = std::make_unique<Program>(ports(store, pump));
         QObject::connect(&program->lifeCycle, &LifeCycle::ended, &program->form, [this] { ++ends; });
         ASSERT_TRUE(program->startUp.Form_Load());
         program->startUp.settle();
