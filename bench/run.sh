@@ -8,6 +8,8 @@ for program in "$bin"/bench_*; do
   echo "== $(basename "$program")"
   "$program"
 done
+echo "== starting"
+python3 "$here/bench_start.py" "$bin"
 echo "== driving a browser"
 python3 "$here/bench_driving.py" "$bin"
 echo "== fetching a series of files"

@@ -1,7 +1,8 @@
 # What is installed where, and the Debian package made of it.
 include(GNUInstallDirs)
 
-install(TARGETS trawlex trawlex-harvest trawlex-mdb-reader trawlex-browser-holder RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS trawlex trawlex-harvest RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS trawlex-mdb-reader trawlex-browser-holder trawlex-harvest-work DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/trawlex)
 install(FILES packaging/desktop/trawlex.desktop packaging/desktop/trawlex-pictures.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/desktop/trawlex.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES src/ui/look/icons/trawlex.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)

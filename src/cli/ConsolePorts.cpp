@@ -1,16 +1,8 @@
 #include "cli/ConsolePorts.h"
 
-#include "util/Text.h"
-
-#include <cstdio>
+#include "cli/ErrorLine.h"
 
 using namespace Qt::StringLiterals;
-
-void printError(const QString &line)
-{
-    std::fprintf(stderr, "%s\n", cUtility::shown(line).toLocal8Bit().constData());
-    std::fflush(stderr);
-}
 
 void ConsoleDialogs::tell(const QString &title, const QString &text)
 {

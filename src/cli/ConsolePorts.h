@@ -5,9 +5,6 @@
 #include "app/Ports.h"
 #include "app/SideWindows.h"
 
-/// Prints one line on standard error.
-void printError(const QString &line);
-
 class ConsoleDialogs : public UserDialogs
 {
   public:

@@ -1,6 +1,7 @@
 #include "cli/DataArguments.h"
 
 #include "store/Schema.h"
+#include "util/Errors.h"
 
 #include <QFileInfo>
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "data/ExportKinds.h"
-#include "data/Exports.h"
 
 struct DataArguments
 {

@@ -1,6 +1,6 @@
 #include "cli/DataWork.h"
 
-#include "cli/ConsolePorts.h"
+#include "cli/ErrorLine.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,6 @@
 // A program without a window: what would be asked answers itself, what would be shown is one line on standard error.
 #include "cli/ConsolePorts.h"
+#include "cli/ErrorLine.h"
 
 #include "app/MenuTables.h"
 #include "util/QtPrint.h"

@@ -11,7 +11,8 @@ import xml.etree.ElementTree as ElementTree
 
 import trawlex
 
-FILES = ["bin/trawlex", "bin/trawlex-harvest", "bin/trawlex-mdb-reader", "bin/trawlex-browser-holder",
+FILES = ["bin/trawlex", "bin/trawlex-harvest", "libexec/trawlex/trawlex-mdb-reader",
+         "libexec/trawlex/trawlex-browser-holder", "libexec/trawlex/trawlex-harvest.so",
          "share/applications/trawlex.desktop", "share/applications/trawlex-pictures.desktop",
          "share/metainfo/trawlex.metainfo.xml",
          "share/icons/hicolor/scalable/apps/trawlex.svg", "share/man/man1/trawlex.1", "share/man/man1/trawlex-harvest.1",
@@ -73,6 +74,15 @@ class Installed(unittest.TestCase):
         for switch in sorted(set(re.findall(r"^  (--[a-z-]+)", told, re.MULTILINE))):
             with self.subTest(switch):
                 self.assertIn(switch, page)
+
+    def test_the_front_answers_by_itself_and_says_when_the_rest_is_missing(self):
+        with tempfile.TemporaryDirectory() as alone:
+            front = shutil.copy(self.prefix / "bin/trawlex-harvest", alone)
+            self.assertEqual(subprocess.run([front, "--help"], capture_output=True, text=True).returncode, 0)
+            self.assertEqual(subprocess.run([front, "--no-such"], capture_output=True, text=True).returncode, 2)
+            work = subprocess.run([front, "--auto"], capture_output=True, text=True)
+            self.assertEqual(work.returncode, 1)
+            self.assertIn("trawlex-harvest.so", work.stderr)
 
     def test_the_man_pages_are_well_formed(self):
         for page in (self.prefix / "share/man/man1").glob("*.1"):

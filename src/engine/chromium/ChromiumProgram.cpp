@@ -1,7 +1,7 @@
 #include "engine/chromium/ChromiumProgram.h"
 #include "util/Errors.h"
+#include "util/ProgramParts.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -48,9 +48,7 @@ QString find()
 
 QString holder()
 {
-    const QString folder = QCoreApplication::applicationDirPath();
-    QString path = QStandardPaths::findExecutable(
-        u"trawlex-browser-holder"_s, {folder, folder + "/../libexec/trawlex"_L1, folder + "/../lib/trawlex"_L1});
+    QString path = cUtility::programPart(u"trawlex-browser-holder"_s);
     if (path.isEmpty())
         throw RuntimeError(ErrorNumber::FileNotFound, u"trawlex-browser-holder is not installed."_s);
     return path;

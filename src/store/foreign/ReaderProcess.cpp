@@ -1,11 +1,9 @@
 #include "store/foreign/ReaderProcess.h"
 #include "store/AdoErrors.h"
 #include "store/StoreFault.h"
+#include "util/ProgramParts.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFileInfo>
-#include <QStandardPaths>
 #include <QtEndian>
 #include <array>
 
@@ -24,14 +22,9 @@ constexpr std::array seriousComplaints{
     "beyond EOF",          "reading page",          "not a valid table definition", "doesn't match",
     "Invalid page buffer", "Invalid data location", "incorrect memo length",        "unrecognized usage map"};
 
-// The reader stands beside the program or, installed, in the folder for programs that only programs start.
 QString readerProgram()
 {
-    const QString self = QFileInfo(u"/proc/self/exe"_s).symLinkTarget();
-    const QString folder =
-        QCoreApplication::instance() != nullptr ? QCoreApplication::applicationDirPath() : QFileInfo(self).path();
-    QString program = QStandardPaths::findExecutable(
-        u"trawlex-mdb-reader"_s, {folder, folder + "/../libexec/trawlex"_L1, folder + "/../lib/trawlex"_L1});
+    QString program = cUtility::programPart(u"trawlex-mdb-reader"_s);
     if (program.isEmpty())
         throw RuntimeError(ErrorNumber::FileNotFound, u"trawlex-mdb-reader is not installed."_s);
     return program;

@@ -1,0 +1,10 @@
+// Where the parts of the program lie that stand in files of their own: helper programs and what is loaded when needed.
+#pragma once
+
+#include <QString>
+
+namespace cUtility {
+/// The path of the part of this name: beside the running program or, installed, in the folder for what no user starts.
+/// Works before there is an application object. "" where it is not.
+[[nodiscard]] QString programPart(const QString &name);
+} // namespace cUtility
