@@ -98,6 +98,7 @@ SeriesPanel::SeriesPanel(QObject *form)
     : cboMNAutoUrl(u"cboMNAutoUrl"_s, dropDownCombo, form), incMNAutoUrl(u"incMNAutoUrl"_s, form, 10),
       incMNStep(u"incMNStep"_s, form), picMNShadow(u"picMNShadow"_s, form)
 {
+    picMNShadow.setVisible(false);
 }
 
 ManualLists::ManualLists(QObject *form)

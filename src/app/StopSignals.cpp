@@ -19,7 +19,7 @@ void wake(int)
 
 StopSignals::StopSignals()
 {
-    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, sockets) != 0)
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, sockets) != 0)
         return;
     mNotifier = std::make_unique<QSocketNotifier>(sockets[0], QSocketNotifier::Read);
     connect(mNotifier.get(), &QSocketNotifier::activated, this, [this] {

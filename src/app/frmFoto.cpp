@@ -14,6 +14,7 @@ void frmFoto::show()
 void frmFoto::unload()
 {
     mOpen = false;
+    mActiveDirectory.clear();
     Q_EMIT unloaded();
 }
 

@@ -16,6 +16,9 @@ class EmbeddedBrowser : public BrowserEngine
     [[nodiscard]] virtual QWebEnginePage *page() const = 0;
 
   public Q_SLOTS:
+    /// What the buttons and keys of the view's window ask for. Nothing happens without a page before this one.
+    virtual void goBack() = 0;
+    virtual void reload() = 0;
     /// The window that shows the page is gone: emits WindowClosing, and every later call raises an error.
     virtual void windowClosed() = 0;
 

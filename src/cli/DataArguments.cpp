@@ -56,8 +56,7 @@ void DataArguments::takeWhere(const QString &value)
     const auto equals = value.indexOf(u'=');
     if (equals < 1 || equals + 1 == value.size())
         refuse(u"--where: \"%1\" is not of the form FIELD=TEXT"_s.arg(value));
-    where = {value.left(equals), value.mid(equals + 1)};
-    hasWhere = true;
+    where = Condition{value.left(equals), value.mid(equals + 1)};
 }
 
 void DataArguments::takeTo(const QString &value)
@@ -90,14 +89,14 @@ void DataArguments::check() const
     const int kinds = (allData || allSettings ? 1 : 0) + (table.isEmpty() ? 0 : 1) + (from.field.isEmpty() ? 0 : 1);
     if (exported && imported)
         refuse(u"--export and --import exclude each other"_s);
-    if (!exported && (format != nullptr || hasWhere || !to.isEmpty()))
+    if (!exported && (format != nullptr || where || !to.isEmpty()))
         refuse(u"--format, --where and --to belong to --export"_s);
     if (!imported && kinds > 0)
         refuse(u"--data, --settings, --table and --field belong to --import"_s);
     if (exported && (format == nullptr || to.isEmpty()))
         refuse(u"--export wants --format and --to"_s);
-    if (hasWhere && !schemaOf(*exported).mid(1).contains(where.table, Qt::CaseInsensitive))
-        refuse(u"--where: %1 has no field \"%2\""_s.arg(*exported, where.table));
+    if (where && !schemaOf(*exported).mid(1).contains(where->field, Qt::CaseInsensitive))
+        refuse(u"--where: %1 has no field \"%2\""_s.arg(*exported, where->field));
     if (imported && kinds != 1)
         refuse(u"--import wants --data, --settings or both, or one of --table and --field"_s);
 }

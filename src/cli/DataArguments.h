@@ -12,8 +12,11 @@ struct DataArguments
 
     std::optional<QString> exported; ///< a table
     const ExportKind *format = nullptr;
-    FieldOf where; ///< its field, and the text that it holds
-    bool hasWhere = false;
+    struct Condition
+    {
+        QString field, text;
+    };
+    std::optional<Condition> where; ///< a field of it, and the text that it holds
     QString to;
 
     std::optional<QString> imported; ///< a file

@@ -7,7 +7,8 @@ using namespace Qt::StringLiterals;
 namespace {
 bool exportTable(Program &program, const DataArguments &arguments)
 {
-    const ExportSource source{*arguments.exported, arguments.where.table, arguments.where.field};
+    const DataArguments::Condition where = arguments.where.value_or(DataArguments::Condition());
+    const ExportSource source{*arguments.exported, where.field, where.text};
     return program.dataSide.exports.exportTable(source, *arguments.format, arguments.to);
 }
 

@@ -160,7 +160,7 @@ int trawlexHarvest(char *argv[], const Arguments &arguments)
     NoMenus menus;
     NoSideWindows side;
     NoPictures pictures;
-    IniSettings stored(GetRKAppName(windowProgram, programFolder()));
+    IniSettings stored(GetRKAppName(windowProgram, QApplication::applicationDirPath()));
     HarvestSettings settings(stored, arguments.databaseDir, arguments.browser);
     ConsoleBrowsers browsers({dataFolder(), switches, arguments.headless || !hasDisplay()});
     if (preparation.sandboxOff || browsers.sandboxOff())

@@ -26,8 +26,9 @@ void DesktopPictures::show()
         mWindow = new PictureWindow(*mForm);
         mWindow->setAttribute(Qt::WA_DeleteOnClose);
         KeptPlace::restore(*mWindow, mSettings, *mWindow);
-        connect(mWindow, &PictureWindow::closing, this, [this] {
-            KeptPlace::store(*mWindow, mSettings);
+        // Closed by the program, it is no longer ours in that moment.
+        connect(mWindow, &PictureWindow::closing, this, [this, window = mWindow.data()] {
+            KeptPlace::store(*window, mSettings);
             mForm->unload();
         });
         Q_EMIT opened(mWindow);

@@ -25,6 +25,7 @@ int runPictureBrowser(const QString &appName, const QString &picture)
     QtDesktop desktop;
     QtMenus menus;
     IniSettings settings(appName);
+    settings.SaveSetting(Sections::Main, Keys::WorkingPath, programFolder() + u'/');
     DesktopSideWindows side(settings, desktop);
     ErrorLog log(dialogs, desktop, programFolder());
     log.ToggleErrMsg(settings.GetSetting(Sections::Main, Keys::ErrorMessages, u"0"_s) == "1"_L1);

@@ -177,7 +177,7 @@ int main(int argc, char *argv[])
     // The end of the program is decided by its life cycle alone.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    const QString appName = GetRKAppName(u"trawlex"_s, programFolder());
+    const QString appName = GetRKAppName(u"trawlex"_s, QApplication::applicationDirPath());
     if (!harvests)
         return runPictureBrowser(appName, mode.picture);
     Splash splash;

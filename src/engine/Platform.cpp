@@ -140,14 +140,14 @@ int startChild(Child &child, pid_t &pid)
 
 } // namespace
 
-PipedProcess startPiped(const QString &program, const QStringList &arguments, const QStringList &variables)
+PipedProcess startPiped(const QString &program, const QStringList &arguments, const QStringList &environment)
 {
     int ends[2] = {-1, -1};
     int error = ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0 ? 0 : errno;
     pid_t pid = 0;
     if (error == 0) {
         ends[1] = aboveChildFiles(ends[1]);
-        Child child(QStringList{program} + arguments, QProcess::systemEnvironment() + variables, ends[1]);
+        Child child(QStringList{program} + arguments, environment, ends[1]);
         error = startChild(child, pid);
         ::close(ends[1]);
     }

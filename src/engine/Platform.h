@@ -12,9 +12,9 @@ struct PipedProcess
 };
 /// Starts `program` in a session of its own. It reads from its file 3 what we write to the line, and what it writes to
 /// its file 4 comes back; the line ends with either process, whatever ends it. It is ended at once when the thread that
-/// has started it ends. `variables` ("NAME=value") are added to its environment. Raises a RuntimeError.
+/// has started it ends. `environment` is all that it has of that ("NAME=value"). Raises a RuntimeError.
 [[nodiscard]] PipedProcess startPiped(const QString &program, const QStringList &arguments,
-                                      const QStringList &variables = {});
+                                      const QStringList &environment);
 /// The process that listens at the other end of a local socket which we have connected; 0 where it cannot be told.
 [[nodiscard]] qint64 peer(qintptr socket);
 /// The command line of the process `pid`, its words parted by zero bytes; "" where it cannot be told.

@@ -47,8 +47,8 @@ TEST(DataArgumentsTest, AnExportNamesTableFormAndFile)
                                    .data;
     EXPECT_EQ(data.exported, u"EmailAddress"_s);
     EXPECT_EQ(data.format->word, "csv"_L1);
-    EXPECT_EQ(data.where.table, u"Url"_s);
-    EXPECT_EQ(data.where.field, u"a=b"_s);
+    EXPECT_EQ(data.where->field, u"Url"_s);
+    EXPECT_EQ(data.where->text, u"a=b"_s);
     EXPECT_EQ(data.to, u"x"_s);
 }
 

@@ -219,7 +219,8 @@ TEST_F(ChromiumProfileTest, AStartedProgramGetsTheCommandLineAndALine)
     QFile::setPermissions(path(u"chromium"_s), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     const ChromiumStart start{
         .profileFolder = path(u"a b"_s), .userSwitches = {u"--mine=1"_s}, .headless = true, .sandboxOff = false};
-    const Platform::PipedProcess process = Platform::startPiped(path(u"chromium"_s), chromiumArguments(start));
+    const Platform::PipedProcess process =
+        Platform::startPiped(path(u"chromium"_s), chromiumArguments(start), chromiumEnvironment());
     EXPECT_GT(process.pid, 1);
     QLocalSocket line;
     ASSERT_TRUE(line.setSocketDescriptor(process.socket));
@@ -233,6 +234,13 @@ TEST_F(ChromiumProfileTest, AStartedProgramGetsTheCommandLineAndALine)
     while (Platform::isRunning(process.pid) && clock.elapsed() < 10000)
         ;
     EXPECT_FALSE(Platform::isRunning(process.pid)) << "it has ended, and leaves nothing";
+}
+
+TEST(ChromiumSwitches, TheEnvironmentHasOurWordBeforeTheUsers)
+{
+    qputenv("CHROME_CONFIG_HOME", "/home/ann/.config");
+    EXPECT_EQ(chromiumEnvironment().filter(u"CHROME_CONFIG_HOME="_s), QStringList{u"CHROME_CONFIG_HOME=/dev/null"_s});
+    qunsetenv("CHROME_CONFIG_HOME");
 }
 
 TEST(ChromiumArguments, TheUsersComeLast)

@@ -283,6 +283,21 @@ TEST_F(ChromiumRefusals, APageThatHangsInSomethingElseThanAScriptIsReadWithoutSc
     }
 }
 
+TEST_F(ChromiumRefusals, APageThatLeavesByItselfBehindOneWithoutScriptsHasThemAgain)
+{
+    server().route("/never", {.delay = -1});
+    server().route("/next", {.body = "<title>next</title><script>document.title += ' with scripts'</script>",
+                             .delay = 300}); // as a server in the net takes
+    server().page("/hang", "<meta http-equiv=refresh content='4;url=/next'><title>hang</title><script>const r = new "
+                           "XMLHttpRequest(); r.open('GET', '/never', false); r.send();</script>");
+    browser->setScriptLimit(std::chrono::milliseconds(500));
+    browser->Navigate(here(u"/hang"_s));
+    ASSERT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Arrived; }));
+    EXPECT_EQ(str(browser->content().title), "hang");
+    EXPECT_TRUE(waitFor([&] { return browser->LocationName() == "next with scripts"_L1; }))
+        << str(browser->LocationName());
+}
+
 TEST_F(ChromiumRefusals, ThePageBehindOneThatLostItsProcessInAReadArrives)
 {
     server().route("/never", {.delay = -1});

@@ -430,6 +430,34 @@ TEST_F(WebEngineRefusals, TheViewShowsTheNextPageBehindOneThatWasReadWithoutScri
     EXPECT_EQ(view->title(), u"next");
 }
 
+TEST_F(WebEngineRefusals, APageWithoutScriptsIsLeftBackwardsAndLoadedAgain)
+{
+    server.page("/first", "<title>first</title>");
+    server.page("/hang", "<title>hang</title><script>for (;;);</script>");
+    view = std::make_unique<QWebEngineView>();
+    view->setPage(browser->page());
+    open(u"/first"_s);
+    browser->setScriptLimit(500ms);
+    const auto openPlain = [&] {
+        browser->Navigate(server.address(u"/hang"_s));
+        EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+        EXPECT_EQ(browser->content().title, u"hang");
+    };
+    openPlain();
+    browser->goBack();
+    EXPECT_TRUE(
+        waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived && !browser->isLoading(); }));
+    EXPECT_EQ(browser->LocationURL(), server.address(u"/first"_s));
+    EXPECT_EQ(view->page(), browser->page());
+    openPlain();
+    server.page("/hang", "<title>mended</title>");
+    browser->reload();
+    EXPECT_TRUE(
+        waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived && !browser->isLoading(); }));
+    EXPECT_EQ(browser->LocationName(), u"mended");
+    EXPECT_EQ(view->title(), u"mended");
+}
+
 TEST_F(WebEngineRefusals, APageThatAsksForOtherProgramsWithoutEndDoesNotHoldUpTheNextOne)
 {
     server.route("/next", {.body = "<title>next</title>", .delay = 200});

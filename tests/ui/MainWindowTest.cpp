@@ -278,7 +278,6 @@ TEST_F(MainWindows, AreMinimizedByTheirButton)
 
 TEST_F(MainWindows, GrowForALongAddressAndShrinkAgain)
 {
-    form.series.picMNShadow.setVisible(false);
     form.limits.incSMAMAutoTxtElng.setText(u"1500"_s);
     const int before = window.width();
     form.series.picMNShadow.setVisible(true);

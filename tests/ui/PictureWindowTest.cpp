@@ -5,6 +5,7 @@
 #include "app/QtEventPump.h"
 #include "app/SettingKeys.h"
 #include "support/Fakes.h"
+#include "ui/pictures/ThumbnailStore.h"
 #include "ui/widgets/ItemList.h"
 #include "window/side/PictureMenu.h"
 
@@ -202,6 +203,33 @@ TEST_F(PicturesOnShow, ThumbnailsAreAnOptionOfTheList)
     EXPECT_TRUE(QTest::qWaitFor([&] { return redness() > 40; }, patience));
     press(Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(list().sizeHintForRow(0), plain);
+}
+
+TEST_F(PicturesOnShow, AThumbnailGoesWithItsFile)
+{
+    make(u"a.jpg"_s, {200, 100});
+    ThumbnailStore store(nullptr);
+    const QString path = folder.filePath(u"a.jpg"_s);
+    const auto widthOf = [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !store.pixmap(path, 64).isNull(); }, patience));
+        return store.pixmap(path, 64).width();
+    };
+    EXPECT_EQ(widthOf(), 64);
+    make(u"a.jpg"_s, {20, 10});
+    EXPECT_EQ(widthOf(), 20) << "another picture under the same name";
+}
+
+TEST_F(PicturesOnShow, ExitClosesTheWindowWhichKeepsItsPlace)
+{
+    make(u"a.jpg"_s, {100, 100});
+    open();
+    window->move(70, 50);
+    settle();
+    form.mnuFotoPopUpAction.item("mnuFotoExit"_L1).click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window == nullptr; }, patience));
+    EXPECT_FALSE(form.isOpen());
+    open();
+    EXPECT_EQ(window->pos(), QPoint(70, 50));
 }
 
 TEST_F(PicturesOnShow, EscapeClosesTheWindowWhichKeepsItsPlace)

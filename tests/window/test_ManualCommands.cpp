@@ -346,6 +346,7 @@ TEST_F(ManualCommandsTest, TheSeriesMenuFollowsTheAddress)
     click("mnuMNStatusDeleteAutoTextUrl"_L1);
     EXPECT_EQ(lastStatus(), u"Auto Text Url Deleted"_s);
     EXPECT_TRUE(rows(u"AutoTextA"_s).isEmpty());
+    EXPECT_FALSE(form().series.picMNShadow.isVisible());
     click("mnuMNStatusElongate"_L1);
     EXPECT_TRUE(form().series.picMNShadow.isVisible());
     EXPECT_EQ(settings.of("mnuMNStatusElongate"), u"1"_s);

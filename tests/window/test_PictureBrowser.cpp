@@ -248,6 +248,41 @@ TEST_F(PictureBrowserTest, TheLastMovesAreTakenBackInTheirOrder)
     EXPECT_TRUE(log.entries.isEmpty());
 }
 
+TEST_F(PictureBrowserTest, WhatCouldNotBeTakenBackCanBeTriedAgain)
+{
+    open({u"a.jpg"_s, u"b.jpg"_s});
+    press(EditKey::Insert);
+    ASSERT_TRUE(QDir().rename(source(), source().chopped(1) + u"-away"_s));
+    clickMore("mnuFotoUndo");
+    EXPECT_EQ(log.entries.size(), 1);
+    EXPECT_EQ(names(target()), QStringList{u"b.jpg"_s});
+    ASSERT_TRUE(QDir().rename(source().chopped(1) + u"-away"_s, source()));
+    clickMore("mnuFotoUndo");
+    EXPECT_EQ(names(target()), QStringList());
+    EXPECT_EQ(content(source() + u"b.jpg"_s), "b.jpg");
+}
+
+TEST_F(PictureBrowserTest, WhatIsNoLongerThereDoesNotStandInTheWayOfEarlierMoves)
+{
+    open({u"a.jpg"_s, u"b.jpg"_s});
+    press(EditKey::Insert);
+    press(EditKey::Insert);
+    ASSERT_TRUE(QFile::remove(target() + u"a.jpg"_s));
+    clickMore("mnuFotoUndo");
+    clickMore("mnuFotoUndo");
+    EXPECT_EQ(names(source()), QStringList{u"b.jpg"_s});
+}
+
+TEST_F(PictureBrowserTest, OpenedAnewItComparesTheMoveToDirectoryWithTheOneOnShow)
+{
+    open({u"a.jpg"_s});
+    make(target() + u"x.jpg"_s, "x");
+    browser.LoadDirectory(target());
+    click("mnuFotoExit");
+    browser.LoadDirectory(source());
+    EXPECT_EQ(form.moveToDirectory(), target());
+}
+
 TEST_F(PictureBrowserTest, WhatIsTakenBackIntoAnotherDirectoryIsNotListed)
 {
     open({u"a.jpg"_s, u"b.jpg"_s});

@@ -104,7 +104,7 @@ void ChromiumFactory::start(const QString &programPath)
     QProcess process;
     process.setProgram(ChromiumProgram::holder());
     process.setArguments(QStringList{profile().socketPath(), programPath} + arguments);
-    process.setEnvironment(QProcess::systemEnvironment() + chromiumEnvironment());
+    process.setEnvironment(chromiumEnvironment());
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

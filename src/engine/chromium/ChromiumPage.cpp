@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -236,6 +237,7 @@ void ChromiumPage::letScriptsRun(bool run)
 void ChromiumPage::loadPlain(QDeadlineTimer deadline)
 {
     requireWindow();
+    const QScopedValueRollback loadsPlain(mLoadsPlain, true);
     const QString address = std::exchange(mAddress, {});
     for (const QString &each : {emptyPage, address}) {
         std::erase_if(mNotices, [](const PageNotice &notice) { return notice.url == emptyPage; });
@@ -406,8 +408,11 @@ void ChromiumPage::onLifecycle(const QString &session, const QJsonObject &params
 
 void ChromiumPage::onStartedNavigating(const QString &session, const QJsonObject &params)
 {
-    if (session == mTargets.session() && params[u"frameId"].toString() == mTopFrame)
-        mLoading.started(params[u"loaderId"].toString());
+    if (session != mTargets.session() || params[u"frameId"].toString() != mTopFrame)
+        return;
+    if (!mLoadsPlain)
+        letScriptsRun(true); // the user does, or the page itself
+    mLoading.started(params[u"loaderId"].toString());
 }
 
 void ChromiumPage::onStoppedLoading(const QString &session, const QJsonObject &params)

@@ -116,7 +116,8 @@ class ChromiumPage : public QObject
     bool mLostProcess = false; // since the latest request
     int mRepetitions = 0;      // of the latest Navigate
     int mStuck = 0;            // how often the old page has held up the latest Navigate
-    bool mPlain = false;       // the page is loaded without scripts
+    bool mPlain = false;       // the page was loaded without scripts
+    bool mLoadsPlain = false;  // it is being loaded so
     bool mClosed = false;
     std::deque<PageNotice> mNotices;
 };

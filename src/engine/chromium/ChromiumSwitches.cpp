@@ -77,5 +77,7 @@ QStringList chromiumArguments(const ChromiumStart &start)
 // if that folder could be made.
 QStringList chromiumEnvironment()
 {
-    return {u"CHROME_CONFIG_HOME="_s + QProcess::nullDevice()};
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"CHROME_CONFIG_HOME"_s, QProcess::nullDevice());
+    return environment.toStringList();
 }

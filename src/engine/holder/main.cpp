@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QProcess>
 #include <cstdio>
 #include <thread>
 
@@ -33,7 +34,8 @@ int main(int argc, char *argv[])
         return 2;
     }
     try {
-        const Platform::PipedProcess started = Platform::startPiped(words[2], words.mid(wordsAtLeast));
+        const Platform::PipedProcess started =
+            Platform::startPiped(words[2], words.mid(wordsAtLeast), QProcess::systemEnvironment());
         auto browser = std::make_unique<QLocalSocket>();
         browser->setSocketDescriptor(started.socket);
         PipeHolder holder(std::move(browser));

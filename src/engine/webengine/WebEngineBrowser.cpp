@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWebEngineDownloadRequest>
+#include <QWebEngineHistory>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
 #include <QWebEngineScript>
@@ -209,6 +210,28 @@ void WebEngineBrowser::Stop()
     page()->triggerAction(QWebEnginePage::Stop);
     if (mLoading.cancel())
         tellEnd(false);
+}
+
+// A plain page is another one than the view shows, which knows where the user came from.
+void WebEngineBrowser::goBack()
+{
+    if (mProcess == Process::Closed)
+        return;
+    const QWebEngineHistory &history = *(mKernel->shown ? *mKernel->shown : *mKernel->page).history();
+    if (!mPlain)
+        page()->triggerAction(QWebEnginePage::Back);
+    else if (history.canGoBack())
+        Navigate(history.backItem().url().toString());
+}
+
+void WebEngineBrowser::reload()
+{
+    if (mProcess == Process::Closed)
+        return;
+    if (mPlain)
+        Navigate(mLocation);
+    else
+        page()->triggerAction(QWebEnginePage::Reload);
 }
 
 void WebEngineBrowser::onLoadingChanged(const QWebEngineLoadingInfo &info)

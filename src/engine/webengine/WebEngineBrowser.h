@@ -74,6 +74,8 @@ class WebEngineBrowser : public EmbeddedBrowser
     [[nodiscard]] QString cookiesFor(const QString &url) override;
 
   public Q_SLOTS:
+    void goBack() override;
+    void reload() override;
     void windowClosed() override;
 
   private:

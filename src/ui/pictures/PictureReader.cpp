@@ -1,5 +1,7 @@
 #include "ui/pictures/PictureReader.h"
 
+#include <QBuffer>
+#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -11,13 +13,13 @@ namespace {
 constexpr qsizetype headSize = 6;
 
 /// A file that ends where the time for it is over: a picture made to be read for ever is read no longer than that.
-class TimedFile : public QFile
+template <typename Device> class Timed : public Device
 {
   public:
-    using QFile::QFile;
+    using Device::Device;
 
   protected:
-    qint64 readData(char *data, qint64 most) override { return mEnd.hasExpired() ? -1 : QFile::readData(data, most); }
+    qint64 readData(char *data, qint64 most) override { return mEnd.hasExpired() ? -1 : Device::readData(data, most); }
 
   private:
     QDeadlineTimer mEnd{PictureReader::mostMilliseconds};
@@ -58,6 +60,20 @@ Picture readWith(QImageReader &reader, QSize room)
         picture.image = picture.image.scaled(now, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return picture;
 }
+
+Picture readFrom(QIODevice &device, QSize room)
+{
+    static const bool limited = (QImageReader::setAllocationLimit(PictureReader::mostMegabytes), true);
+    static_cast<void>(limited);
+    const QByteArray format = PictureReader::formatOf(device.peek(headSize));
+    if (format.isEmpty())
+        return refused(u"is no jpg, gif or bmp"_s);
+    if (device.size() > PictureReader::largestFile)
+        return refused(u"is too large a file"_s);
+    QImageReader reader(&device, format);
+    reader.setAutoDetectImageFormat(false);
+    return readWith(reader, room);
+}
 } // namespace
 
 QByteArray PictureReader::formatOf(QByteArrayView head)
@@ -71,20 +87,25 @@ QByteArray PictureReader::formatOf(QByteArrayView head)
 
 Picture PictureReader::read(const QString &path, QSize room)
 {
-    static const bool limited = (QImageReader::setAllocationLimit(mostMegabytes), true);
-    static_cast<void>(limited);
     static const QStringList endings{u"jpg"_s, u"jpeg"_s, u"gif"_s, u"bmp"_s};
     if (!endings.contains(QFileInfo(path).suffix().toLower()))
         return refused(u"is no jpg, gif or bmp by its name"_s);
-    TimedFile file(path);
+    Timed<QFile> file(path);
     if (!file.open(QIODevice::ReadOnly))
         return refused(file.errorString());
-    const QByteArray format = formatOf(file.peek(headSize));
-    if (format.isEmpty())
-        return refused(u"is no jpg, gif or bmp"_s);
-    if (file.size() > largestFile)
-        return refused(u"is too large a file"_s);
-    QImageReader reader(&file, format);
-    reader.setAutoDetectImageFormat(false);
-    return readWith(reader, room);
+    return readFrom(file, room);
+}
+
+Picture PictureReader::read(const QByteArray &bytes, QSize room)
+{
+    Timed<QBuffer> buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return readFrom(buffer, room);
+}
+
+QString PictureReader::keyOf(const QString &path)
+{
+    const QFileInfo file(path);
+    return u"%1|%2|%3"_s.arg(file.size()).arg(file.lastModified().toMSecsSinceEpoch()).arg(path);
 }

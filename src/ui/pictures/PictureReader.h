@@ -25,4 +25,9 @@ constexpr int mostMilliseconds = 5000;
 /// The picture, no larger than `room` in either direction; as it is with an empty room. What cannot be read has a
 /// refusal and no image.
 [[nodiscard]] Picture read(const QString &path, QSize room = {});
+/// The same for the bytes of a file.
+[[nodiscard]] Picture read(const QByteArray &bytes, QSize room);
+
+/// What a picture that has been read may be kept under: a file that has been written anew is another one.
+[[nodiscard]] QString keyOf(const QString &path);
 } // namespace PictureReader

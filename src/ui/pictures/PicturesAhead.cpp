@@ -1,8 +1,5 @@
 #include "ui/pictures/PicturesAhead.h"
 
-#include <QDateTime>
-#include <QFileInfo>
-
 using namespace Qt::StringLiterals;
 
 PicturesAhead::PicturesAhead()
@@ -19,12 +16,7 @@ PicturesAhead::~PicturesAhead()
 
 QString PicturesAhead::keyOf(const QString &path) const
 {
-    const QFileInfo file(path);
-    QString key = path;
-    for (const qint64 part :
-         {file.size(), file.lastModified().toMSecsSinceEpoch(), qint64(mRoom.width()), qint64(mRoom.height())})
-        key += u'|' + QString::number(part);
-    return key;
+    return u"%1|%2|%3"_s.arg(mRoom.width()).arg(mRoom.height()).arg(PictureReader::keyOf(path));
 }
 
 Picture PicturesAhead::take(const QString &path)

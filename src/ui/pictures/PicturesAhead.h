@@ -32,7 +32,6 @@ class PicturesAhead
         std::shared_ptr<std::atomic<bool>> isWanted;
         std::shared_future<Picture> picture;
     };
-    /// A file that has been written anew is another picture.
     [[nodiscard]] QString keyOf(const QString &path) const;
     [[nodiscard]] Reading start(const QString &path);
 

@@ -16,32 +16,33 @@ ThumbnailStore::~ThumbnailStore()
 
 QPixmap ThumbnailStore::pixmap(const QString &path, int pixels)
 {
-    if (const QPixmap *const kept = mKept.object(path))
+    const QString key = PictureReader::keyOf(path);
+    if (const QPixmap *const kept = mKept.object(key))
         return *kept;
-    want(path, pixels);
+    want(key, path, pixels);
     return {};
 }
 
-void ThumbnailStore::want(const QString &path, int pixels)
+void ThumbnailStore::want(const QString &key, const QString &path, int pixels)
 {
-    if (path.isEmpty() || mWaiting.contains(path))
+    if (path.isEmpty() || mWaiting.contains(key))
         return;
     if (mWaiting.size() == mostWaiting) {
         mThread.clear();
         mWaiting.clear();
     }
-    mWaiting.append(path);
-    mThread.start([this, path, pixels] {
+    mWaiting.append(key);
+    mThread.start([this, key, path, pixels] {
         const Picture picture = PictureReader::read(path, {pixels, pixels});
         QMetaObject::invokeMethod(
-            this, [this, path, image = picture.image] { take(path, image); }, Qt::QueuedConnection);
+            this, [this, key, image = picture.image] { take(key, image); }, Qt::QueuedConnection);
     });
 }
 
 /// What cannot be read is kept as nothing, and not asked for again.
-void ThumbnailStore::take(const QString &path, const QImage &image)
+void ThumbnailStore::take(const QString &key, const QImage &image)
 {
-    mWaiting.removeOne(path);
-    mKept.insert(path, new QPixmap(QPixmap::fromImage(image)));
+    mWaiting.removeOne(key);
+    mKept.insert(key, new QPixmap(QPixmap::fromImage(image)));
     Q_EMIT arrived();
 }

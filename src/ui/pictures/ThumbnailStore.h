@@ -21,8 +21,8 @@ class ThumbnailStore : public QObject
     void arrived();
 
   private:
-    void want(const QString &path, int pixels);
-    void take(const QString &path, const QImage &image);
+    void want(const QString &key, const QString &path, int pixels);
+    void take(const QString &key, const QImage &image);
 
     static constexpr int mostKept = 1000;
     static constexpr int mostWaiting = 64; ///< more than a screen shows: what was scrolled past is not read

@@ -1,10 +1,9 @@
 #include "ui/widgets/CardView.h"
 
 #include "ui/look/Shades.h"
+#include "ui/pictures/PictureReader.h"
 
-#include <QBuffer>
 #include <QEvent>
-#include <QImageReader>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextDocumentFragment>
@@ -12,22 +11,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr QSize mostOfPicture(4000, 4000), shownPicture(320, 200);
+constexpr QSize shownPicture(320, 200);
 constexpr int longestWords = 6000;
-
-/// The picture, no larger than it is shown; null for bytes that are none.
-QImage pictureOf(const QByteArray &bytes)
-{
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    const QSize size = reader.size();
-    if (!size.isValid() || size.width() > mostOfPicture.width() || size.height() > mostOfPicture.height())
-        return {};
-    if (size.width() > shownPicture.width() || size.height() > shownPicture.height())
-        reader.setScaledSize(size.scaled(shownPicture, Qt::KeepAspectRatio));
-    return reader.read();
-}
 
 /// Writes one paragraph after another.
 class Paragraphs
@@ -118,7 +103,7 @@ void CardView::write()
     paragraphs.add(mContent.title, title);
     paragraphs.add(mContent.address, link, 2);
     paragraphs.add(mContent.date, quiet, 2);
-    paragraphs.add(pictureOf(mContent.picture));
+    paragraphs.add(PictureReader::read(mContent.picture, shownPicture).image);
     if (!mContent.found.isEmpty())
         paragraphs.add(tr("Found on this page"), quiet, 8);
     paragraphs.add(mContent.found.join(u'\n'), plain, 2);

@@ -7,7 +7,6 @@
 #include <QFileDialog>
 #include <QScreen>
 #include <QShortcut>
-#include <QWebEngineHistory>
 #include <QWebEnginePage>
 
 using namespace Qt::StringLiterals;
@@ -38,12 +37,13 @@ BareBrowserWindow::BareBrowserWindow(std::shared_ptr<EmbeddedBrowser> browser, Q
     resize(usualSize);
     tmrAutoRefresh.setInterval(autoRefreshInterval);
 
-    connect(mUi->cmdGo_0, &QPushButton::clicked, mUi->WBOne, &QWebEngineView::back);
+    connect(mUi->cmdGo_0, &QPushButton::clicked, mBrowser.get(), &EmbeddedBrowser::goBack);
     connect(mUi->cmdGo_1, &QPushButton::clicked, this, &BareBrowserWindow::goToAddress);
     connect(mUi->txtAddressBar, &QLineEdit::returnPressed, this,
             [this] { issue(QUrl::fromUserInput(mUi->txtAddressBar->text()).toString()); });
-    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, mUi->WBOne, &QWebEngineView::reload);
-    connect(&tmrAutoRefresh, &QTimer::timeout, mUi->WBOne, &QWebEngineView::reload);
+    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, mBrowser.get(),
+            &EmbeddedBrowser::reload);
+    connect(&tmrAutoRefresh, &QTimer::timeout, mBrowser.get(), &EmbeddedBrowser::reload);
     connect(mBrowser.get(), &BrowserEngine::DocumentComplete, this,
             [this](const QString &, bool topDocument) { showLocation(topDocument); });
     connect(mBrowser.get(), &EmbeddedBrowser::saveRequested, this, &BareBrowserWindow::savePage);

@@ -1,10 +1,12 @@
 #include "window/side/PictureBrowser.h"
 
 #include "app/SettingKeys.h"
+#include "util/FileNames.h"
 #include "window/side/PictureFolder.h"
 #include "window/side/PictureMoves.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 using PictureFolder::isSameDirectory;
@@ -211,8 +213,14 @@ void PictureBrowser::undo()
         if (mDone.isEmpty())
             return;
         const Done done = mDone.takeLast();
+        // What could not be taken back can be tried again, unless it is no longer there.
+        auto again = qScopeGuard([&] {
+            if (cUtility::isNameTaken(done.to))
+                mDone.append(done);
+        });
         const QString path =
             done.inTrash ? PictureMoves::fromTrash(done.to, done.from) : PictureMoves::move(done.to, done.from);
+        again.dismiss();
         const QFileInfo file(path);
         if (!isSameDirectory(file.path(), mForm.activeDirectory()))
             return;
