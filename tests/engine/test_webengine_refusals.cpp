@@ -388,13 +388,31 @@ TEST_F(WebEngineRefusals, ElementsInsideOneAnotherByTheThousandAreRead)
 {
     server.page("/next", "<title>next</title>");
     server.page("/nested", "<title>nested</title><p>text</p>" + QByteArray("<div>").repeated(20'000));
-    browser->setScriptLimit(1s);
     browser->Navigate(server.address(u"/nested"_s));
     EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
     idle(500);
     const PageContent content = browser->content();
     EXPECT_EQ(content.title, u"nested");
     EXPECT_EQ(content.html.count("<div>"_L1), 20'000);
+    open(u"/next"_s);
+    EXPECT_EQ(browser->LocationName(), u"next");
+}
+
+// The parser takes minutes for this one.
+TEST_F(WebEngineRefusals, APageThatDoesNotAnswerWithoutScriptsEitherIsGivenUp)
+{
+    server.page("/next", "<title>next</title>");
+    server.page("/nested", "<title>nested</title><p>text</p>" + QByteArray("<div>").repeated(300'000));
+    browser->setScriptLimit(1s);
+    browser->Navigate(server.address(u"/nested"_s));
+    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    idle(500); // it has begun
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_FALSE(errorOf([&] { (void)browser->content(); }).isEmpty());
+    EXPECT_LT(clock.elapsed(), BrowserEngine::readLimit / 1ms / 3);
+    EXPECT_FALSE(errorOf([&] { (void)browser->links(); }).isEmpty());
+    EXPECT_EQ(server.requestCount("/nested"), 2);
     open(u"/next"_s);
     EXPECT_EQ(browser->LocationName(), u"next");
 }

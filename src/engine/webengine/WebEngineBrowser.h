@@ -1,10 +1,10 @@
 // The built-in browser: a page of its own with a profile of its own, with or without a view on it. Knows no widget.
 //
 // A page that does not answer a read within the script limit loses its process, and is loaded once more in another one,
-// plain: without scripts, and not laid out. One that does not answer even then within the read limit is given up; reads
-// then raise an error, as after a crash, until the next Navigate() has brought a document. The last reference to the
-// browser may be dropped anywhere, in a handler of one of its own signals too. Reads raise an error inside a handler of
-// NewWindow2, since the page waits for its end.
+// plain: without scripts, and not laid out. One that does not answer at all even then, for nearly as long again, or not
+// to its end within the read limit, is given up; reads then raise an error, as after a crash, until the next Navigate()
+// has brought a document. The last reference to the browser may be dropped anywhere, in a handler of one of its own
+// signals too. Reads raise an error inside a handler of NewWindow2, since the page waits for its end.
 #pragma once
 
 #include "browser/EmbeddedBrowser.h"
@@ -109,7 +109,7 @@ class WebEngineBrowser : public EmbeddedBrowser
     [[nodiscard]] QString awaited() const;
     void watchLeaving(const std::shared_ptr<bool> &answered, QDeadlineTimer patience);
     void onLeaveLimit();
-    void loadPlain(QDeadlineTimer deadline);
+    void loadPlain(QDeadlineTimer patience);
     void requireReadable() const;
     void endProcess();
     void keepVisible();

@@ -53,17 +53,20 @@ QStringList WebEngineBrowser::read(QLatin1StringView what, int frame)
             if (!self || error.number() != EngineError::NoAnswer || deadline.hasExpired())
                 throw;
         }
-        loadPlain(deadline);
+        const QDeadlineTimer patience(mScriptLimit * 4 / 5); // that of a run ends ten seconds behind the page's wait
+        loadPlain(patience);
         if (!self)
             throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The browser is gone."));
         requireReadable();
+        (void)mReader->read("frameCount"_L1, -1, patience, mScriptLimit); // it answers, or is given up
     }
     return mReader->read(what, frame, deadline, mOptions.readLimit);
 }
 
-// The process that did not answer has been ended. Also without scripts a page may keep its process busy for long: its
-// parser alone does, with tens of thousands of elements inside one another. What it has after a while is what is read.
-void WebEngineBrowser::loadPlain(QDeadlineTimer deadline)
+// The process that did not answer has been ended. Also without scripts a page may keep its process busy for long, and
+// cannot be stopped there: its parser alone does, with tens of thousands of elements inside one another. What it has
+// after a while is what is read.
+void WebEngineBrowser::loadPlain(QDeadlineTimer patience)
 {
     const QPointer self(this);
     mPlain = true;
@@ -75,11 +78,11 @@ void WebEngineBrowser::loadPlain(QDeadlineTimer deadline)
     QTimer look;
     connect(&look, &QTimer::timeout, &loop, &QEventLoop::quit);
     look.start(askAgain);
-    QDeadlineTimer patience(QDeadlineTimer::Forever);
-    while (self && isLoading() && mProcess != Process::Closed && !std::min(deadline, patience).hasExpired()) {
+    QDeadlineTimer whole(QDeadlineTimer::Forever);
+    while (self && isLoading() && mProcess != Process::Closed && !std::min(patience, whole).hasExpired()) {
         loop.exec(QEventLoop::ExcludeUserInputEvents);
-        if (self && patience.isForever() && !mLoading.isWaitingForDocument())
-            patience = QDeadlineTimer(mScriptLimit / 2);
+        if (self && whole.isForever() && !mLoading.isWaitingForDocument())
+            whole = QDeadlineTimer(mScriptLimit / 2);
     }
     if (self && isAlive() && isLoading() && !mLoading.isWaitingForDocument())
         Stop();

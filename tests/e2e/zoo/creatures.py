@@ -142,7 +142,7 @@ CREATURES = {
     "big": Creature(raw=big(20), slow=True),
     "huge": Creature(raw=big(100), slow=True),
     "many_links": Creature(LINKS, slow=True),
-    "nested": Creature(NESTED, short=True, slow=True),   # the built-in browser cannot be stopped while it parses it
+    "nested": Creature(NESTED, short=True),
     "entities": Creature(BOMB, type="text/xml"),
     "memory": scripted("memory", "const all = []; for (;;) all.push(new Array(1e6).fill(all.length))", slow=True),
     "frames": Creature(page("frames", "<iframe src='/inner'></iframe>" * 100)),
