@@ -1,9 +1,8 @@
 #include "desktop/DesktopBrowsers.h"
 
+#include "desktop/KeptPlace.h"
 #include "window/ProgramFolder.h"
 #include "window/WindowPlaces.h"
-
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -33,15 +32,14 @@ void DesktopBrowsers::placeInternal()
     const QString name = mobjWBare->objectName();
     if (mSettings == nullptr || !hasStoredPlace(*mSettings, name))
         return mobjWBare->placeBeside(*mMain);
-    const QRect screen = mMain->screen()->availableGeometry();
-    mobjWBare->resize(storedSize(*mSettings, name, mobjWBare->size()).boundedTo(screen.size()));
-    mobjWBare->move(AlignFF(*mSettings, name, mobjWBare->frameGeometry(), screen).topLeft());
+    mobjWBare->resize(storedSize(*mSettings, name, mobjWBare->size()));
+    KeptPlace::restore(*mobjWBare, *mSettings, *mMain);
 }
 
 void DesktopBrowsers::savePlace()
 {
     if (mSettings != nullptr)
-        SaveFF(*mSettings, mobjWBare->objectName(), QRect(mobjWBare->pos(), mobjWBare->size()));
+        KeptPlace::store(*mobjWBare, *mSettings);
 }
 
 /// The user has closed the window: the next connecting makes a new one.

@@ -33,8 +33,13 @@ void DesktopPictures::show()
         });
         Q_EMIT opened(mWindow);
     }
-    mWindow->show();
-    mWindow->raise();
+    // It takes the size of its picture before it comes up: a window that is resized while its frame is being drawn
+    // loses its place.
+    const auto comeUp = [window = mWindow.data()] {
+        window->show();
+        window->raise();
+    };
+    QMetaObject::invokeMethod(mWindow, comeUp, Qt::QueuedConnection);
 }
 
 void DesktopPictures::close()

@@ -2,10 +2,12 @@
 
 #include "app/SettingKeys.h"
 #include "desktop/KeptPlace.h"
+#include "ui/windows/ScreenRoom.h"
 #include "window/WindowPlaces.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -31,8 +33,11 @@ void DesktopSideWindows::placeMagnifier()
 {
     frmMagnify->placeUnder(*mMain);
     saveOnTop(mSettings, frmMagnify->objectName(), true);
-    if (mSettings.GetSetting(Sections::Main, Keys::KeepMagnifyPlace, u"0"_s) == "1"_L1)
-        KeptPlace::restore(*frmMagnify, mSettings, *mMain);
+    if (mSettings.GetSetting(Sections::Main, Keys::KeepMagnifyPlace, u"0"_s) != "1"_L1)
+        return;
+    const QSize kept = storedSize(mSettings, frmMagnify->objectName(), frmMagnify->size());
+    frmMagnify->resize(kept.width(), frmMagnify->height()); // as high as its text
+    KeptPlace::restore(*frmMagnify, mSettings, *mMain);
 }
 
 void DesktopSideWindows::showAbout()
@@ -74,6 +79,8 @@ bool DesktopSideWindows::chooseDirectory(const QString &directory, std::function
         return false;
     mobjDirSel = new DirectoryWindow(mMain);
     mobjDirSel->InitDir(directory);
+    mobjDirSel->adjustSize();
+    ScreenRoom::placeInMiddle(*mobjDirSel, mMain->screen()->availableGeometry());
     QObject::connect(mobjDirSel, &DirectoryWindow::DirSelectionChanged, mobjDirSel,
                      [this, chosen = std::move(chosen)](const QString &choice) {
                          // Whoever is told may open the next one.

@@ -6,7 +6,7 @@
 #include <QWidget>
 
 namespace KeptPlace {
-/// Puts the window where it stood last, on the screen of `screenOf`; the first time in its middle.
+/// Puts the window where its frame stood last, whole on the screen of `screenOf`; the first time in its middle.
 void restore(QWidget &window, const SettingsStore &settings, const QWidget &screenOf);
 /// Keeps where it stands.
 void store(const QWidget &window, SettingsStore &settings);

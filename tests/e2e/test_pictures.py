@@ -17,6 +17,8 @@ INSERT, DELETE, UP = "Insert", "Delete", "Up"
 
 
 class PictureCase(unittest.TestCase):
+    screen = "1280x1000"
+
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="trawlex-e2e-"))
         self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
@@ -26,7 +28,7 @@ class PictureCase(unittest.TestCase):
             place.mkdir()
         self.env = dict(os.environ, XDG_CONFIG_HOME=f"{self.folder}/config", XDG_DATA_HOME=f"{self.folder}/data",
                         XDG_RUNTIME_DIR=str(self.folder), LC_ALL="C.UTF-8")
-        self.display = window.Display(self)
+        self.display = window.Display(self, self.screen)
         self.samples = {kind: self.sample(kind) for kind in KINDS}
 
     def sample(self, kind):
@@ -125,6 +127,26 @@ class Sorting(PictureCase):
             self.assertTrue(places, f"{name} is lost")
             for path in places:
                 self.assertEqual(path.read_bytes(), content)
+
+
+class SmallScreen(PictureCase):
+    screen = "1366x768"
+
+    def test_the_window_comes_up_whole_at_every_scale(self):
+        """A picture that is larger than the screen, in a window whose frame nobody knows before it is drawn."""
+        path = self.pictures / "large.jpg"
+        subprocess.run(["convert", "-size", "3000x2000", "gradient:navy-orange", str(path)], check=True, timeout=60)
+        for scale in ("1", "1.5", "2", "3"):
+            with self.subTest(scale):
+                self.env["QT_SCALE_FACTOR"] = scale
+                self.start(path)
+                self.wait_for_title("1 of 1")
+                trawlex.wait_for(lambda: self.display.property(self.id, "_NET_FRAME_EXTENTS"), 10, "a frame")
+                left, top, right, bottom = self.display.frame(self.id)
+                self.assertGreaterEqual(min(left, top), 0)
+                self.assertLessEqual(right, 1366)
+                self.assertLessEqual(bottom, 768)
+                self.end()
 
 
 class Alone(PictureCase):

@@ -18,9 +18,9 @@ OPTIONS = {"udcNotFoundMinSize": "002000", "chkSMAMUrlIfNoData": "0", "chkShutDo
 class Display:
     """A display of its own with a window manager, ended with the test."""
 
-    def __init__(self, case):
+    def __init__(self, case, size="1280x1000"):
         read, write = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1000x24", "-nolisten", "tcp"],
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp"],
                                        pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as number:
@@ -40,6 +40,19 @@ class Display:
         done = subprocess.run(["xdotool", *map(str, words)], env=self.env, capture_output=True, text=True, timeout=20,
                               check=False)
         return done.stdout.split()
+
+    def property(self, window, name):
+        """What the window manager and the program tell each other of a window, as xprop prints it; "" for nothing."""
+        done = subprocess.run(["xprop", "-id", window, name], env=self.env, capture_output=True, text=True, timeout=20, check=False)
+        return done.stdout.partition("=")[2].strip()
+
+    def frame(self, window):
+        """The edges of a window with its frame: left, top, right, bottom."""
+        told = subprocess.run(["xwininfo", "-id", window], env=self.env, capture_output=True, text=True, timeout=20, check=True).stdout
+        x, y, width, height = (int(re.search(rf"{key}: +(-?[0-9]+)", told)[1]) for key in
+                               ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        left, right, top, bottom = (int(number) for number in self.property(window, "_NET_FRAME_EXTENTS").split(","))
+        return x - left, y - top, x + width + right, y + height + bottom
 
     def screenshot(self, path):
         subprocess.run(["import", "-window", "root", path], env=self.env, timeout=30, check=False)

@@ -53,12 +53,14 @@ TEST_F(SideWindowsOfTheProgram, BringTheMagnifierBackToItsPlaceWhereThatIsWanted
         side.magnify(u"a"_s);
         const QPoint place(60, 40);
         shown<MagnifyWindow>()->move(place);
+        shown<MagnifyWindow>()->resize(300, shown<MagnifyWindow>()->height());
         settle();
         shown<MagnifyWindow>()->close();
         ASSERT_TRUE(isGone<MagnifyWindow>());
         EXPECT_FALSE(settings.GetSetting(u"frmMagnify"_s, Keys::Left, QString()).isEmpty()) << "stored in any case";
         side.magnify(u"b"_s);
         EXPECT_EQ(shown<MagnifyWindow>()->pos() == place, wanted);
+        EXPECT_EQ(shown<MagnifyWindow>()->width() == 300, wanted);
         shown<MagnifyWindow>()->close();
         ASSERT_TRUE(isGone<MagnifyWindow>());
     }

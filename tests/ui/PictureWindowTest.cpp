@@ -35,6 +35,7 @@ struct PicturesOnShow : testing::Test
     void open()
     {
         browser.LoadDirectory(folder.path());
+        settle();
         ASSERT_TRUE(window != nullptr && QTest::qWaitForWindowExposed(window));
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));

@@ -3,6 +3,7 @@
 #include "ui/windows/AboutWindow.h"
 #include "ui/windows/DirectoryWindow.h"
 #include "ui/windows/MagnifyWindow.h"
+#include "ui/windows/ScreenRoom.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -46,6 +47,9 @@ TEST_F(Magnifiers, ShowALineInABoxOfItsOwn)
     magnifier.Magnify(u"one\nwith a line feed"_s);
     EXPECT_EQ(lines().size(), 1);
     EXPECT_EQ(magnifier.height(), one);
+    magnifier.show();
+    magnifier.Magnify(u"a\r\nb\r\nc"_s);
+    EXPECT_GT(magnifier.height(), 2 * one) << "on show too";
     EXPECT_GT(magnifier.findChild<QLineEdit *>()->font().pointSizeF(), window.font().pointSizeF() * 1.5);
 }
 
@@ -66,7 +70,7 @@ TEST_F(Magnifiers, OpenUnderTheMainWindowAsWideAsTheScreen)
     magnifier.placeUnder(window);
     const QRect room = window.screen()->availableGeometry();
     EXPECT_EQ(magnifier.geometry().left(), room.left());
-    EXPECT_EQ(magnifier.width(), room.width());
+    EXPECT_EQ(magnifier.width() + ScreenRoom::frameAround(magnifier).width(), room.width());
     EXPECT_EQ(magnifier.geometry().top(), window.frameGeometry().bottom() + 1);
     window.move(20, room.bottom() - 100);
     magnifier.placeUnder(window);
@@ -104,11 +108,34 @@ TEST_F(About, TellsProgramAndVersion)
     EXPECT_TRUE(part<QLabel>("licenceText").text().contains(u"MIT"_s));
 }
 
+TEST_F(About, CutsNoLineOfItsTextsWhereTheScreenIsLow)
+{
+    AboutWindow low(&window);
+    low.setAttribute(Qt::WA_DeleteOnClose, false);
+    low.resize(280, 200);
+    low.show();
+    settle();
+    for (const auto *const text : low.findChildren<QLabel *>()) {
+        if (text->wordWrap()) {
+            EXPECT_GE(text->height(), text->heightForWidth(text->width())) << text->objectName().toStdString();
+        }
+    }
+    QFont large = low.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    low.setFont(large);
+    low.findChild<QPushButton *>(u"cmdSysInFo"_s)->click();
+    settle();
+    const auto &system = *low.findChild<QPlainTextEdit *>(u"systemText"_s);
+    EXPECT_EQ(system.visibleRegion().boundingRect().height(), system.height()) << "what was asked for is in sight";
+}
+
 TEST_F(About, ShowsAndCopiesTheSystemInformation)
 {
     EXPECT_FALSE(part<QPlainTextEdit>("systemText").isVisible());
+    const int height = about->height();
     part<QPushButton>("cmdSysInFo").click();
     EXPECT_TRUE(part<QPlainTextEdit>("systemText").isVisible());
+    EXPECT_GE(about->height(), height + part<QPlainTextEdit>("systemText").minimumSizeHint().height());
     part<QPushButton>("copyButton").click();
     const QString copied = QApplication::clipboard()->text();
     EXPECT_TRUE(copied.contains(QString::fromLatin1(qVersion())));
@@ -150,6 +177,26 @@ TEST_F(DirectoryChoosers, BeginWithTheDirectoryIfItIsThere)
     EXPECT_EQ(chooser->directory(), QDir::homePath() + u'/');
     chooser->InitDir(u"/"_s);
     EXPECT_EQ(chooser->directory(), u"/"_s) << "one separator, not two";
+}
+
+TEST_F(DirectoryChoosers, ShowDriveAndFolderThatTheyBeginWith)
+{
+    for (int i = 0; i < 60; ++i)
+        ASSERT_TRUE(QDir(folder.path()).mkpath(u"%1/in"_s.arg(i, 2, 10, QChar(u'0'))));
+    const auto &drives = *chooser->findChild<QComboBox *>(u"drvDirSelect"_s);
+    chooser->InitDir(QDir::homePath());
+    EXPECT_EQ(drives.currentText(), QDir::homePath());
+    chooser->InitDir(folder.path() + u"/58/in"_s);
+    EXPECT_EQ(drives.currentText(), QDir::rootPath());
+    const auto &tree = *chooser->findChild<QTreeView *>(u"dirDirSelect"_s);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            const QRect row = tree.visualRect(tree.currentIndex());
+            return tree.currentIndex().data() == u"in"_s && row.isValid() &&
+                   tree.viewport()->rect().contains(row.center());
+        },
+        5000))
+        << "in sight when all folders above it have been read";
 }
 
 TEST_F(DirectoryChoosers, TakeTheFolderThatIsChosenInTheTree)

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QScrollBar>
 
 namespace {
@@ -38,7 +39,11 @@ bool PageScroller::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == widget() && event->type() == QEvent::LayoutRequest)
         updateGeometry();
-    return QScrollArea::eventFilter(watched, event);
+    const bool done = QScrollArea::eventFilter(watched, event);
+    // A sheet that was resized while it was coming up has not laid itself out for that size.
+    if (watched == widget() && event->type() == QEvent::Show && widget()->layout() != nullptr)
+        widget()->layout()->setGeometry(widget()->contentsRect());
+    return done;
 }
 
 void PageScroller::showFocused(const QWidget *, QWidget *now)

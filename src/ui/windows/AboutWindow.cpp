@@ -1,6 +1,7 @@
 #include "ui/windows/AboutWindow.h"
 
 #include "ui/look/Icons.h"
+#include "ui/windows/ScreenRoom.h"
 #include "ui_AboutWindow.h"
 
 #include <QClipboard>
@@ -43,7 +44,10 @@ AboutWindow::AboutWindow(QWidget *main) : QDialog(main), mUi(std::make_unique<Ui
     connect(mUi->cmdSysInFo, &QPushButton::toggled, this, [this](bool shown) {
         mUi->systemText->setVisible(shown);
         mUi->copyButton->setVisible(shown);
+        mUi->aboutScroller->updateGeometry();
         adjustSize();
+        ScreenRoom::keepOnScreen(*this);
+        mUi->aboutScroller->ensureVisible(0, mUi->systemText->geometry().bottom() + 1, 0, 0);
     });
     connect(mUi->copyButton, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(mUi->systemText->toPlainText()); });

@@ -1,6 +1,7 @@
 #include "ui/windows/BareBrowserWindow.h"
 
 #include "ui/look/Icons.h"
+#include "ui/windows/ScreenRoom.h"
 #include "ui_BareBrowserWindow.h"
 
 #include <QCloseEvent>
@@ -13,8 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr QSize usualSize(1024, 768);
-constexpr QSize leastSize(480, 360);
-constexpr QSize usualFrame(8, 40);
+constexpr QSize leastSize(320, 200);
+/// Where less is left beside the main window, the frame rather covers some of it.
+constexpr int leastBeside = 488;
 
 QString withProtocol(const QString &url)
 {
@@ -69,15 +71,9 @@ void BareBrowserWindow::placeBeside(const QWidget &main)
     const QRect screen = main.screen()->availableGeometry();
     const QRect beside = main.frameGeometry();
     const int room = screen.right() - beside.right();
-    // The place is that of the frame, so that the title bar stays on the screen; what is resized is within the frame,
-    // whose width is a guess until the window is shown.
-    const QSize frame = isVisible() ? frameGeometry().size() - size() : usualFrame;
-    const QSize least = leastSize + frame;
-    const QSize whole(qMin(usualSize.width(), qMax(room, least.width())), qMin(usualSize.height(), screen.height()));
-    resize(whole - frame);
-    const int left = qMin(beside.right() + 1, screen.right() + 1 - whole.width());
-    const int top = qMin(beside.top(), screen.bottom() + 1 - whole.height());
-    move(qMax(screen.left(), left), qMax(screen.top(), top));
+    const QSize whole(qMin(usualSize.width(), qMax(room, leastBeside)), usualSize.height());
+    resize(whole - ScreenRoom::frameAround(*this));
+    ScreenRoom::place(*this, QPoint(beside.right() + 1, beside.top()), screen);
 }
 
 void BareBrowserWindow::closeEvent(QCloseEvent *event)

@@ -36,6 +36,10 @@ DirectoryWindow::DirectoryWindow(QWidget *main)
     mUi->dirDirSelect->setModel(mFolders);
     for (int column = 1; column < mFolders->columnCount(); ++column)
         mUi->dirDirSelect->hideColumn(column);
+    // The folders above come one after the other, and each moves what is below it.
+    connect(mFolders, &QFileSystemModel::directoryLoaded, this, [this] {
+        mUi->dirDirSelect->scrollTo(mUi->dirDirSelect->currentIndex(), QAbstractItemView::PositionAtCenter);
+    });
     connect(mUi->drvDirSelect, &QComboBox::activated, this, &DirectoryWindow::chooseDrive);
     connect(mUi->dirDirSelect->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &now) {
@@ -64,7 +68,24 @@ QStringList DirectoryWindow::drives()
 void DirectoryWindow::InitDir(const QString &directory)
 {
     takeDirectory(!directory.isEmpty() && QDir(directory).exists() ? directory : QDir::homePath());
+    mGoodDrive = driveOf(mDirectory);
+    mUi->drvDirSelect->setCurrentIndex(mGoodDrive);
     showInTree();
+}
+
+/// The one that leads to it on the shortest way.
+int DirectoryWindow::driveOf(const QString &directory) const
+{
+    int nearest = 0;
+    qsizetype shared = 0;
+    for (int i = 0; i < mUi->drvDirSelect->count(); ++i) {
+        const QString drive = withSeparator(mUi->drvDirSelect->itemText(i));
+        if (drive.size() > shared && directory.startsWith(drive)) {
+            nearest = i;
+            shared = drive.size();
+        }
+    }
+    return nearest;
 }
 
 /// A drive that cannot be read is not taken: the list goes back to the last good one.

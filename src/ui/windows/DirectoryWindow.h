@@ -31,6 +31,7 @@ class DirectoryWindow : public QDialog
 
   private:
     void chooseDrive(int index);
+    [[nodiscard]] int driveOf(const QString &directory) const;
     void takeDirectory(const QString &path);
     void showInTree();
     void finish(int result);

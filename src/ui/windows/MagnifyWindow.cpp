@@ -1,11 +1,13 @@
 #include "ui/windows/MagnifyWindow.h"
 
 #include "ui/look/Icons.h"
+#include "ui/windows/ScreenRoom.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -16,13 +18,24 @@ constexpr int margin = 8;
 } // namespace
 
 MagnifyWindow::MagnifyWindow(QWidget *main)
-    : QWidget(main, Qt::Window | Qt::WindowStaysOnTopHint), mBoxes(new QVBoxLayout(this))
+    : QWidget(main, Qt::Window | Qt::WindowStaysOnTopHint), mBoxes(new QVBoxLayout)
 {
     setObjectName(u"frmMagnify"_s);
     setWindowTitle(u"Double click to close"_s);
     setWindowIcon(Icons::application());
-    mBoxes->setContentsMargins(margin, margin, margin, margin);
+    auto *const sheet = new QWidget;
+    sheet->setLayout(mBoxes);
+    mBoxes->setContentsMargins(0, 0, 0, 0);
     mBoxes->setSpacing(0);
+    auto *const scroller = new QScrollArea(this);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setWidgetResizable(true);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    scroller->setMinimumHeight(1); // a window of one line is lower than a scroll bar would like
+    scroller->setWidget(sheet);
+    auto *const whole = new QVBoxLayout(this);
+    whole->setContentsMargins(margin, margin, margin, margin);
+    whole->addWidget(scroller);
     txtMagnify.append(newBox());
 }
 
@@ -35,6 +48,7 @@ QLineEdit *MagnifyWindow::newBox()
     box->setAccessibleName(u"Line %1"_s.arg(txtMagnify.size() + 1));
     box->installEventFilter(this);
     mBoxes->addWidget(box);
+    box->show(); // only what is shown is counted in the height
     return box;
 }
 
@@ -49,16 +63,15 @@ void MagnifyWindow::Magnify(const QString &text)
         txtMagnify.at(i)->setText(lines.at(i));
         txtMagnify.at(i)->setCursorPosition(0);
     }
-    mBoxes->activate();
-    resize(width(), minimumSizeHint().height());
+    resize(width(), mBoxes->sizeHint().height() + 2 * margin);
+    ScreenRoom::keepOnScreen(*this);
 }
 
 void MagnifyWindow::placeUnder(const QWidget &main)
 {
     const QRect room = main.screen()->availableGeometry();
-    const QRect above = main.frameGeometry();
-    const int top = qMin(above.bottom() + 1, room.bottom() + 1 - height());
-    setGeometry(room.left(), qMax(room.top(), top), room.width(), height());
+    resize(room.width(), height());
+    ScreenRoom::place(*this, QPoint(room.left(), main.frameGeometry().bottom() + 1), room);
 }
 
 bool MagnifyWindow::eventFilter(QObject *watched, QEvent *event)

@@ -6,24 +6,25 @@
 #include "ui/pictures/ThumbnailDelegate.h"
 #include "ui/widgets/ItemList.h"
 #include "ui/widgets/PathLabel.h"
+#include "ui/windows/ScreenRoom.h"
 #include "util/Errors.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int listWidth = 200;
+constexpr int listWidth = 200, leastList = 104, leastTarget = 40;
 constexpr int gap = 8;
-constexpr QSize leastPicture(320, 240);
-/// What a frame takes that has not been drawn yet.
-constexpr QSize usualFrame(8, 40);
+/// Smaller pictures get as much; less of it is left where the screen has no more.
+constexpr QSize usualPicture(320, 240), leastPicture(160, 120);
+constexpr QSize aroundPicture(listWidth + 3 * gap, Style::rowHeight + 3 * gap);
 /// Pictures that are read ahead: more of them on the side to which the walk goes.
 constexpr int aheadOfWalk = 6, behindWalk = 2;
 } // namespace
@@ -35,7 +36,7 @@ PictureWindow::PictureWindow(frmFoto &form, QWidget *main) : QWidget(main, Qt::W
     build();
     mBinder.bindAll(form, *this);
     lstFoto->setSelectionMode(QAbstractItemView::SingleSelection);
-    mAhead.setRoom((screen()->availableSize() - around()) * devicePixelRatioF());
+    mAhead.setRoom(roomForPictures() * devicePixelRatioF());
     connectKeys();
     connectForm();
     showState();
@@ -51,20 +52,23 @@ void PictureWindow::build()
     lstFoto->setObjectName("lstFoto"_L1);
     lstFoto->setAccessibleName(u"Pictures"_s);
     lstFoto->setEmptyText(u"No jpg, gif or bmp here"_s);
-    lstFoto->setFixedWidth(listWidth);
+    lstFoto->setMinimumWidth(leastList);
+    lstFoto->setMaximumWidth(listWidth);
     picFoto = new PictureView(this);
     picFoto->setObjectName("picFoto"_L1);
     picFoto->setAccessibleName(u"Picture"_s);
     picFoto->setMinimumSize(leastPicture);
-    auto *const whole = new QVBoxLayout(this);
+    mPosition = new QLabel(this);
+    mPosition->setObjectName("lblPosition"_L1);
+    auto *const whole = new QGridLayout(this);
     whole->setContentsMargins(gap, gap, gap, gap);
     whole->setSpacing(gap);
-    auto *const upper = new QHBoxLayout;
-    upper->setSpacing(gap);
-    upper->addWidget(lstFoto);
-    upper->addWidget(picFoto, 1);
-    whole->addLayout(upper, 1);
-    whole->addWidget(commands());
+    whole->addWidget(lstFoto, 0, 0);
+    whole->addWidget(picFoto, 0, 1);
+    whole->addWidget(mPosition, 1, 0);
+    whole->addWidget(commands(), 1, 1);
+    whole->setRowStretch(0, 1);
+    whole->setColumnStretch(1, 1);
 }
 
 QPushButton *PictureWindow::command(MenuItem &item, const QString &name)
@@ -84,18 +88,15 @@ QWidget *PictureWindow::commands()
     auto *const layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
-    mPosition = new QLabel(row);
-    mPosition->setObjectName("lblPosition"_L1);
-    mPosition->setMinimumWidth(listWidth);
     mTarget = new PathLabel(row);
     mTarget->setObjectName("lblMoveTo"_L1);
+    mTarget->setMinimumWidth(leastTarget);
     mTarget->setEmptyText(u"No directory to move to is set (right button on the list)"_s);
     mMore = new QPushButton(u"…"_s, row);
     mMore->setObjectName("cmdMore"_L1);
     mMore->setAccessibleName(u"More"_s);
     mMore->setFocusPolicy(Qt::NoFocus);
     connect(mMore, &QPushButton::clicked, this, &PictureWindow::showMore);
-    layout->addWidget(mPosition);
     layout->addWidget(command(mForm.mnuFotoPopUpAction.item("mnuFotoMoveIt"_L1), u"cmdMoveIt"_s));
     layout->addWidget(mTarget, 1);
     layout->addWidget(command(mForm.mnuFotoPopUpAction.item("mnuFotoDeleteIt"_L1), u"cmdDeleteIt"_s));
@@ -166,23 +167,17 @@ void PictureWindow::readAhead()
     mAhead.prepare(paths);
 }
 
-QSize PictureWindow::around() const
+QSize PictureWindow::roomForPictures() const
 {
-    const QSize frame = isVisible() ? frameGeometry().size() - size() : usualFrame;
-    return frame + QSize(listWidth + 3 * gap, Style::rowHeight + 3 * gap);
+    return screen()->availableSize() - ScreenRoom::frameAround(*this) - aroundPicture;
 }
 
 void PictureWindow::follow(QSize picture)
 {
     if (isMaximized() || isFullScreen())
         return;
-    const QRect room = screen()->availableGeometry();
-    const QSize frame = isVisible() ? frameGeometry().size() - size() : usualFrame;
-    const QSize whole = picture.expandedTo(leastPicture) + around();
-    resize(whole.boundedTo(room.size()) - frame);
-    const QSize taken = size() + frame;
-    move(qBound(room.left(), x(), qMax(room.left(), room.right() + 1 - taken.width())),
-         qBound(room.top(), y(), qMax(room.top(), room.bottom() + 1 - taken.height())));
+    resize(picture.expandedTo(usualPicture) + aroundPicture);
+    ScreenRoom::keepOnScreen(*this);
 }
 
 void PictureWindow::showActualSize()
@@ -190,7 +185,7 @@ void PictureWindow::showActualSize()
     const bool actual = mForm.mnuFotoMore.item("mnuFotoActualSize"_L1).isChecked();
     if (actual == picFoto->isActualSize())
         return;
-    mAhead.setRoom(actual ? QSize() : (screen()->availableSize() - around()) * devicePixelRatioF());
+    mAhead.setRoom(actual ? QSize() : roomForPictures() * devicePixelRatioF());
     picFoto->setActualSize(actual);
     if (const Picture picture = mAhead.take(mPath); picture.refusal.isEmpty())
         picFoto->showPicture(picture, mPath);

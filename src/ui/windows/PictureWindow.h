@@ -43,8 +43,8 @@ class PictureWindow : public QWidget
     void showActualSize();
     void showThumbnails();
     void showMore();
-    /// What stands around the picture.
-    [[nodiscard]] QSize around() const;
+    /// What the screen leaves to a picture.
+    [[nodiscard]] QSize roomForPictures() const;
     void follow(QSize picture);
 
     frmFoto &mForm;

@@ -1,6 +1,7 @@
 #include "ui/windows/QtDialogs.h"
 
 #include "ui/look/Icons.h"
+#include "ui/windows/ScreenRoom.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -98,6 +99,7 @@ QString QtDialogs::chooseFile(const QString &directory, const QString &filter, c
     QFileDialog dialog(windowInUse(), title, directory, qtFilter(filter));
     prepare(dialog, title);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    ScreenRoom::fitOnScreen(dialog, dialog.sizeHint());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
@@ -110,6 +112,7 @@ QString QtDialogs::chooseFileToAppend(const QString &proposal, const QString &fi
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // what the file holds stays
     dialog.selectFile(proposed.fileName());
+    ScreenRoom::fitOnScreen(dialog, dialog.sizeHint());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
