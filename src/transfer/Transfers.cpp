@@ -37,14 +37,24 @@ Transfers::End Transfers::perform(Exchange &exchange, const StateTeller &tell)
     const bool isCutOff = code == CURLE_OK && exchange.isHeadOpen();
     if ((code == CURLE_OK && !isCutOff) || exchange.isRefusedByBody())
         return End::Complete;
-    exchange.note(InetState::Error);
-    tellAll(exchange, tell);
     throw TransferError(ErrorNumber::DeviceIoError, exchange.fault(isCutOff ? CURLE_GOT_NOTHING : code));
 }
 
 Transfers::End Transfers::fetch(const TransferRequest &request, Body &body, const StateTeller &tell)
 {
     Exchange exchange(mLimit);
+    try {
+        return follow(exchange, request, body, tell);
+    } catch (...) {
+        exchange.note(InetState::Error);
+        tellAll(exchange, tell);
+        throw;
+    }
+}
+
+Transfers::End Transfers::follow(Exchange &exchange, const TransferRequest &request, Body &body,
+                                 const StateTeller &tell)
+{
     TransferRequest current = request;
     for (int redirects = 0;; ++redirects) {
         exchange.aimAt(current, body);

@@ -77,6 +77,7 @@ class Transfers
     void cancel() { ++mCancels; }
 
   private:
+    End follow(Exchange &exchange, const TransferRequest &request, Body &body, const StateTeller &tell);
     End perform(Exchange &exchange, const StateTeller &tell);
 
     std::unique_ptr<CurlMulti> mMulti;

@@ -142,6 +142,19 @@ TEST_F(States, OfAFailureEndWithTheError)
     EXPECT_EQ(states.last(), int(InetState::Error));
 }
 
+TEST_F(States, EndWithTheErrorWhateverItIs)
+{
+    server.route("/round.jpg", redirectReply(u"/round.jpg"_s));
+    server.route("/gopher.jpg", redirectReply(u"gopher://127.0.0.1/1"_s));
+    server.route("/long.txt", okReply(QByteArray(Body::LargestText + 1, 'x')));
+    for (const QString &path : {u"/round.jpg"_s, u"/gopher.jpg"_s, u"/long.txt"_s}) {
+        states.clear();
+        EXPECT_NE(first.DownLoad(server.address(path), {}, 0).refusal, u""_s) << qUtf8Printable(path);
+        EXPECT_EQ(states.value(states.size() - 1), int(InetState::Error)) << qUtf8Printable(path);
+        EXPECT_EQ(states.count(int(InetState::Error)), 1) << qUtf8Printable(path);
+    }
+}
+
 TEST_F(States, OfTheSecondPathAreNotTold)
 {
     static_cast<void>(bySecond(server.address(u"/p.jpg"_s), u"a.jpg"_s));
