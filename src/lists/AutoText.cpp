@@ -92,26 +92,39 @@ void AutoText::AddAutoTextUrl(const QString &url, int position)
     });
 }
 
+/// Its place among the addresses on offer, whatever its case; -1 if it is none of them.
+int AutoText::placeOf(const QString &url) const
+{
+    const QStringList &offered = mPanel.cboMNAutoUrl.items();
+    const auto found = std::find_if(offered.begin(), offered.end(),
+                                    [&](const QString &item) { return cUtility::equalIgnoringCase(item, url); });
+    return found == offered.end() ? -1 : static_cast<int>(found - offered.begin());
+}
+
+/// Why the table still has the address; nothing once it has not.
+std::optional<QString> AutoText::forget(const QString &url)
+{
+    // No statement can hold a quote: what was only typed is not in the table, what was loaded from it stays there.
+    if (url.contains(u'\''))
+        return placeOf(url) < 0 ? std::nullopt : std::optional(u"Url holds a quote"_s);
+    mDatabase->DeleteRecords(table(), u"Url"_s, url, false);
+    return isStored(url) ? std::optional(StoreFaults::text(mDatabase->fault())) : std::nullopt;
+}
+
 QString AutoText::remove(const QString &url)
 {
     ComboBox &box = mPanel.cboMNAutoUrl;
     const QString removed = url.isEmpty() ? box.text() : url;
     if (removed.isEmpty())
         return u"Auto Text Is Empty"_s;
-    mDatabase->DeleteRecords(table(), u"Url"_s, removed, false);
-    if (isStored(removed))
-        return u"Not deleted. "_s + StoreFaults::text(mDatabase->fault());
-    QString message = u"Auto Text Cleared"_s;
-    for (int i = 0; i < box.listCount(); ++i) {
-        if (!cUtility::equalIgnoringCase(box.list(i), removed))
-            continue;
-        box.removeItem(i);
-        message = u"Auto Text Url Deleted"_s;
-        break;
-    }
+    if (const auto reason = forget(removed))
+        return u"Not deleted. "_s + *reason;
+    const int place = placeOf(removed);
+    if (place >= 0)
+        box.removeItem(place);
     box.setText({});
     mContext.settings.SaveSetting(Sections::Main, Keys::AutoTextUrl + mDesk.listName(), {});
-    return message;
+    return place >= 0 ? u"Auto Text Url Deleted"_s : u"Auto Text Cleared"_s;
 }
 
 void AutoText::RemoveAutoTextUrl(const QString &url)

@@ -7,6 +7,8 @@
 #include "pages/Series.h"
 #include "store/DatabaseHolder.h"
 
+#include <optional>
+
 class AutoText
 {
   public:
@@ -36,6 +38,8 @@ class AutoText
     [[nodiscard]] QString table() const;
     [[nodiscard]] Stored stored(const QString &table, const QString &url);
     [[nodiscard]] QString add(const QString &url, int position);
+    [[nodiscard]] int placeOf(const QString &url) const;
+    [[nodiscard]] std::optional<QString> forget(const QString &url);
     [[nodiscard]] QString remove(const QString &url);
     [[nodiscard]] bool isStored(const QString &url);
 

@@ -35,6 +35,22 @@ bool isFile(const QString &line)
     const QFileInfo file(line);
     return file.isAbsolute() && file.isFile();
 }
+
+/// What was dropped: its lines, or those of the files whose paths they all are. The fault is that of the first file
+/// which gave none.
+ListFile::Content dropped(const QString &text)
+{
+    ListFile::Content content{linesOf(text), {}};
+    if (!std::all_of(content.lines.begin(), content.lines.end(), isFile))
+        return content;
+    for (const QString &path : std::exchange(content.lines, {})) {
+        const ListFile::Content file = ListFile::read(path);
+        content.lines += file.lines;
+        if (content.fault.isEmpty() && !file.fault.isEmpty())
+            content.fault = file.fault + ": "_L1 + QFileInfo(path).fileName();
+    }
+    return content;
+}
 } // namespace
 
 QString ManualFeed::LoadBrowserLinks(int index)
@@ -97,14 +113,8 @@ void ManualFeed::PasteEmailLinksTextToListBox(ListBox &list, const QString &deli
 
 QString ManualFeed::addDropped(ListBox &list, const QString &text)
 {
-    QStringList lines = linesOf(text);
-    if (!lines.isEmpty() && std::all_of(lines.begin(), lines.end(), isFile)) {
-        QStringList read;
-        for (const QString &path : lines)
-            read += ListFile::read(path).lines;
-        lines = read;
-    }
-    QString message;
+    const auto &[lines, fault] = dropped(text);
+    bool hasInvalid = false;
     QSet<QString> known;
     for (const QString &item : list.items())
         known.insert(cUtility::lowered(item));
@@ -113,7 +123,7 @@ QString ManualFeed::addDropped(ListBox &list, const QString &text)
     for (qsizetype at = 0; at < lines.size() && mWork.goOn(at, lines.size()); ++at) {
         const QString item = asItem(lines[at]);
         if (!all && cIEText::IsThisEmailOrLink(item, true) != cIEText::TextKind::Link) {
-            message = invalidUrl;
+            hasInvalid = true;
             continue;
         }
         const auto before = known.size();
@@ -124,7 +134,7 @@ QString ManualFeed::addDropped(ListBox &list, const QString &text)
     if (mWork.isCancelled())
         return cancelled;
     list.addItems(added);
-    return message;
+    return !fault.isEmpty() ? fault : hasInvalid ? QString(invalidUrl) : QString();
 }
 
 void ManualFeed::drop(int index, const QString &text)

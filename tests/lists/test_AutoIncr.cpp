@@ -196,6 +196,21 @@ TEST_F(AutoIncrTest, RemovingEmptiesTheBoxWhetherItWasOfferedOrNot)
     EXPECT_EQ(lastStatus(), u"Auto Text Cleared"_s);
 }
 
+TEST_F(AutoIncrTest, AnAddressWithAQuoteIsClearedUnlessTheTableHasIt)
+{
+    show(u"www.a.com/o'hara/7"_s);
+    texts.RemoveAutoTextUrl({});
+    EXPECT_EQ(lastStatus(), u"Auto Text Cleared"_s);
+    EXPECT_EQ(box.text(), QString());
+    remember(u"www.a.com/o'hara/7"_s, {}, {}, {});
+    texts.LoadAutoTextUrls();
+    show(u"www.a.com/o'hara/7"_s);
+    texts.RemoveAutoTextUrl({});
+    EXPECT_EQ(lastStatus(), u"Not deleted. Url holds a quote"_s);
+    EXPECT_EQ(box.items(), rows(table)) << "what is on offer is what the table holds";
+    EXPECT_TRUE(log.entries.isEmpty());
+}
+
 TEST_F(AutoIncrTest, TheAddressThatWasReachedReplacesOlderFormsOfItsSeries)
 {
     remember(u"www.a.com/g/1"_s, {}, u"1"_s, {});

@@ -1,4 +1,5 @@
 // What feeds a manual list: pages, the clipboard, drops, files.
+#include "lists/ListFile.h"
 #include "lists/ManualFeed.h"
 #include "support/ManualFixture.h"
 
@@ -161,6 +162,16 @@ TEST_F(ManualFeedTest, DroppedFilesAreRead)
     feed.drop(1, one + crLf + two);
     EXPECT_EQ(form.lists.lstMN(1).items(), (QStringList{u"http://a.com"_s, u"http://b.com"_s}));
     EXPECT_EQ(lastStatus(), u"2 loaded. InValid Url"_s);
+}
+
+TEST_F(ManualFeedTest, ADroppedFileThatGivesNothingIsToldByItsName)
+{
+    const QString one = file(u"one.txt"_s, "http://a.com\r\nnothing\r\n");
+    const QString huge = file(u"huge.txt"_s, {});
+    ASSERT_TRUE(QFile::resize(huge, ListFile::longest + 1)); // takes no room on the disk
+    feed.drop(0, one + crLf + huge);
+    EXPECT_EQ(list().items(), QStringList{u"http://a.com"_s});
+    EXPECT_EQ(lastStatus(), u"1 loaded. Size > 256 MB: huge.txt"_s);
 }
 
 TEST_F(ManualFeedTest, LinksOfAFileJoinTheListOnce)
