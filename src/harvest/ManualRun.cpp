@@ -58,6 +58,8 @@ bool ManualRun::take(qint64 item, const QString &url)
 {
     if (navigates())
         return mNavigate.walk(url, item);
+    if (!mRuns.mayGoOn(kind))
+        return false;
     bool isFile = false;
     if (!fetch(item, url, isFile))
         return false;
@@ -82,7 +84,7 @@ bool ManualRun::navigates()
 /// Fetches the item where it is a file. False when the run was stopped meanwhile.
 bool ManualRun::fetch(qint64 item, const QString &url, bool &isFile)
 {
-    const QString name = mItems.NavFileOrSite(itemOfList, url, true);
+    const QString name = url.isEmpty() ? QString() : mItems.NavFileOrSite(itemOfList, url, true);
     isFile = !name.isEmpty();
     if (!isFile)
         return true;

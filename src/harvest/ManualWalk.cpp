@@ -4,10 +4,6 @@
 #include "pages/Series.h"
 #include "util/Text.h"
 
-namespace {
-constexpr int itemOfList = 1;
-}
-
 ManualWalk::ManualWalk(ManualPanel &panel, SeriesPanel &series, const OptionBoxes &options,
                        const CollectLabels &collecting, const ManualDesk &desk, AutoIncr &autoIncr,
                        ManualTables &tables)
@@ -20,7 +16,8 @@ void ManualWalk::begin(bool behindStop)
 {
     mPanel.mintMNRunningList = mDesk.index();
     mAddress = cUtility::Trim(mSeries.cboMNAutoUrl.text()).toString();
-    mIsSeries = !mAddress.isEmpty() && mDesk.GetAutoIncrChecked() > 0;
+    mPosition = mDesk.GetAutoIncrChecked();
+    mIsSeries = !mAddress.isEmpty() && mPosition > 0;
     if (mIsSeries)
         beginSeries();
     else
@@ -29,8 +26,8 @@ void ManualWalk::begin(bool behindStop)
 
 void ManualWalk::beginSeries()
 {
-    mFirst = mSeries.incMNAutoUrl.value();
-    mLast = mFirst + Series(mAddress, mDesk.GetAutoIncrChecked()).lengthOfRun() - 1;
+    mFirst = mNumber = mSeries.incMNAutoUrl.value();
+    mLast = mFirst + Series(mAddress, mPosition).lengthOfRun() - 1;
 }
 
 void ManualWalk::beginList(bool behindStop)
@@ -44,14 +41,25 @@ void ManualWalk::beginList(bool behindStop)
 
 QString ManualWalk::take(qint64 item)
 {
-    if (!mIsSeries) {
-        select(item);
-        return mDesk.GetUseBaseUrl(itemOfList);
-    }
+    return mIsSeries ? takeOfSeries(item) : takeOfList(item);
+}
+
+/// Another list on show has a base of its own.
+QString ManualWalk::takeOfList(qint64 item)
+{
+    select(item);
+    if (isOnShow())
+        mBase = mDesk.usesBase() ? mSeries.cboMNAutoUrl.text() : QString();
+    return ManualDesk::withBase(mBase, list().list(static_cast<int>(item)));
+}
+
+QString ManualWalk::takeOfSeries(qint64 item)
+{
     if (item != mFirst) {
         const QString step = mSeries.incMNStep.text();
-        mAddress = Series(mAddress, mDesk.GetAutoIncrChecked()).next(step).address();
-        mAutoIncr.showReached(mAddress, mSeries.incMNAutoUrl.value() + step.toLongLong());
+        mAddress = Series(mAddress, mPosition).next(step).address();
+        mNumber += step.toLongLong();
+        mAutoIncr.showReached(mAddress, mNumber);
     }
     return mAddress;
 }
@@ -66,11 +74,12 @@ void ManualWalk::select(qint64 place)
 
 void ManualWalk::keepSeries()
 {
-    if (mOptions.chkSMD(SMD::SaveAutoTextOnStop).value() == 1)
+    // Another list on show has series of its own.
+    if (isOnShow() && mOptions.chkSMD(SMD::SaveAutoTextOnStop).value() == 1)
         mAutoIncr.MaintainAutoIncr();
 }
 
 void ManualWalk::savePosition()
 {
-    static_cast<void>(mTables.SaveMNLastUrl(list(), mDesk.table(), true));
+    static_cast<void>(mTables.SaveMNLastUrl(list(), mDesk.table(mPanel.mintMNRunningList), true));
 }

@@ -1,6 +1,6 @@
-// What a Manual run takes one after the other: the items of the list on show, or the addresses of a series. Says where
-// the run begins and ends, brings each item into the boxes that show it, and remembers where the run stood. Knows
-// lists.
+// What a Manual run takes one after the other: the items of the list that was on show when it began, or the addresses
+// of a series; the user may look at other lists meanwhile. Says where the run begins and ends, brings each item into
+// the boxes that show it, and remembers where the run stood. Knows lists.
 #pragma once
 
 #include "lists/AutoIncr.h"
@@ -37,6 +37,9 @@ class ManualWalk
   private:
     void beginSeries();
     void beginList(bool behindStop);
+    [[nodiscard]] bool isOnShow() const { return mDesk.index() == mPanel.mintMNRunningList; }
+    [[nodiscard]] QString takeOfList(qint64 item);
+    [[nodiscard]] QString takeOfSeries(qint64 item);
 
     ManualPanel &mPanel;
     SeriesPanel &mSeries;
@@ -48,5 +51,9 @@ class ManualWalk
     bool mIsSeries = false;
     qint64 mFirst = 0;
     qint64 mLast = 0;
-    QString mAddress; ///< of the series, as far as it has come
+    QString mBase; ///< that the list's items are pieces of, as it was when the list was last on show
+    // Of the series, as far as it has come.
+    QString mAddress;
+    int mPosition = 0;
+    qint64 mNumber = 0;
 };

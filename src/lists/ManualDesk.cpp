@@ -20,9 +20,9 @@ ManualDesk::ManualDesk(frmSearch &form, StatusLine &status)
 {
 }
 
-QString ManualDesk::table() const
+QString ManualDesk::table(int index) const
 {
-    return "MNUrls"_L1 + listName();
+    return "MNUrls"_L1 + listName(index);
 }
 
 QString ManualDesk::item() const
@@ -40,9 +40,12 @@ QString ManualDesk::GetUseBaseUrl(int mode) const
     const QString base = mForm.series.cboMNAutoUrl.text();
     if (!usesBase())
         return mode == listMode ? GetListItemMN() : mode == boxMode ? base : QString();
-    if (base.contains(insertMark))
-        return QString(base).replace(insertMark, GetListItemMN());
-    return base + GetListItemMN();
+    return withBase(base, GetListItemMN());
+}
+
+QString ManualDesk::withBase(const QString &base, const QString &item)
+{
+    return base.contains(insertMark) ? QString(base).replace(insertMark, item) : base + item;
 }
 
 int ManualDesk::GetAutoIncrChecked() const

@@ -14,7 +14,8 @@ class ManualDesk
     [[nodiscard]] ListBox &list() const { return mForm.lists.shown(); }
     [[nodiscard]] int index() const { return mForm.lists.cboMNList.listIndex(); }
     [[nodiscard]] QString listName() const { return mForm.lists.cboMNList.text(); }
-    [[nodiscard]] QString table() const;
+    [[nodiscard]] QString table() const { return table(index()); }
+    [[nodiscard]] QString table(int index) const;
     [[nodiscard]] ListBox &list(int index) const { return mForm.lists.lstMN(index); }
     [[nodiscard]] QString listName(int index) const { return mForm.lists.cboMNList.list(index); }
     /// The item at the index of the list on show; "" if there is none.
@@ -25,6 +26,8 @@ class ManualDesk
     /// The address that a command is about: of the list (mode 1) or of the address box (mode 2). With a base, the
     /// address in the box with the item put in where it says "~ins~", else behind it.
     [[nodiscard]] QString GetUseBaseUrl(int mode) const;
+    /// `item` put into `base` like that; with the base "" the item alone.
+    [[nodiscard]] static QString withBase(const QString &base, const QString &item);
 
     /// The position of the number that a series changes, 1 to 9; 0 while there is no series.
     [[nodiscard]] int GetAutoIncrChecked() const;

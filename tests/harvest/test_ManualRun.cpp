@@ -479,3 +479,13 @@ TEST_F(Fetching, ADownloadSeriesTakesEveryNumber)
         EXPECT_EQ(content(u"p-%1.jpg"_s.arg(number)), "picture "_ba + QByteArray::number(number));
     EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
 }
+
+TEST_F(Fetching, XInTheMessageThatEndsAutoNavigateFetchesNothing)
+{
+    setSeries(server.address(u"/a.com/p-1.jpg"_s), 6);
+    QObject::connect(&runs, &Runs::progress, &form, [this] { item(u"mnuMNStatusAutoNavigate"_s).setChecked(true); });
+    pump.after(second, [&] { clickX(); });
+    clickGo();
+    EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+    EXPECT_TRUE(server.requests.isEmpty());
+}

@@ -147,3 +147,40 @@ TEST_F(ManualWalkTest, AStoppedSeriesIsKeptWhereTheOptionSaysSo)
     walk.keepSeries();
     EXPECT_EQ(rows(u"AutoTextA"_s), QStringList{u"www.pics.com/p2.jpg"_s});
 }
+
+TEST_F(ManualWalkTest, ASeriesGoesOnWhileAnotherListIsOnShow)
+{
+    setSeries(u"www.pics.com/a3/p01.jpg"_s, 2);
+    walk.begin(false);
+    EXPECT_EQ(walk.take(walk.first()), u"www.pics.com/a3/p01.jpg"_s);
+    form.lists.cboMNList.setListIndex(2);
+    series.SetAutoIncrPos(2); // given up, as the other list has none
+    form.series.incMNAutoUrl.setText(u"0000000077"_s);
+    EXPECT_EQ(walk.take(walk.first() + 1), u"www.pics.com/a3/p02.jpg"_s);
+    EXPECT_EQ(walk.take(walk.first() + 2), u"www.pics.com/a3/p03.jpg"_s);
+    EXPECT_EQ(form.series.incMNAutoUrl.value(), 3) << "the number is the address's own";
+    form.options.chkSMD(SMD::SaveAutoTextOnStop).setValue(1);
+    series.SetAutoIncrPos(1); // of the other list
+    walk.keepSeries();
+    EXPECT_TRUE(rows(u"AutoTextC"_s).isEmpty()) << "the series is none of that list";
+}
+
+TEST_F(ManualWalkTest, AWalkKeepsToItsListItsBaseAndItsTableWhileAnotherListIsOnShow)
+{
+    for (const QString &name : {u"MNUrlsA"_s, u"MNUrlsC"_s})
+        addRow(*database, name, {{u"Url"_s, u"http://x.com/"_s}});
+    list().setItems({u"tea"_s, u"milk"_s});
+    form.lists.lstMN(2).setItems({u"http://c.com/"_s});
+    form.lists.lstMN(2).setListIndex(0);
+    form.series.cboMNAutoUrl.setText(u"www.~ins~.com"_s);
+    series.mnuMNUseAutoBase_Click();
+    walk.begin(false);
+    EXPECT_EQ(walk.take(0), u"www.tea.com"_s);
+    form.lists.cboMNList.setListIndex(2);
+    form.series.cboMNAutoUrl.setText(u"www.other.com"_s);
+    EXPECT_EQ(walk.take(1), u"www.milk.com"_s);
+    EXPECT_EQ(form.lists.lstMN(0).listIndex(), 1);
+    walk.savePosition();
+    EXPECT_EQ(rows(u"MNUrlsA"_s, u"LastUrl"_s), QStringList{u"milk"_s});
+    EXPECT_EQ(rows(u"MNUrlsC"_s, u"LastUrl"_s), QStringList{QString()});
+}
