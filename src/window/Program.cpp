@@ -60,7 +60,7 @@ Program::Program(const Ports &ports)
       collectChoice(context, form.collect, form.menus, form.lists, form.saved, form.options, manual.desk),
       pageCollecting(log, browser, findings, manual.desk),
       autoCollect(context, collectChoice, pageCollecting, manual.feed, savedUrls, links, manual.desk),
-      collectCommands(context, form, collectChoice, manual.series, links)
+      collectCommands(context, form, manual.desk, collectChoice, manual.series, links)
 {
     connectAll(ports);
 }
@@ -123,6 +123,7 @@ void Program::connectSites()
 /// What the start and the end ask of others.
 void Program::connectLife(const Ports &ports)
 {
+    QObject::connect(&startUp, &StartUp::loaded, &form, [this] { manual.restoreElongation(); });
     QObject::connect(&startUp, &StartUp::formLoaded, &form, [this] {
         manual.restorePosition();
         manualColours.SetMNColors();
@@ -198,6 +199,10 @@ void Program::connectCollecting()
                      [this] { collectChoice.SetAutoCollectState(CollectState::Kind::EmailPhone, true); });
     QObject::connect(&collectChoice, &CollectChoice::coloursAsked, &manual.series, &AutoIncr::coloursAsked);
     QObject::connect(&manual.series, &AutoIncr::coloursAsked, &form, [this] { manualColours.SetMNColors(); });
+    // Behind what the label does on each tab: it shows the list that is collected into, and whether servers are
+    // blocked.
+    QObject::connect(&form.collect.lblAutoCollect, &Label::mousePressed, &form,
+                     [this] { manualColours.SetMNColors(); });
     QObject::connect(&filesSites, &FilesSitesEvents::linksToggled, &collectChoice, &CollectChoice::SetAutoCollectLinks);
     QObject::connect(&filesSites, &FilesSitesEvents::pagesToggled, &collectChoice,
                      &CollectChoice::SetAutoCollectPgUrlsMN);

@@ -97,3 +97,25 @@ TEST_F(CollectCommandsTest, TheRightButtonOnThePositionStepsThroughMailAddresses
     item(u"mnuMNUseAutoBase"_s).click();
     EXPECT_EQ(state(), 1) << "without the base only links are collected";
 }
+
+TEST_F(CollectCommandsTest, TheRightButtonOnThePositionOfASeriesStepsThroughNothing)
+{
+    program->collectChoice.SetAutoCollectLinks(0);
+    form().series.cboMNAutoUrl.setText(u"www.a.com/1/2/3/4/5/6/7/8/9/10"_s); // one number more than there are positions
+    item(u"mnuMNStatusAutoIncrPos(3)"_s).click();
+    ASSERT_TRUE(item(u"mnuMNStatusAutoIncrPos(3)"_s).isChecked());
+    form().collect.lblAutoIncrPos.setCaption(u"0"_s);
+    form().collect.lblAutoIncrPos.mouseDown(MouseButton::Right);
+    EXPECT_EQ(state(), 1);
+}
+
+TEST_F(CollectCommandsTest, TheLabelShowsAtOnceThatAServerIsBlocked)
+{
+    Label &label = form().collect.lblAutoCollect;
+    form().frame.sstSearch.setTab(Tab::Auto);
+    label.mouseDown(MouseButton::Left);
+    ASSERT_EQ(form().blocking.mastrQB, QStringList{u"seek"_s});
+    EXPECT_EQ(label.backColor(), Colours::Yellow);
+    label.mouseDown(MouseButton::Right);
+    EXPECT_EQ(label.backColor(), Colours::ButtonFace);
+}

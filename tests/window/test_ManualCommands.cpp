@@ -390,19 +390,3 @@ TEST_F(ManualCommandsTest, ADatabaseFaultLeavesTheControlsUsable)
     EXPECT_TRUE(form().lists.cboMNList.isEnabled());
     EXPECT_EQ(list().listCount(), 1);
 }
-
-TEST_F(ManualCommandsTest, TheTabComesBackWithItsSettings)
-{
-    settings.preset("txtMNGenerateUrlA", u"www.a.com/7"_s);
-    settings.preset("mnuMNUseAutoBase", u"1"_s);
-    settings.preset("cboMNMCMNCFilter", u"tea"_s);
-    settings.preset("mnuMNLoadLinksIEUnique", u"True"_s);
-    settings.preset("mnuMNStatusElongate", u"1"_s);
-    program.reset();
-    load();
-    EXPECT_EQ(form().series.cboMNAutoUrl.text(), u"www.a.com/7"_s);
-    EXPECT_TRUE(item("mnuMNUseAutoBase"_L1).isChecked());
-    EXPECT_TRUE(item("mnuMNUseSiteData"_L1).isChecked());
-    EXPECT_TRUE(item("mnuMNStatusElongate"_L1).isChecked());
-    EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.text(), u"tea"_s);
-}

@@ -141,6 +141,11 @@ TEST_F(ManualCommandsTest, AListGoesToAFileUnderAProposedName)
     EXPECT_EQ(dialogs.files.constLast().prompt, folder.filePath(u"httpwwwtea-0.txt"_s));
     EXPECT_EQ(dialogs.files.constLast().title, u"Select File"_s);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"httpwwwtea-0.txt"_s))) << "cancelled";
+    fill({u"http://www.tea.com/1"_s, u"http://www.milk.com/2"_s}, {1}, 0);
+    click("mnuMNSaveAsFile"_L1);
+    EXPECT_EQ(dialogs.files.constLast().prompt, folder.filePath(u"httpwwwmilk-0.txt"_s))
+        << "the selected item, not the one with the focus";
+    fill({u"http://www.tea.com/1"_s, u"b"_s}, {0}, 0);
     QDir(folder.path()).mkdir(u"sub"_s);
     dialogs.fileAnswer = folder.filePath(u"sub/mine.txt"_s);
     write(dialogs.fileAnswer, "old\r\n");

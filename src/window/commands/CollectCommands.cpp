@@ -13,9 +13,9 @@ int behind(int list)
 }
 } // namespace
 
-CollectCommands::CollectCommands(const Context &context, frmSearch &form, CollectChoice &choice, AutoIncr &autoIncr,
-                                 ResultLinks &links)
-    : mContext(context), mForm(form), mChoice(choice), mAutoIncr(autoIncr), mLinks(links)
+CollectCommands::CollectCommands(const Context &context, frmSearch &form, const ManualDesk &desk, CollectChoice &choice,
+                                 AutoIncr &autoIncr, ResultLinks &links)
+    : mContext(context), mForm(form), mDesk(desk), mChoice(choice), mAutoIncr(autoIncr), mLinks(links)
 {
     connectMenus();
     CollectLabels &labels = form.collect;
@@ -132,12 +132,11 @@ void CollectCommands::chooseSavedPages(MouseButton button)
 void CollectCommands::lblAutoIncrPos_MouseDown(MouseButton button)
 {
     guarded(mContext.log, {module, "Sub lblAutoIncrPos_MouseDown"_L1}, [&] {
-        const MenuItem &base = mForm.menus.mnuPopUpMNStatus.item("mnuMNUseAutoBase"_L1);
-        if (tab() != Tab::Manual || button != MouseButton::Right || mForm.collect.lblAutoIncrPos.caption().toInt() > 0)
+        if (tab() != Tab::Manual || button != MouseButton::Right || mDesk.GetAutoIncrChecked() > 0)
             return;
         mChoice.SetAutoCollectState(CollectState::Kind::EmailPhone, false);
         const CollectState::Content content = CollectState::contentOf(mChoice.state());
-        if ((content == CollectState::Content::Emails || content == CollectState::Content::Phones) && !base.isChecked())
+        if ((content == CollectState::Content::Emails || content == CollectState::Content::Phones) && !mDesk.usesBase())
             mAutoIncr.mnuMNUseAutoBase_Click();
     });
 }

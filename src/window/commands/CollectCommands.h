@@ -12,8 +12,8 @@ class CollectCommands : public QObject
     Q_OBJECT
 
   public:
-    CollectCommands(const Context &context, frmSearch &form, CollectChoice &choice, AutoIncr &autoIncr,
-                    ResultLinks &links);
+    CollectCommands(const Context &context, frmSearch &form, const ManualDesk &desk, CollectChoice &choice,
+                    AutoIncr &autoIncr, ResultLinks &links);
 
   private:
     void connectMenus();
@@ -31,6 +31,7 @@ class CollectCommands : public QObject
 
     Context mContext;
     frmSearch &mForm;
+    const ManualDesk &mDesk;
     CollectChoice &mChoice;
     AutoIncr &mAutoIncr;
     ResultLinks &mLinks;

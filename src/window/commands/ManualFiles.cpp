@@ -1,6 +1,7 @@
 #include "window/commands/ManualFiles.h"
 
 #include "app/SettingKeys.h"
+#include "lists/ChosenItem.h"
 #include "lists/ListFile.h"
 #include "pages/Addresses.h"
 #include "util/FileNames.h"
@@ -52,7 +53,7 @@ void ManualFiles::loadChosen()
 /// What the file is named after: the server of the one selected item, else of the page on show.
 QString ManualFiles::base()
 {
-    const QString url = mDesk.list().selCount() == 1 ? mDesk.item()
+    const QString url = mDesk.list().selCount() == 1 ? chosenItem(mDesk.list())
                         : mBrowser.isSet()           ? mBrowser->GetSiteUrl()
                                                      : QString();
     return cIEText::GetServerFromUrl(url, withoutType);

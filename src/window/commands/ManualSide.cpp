@@ -48,17 +48,23 @@ void ManualSide::connectTo(const StateOfControls &states)
 
 void ManualSide::takeDatabase()
 {
-    filters.LoadMNUrlFilters();
-    texts.LoadAutoTextUrls();
     const auto stored = [&](const QString &key) { return context.settings.GetSetting(Sections::Main, key); };
+    filters.LoadMNUrlFilters();
+    // At the start and behind an import the filter in force stays; another database's filters are others.
+    if (form.mbFormReady)
+        filters.cboMNMCMNCFilter_Change();
+    else
+        form.urlFilter.cboMNMCMNCFilter.setText(stored(Keys::UrlFilter));
+    texts.LoadAutoTextUrls();
     const QString url = stored(Keys::AutoTextUrl + desk.listName());
     form.series.cboMNAutoUrl.setText(url);
     if (!url.isEmpty() && stored(Keys::UseAutoBase) == "1"_L1 && !desk.usesBase())
         series.mnuMNUseAutoBase_Click();
-    if (form.mbFormReady)
-        return;
-    form.urlFilter.cboMNMCMNCFilter.setText(stored(Keys::UrlFilter));
-    if (stored(Keys::Elongate) == "1"_L1)
+}
+
+void ManualSide::restoreElongation()
+{
+    if (context.settings.GetSetting(Sections::Main, Keys::Elongate) == "1"_L1)
         statusCommands.mnuMNStatusElongate_Click();
 }
 

@@ -51,6 +51,8 @@ struct ManualSide
 
     /// Marks the page on show, or `url`, in `table`.
     void mark(const QString &table, const QString &url);
+    /// The address box is as long as the last session left it.
+    void restoreElongation();
     /// The position that the last session ended with comes back.
     void restorePosition();
 
