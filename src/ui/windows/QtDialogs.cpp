@@ -10,6 +10,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +35,8 @@ void prepare(QDialog &dialog, const QString &title)
 {
     dialog.setWindowTitle(title);
     dialog.setWindowModality(Qt::ApplicationModal);
+    // One that is wider than the window on which it is centred.
+    QTimer::singleShot(0, &dialog, [&dialog] { ScreenRoom::keepOnScreen(dialog); });
 }
 
 /// A box is as wide as its title and the buttons beside it need.
