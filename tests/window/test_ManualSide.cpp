@@ -12,6 +12,7 @@ TEST_F(ManualSideTest, TheTabComesBackWithItsSettings)
     settings.preset("txtMNGenerateUrlA", u"www.a.com/7"_s);
     settings.preset("mnuMNUseAutoBase", u"1"_s);
     settings.preset("cboMNMCMNCFilter", u"tea"_s);
+    settings.preset("cboMNMCMNC", u"1"_s);
     settings.preset("mnuMNLoadLinksIEUnique", u"True"_s);
     settings.preset("mnuMNStatusElongate", u"1"_s);
     program.reset();
@@ -21,6 +22,9 @@ TEST_F(ManualSideTest, TheTabComesBackWithItsSettings)
     EXPECT_TRUE(item("mnuMNUseSiteData"_L1).isChecked());
     EXPECT_TRUE(item("mnuMNStatusElongate"_L1).isChecked());
     EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.text(), u"tea"_s);
+    EXPECT_EQ(form().urlFilter.cboMNMCMNC.listIndex(), 1);
+    EXPECT_EQ(form().urlFilter.cboMNMCMNC.foreColor(), Colours::Blue) << "a filter in force";
+    EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.foreColor(), Colours::Blue);
 }
 
 TEST_F(ManualSideTest, AnImportThatLoadsTheDatabaseAnewLeavesTheTabAsItWas)
