@@ -17,8 +17,8 @@ bool prepareList(Program &program, const Arguments &arguments)
 {
     if (!arguments.listFile.isEmpty() && !program.manual.files.loadFile(arguments.listFile))
         return false;
-    if (arguments.listDb)
-        program.manual.store.loadFromDatabase();
+    if (arguments.listDb && !program.manual.store.loadFromDatabase())
+        return false;
     return !arguments.listSave || program.manual.store.saveToDatabase();
 }
 

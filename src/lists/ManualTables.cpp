@@ -77,14 +77,30 @@ QString ManualTables::SaveMN(const ListBox &list, const QString &table)
     });
 }
 
-bool ManualTables::LoadMN(ListBox &list, const QString &table)
+/// Hands the addresses of `table` to `take` once all are read.
+template <class Take> QString ManualTables::load(QLatin1StringView location, const QString &table, Take &&take)
 {
-    return guardedResult(mLog, {module, "Sub LoadMN"_L1}, false, [&](bool &selected) {
-        const QStringList found = urls(table);
+    return guardedResult(mLog, {module, location}, u"Not readable"_s, [&](QString &hindrance) {
+        try {
+            take(urls(table));
+            hindrance = mWork.isCancelled() ? u"Cancelled"_s : QString();
+        } catch (const std::exception &error) {
+            const StoreFault fault = StoreFaults::of(error);
+            const QString text = StoreFaults::text(fault == StoreFault::None ? mDatabase->fault() : fault);
+            if (!text.isEmpty())
+                hindrance = text;
+            throw;
+        }
+    });
+}
+
+QString ManualTables::LoadMN(ListBox &list, const QString &table)
+{
+    return load("Sub LoadMN"_L1, table, [&](const QStringList &found) {
         if (mWork.isCancelled())
             return;
         list.addItems(found);
-        selected = cLstBx::FindText(list, SaveMNLastUrl(list, table, false), 0) > 0;
+        cLstBx::FindText(list, SaveMNLastUrl(list, table, false), 0);
     });
 }
 
@@ -103,9 +119,10 @@ QString ManualTables::SaveMNLastUrl(const ListBox &list, const QString &table, b
     });
 }
 
-void ManualTables::addNew(ListBox &list, const QString &table)
+QString ManualTables::addNew(ListBox &list, const QString &table)
 {
-    guarded(mLog, {module, "Sub LoadDBItemsMN"_L1}, [&] { cLstBx::PopulateListBox(list, urls(table), true, false); });
+    return load("Sub LoadDBItemsMN"_L1, table,
+                [&](const QStringList &found) { cLstBx::PopulateListBox(list, found, true, false); });
 }
 
 bool ManualTables::hasRows(const QString &table)

@@ -93,6 +93,14 @@ TEST_F(ListCommandsTest, AListThatCannotBeKeptIsAFailure)
     EXPECT_TRUE(lastStatus().startsWith(u"Not saved"_s)) << lastStatus().toStdString();
 }
 
+TEST_F(ListCommandsTest, AListThatCannotBeReadIsAFailureAndNothingIsSaved)
+{
+    database().CloseConnection();
+    arguments.listDb = arguments.listSave = true;
+    EXPECT_FALSE(prepareList(*program, arguments));
+    EXPECT_EQ(statuses, (QStringList{u"Loading MNUrlsA"_s, u"0 loaded. Not readable"_s}));
+}
+
 TEST_F(ListCommandsTest, AFileAloneIsReadWithoutABrowser)
 {
     program = std::make_unique<Program>(ports());

@@ -1,9 +1,11 @@
 """Lists and series from the command line: filled, kept, printed, walked and fetched; a browser only where one is needed."""
+import contextlib
 import json
 import os
 import pathlib
 import re
 import signal
+import sqlite3
 import subprocess
 import unittest
 
@@ -94,6 +96,28 @@ class Lists(ListCase):
         done = self.run_with("--list-file", path, "--manual", **self.series_of_pictures())
         self.assertEqual(done.returncode, 2)
         self.assertIn("a list or a series, not both", done.stderr)
+
+    def damage(self, table):
+        """Spoils the table's pages behind its first one; the rest of the file stays whole."""
+        with contextlib.closing(sqlite3.connect(self.database)) as database:
+            database.execute("PRAGMA wal_checkpoint(TRUNCATE)")
+            size = database.execute("PRAGMA page_size").fetchone()[0]
+            pages = database.execute("SELECT pageno FROM dbstat WHERE name = ? AND pagetype = 'leaf'", [table]).fetchall()
+        self.assertGreater(len(pages), 2)
+        with open(self.database, "r+b") as file:
+            for page, in pages[1:]:
+                file.seek((page - 1) * size)
+                file.write(b"\xff" * size)
+
+    def test_a_list_that_the_database_does_not_give_is_told_in_one_line_and_is_a_failure(self):
+        path = self.text_file("list.txt", "".join(f"http://www.a.com/{n}\n" for n in range(2000)).encode())
+        self.assertEqual(self.run_with("--list-file", path, "--list-save").returncode, 0)
+        self.damage("MNUrlsA")
+        for words in (["--list-db", "--list-print"], ["--list-db", "--list-save"], ["--list-db", "--manual"]):
+            with self.subTest(words):
+                done = self.run_with(*words)
+                self.assertEqual((done.returncode, done.stdout), (1, ""))
+                self.assertEqual(done.stderr.splitlines()[-1], "0 loaded. Database is damaged")
 
 
 class Runs(ListCase):

@@ -71,18 +71,29 @@ TEST_F(ManualTablesTest, WhatTheDatabaseRefusesIsTold)
     EXPECT_EQ(list().listCount(), 1);
 }
 
+TEST_F(ManualTablesTest, WhatTheDatabaseDoesNotGiveIsTold)
+{
+    addUrl(table, u"http://saved.com"_s);
+    list().setItems({u"http://a.com"_s});
+    database->CloseConnection();
+    EXPECT_EQ(tables.LoadMN(list(), table), u"Not readable"_s);
+    EXPECT_EQ(tables.addNew(list(), table), u"Not readable"_s);
+    EXPECT_EQ(list().items(), QStringList{u"http://a.com"_s});
+}
+
 TEST_F(ManualTablesTest, LoadingAddsAllRowsAndSelectsTheRememberedOne)
 {
     for (const char *name : {"a", "b", "a"})
         addUrl(table, QLatin1StringView(name));
     list().setItems({u"first"_s});
     choose(0, {0});
-    EXPECT_FALSE(tables.LoadMN(list(), table)) << "nothing is remembered yet";
+    EXPECT_EQ(tables.LoadMN(list(), table), QString());
+    EXPECT_EQ(list().selCount(), 0) << "nothing is remembered yet";
     EXPECT_EQ(list().items(), (QStringList{u"first"_s, u"a"_s, u"b"_s, u"a"_s}));
     choose(2, {2});
     EXPECT_EQ(tables.SaveMNLastUrl(list(), table, true), u"b"_s);
     list().clear();
-    EXPECT_TRUE(tables.LoadMN(list(), table));
+    EXPECT_EQ(tables.LoadMN(list(), table), QString());
     EXPECT_EQ(list().listIndex(), 1);
     EXPECT_EQ(list().selection(), (std::vector<bool>{false, true, false}));
 }
@@ -114,7 +125,7 @@ TEST_F(ManualTablesTest, NewAddressesOfATableJoinTheList)
     addUrl(table, u"A"_s);
     addUrl(table, u"b"_s);
     list().setItems({u"a"_s});
-    tables.addNew(list(), table);
+    EXPECT_EQ(tables.addNew(list(), table), QString());
     EXPECT_EQ(list().items(), (QStringList{u"a"_s, u"b"_s}));
     EXPECT_TRUE(tables.hasRows(table));
     EXPECT_FALSE(tables.hasRows(u"MNUrlsC"_s));
@@ -134,8 +145,8 @@ TEST_F(ManualTablesTest, CancellingALoadLeavesTheListAsItWas)
     list().setItems({u"x"_s});
     EXPECT_TRUE(work.run(u"Loading"_s, [&] {
         work.cancel();
-        EXPECT_FALSE(tables.LoadMN(list(), table));
-        tables.addNew(list(), table);
+        EXPECT_EQ(tables.LoadMN(list(), table), u"Cancelled"_s);
+        EXPECT_EQ(tables.addNew(list(), table), u"Cancelled"_s);
         EXPECT_EQ(tables.SaveMN(list(), table), u"Cancelled"_s);
         EXPECT_EQ(deleted.CacheDeletedData(table), DeletedRows::Outcome::Cancelled);
     }));

@@ -50,12 +50,8 @@ void ManualSources::mnuMNLSU_Click(int index)
 
 void ManualSources::LoadDBItemsMN(const QString &table)
 {
-    guarded(mContext.log, {module, "Sub LoadDBItemsMN"_L1}, [&] {
-        mWork.count(u"Loading"_s, [&] {
-            mTables.addNew(mDesk.list(), table);
-            return mWork.isCancelled() ? u"Cancelled"_s : QString();
-        });
-    });
+    guarded(mContext.log, {module, "Sub LoadDBItemsMN"_L1},
+            [&] { mWork.count(u"Loading"_s, [&] { return mTables.addNew(mDesk.list(), table); }); });
 }
 
 void ManualSources::mnuMNUseSiteData_Click()

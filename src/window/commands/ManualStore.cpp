@@ -14,7 +14,7 @@ ManualStore::ManualStore(const Context &context, const Menu &menu, const ManualD
         {"mnuMNSaveLast"_L1, "Sub mnuMNSaveLast_Click"_L1, &ManualStore::savePosition},
         {"mnuMNStatusSaveListWindowUrl"_L1, "Sub mnuMNStatusSaveListWindowUrl_Click"_L1, &ManualStore::saveSelectUrl},
         {"mnuMNLoadLinksIE"_L1, "Sub mnuMNLoadLinksIE_Click"_L1, &ManualStore::loadFromBrowser},
-        {"mnuMNLoadLinksDB"_L1, "Sub mnuMNLoadLinksDB_Click"_L1, &ManualStore::loadFromDatabase},
+        {"mnuMNLoadLinksDB"_L1, "Sub mnuMNLoadLinksDB_Click"_L1, &ManualStore::load},
     };
     connectCommands(*this, rows, menu, context.log, work.work());
 }
@@ -63,11 +63,16 @@ void ManualStore::loadFromBrowser()
     mWork.count(u"Please Wait"_s, [&] { return mFeed.LoadBrowserLinks(mDesk.index()); });
 }
 
-void ManualStore::loadFromDatabase()
+bool ManualStore::loadFromDatabase()
 {
+    bool loaded = false;
     mWork.count("Loading "_L1 + mDesk.table(), [&] {
-        if (mTables.LoadMN(list(), mDesk.table()))
+        QString hindrance = mTables.LoadMN(list(), mDesk.table());
+        loaded = hindrance.isEmpty();
+        // The remembered item is told of where it is not the first one.
+        if (loaded && list().listIndex() > 0)
             mDesk.ShowSelected();
-        return mWork.isCancelled() ? u"Cancelled"_s : QString();
+        return hindrance;
     });
+    return loaded;
 }

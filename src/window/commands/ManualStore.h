@@ -15,8 +15,8 @@ class ManualStore : public QObject
 
     /// "ListTo Db". False when not all of it was kept.
     bool saveToDatabase();
-    /// "Urls (DB)" of Load.
-    void loadFromDatabase();
+    /// "Urls (DB)" of Load. False when it was not read whole.
+    bool loadFromDatabase();
 
   Q_SIGNALS:
     /// An item is to be marked for later.
@@ -25,6 +25,7 @@ class ManualStore : public QObject
   private:
     [[nodiscard]] ListBox &list() const { return mDesk.list(); }
     void save() { static_cast<void>(saveToDatabase()); }
+    void load() { static_cast<void>(loadFromDatabase()); }
     void deleteSaved();
     void savePosition();
     void saveSelectUrl();
