@@ -1,11 +1,11 @@
 #include "ui/windows/BareBrowserWindow.h"
 
 #include "ui/look/Icons.h"
+#include "ui/windows/FileDialog.h"
 #include "ui/windows/ScreenRoom.h"
 #include "ui_BareBrowserWindow.h"
 
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QScreen>
 #include <QShortcut>
 #include <QWebEnginePage>
@@ -118,8 +118,10 @@ void BareBrowserWindow::issue(const QString &address)
 
 void BareBrowserWindow::savePage()
 {
-    const QString path = QFileDialog::getSaveFileName(this, u"Save page"_s, windowTitle() + u".html"_s,
-                                                      u"Page in one file (*.mhtml);;Page (*.html)"_s);
+    FileDialog dialog(this, u"Save page"_s, QString(), u"Page in one file (*.mhtml);;Page (*.html)"_s);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(windowTitle().replace(u'/', u'-') + u".html"_s);
+    const QString path = dialog.choose();
     if (!path.isEmpty())
         mBrowser->page()->save(path, path.endsWith(".mhtml"_L1, Qt::CaseInsensitive)
                                          ? QWebEngineDownloadRequest::MimeHtmlSaveFormat

@@ -4,7 +4,6 @@
 #include "ui_DirectoryWindow.h"
 
 #include <QDir>
-#include <QFileSystemModel>
 #include <QStorageInfo>
 
 using namespace Qt::StringLiterals;
@@ -24,27 +23,27 @@ bool isForUsers(const QString &path)
 }
 } // namespace
 
-DirectoryWindow::DirectoryWindow(QWidget *main)
-    : QDialog(main), mUi(std::make_unique<Ui::DirectoryWindow>()), mFolders(new QFileSystemModel(this))
+DirectoryWindow::DirectoryWindow(QWidget *main) : QDialog(main), mUi(std::make_unique<Ui::DirectoryWindow>())
 {
     mUi->setupUi(this);
     setObjectName(u"frmDirSel"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     mUi->drvDirSelect->addItems(drives());
-    mFolders->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-    mFolders->setRootPath(QString());
-    mUi->dirDirSelect->setModel(mFolders);
-    for (int column = 1; column < mFolders->columnCount(); ++column)
+    mFolders.setIconProvider(&mIcons);
+    mFolders.setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
+    mFolders.setRootPath(QString());
+    mUi->dirDirSelect->setModel(&mFolders);
+    for (int column = 1; column < mFolders.columnCount(); ++column)
         mUi->dirDirSelect->hideColumn(column);
     // The folders above come one after the other, and each moves what is below it.
-    connect(mFolders, &QFileSystemModel::directoryLoaded, this, [this] {
+    connect(&mFolders, &QFileSystemModel::directoryLoaded, this, [this] {
         mUi->dirDirSelect->scrollTo(mUi->dirDirSelect->currentIndex(), QAbstractItemView::PositionAtCenter);
     });
     connect(mUi->drvDirSelect, &QComboBox::activated, this, &DirectoryWindow::chooseDrive);
     connect(mUi->dirDirSelect->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &now) {
                 if (now.isValid())
-                    takeDirectory(mFolders->filePath(now));
+                    takeDirectory(mFolders.filePath(now));
             });
     connect(mUi->cmdDirList_0, &QPushButton::clicked, this, &QDialog::accept);
     connect(mUi->cmdDirList_1, &QPushButton::clicked, this, &QDialog::reject);
@@ -107,7 +106,7 @@ void DirectoryWindow::takeDirectory(const QString &path)
 
 void DirectoryWindow::showInTree()
 {
-    const QModelIndex index = mFolders->index(QDir::cleanPath(mDirectory));
+    const QModelIndex index = mFolders.index(QDir::cleanPath(mDirectory));
     mUi->dirDirSelect->setCurrentIndex(index);
     mUi->dirDirSelect->expand(index);
     mUi->dirDirSelect->scrollTo(index, QAbstractItemView::PositionAtCenter);

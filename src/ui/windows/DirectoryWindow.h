@@ -1,10 +1,11 @@
 // Chooses a directory: a list of drives, a tree of folders, the path in words. It is made for one choice.
 #pragma once
 
-#include <QDialog>
-#include <memory>
+#include "ui/look/FileIcons.h"
 
-class QFileSystemModel;
+#include <QDialog>
+#include <QFileSystemModel>
+#include <memory>
 
 namespace Ui {
 class DirectoryWindow;
@@ -37,7 +38,8 @@ class DirectoryWindow : public QDialog
     void finish(int result);
 
     std::unique_ptr<Ui::DirectoryWindow> mUi;
-    QFileSystemModel *mFolders;
+    FileIcons mIcons; ///< of the folders, which go first
+    QFileSystemModel mFolders;
     QString mDirectory;
     int mGoodDrive = 0; ///< the last one that could be read
 };

@@ -1,10 +1,10 @@
 #include "ui/windows/QtDialogs.h"
 
 #include "ui/look/Icons.h"
+#include "ui/windows/FileDialog.h"
 #include "ui/windows/ScreenRoom.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -99,24 +99,20 @@ QString QtDialogs::input(const QString &prompt, const QString &title, const QStr
 
 QString QtDialogs::chooseFile(const QString &directory, const QString &filter, const QString &title)
 {
-    QFileDialog dialog(windowInUse(), title, directory, qtFilter(filter));
-    prepare(dialog, title);
+    FileDialog dialog(windowInUse(), title, directory, qtFilter(filter));
     dialog.setFileMode(QFileDialog::ExistingFile);
-    ScreenRoom::fitOnScreen(dialog, dialog.sizeHint());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return dialog.choose();
 }
 
 QString QtDialogs::chooseFileToAppend(const QString &proposal, const QString &filter, const QString &title)
 {
     const QFileInfo proposed(proposal);
-    QFileDialog dialog(windowInUse(), title, proposed.path(), qtFilter(filter));
-    prepare(dialog, title);
+    FileDialog dialog(windowInUse(), title, proposed.path(), qtFilter(filter));
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // what the file holds stays
     dialog.selectFile(proposed.fileName());
-    ScreenRoom::fitOnScreen(dialog, dialog.sizeHint());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return dialog.choose();
 }
 
 QString QtDialogs::qtFilter(const QString &filter)
