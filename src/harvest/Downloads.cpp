@@ -2,11 +2,27 @@
 
 #include "app/OptionNumbers.h"
 #include "transfer/RequestRules.h"
+#include "transfer/TargetNames.h"
+#include "util/FileNames.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+/// One of the files that hold the names from `first` on, up to `file`, stands for it where it is the same.
+QString withoutRepeat(const QString &first, const QString &file)
+{
+    for (QString earlier = first; earlier != file && cUtility::isNameTaken(earlier);
+         earlier = TargetNames::nextPath(earlier)) {
+        if (cUtility::isSameContent(earlier, file) && QFile::remove(file))
+            return earlier;
+    }
+    return file;
+}
+} // namespace
 
 Downloads::Downloads(const Context &context, const FilePlaces &places, const Limits &limits, const OptionBoxes &options,
                      BrowserHolder &browser, Transfers &transfers, cInetWS &inet)
@@ -15,10 +31,13 @@ Downloads::Downloads(const Context &context, const FilePlaces &places, const Lim
 {
 }
 
-QString Downloads::fetch(const QString &url, const QString &name)
+QString Downloads::fetch(const QString &url, const QString &name, Turn turn)
 {
     const QScopedValueRollback<bool> underWay(mIsUnderWay, true);
-    const Download result = transfer(url, mPlaces.txtSFMNDir.text() + name);
+    const QString folder = mPlaces.txtSFMNDir.text();
+    Download result = transfer(url, folder + name);
+    if (turn == Turn::Again)
+        result.file = withoutRepeat(folder + TargetNames::safeName(name), result.file);
     mLast = {result.file.isEmpty() ? name : QFileInfo(result.file).fileName(), url, result.refusal, result.size,
              result.seconds};
     Q_EMIT fetched(mLast);

@@ -26,9 +26,13 @@ class Downloads : public QObject
     Downloads(const Context &context, const FilePlaces &places, const Limits &limits, const OptionBoxes &options,
               BrowserHolder &browser, Transfers &transfers, cInetWS &inet);
 
+    /// A first fetch, or that of what an earlier run may have fetched before it was stopped.
+    enum class Turn { First, Again };
+
     /// Fetches `url` into a file `name` of the folder, or under the next free name where that is taken. The name of the
-    /// file; `name` where there is none.
-    QString fetch(const QString &url, const QString &name);
+    /// file; `name` where there is none. Again: a file that came like this before, byte for byte, is kept in place of
+    /// the new one, so that the numbers behind it keep their names.
+    QString fetch(const QString &url, const QString &name, Turn turn = Turn::First);
     /// The last fetch() has made a file.
     [[nodiscard]] bool hasArrived() const { return mLast.refusal.isEmpty(); }
     /// Bytes that a file must have.

@@ -13,7 +13,7 @@ QString ManualItems::GetFileNameMNDL(const QString &url) const
     return areFiles() ? DownloadNames::fileName(url) : QString();
 }
 
-QString ManualItems::NavFileOrSite(int mode, const QString &url, bool noOpen)
+QString ManualItems::NavFileOrSite(int mode, const QString &url, bool noOpen, Downloads::Turn turn)
 {
     return guardedResult(mContext.log, {module, "Function NavFileOrSite"_L1}, QString(), [&](QString &name) {
         const QString address = url.isEmpty() ? mDesk.GetUseBaseUrl(mode) : url;
@@ -25,7 +25,7 @@ QString ManualItems::NavFileOrSite(int mode, const QString &url, bool noOpen)
                 mNavigation.OpenSite(address);
             return;
         }
-        name = mDownloads.fetch(address, file);
+        name = mDownloads.fetch(address, file, turn);
         if (hasArrived())
             Q_EMIT fileArrived(name);
     });

@@ -21,7 +21,7 @@ class ManualItems : public QObject
     [[nodiscard]] QString GetFileNameMNDL(const QString &url) const;
     /// Fetches the file at `url`, or opens it as a site unless `noOpen`. With "" the address that GetUseBaseUrl gives
     /// for `mode`. The file's name, whether it came or was refused; "" for what is no file.
-    QString NavFileOrSite(int mode, const QString &url, bool noOpen);
+    QString NavFileOrSite(int mode, const QString &url, bool noOpen, Downloads::Turn turn = Downloads::Turn::First);
     /// What came of the last file: it is there, or it was too small.
     [[nodiscard]] bool hasArrived() const { return mDownloads.hasArrived(); }
     [[nodiscard]] qint64 leastSize() const { return mDownloads.leastSize(); }

@@ -48,8 +48,7 @@ void ManualRun::run()
             break;
     }
     const QString status = end();
-    if (!mWalk.isSeries())
-        mWalk.savePosition();
+    mWalk.end(mRuns.isStopped(kind));
     mRuns.FinalizeProcess(status);
 }
 
@@ -84,7 +83,7 @@ bool ManualRun::navigates()
 /// Fetches the item where it is a file. False when the run was stopped meanwhile.
 bool ManualRun::fetch(qint64 item, const QString &url, bool &isFile)
 {
-    const QString name = url.isEmpty() ? QString() : mItems.NavFileOrSite(itemOfList, url, true);
+    const QString name = url.isEmpty() ? QString() : mItems.NavFileOrSite(itemOfList, url, true, mWalk.turn(item));
     isFile = !name.isEmpty();
     if (!isFile)
         return true;

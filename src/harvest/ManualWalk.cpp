@@ -41,7 +41,8 @@ void ManualWalk::beginList(bool behindStop)
 
 QString ManualWalk::take(qint64 item)
 {
-    return mIsSeries ? takeOfSeries(item) : takeOfList(item);
+    mTaken = mIsSeries ? takeOfSeries(item) : takeOfList(item);
+    return mTaken;
 }
 
 /// Another list on show has a base of its own.
@@ -64,6 +65,17 @@ QString ManualWalk::takeOfSeries(qint64 item)
     return mAddress;
 }
 
+Downloads::Turn ManualWalk::turn(qint64 item)
+{
+    const auto isRemembered = [&] {
+        return mIsSeries ? mAutoIncr.isRemembered()
+                         : list().list(static_cast<int>(item)) ==
+                               mTables.SaveMNLastUrl(list(), mDesk.table(mPanel.mintMNRunningList), false);
+    };
+    const bool again = item == mFirst && (mTaken == mStoppedAt || isRemembered());
+    return again ? Downloads::Turn::Again : Downloads::Turn::First;
+}
+
 void ManualWalk::select(qint64 place)
 {
     cLstBx::UnSelect(list());
@@ -79,7 +91,9 @@ void ManualWalk::keepSeries()
         mAutoIncr.MaintainAutoIncr();
 }
 
-void ManualWalk::savePosition()
+void ManualWalk::end(bool stopped)
 {
-    static_cast<void>(mTables.SaveMNLastUrl(list(), mDesk.table(mPanel.mintMNRunningList), true));
+    mStoppedAt = stopped ? mTaken : QString();
+    if (!mIsSeries)
+        mTables.SaveMNLastUrl(list(), mDesk.table(mPanel.mintMNRunningList), true);
 }

@@ -3,6 +3,7 @@
 // the boxes that show it, and remembers where the run stood. Knows lists.
 #pragma once
 
+#include "harvest/Downloads.h"
 #include "lists/AutoIncr.h"
 #include "lists/ManualTables.h"
 
@@ -26,13 +27,16 @@ class ManualWalk
     [[nodiscard]] QString take(qint64 item);
     /// The list that is walked.
     [[nodiscard]] ListBox &list() const { return mDesk.list(mPanel.mintMNRunningList); }
+    /// Again for the first item of a walk that goes on where an earlier one stood: in this session, or as the database
+    /// remembers it.
+    [[nodiscard]] Downloads::Turn turn(qint64 item);
     /// Shows that place of the list as the one in turn.
     void select(qint64 place);
     [[nodiscard]] bool usesSiteData() const { return mDesk.usesSiteData(); }
     /// The user has stopped the run: a series is kept as far as it came, where that is wanted.
     void keepSeries();
-    /// The list's table remembers where the run stood.
-    void savePosition();
+    /// The walk is over. The table of a list remembers where it stood.
+    void end(bool stopped);
 
   private:
     void beginSeries();
@@ -56,4 +60,6 @@ class ManualWalk
     QString mAddress;
     int mPosition = 0;
     qint64 mNumber = 0;
+    QString mTaken;     ///< last
+    QString mStoppedAt; ///< in the walk before, where that was stopped
 };

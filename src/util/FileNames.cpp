@@ -4,6 +4,7 @@
 #include "util/Text.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <algorithm>
@@ -75,6 +76,20 @@ bool cUtility::isNameTaken(const QString &path)
 {
     const QFileInfo info(path);
     return !path.isEmpty() && (info.exists() || info.isSymLink());
+}
+
+bool cUtility::isSameContent(const QString &path, const QString &other)
+{
+    constexpr qint64 piece = 65'536;
+    QFile first(path), second(other);
+    if (first.size() != second.size() || !first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly))
+        return false;
+    while (!first.atEnd()) {
+        const QByteArray bytes = first.read(piece);
+        if (bytes.isEmpty() || bytes != second.read(piece))
+            return false;
+    }
+    return true;
 }
 
 QString cUtility::GetVacantFileSpecs(const QString &path)

@@ -32,6 +32,9 @@ enum class FilePart {
 /// True when something (a file, a folder, a link to nowhere) has this name.
 [[nodiscard]] bool isNameTaken(const QString &path);
 
+/// True for two files that hold the same bytes; false where one cannot be read.
+[[nodiscard]] bool isSameContent(const QString &path, const QString &other);
+
 /// `path` while nothing has that name; otherwise the first free one, number 1 of the name raised by 1 at each try.
 [[nodiscard]] QString GetVacantFileSpecs(const QString &path);
 

@@ -5,6 +5,7 @@
 #include "store/Transaction.h"
 #include "transfer/RawServer.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -488,4 +489,75 @@ TEST_F(Fetching, XInTheMessageThatEndsAutoNavigateFetchesNothing)
     clickGo();
     EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
     EXPECT_TRUE(server.requests.isEmpty());
+}
+
+namespace {
+class FetchingAgain : public Fetching
+{
+  protected:
+    /// Fetches pictures with X in the pause behind the third one, and Go again: nine more numbers from there.
+    void stopAndResume()
+    {
+        for (int number = 1; number <= 11; ++number)
+            server.route(path(number), okReply(picture(number)));
+        form.manual.incMNDLTiming.setText(u"005"_s);
+        setSeries(server.address(QString::fromLatin1(path(1))), 6);
+        QObject::connect(&downloads, &Downloads::fetched, &form, [this] {
+            if (files.size() == 3)
+                pump.after(second, [this] { clickX(); });
+        });
+        clickGo();
+        EXPECT_EQ(lastStatus(), u"Stopped (USER)"_s);
+        ASSERT_EQ(files.size(), 3);
+        changeBetween();
+        clickGo();
+        EXPECT_EQ(lastStatus(), u"Stopped (FINISHED)"_s);
+    }
+    [[nodiscard]] QStringList namesInFolder() const
+    {
+        return QDir(folder.path()).entryList({u"p-*.jpg"_s}, QDir::Files, QDir::Name);
+    }
+    [[nodiscard]] static QByteArray path(int number) { return "/a.com/p-" + QByteArray::number(number) + ".jpg"; }
+    [[nodiscard]] static QByteArray picture(int number) { return "picture " + QByteArray::number(number); }
+
+    std::function<void()> changeBetween = [] {};
+};
+} // namespace
+
+TEST_F(FetchingAgain, EveryPictureOfAStoppedSeriesLiesThereOnceUnderItsOwnName)
+{
+    stopAndResume();
+    EXPECT_EQ(server.requests.size(), 12) << "the third one is asked for again";
+    EXPECT_EQ(namesInFolder().size(), 11);
+    for (int number = 1; number <= 11; ++number)
+        EXPECT_EQ(content(u"p-%1.jpg"_s.arg(number)), picture(number));
+    ASSERT_EQ(files.size(), 12);
+    EXPECT_EQ(files[3].name, u"p-3.jpg"_s);
+    EXPECT_TRUE(told().contains(u"4/8 p-3.jpg"_s)) << told().join(u'|').toStdString();
+}
+
+TEST_F(FetchingAgain, APictureThatIsAnotherOneByNowIsKeptBeside)
+{
+    changeBetween = [this] { server.route(path(3), okReply("another"_ba)); };
+    stopAndResume();
+    EXPECT_EQ(namesInFolder().size(), 12);
+    EXPECT_EQ(content(u"p-3.jpg"_s), picture(3));
+    EXPECT_EQ(content(u"p-4.jpg"_s), "another");
+}
+
+TEST_F(FetchingAgain, APictureThatHasBeenTakenAwayComesBack)
+{
+    changeBetween = [this] { ASSERT_TRUE(QFile::remove(folder.filePath(u"p-3.jpg"_s))); };
+    stopAndResume();
+    EXPECT_EQ(namesInFolder().size(), 11);
+    EXPECT_EQ(content(u"p-3.jpg"_s), picture(3));
+}
+
+TEST_F(Fetching, TheSameAddressTwiceInAListGivesTwoFiles)
+{
+    server.route("/a.jpg", okReply("xyz"_ba));
+    fill({server.address(u"/a.jpg"_s), server.address(u"/a.jpg"_s)});
+    clickGo();
+    ASSERT_EQ(files.size(), 2);
+    EXPECT_NE(files[0].name, files[1].name);
 }

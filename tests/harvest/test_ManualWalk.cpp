@@ -130,7 +130,7 @@ TEST_F(ManualWalkTest, TheTableRemembersWhereAListStood)
     list().setItems({u"http://a.com/"_s, u"http://b.com/"_s});
     walk.begin(false);
     static_cast<void>(walk.take(1));
-    walk.savePosition();
+    walk.end(false);
     EXPECT_EQ(rows(u"MNUrlsA"_s, u"LastUrl"_s).constFirst(), u"http://b.com/"_s);
 }
 
@@ -180,7 +180,46 @@ TEST_F(ManualWalkTest, AWalkKeepsToItsListItsBaseAndItsTableWhileAnotherListIsOn
     form.series.cboMNAutoUrl.setText(u"www.other.com"_s);
     EXPECT_EQ(walk.take(1), u"www.milk.com"_s);
     EXPECT_EQ(form.lists.lstMN(0).listIndex(), 1);
-    walk.savePosition();
+    walk.end(false);
     EXPECT_EQ(rows(u"MNUrlsA"_s, u"LastUrl"_s), QStringList{u"milk"_s});
     EXPECT_EQ(rows(u"MNUrlsC"_s, u"LastUrl"_s), QStringList{QString()});
+}
+
+TEST_F(ManualWalkTest, TheItemAtWhichAWalkWasStoppedIsTakenAgain)
+{
+    const auto turns = [this] {
+        QList<Downloads::Turn> taken;
+        walk.begin(false);
+        for (qint64 item = walk.first(); item <= walk.first() + 1; ++item) {
+            static_cast<void>(walk.take(item));
+            taken.append(walk.turn(item));
+        }
+        return taken;
+    };
+    using enum Downloads::Turn;
+    list().setItems({u"http://a.com/1.jpg"_s, u"http://a.com/2.jpg"_s, u"http://a.com/3.jpg"_s});
+    EXPECT_EQ(turns(), (QList{First, First}));
+    walk.end(true);
+    EXPECT_EQ(turns(), (QList{Again, First})) << "the second one, and behind it the third";
+    walk.end(false);
+    list().setListIndex(1);
+    EXPECT_EQ(turns(), (QList{First, First})) << "a walk that came to its end is not gone on with";
+}
+
+TEST_F(ManualWalkTest, WhatTheDatabaseRemembersIsTakenAgain)
+{
+    const auto first = [this] {
+        walk.begin(false);
+        static_cast<void>(walk.take(walk.first()));
+        return walk.turn(walk.first());
+    };
+    addRow(*database, u"MNUrlsA"_s, {{u"Url"_s, u"b"_s}, {u"LastUrl"_s, u"b"_s}});
+    list().setItems({u"a"_s, u"b"_s});
+    EXPECT_EQ(first(), Downloads::Turn::First);
+    list().setListIndex(1);
+    EXPECT_EQ(first(), Downloads::Turn::Again);
+    setSeries(u"www.pics.com/p1.jpg"_s, 1);
+    EXPECT_EQ(first(), Downloads::Turn::First);
+    addRow(*database, u"AutoTextA"_s, {{u"Url"_s, u"www.pics.com/p1.jpg"_s}, {u"IncrNum"_s, u"1"_s}});
+    EXPECT_EQ(first(), Downloads::Turn::Again);
 }

@@ -155,4 +155,23 @@ TEST_F(FreeNames, OutputNamesAreTakenInAnyCase)
     make(u"OUT.txt"_s);
     EXPECT_EQ(cUtility::OutPutFileName(path(u"Out.TXT"_s)), path(u"Out_1.TXT"_s));
 }
+
+TEST_F(FreeNames, FilesAreTheSameByTheirBytesAlone)
+{
+    const auto write = [this](const QString &name, const QByteArray &bytes) {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    };
+    const QByteArray large(200'000, 'x');
+    write(u"a"_s, large);
+    write(u"b"_s, large);
+    write(u"c"_s, large.chopped(1) + 'y');
+    write(u"d"_s, large.chopped(1));
+    write(u"e"_s, {});
+    write(u"f"_s, {});
+    for (const auto &[one, other, same] :
+         {std::tuple{"a", "b", true}, {"a", "c", false}, {"a", "d", false}, {"e", "f", true}, {"a", "none", false}})
+        EXPECT_EQ(cUtility::isSameContent(path(QLatin1StringView(one)), path(QLatin1StringView(other))), same)
+            << one << other;
+}
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "ui/look/Icons.h"
 #include "ui/windows/FileDialog.h"
-#include "ui/windows/ScreenRoom.h"
 
 #include <QApplication>
 #include <QFileInfo>
