@@ -2,6 +2,7 @@
 
 #include "ui/look/Icons.h"
 #include "ui/windows/FileDialog.h"
+#include "ui/windows/ScreenRoom.h"
 
 #include <QApplication>
 #include <QFileInfo>
