@@ -15,7 +15,6 @@ FileDialog::FileDialog(QWidget *parent, const QString &title, const QString &pla
     if (start.isFile())
         selectFile(start.fileName());
     setHistory({});
-    setWindowModality(Qt::ApplicationModal);
 }
 
 QString FileDialog::choose()

@@ -100,6 +100,7 @@ QString QtDialogs::input(const QString &prompt, const QString &title, const QStr
 QString QtDialogs::chooseFile(const QString &directory, const QString &filter, const QString &title)
 {
     FileDialog dialog(windowInUse(), title, directory, qtFilter(filter));
+    prepare(dialog, title);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return dialog.choose();
 }
@@ -108,6 +109,7 @@ QString QtDialogs::chooseFileToAppend(const QString &proposal, const QString &fi
 {
     const QFileInfo proposed(proposal);
     FileDialog dialog(windowInUse(), title, proposed.path(), qtFilter(filter));
+    prepare(dialog, title);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // what the file holds stays
