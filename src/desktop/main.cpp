@@ -11,6 +11,7 @@
 #include "desktop/MainWindowPlace.h"
 #include "desktop/OneInstance.h"
 #include "desktop/PictureStart.h"
+#include "desktop/ProgramEnd.h"
 #include "desktop/Splash.h"
 #include "engine/BrowserSwitches.h"
 #include "engine/webengine/WebEngineSetup.h"
@@ -85,20 +86,6 @@ QStringList words(int argc, char *argv[])
     return all;
 }
 
-/// The system or the desktop's session wants us to end: nothing is asked any more, and an open box is no reason to
-/// stay.
-void connectEnd(Program &program, const StopSignals &stopSignals)
-{
-    const auto end = [&program] {
-        while (QWidget *box = QApplication::activeModalWidget())
-            if (!box->close())
-                break;
-        program.lifeCycle.end();
-    };
-    QObject::connect(&stopSignals, &StopSignals::stopRequested, &program.lifeCycle, end);
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &program.lifeCycle, end, Qt::DirectConnection);
-}
-
 /// A second start brings the first one's window up.
 void bringUp(QWidget &window)
 {
@@ -139,7 +126,7 @@ int runHarvester(const QString &appName, const QStringList &switches, Splash &sp
     connectWindow(program, window);
     connectTally(program, window, pump);
     const StopSignals stopSignals;
-    connectEnd(program, stopSignals);
+    connectEnd(program.lifeCycle, stopSignals);
     QObject::connect(&instance, &OneInstance::startedAgain, &window, [&window] { bringUp(window); });
     QObject::connect(&program.startUp, &StartUp::loaded, &window, [&] {
         // Placed before it is shown, so that the window manager takes our place and nothing jumps.

@@ -33,6 +33,29 @@ class Faults(trawlex.Case):
         out, _ = run.communicate(timeout=240)
         return run.returncode, out
 
+    def start_in(self, folder, browser):
+        """A run on a database that lies in `folder` and not beside the logs and the browser's profile."""
+        path = shutil.copy(self.make_database(browser), folder)
+        words = [str(folder) if word == self.folder else word for word in self.words(browser, OPEN)]
+        log = open(self.folder + "/stderr.txt", "w+", encoding="utf-8")
+        self.addCleanup(log.close)
+        run = subprocess.Popen(words, env=self.env, stdout=subprocess.PIPE, stderr=log, text=True)
+        self.addCleanup(lambda: (run.poll() is None and run.kill(), run.wait(), run.stdout.close()))
+        run.status_lines = lambda: pathlib.Path(log.name).read_text(encoding="utf-8").splitlines()
+        return path, run
+
+    def data_folder(self):
+        folder = pathlib.Path(self.folder, "data-of-runs")
+        folder.mkdir()
+        return folder
+
+    def assert_ended_as_gone(self, run):
+        """Gives how many rows of each table the run says that it has stored."""
+        status, out = self.finished(run)
+        self.assertEqual(status, 1)
+        self.assertIn("Stopped (ERROR, DATABASE HAS BEEN MOVED OR DELETED)", run.status_lines())
+        return trawlex.json.loads(out)["rows"]
+
     def test_a_browser_that_is_killed_is_started_again_and_no_page_is_lost(self):
         path = self.make_database()
         run = self.start_harvest("iexplore", OPEN)
@@ -45,17 +68,55 @@ class Faults(trawlex.Case):
         self.assertCountEqual(trawlex.rows(path, "SiteSummary", ["Url"]),
                               [(row["Url"],) for row in trawlex.EXPECTED["SiteSummary"]])
 
-    def test_a_database_that_is_locked_for_a_while_is_waited_for(self):
-        path = self.make_database()
-        run = self.start_harvest("iexplore", OPEN)
+    def waits_for_the_lock(self, browser):
+        path = self.make_database(browser)
+        run = self.start_harvest(browser, OPEN)
         self.wait_for_status(run, "3/")
         with contextlib.closing(sqlite3.connect(path, isolation_level=None)) as other:
             other.execute("BEGIN IMMEDIATE")
-            self.wait_for_status(run, "Database is locked. Waiting")
-            time.sleep(3)
+            time.sleep(8)
+            self.assertIn("Database is locked. Waiting", run.status_lines())
             other.execute("ROLLBACK")
         status, _ = self.finished(run)
         self.assertEqual(status, 0, run.status_lines()[-5:])
+        self.assert_expected_rows(path)
+
+    def test_a_database_that_is_locked_for_eight_seconds_is_waited_for_with_the_free_standing_browser(self):
+        self.waits_for_the_lock("iexplore")
+
+    def test_a_database_that_is_locked_for_eight_seconds_is_waited_for_with_the_built_in_browser(self):
+        self.waits_for_the_lock("internal")
+
+    def waits_until_writable(self, browser):
+        path = self.make_database(browser)
+        run = self.start_harvest(browser, OPEN)
+        self.wait_for_status(run, "3/")
+        self.addCleanup(subprocess.run, ["chattr", "-i", path, path + "-wal"], check=False, stderr=subprocess.DEVNULL)
+        if subprocess.run(["chattr", "+i", path, path + "-wal"], check=False, stderr=subprocess.DEVNULL).returncode != 0:
+            self.skipTest("taking the right to write from an open file takes the superuser, and not every disk can")
+        self.wait_for_status(run, "Database is read-only. Waiting")
+        time.sleep(2)
+        subprocess.run(["chattr", "-i", path, path + "-wal"], check=True)
+        status, _ = self.finished(run)
+        self.assertEqual(status, 0, run.status_lines()[-5:])
+        self.assert_expected_rows(path)
+
+    def test_a_database_that_becomes_read_only_for_a_while_is_waited_for_with_the_free_standing_browser(self):
+        self.waits_until_writable("iexplore")
+
+    def test_a_database_that_becomes_read_only_for_a_while_is_waited_for_with_the_built_in_browser(self):
+        self.waits_until_writable("internal")
+
+    def test_rights_that_are_taken_away_in_a_run_lose_nothing(self):
+        folder = self.data_folder()
+        path, run = self.start_in(folder, "iexplore")
+        self.wait_for_status(run, "3/")
+        for file in folder.iterdir():
+            file.chmod(0o400)
+        folder.chmod(0o500)
+        status, _ = self.finished(run)
+        folder.chmod(0o700)
+        self.assertEqual(status, 0, run.status_lines()[-5:])  # open files stay as they were opened
         self.assert_expected_rows(path)
 
     def test_a_database_that_stays_locked_ends_the_run_after_a_minute_and_the_next_run_completes_it(self):
@@ -79,21 +140,15 @@ class Faults(trawlex.Case):
         if mounted.returncode != 0:
             self.skipTest("a disk of its own takes the superuser")
         self.addCleanup(subprocess.run, ["umount", "-l", small], check=False)
-        path = os.path.join(small, os.path.basename(self.make_database()))
-        shutil.copy(os.path.join(self.folder, "Trawlex-0.mdb"), path)
-        words = [str(small) if word == self.folder else word for word in self.words("iexplore", OPEN)]
-        with open(self.folder + "/full.txt", "w+", encoding="utf-8") as log:
-            run = subprocess.Popen(words, env=self.env, stdout=subprocess.DEVNULL, stderr=log)
-            self.addCleanup(lambda: (run.poll() is None and run.kill(), run.wait()))
-            run.status_lines = lambda: pathlib.Path(log.name).read_text(encoding="utf-8").splitlines()
-            self.wait_for_status(run, "3/")
-            with contextlib.suppress(OSError), open(small / "filler", "wb") as filler:
-                while filler.write(b"x" * 4096):
-                    filler.flush()
-            self.wait_for_status(run, "Disk is full. Waiting")
-            time.sleep(2)
-            os.remove(small / "filler")
-            self.assertEqual(run.wait(timeout=240), 0, run.status_lines()[-5:])
+        path, run = self.start_in(small, "iexplore")
+        self.wait_for_status(run, "3/")
+        with contextlib.suppress(OSError), open(small / "filler", "wb") as filler:
+            while filler.write(b"x" * 4096):
+                filler.flush()
+        self.wait_for_status(run, "Disk is full. Waiting")
+        time.sleep(2)
+        os.remove(small / "filler")
+        self.assertEqual(self.finished(run)[0], 0, run.status_lines()[-5:])
         self.assert_expected_rows(path)
 
     def test_a_database_that_is_deleted_ends_the_run_with_a_clear_line(self):
@@ -105,6 +160,30 @@ class Faults(trawlex.Case):
         status, _ = self.finished(run)
         self.assertEqual(status, 1)
         self.assertIn("Stopped (ERROR, DATABASE HAS BEEN MOVED OR DELETED)", run.status_lines())
+
+    def keeps_what_it_reported_when_the_folder_is_moved(self, browser):
+        folder = self.data_folder()
+        path, run = self.start_in(folder, browser)
+        self.wait_for_status(run, "4/")
+        away = folder.rename(folder.with_name("moved-in-a-run"))
+        reported = self.assert_ended_as_gone(run)
+        self.assertFalse(folder.exists(), "nothing is made in its place")
+        for table in trawlex.TABLES:
+            self.assertEqual(trawlex.count(away / os.path.basename(path), table), reported.get(table, 0), table)
+
+    def test_a_folder_that_is_moved_in_a_run_holds_what_was_reported_by_the_free_standing_browser(self):
+        self.keeps_what_it_reported_when_the_folder_is_moved("iexplore")
+
+    def test_a_folder_that_is_moved_in_a_run_holds_what_was_reported_by_the_built_in_browser(self):
+        self.keeps_what_it_reported_when_the_folder_is_moved("internal")
+
+    def test_a_folder_that_is_deleted_ends_the_run_with_a_clear_line(self):
+        folder = self.data_folder()
+        _, run = self.start_in(folder, "iexplore")
+        self.wait_for_status(run, "3/")
+        shutil.rmtree(folder)
+        self.assert_ended_as_gone(run)
+        self.assertFalse(folder.exists(), "nothing is made in its place")
 
     def test_a_folder_for_data_that_cannot_be_made_is_told(self):
         pathlib.Path(self.folder, "data").write_text("a file in its place", encoding="utf-8")

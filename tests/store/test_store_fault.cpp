@@ -4,6 +4,7 @@
 #include "OtherProcess.h"
 
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QStandardPaths>
 #include <sys/mount.h>
 
@@ -123,6 +124,22 @@ TEST_F(StoreFaultTest, AFolderThatMayNotBeWrittenSaysSo)
         EXPECT_EQ(database->fault(), StoreFault::ReadOnly);
     }
     QFile::setPermissions(mFolder.path(), QFile::Permissions(0x7777));
+}
+
+// A file that is open stays writable whatever its rights become; but not on a disk that has become one to read.
+TEST_F(StoreFaultTest, FilesThatBecomeReadOnlyWhileTheyAreOpenSaySo)
+{
+    auto database = created();
+    EXPECT_TRUE(storePage(*database, 1));
+    const QStringList files{database->DatabasePath(), database->DatabasePath() + u"-wal"_s};
+    const auto makeWritable = qScopeGuard([&] { QProcess::execute(u"chattr"_s, QStringList(u"-i"_s) + files); });
+    if (QProcess::execute(u"chattr"_s, QStringList(u"+i"_s) + files) != 0)
+        GTEST_SKIP() << "only the superuser can do that to files, and not on every disk";
+    EXPECT_FALSE(storePage(*database, 2));
+    EXPECT_EQ(mFault, StoreFault::ReadOnly) << mLog.text();
+    QProcess::execute(u"chattr"_s, QStringList(u"-i"_s) + files);
+    EXPECT_TRUE(storePage(*database, 2)) << mLog.text();
+    EXPECT_EQ(rowsIn(u"Trawlex-0.mdb"_s), 6);
 }
 
 TEST_F(StoreFaultTest, AFileThatAnotherProgramWritesToIsLockedAndItsHolderIsNamed)

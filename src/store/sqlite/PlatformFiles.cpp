@@ -48,6 +48,11 @@ bool PlatformFiles::meansFull(int systemError)
 {
     return systemError == ENOSPC || systemError == EDQUOT || systemError == EFBIG;
 }
+
+bool PlatformFiles::meansReadOnly(int systemError)
+{
+    return systemError == EROFS || systemError == EPERM || systemError == EACCES;
+}
 #else
 std::optional<PlatformFiles::Identity> PlatformFiles::identityOf(const QByteArray &path)
 {
@@ -67,6 +72,11 @@ bool PlatformFiles::mayWrite(const QString &path)
 bool PlatformFiles::meansFull(int systemError)
 {
     return systemError == ENOSPC;
+}
+
+bool PlatformFiles::meansReadOnly(int systemError)
+{
+    return systemError == EACCES;
 }
 #endif
 

@@ -27,6 +27,8 @@ struct Identity
 
 /// True for an error number of the system that says: no more room, no more for this user, no longer file.
 [[nodiscard]] bool meansFull(int systemError);
+/// True for one that says: this is not to be written any more.
+[[nodiscard]] bool meansReadOnly(int systemError);
 
 /// The programs other than this one that hold one of the files locked for writing, each as "name (process number)".
 [[nodiscard]] QStringList lockHolders(const QStringList &paths);

@@ -2,6 +2,8 @@
 #include "store/sqlite/PlatformFiles.h"
 
 #include <QFileInfo>
+#include <algorithm>
+#include <array>
 #include <sqlite3.h>
 
 namespace {
@@ -32,25 +34,29 @@ StoreFault whyNotOpened(const QString &path)
     return folder == StoreFault::None ? StoreFault::Failed : folder;
 }
 
-// The system's last words about the file or the log beside it.
-bool isToldFull(sqlite3 *handle)
+// The system's last words about the file and the log beside it.
+std::array<int, 2> lastSystemErrors(sqlite3 *handle)
 {
-    int ofFile = 0;
-    int ofLog = 0;
+    std::array<int, 2> errors{};
     sqlite3_file *log = nullptr;
-    sqlite3_file_control(handle, "main", SQLITE_FCNTL_LAST_ERRNO, &ofFile);
+    if (handle == nullptr)
+        return errors;
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_LAST_ERRNO, &errors[0]);
     sqlite3_file_control(handle, "main", SQLITE_FCNTL_JOURNAL_POINTER, &log);
     if (log != nullptr && log->pMethods != nullptr)
-        log->pMethods->xFileControl(log, SQLITE_FCNTL_LAST_ERRNO, &ofLog);
-    return PlatformFiles::meansFull(ofFile) || PlatformFiles::meansFull(ofLog);
+        log->pMethods->xFileControl(log, SQLITE_FCNTL_LAST_ERRNO, &errors[1]);
+    return errors;
 }
 
 StoreFault whyNotTransferred(int code, const QString &path, sqlite3 *handle)
 {
     if (code == SQLITE_IOERR_SHORT_READ)
         return StoreFault::Damaged;
-    if ((handle != nullptr && isToldFull(handle)) || PlatformFiles::isFull(path))
+    const std::array told = lastSystemErrors(handle);
+    if (std::any_of(told.begin(), told.end(), PlatformFiles::meansFull) || PlatformFiles::isFull(path))
         return StoreFault::Full;
+    if (std::any_of(told.begin(), told.end(), PlatformFiles::meansReadOnly))
+        return StoreFault::ReadOnly;
     return QFileInfo::exists(path) ? StoreFault::Failed : StoreFault::Gone;
 }
 
