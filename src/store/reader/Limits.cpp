@@ -4,6 +4,14 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#ifdef __SANITIZE_ADDRESS__
+#define HAS_SHADOW_MEMORY
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define HAS_SHADOW_MEMORY
+#endif
+#endif
+
 namespace {
 void bound(__rlimit_resource resource, rlim_t most)
 {
@@ -18,7 +26,7 @@ void limitThisProcess()
     bound(RLIMIT_CPU, processorSeconds);
     bound(RLIMIT_CORE, 0);
     bound(RLIMIT_FSIZE, 0);
-#ifndef __SANITIZE_ADDRESS__
+#ifndef HAS_SHADOW_MEMORY
     constexpr rlim_t memory = 1024UL * 1024UL * 1024UL;
     bound(RLIMIT_AS, memory);
 #endif
