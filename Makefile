@@ -1,5 +1,5 @@
 # The commands of the project; each installs what it needs first. See README.md.
-.PHONY: run install package test test-asan bench check format tidy fuzz deps build clean
+.PHONY: run install package programs test test-asan bench check format tidy fuzz deps build clean
 
 JOBS ?= $(shell nproc)
 PRESET ?= dev
@@ -43,15 +43,16 @@ tidy: build
 
 # PREFIX=/usr/local unless told otherwise; DESTDIR is kept.
 PREFIX ?= /usr/local
-install: deps
-	cmake --preset release
-	cmake --build --preset release -j $(JOBS) --target trawlex trawlex-harvest trawlex-mdb-reader trawlex-browser-holder
+install: programs
 	cmake --install build/release --prefix $(PREFIX)
 
-package: deps
-	cmake --preset release
-	cmake --build --preset release -j $(JOBS)
+package: programs
 	cd build/release && cpack
+
+# What is installed, and no tests.
+programs: deps
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS) --target trawlex trawlex-harvest trawlex-mdb-reader trawlex-browser-holder
 
 build: deps
 	cmake --preset $(PRESET)

@@ -2,6 +2,7 @@
 a restart as it was left, which the next change to it shows."""
 import contextlib
 import os
+import pathlib
 import re
 import sqlite3
 import unittest
@@ -10,6 +11,7 @@ import trawlex
 import window
 
 AUTO, MANUAL, BLOCKING = ["sstSearch(0)"], ["sstSearch(1)"], ["sstSearch(2)", "sstSettings(0)"]
+DIRECTORY = ["sstSearch(2)", "sstSettings(1)", "sstFiles(0)"]
 A_M, SAVE, VIEW = (["sstSearch(2)", "sstSettings(2)", f"sstMiscOptions({page})"] for page in range(3))
 
 # Page, name, key and digits; a step up adds one, but to the series, which goes by its own step.
@@ -48,7 +50,7 @@ ROWS = {"RPgUrlsA": [("MaskName", "Results-100"), ("Url", "http://a.example/")],
         "Block": [("UrlsContent", "/ads/"), ("EmailContent", "noreply")]}
 
 
-class EveryOption(window.WindowCase):
+class OptionCase(window.WindowCase):
     def setUp(self):
         super().setUp()
         self.page = None
@@ -96,6 +98,15 @@ class EveryOption(window.WindowCase):
         self.click(name)
         self.display.do("key", "Home", *["Down"] * entry, "Return")
 
+    def windows(self):
+        return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
+
+    def end(self):
+        self.click("picANEnd")
+        self.assertEqual(self.window.wait(timeout=20), 0)
+
+
+class EveryOption(OptionCase):
     def change_all(self):
         """Gives every option its value. What is stored at once is looked at at once."""
         for page, name, _, digits in NUMBERS:
@@ -131,10 +142,6 @@ class EveryOption(window.WindowCase):
             before = self.stored(key)
             self.click(name, left=10)
             self.assert_stored(key, "0" if before == "1" else "1")
-
-    def end(self):
-        self.click("picANEnd")
-        self.assertEqual(self.window.wait(timeout=20), 0)
 
     def test_numbers_texts_and_choices_come_back_as_they_were_left(self):
         self.begin_with_all_in_use()
@@ -174,9 +181,6 @@ class EveryOption(window.WindowCase):
         self.display.do("key", "Down", "Down", "Return")
         trawlex.wait_for(lambda: self.windows() == before, 10, "the end of the menu")
 
-    def windows(self):
-        return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
-
     def test_what_is_done_with_the_items_of_a_list_is_kept(self):
         self.begin_with_all_in_use()
         self.paste_addresses()
@@ -188,6 +192,129 @@ class EveryOption(window.WindowCase):
         self.paste_addresses()
         self.choose("cboFilesSites", 1)
         self.assert_stored("optFilesSites", "1")
+        self.end()
+
+
+class Places(OptionCase):
+    """Directories, files and programs, through the dialogs by which they are chosen."""
+    FILES, DATABASES, EDITOR = "txtFNSaveLocation", "SearchKeyTxtSaveLocation Text", "txtSFEditor"
+
+    def setUp(self):
+        super().setUp()
+        self.below = pathlib.Path(self.database).parent
+        (self.below / "one/two").mkdir(parents=True)
+
+    def begin_with_places(self):
+        places = {self.FILES: str(self.below) + "/", "chkShutDownPrompt": "0"}
+        self.start_anew(**places)
+        self.page = None
+
+    def choose_folder_below(self, button, key, wanted):
+        """Opens the chooser, which stands on the folder as it was left, and goes one folder down."""
+        def chosen():
+            self.click(button)
+            chooser = self.wait_for_window("Select Folder")
+            self.display.do("windowactivate", "--sync", chooser)
+            # The tree reads its folders in the background: a key that finds none yet leaves all as it was.
+            for pressed in ("Tab", "Right", "alt+c"):
+                self.display.do("key", pressed)
+            trawlex.wait_for(lambda: chooser not in self.windows(), 10, "the end of the chooser")
+            return self.stored(key) == wanted
+
+        self.show(DIRECTORY)
+        trawlex.wait_for(chosen, 30, f"'{wanted}' under {key}")
+
+    def choose_file(self, button, title, *keys, text=""):
+        self.show(DIRECTORY)
+        self.click(button)
+        dialog = self.wait_for_window(title)
+        self.display.do("windowactivate", "--sync", dialog)
+        self.type(text, *keys)
+        trawlex.wait_for(lambda: dialog not in self.windows(), 10, f"the end of '{title}'")
+
+    def test_directories_come_back_as_they_were_left(self):
+        self.begin_with_places()
+        for step in ("one/", "one/two/"):
+            self.choose_folder_below("cmdSFMNDirBrowse", self.FILES, f"{self.below}/{step}")
+            self.choose_folder_below("cmdSFDBDirBrowse", self.DATABASES, f"{self.below}/{step}")
+            trawlex.wait_for((self.below / step / "Trawlex-0.mdb").exists, 10, "a database in the new directory")
+            self.end()
+            self.begin()
+        self.end()
+        self.assert_stored(self.FILES, f"{self.below}/one/two/")
+        self.assert_stored(self.DATABASES, f"{self.below}/one/two/")
+
+    def test_the_editor_comes_back_as_it_was_left(self):
+        """Chosen by its path, then, after a restart, by Return alone, since the dialog stands on it."""
+        told = self.below / "told.txt"
+        editor = self.below / "editor.sh"
+        editor.write_text(f'#!/bin/sh\ncat "$1" >>"{told}"\n', encoding="utf-8")
+        editor.chmod(0o755)
+        self.begin_with_places()
+        for times, typed in ((1, str(editor)), (2, "")):
+            self.choose_file("cmdSFEditorSel", "Select Editor", "Return", text=typed)
+            question = self.wait_for_window("Editor test")
+            trawlex.wait_for(lambda: told.exists() and told.read_text(encoding="utf-8").count("Testing") == times, 10, "the test")
+            self.display.do("windowactivate", "--sync", question)
+            self.display.do("key", "alt+y")
+            trawlex.wait_for(lambda: question not in self.windows(), 10, "the end of the question")
+            self.assert_stored(self.EDITOR, str(editor))
+            self.end()
+            self.begin()
+        self.end()
+
+    def test_the_database_comes_back_as_it_was_left(self):
+        self.begin_with_places()
+        self.show(DIRECTORY)
+        self.click("cmdSFAutoDBFile")
+        trawlex.wait_for((self.below / "Trawlex-1.mdb").exists, 10, "a new database")
+        self.end()
+        self.begin()
+        self.assertIn(str(self.below / "Trawlex-1.mdb"), self.open_files())
+        self.choose_file("cmdSFDBFileBrowse", "Select File", "Return", text=self.database)
+        trawlex.wait_for(lambda: self.database in self.open_files(), 10, "the database that was chosen")
+        self.end()
+        self.begin()
+        self.assertIn(self.database, self.open_files())
+        self.end()
+
+    def open_files(self):
+        found = []
+        for entry in pathlib.Path(f"/proc/{self.window.pid}/fd").iterdir():
+            with contextlib.suppress(OSError):  # it has just been closed
+                found.append(os.readlink(entry))
+        return found
+
+
+class Choices(OptionCase):
+    def test_the_browser_comes_back_as_it_was_left(self):
+        self.start_anew()
+        self.page = None
+        for entry, shown in ((0, ["--name", "Internet Browse|blank"]), (1, ["--class", "hromium"])):
+            self.show(AUTO)
+            self.choose("cboANWBSelect", entry)
+            self.assert_stored("lstDCoTmr", str(entry))
+            trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", *shown), 40, "the browser that was chosen")
+            self.end()
+            self.begin()
+            trawlex.wait_for(lambda: self.display.do("search", "--onlyvisible", *shown), 40, "the same browser")
+        self.end()
+        self.assert_stored("lstDCoTmr", "1")
+
+    def test_the_filters_text_comes_back_as_it_was_left(self):
+        """A text that is no known filter, typed; MC or MNC are for known ones."""
+        self.start_anew()
+        self.page = None
+        self.show(MANUAL)
+        self.type_over("cboMNMCMNCFilter", "/team/")
+        self.assert_stored("cboMNMCMNCFilter", "/team/")
+        self.end()
+        self.begin()
+        self.show(MANUAL)
+        self.click("cboMNMCMNCFilter", left=14)
+        self.display.do("key", "End")
+        self.display.do("type", "5")
+        self.assert_stored("cboMNMCMNCFilter", "/team/5")
         self.end()
 
 

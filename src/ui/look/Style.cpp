@@ -356,6 +356,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *
     if (hint == SH_ComboBox_Popup || hint == SH_EtchDisabledText || hint == SH_DitherDisabledText ||
         hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
+    if (hint == SH_ItemView_ArrowKeysNavigateIntoChildren)
+        return 1; // a folder that is open is gone into by the key that opens it
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
