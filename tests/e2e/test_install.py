@@ -1,4 +1,5 @@
 """What `make install` puts into place: complete, without a dead link in the manual, and running from there."""
+import gzip
 import html.parser
 import os
 import pathlib
@@ -13,10 +14,10 @@ import trawlex
 
 FILES = ["bin/trawlex", "bin/trawlex-harvest", "libexec/trawlex/trawlex-mdb-reader",
          "libexec/trawlex/trawlex-browser-holder", "libexec/trawlex/trawlex-harvest.so",
-         "share/applications/trawlex.desktop", "share/applications/trawlex-pictures.desktop",
+         "share/applications/trawlex.desktop", "share/applications/z-trawlex-pictures.desktop",
          "share/metainfo/trawlex.metainfo.xml",
-         "share/icons/hicolor/scalable/apps/trawlex.svg", "share/man/man1/trawlex.1", "share/man/man1/trawlex-harvest.1",
-         "share/doc/trawlex/manual/index.html", "share/doc/trawlex/copyright"]
+         "share/icons/hicolor/scalable/apps/trawlex.svg", "share/man/man1/trawlex.1.gz", "share/man/man1/trawlex-harvest.1.gz",
+         "share/doc/trawlex/manual/index.html", "share/doc/trawlex/copyright", "share/doc/trawlex/changelog.gz"]
 
 
 class Links(html.parser.HTMLParser):
@@ -70,7 +71,7 @@ class Installed(unittest.TestCase):
 
     def test_the_man_page_knows_every_switch(self):
         told = subprocess.run([self.prefix / "bin/trawlex-harvest", "--help"], capture_output=True, text=True, check=True).stdout
-        page = (self.prefix / "share/man/man1/trawlex-harvest.1").read_text(encoding="utf-8").replace("\\-", "-")
+        page = gzip.decompress((self.prefix / "share/man/man1/trawlex-harvest.1.gz").read_bytes()).decode().replace("\\-", "-")
         for switch in sorted(set(re.findall(r"^  (--[a-z-]+)", told, re.MULTILINE))):
             with self.subTest(switch):
                 self.assertIn(switch, page)
@@ -85,8 +86,11 @@ class Installed(unittest.TestCase):
             self.assertIn("trawlex-harvest.so", work.stderr)
 
     def test_the_man_pages_are_well_formed(self):
-        for page in (self.prefix / "share/man/man1").glob("*.1"):
-            done = subprocess.run(["groff", "-man", "-Tutf8", "-ww", page], capture_output=True, text=True, check=True)
+        pages = list((self.prefix / "share/man/man1").glob("*.1.gz"))
+        self.assertEqual(len(pages), 2)
+        for page in pages:
+            done = subprocess.run(["groff", "-man", "-Tutf8", "-ww"], input=gzip.decompress(page.read_bytes()).decode(),
+                                  capture_output=True, text=True, check=True)
             self.assertEqual(done.stderr, "", page.name)
 
     def test_the_desktop_entry_names_what_is_installed(self):
@@ -94,10 +98,31 @@ class Installed(unittest.TestCase):
                      (self.prefix / "share/applications/trawlex.desktop").read_text(encoding="utf-8").splitlines() if "=" in line)
         self.assertTrue(os.access(self.prefix / "bin" / entry["Exec"].split()[0], os.X_OK))
         self.assertTrue((self.prefix / f"share/icons/hicolor/scalable/apps/{entry['Icon']}.svg").is_file())
+        entries = list((self.prefix / "share/applications").glob("*.desktop"))
+        done = subprocess.run(["desktop-file-validate", *entries], capture_output=True, text=True, check=False)
+        self.assertEqual(done.stdout, "")
         metainfo = ElementTree.parse(self.prefix / "share/metainfo/trawlex.metainfo.xml").getroot()
         self.assertEqual(metainfo.findtext("launchable"), "trawlex.desktop")
         for binary in metainfo.findall("provides/binary"):
             self.assertTrue((self.prefix / "bin" / binary.text).is_file())
+
+    def test_pictures_are_offered_and_no_default_is_taken(self):
+        """Beside another program for pictures, with nothing set as the default."""
+        with tempfile.TemporaryDirectory() as folder:
+            programs = pathlib.Path(folder, "data/applications")
+            shutil.copytree(self.prefix / "share/applications", programs)
+            kinds = ("image/jpeg", "image/gif", "image/bmp")
+            (programs / "viewer.desktop").write_text("[Desktop Entry]\nType=Application\nName=Viewer\nExec=viewer %f\n"
+                                                     f"MimeType={';'.join(kinds)};\n", encoding="utf-8")
+            subprocess.run(["update-desktop-database", programs], check=True)
+            env = dict(os.environ, XDG_DATA_HOME=f"{folder}/data", XDG_DATA_DIRS=f"{folder}/none", XDG_CONFIG_HOME=f"{folder}/config",
+                       XDG_CONFIG_DIRS=f"{folder}/none", XDG_CURRENT_DESKTOP="X-Generic")
+            offered = (programs / "mimeinfo.cache").read_text(encoding="utf-8")
+            for kind in kinds:
+                with self.subTest(kind):
+                    self.assertRegex(offered, rf"{kind}=.*z-trawlex-pictures\.desktop;")
+                    told = subprocess.run(["xdg-mime", "query", "default", kind], env=env, capture_output=True, text=True, check=True)
+                    self.assertEqual(told.stdout.strip(), "viewer.desktop")
 
 
 if __name__ == "__main__":
