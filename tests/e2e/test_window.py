@@ -38,6 +38,46 @@ class OneProgram(window.WindowCase):
         self.assertIsNone(self.window.poll())
 
 
+class OnTop(window.WindowCase):
+    def is_above(self):
+        """As the window manager has it; the window may be a new one."""
+        shown = self.find_window()
+        return shown and "_NET_WM_STATE_ABOVE" in self.display.property(shown, "_NET_WM_STATE")
+
+    def toggle(self):
+        """The command of the status bar's menu."""
+        def windows():
+            return set(self.display.do("search", "--onlyvisible", "--pid", self.window.pid))
+
+        self.id = self.find_window()
+        before = windows()
+        self.click("picStatus", button=3)
+        menu = trawlex.wait_for(lambda: windows() - before, 10, "the status bar's menu").pop()
+        x, y = self.positions["mnuANStatusKeepOnTop"][:2]
+        self.display.do("mousemove", "--sync", "--window", menu, x, y)
+        self.display.do("click", 1)
+
+    def end(self):
+        self.id = self.find_window()
+        self.click("picANEnd")
+        self.assertEqual(self.window.wait(timeout=20), 0)
+
+    def test_the_window_is_above_all_others_until_it_is_taken_off_and_stays_so(self):
+        self.start_anew(chkShowToolTips="0")     # a new window is a menu then
+        trawlex.wait_for(self.is_above, 10, "above at first")
+        place = self.display.frame(self.find_window())
+        self.toggle()
+        trawlex.wait_for(lambda: self.is_above() is False, 10, "like all others")
+        self.assertEqual(self.display.frame(self.find_window()), place)
+        self.end()
+        self.start()
+        self.assertIs(self.is_above(), False, "as it was left")
+        self.toggle()
+        trawlex.wait_for(self.is_above, 10, "above again")
+        self.assertEqual(self.display.frame(self.find_window()), place)
+        self.end()
+
+
 class FreeStandingBrowser(window.WindowCase):
     def test_a_harvest_stopped_with_x_and_resumed_with_go_stores_every_row(self):
         self.start_with(npTimimg="003")  # the slow pages of the demo answer after two seconds, and have arrived then
