@@ -4,7 +4,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QPointer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,29 +34,29 @@ void ChromiumBrowser::deliverSoon()
         mDeliveryDue = QMetaObject::invokeMethod(this, &ChromiumBrowser::deliver, Qt::QueuedConnection);
 }
 
-// A handler may wait, and so let another delivery in, or may be the end of this object.
+// One a turn of the event loop: handlers may be slower than a page that never ends completing, and whatever else waits
+// for its turn must get it. The handler may wait, and so let the next delivery in, or may be the end of this object.
 void ChromiumBrowser::deliver()
 {
     mDeliveryDue = false;
-    const QPointer<ChromiumBrowser> self(this);
-    while (const std::optional<PageNotice> notice = mPage->takeNotice()) {
-        switch (notice->kind) {
-        case PageNotice::Kind::FrameComplete:
-        case PageNotice::Kind::PageComplete:
-            Q_EMIT DocumentComplete(notice->url, notice->kind == PageNotice::Kind::PageComplete);
-            break;
-        case PageNotice::Kind::LoadingEnded:
-            Q_EMIT loadingEnded();
-            break;
-        case PageNotice::Kind::Closed:
-            Q_EMIT WindowClosing();
-            break;
-        case PageNotice::Kind::Died:
-            Q_EMIT Died();
-            break;
-        }
-        if (!self)
-            return;
+    const std::optional<PageNotice> notice = mPage->takeNotice();
+    if (!notice)
+        return;
+    deliverSoon();
+    switch (notice->kind) {
+    case PageNotice::Kind::FrameComplete:
+    case PageNotice::Kind::PageComplete:
+        Q_EMIT DocumentComplete(notice->url, notice->kind == PageNotice::Kind::PageComplete);
+        break;
+    case PageNotice::Kind::LoadingEnded:
+        Q_EMIT loadingEnded();
+        break;
+    case PageNotice::Kind::Closed:
+        Q_EMIT WindowClosing();
+        break;
+    case PageNotice::Kind::Died:
+        Q_EMIT Died();
+        break;
     }
 }
 

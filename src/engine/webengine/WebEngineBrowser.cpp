@@ -431,21 +431,27 @@ QString WebEngineBrowser::cookiesFor(const QString &url)
 
 // --- signals -------------------------------------------------------------------------------------------------------
 
-// An empty emission only sees to it that what is due is emitted.
 void WebEngineBrowser::emitLater(std::function<void()> emission)
 {
-    if (emission)
-        mDue.push_back(std::move(emission));
-    QMetaObject::invokeMethod(this, &WebEngineBrowser::emitDue, Qt::QueuedConnection);
+    mDue.push_back(std::move(emission));
+    emitSoon();
 }
 
-// A handler may drop the browser, or wait and so come back here.
+void WebEngineBrowser::emitSoon()
+{
+    if (!mEmissionDue)
+        mEmissionDue = QMetaObject::invokeMethod(this, &WebEngineBrowser::emitDue, Qt::QueuedConnection);
+}
+
+// One a turn of the event loop: handlers may be slower than a page that never ends completing, and whatever else waits
+// for its turn must get it. The handler may drop the browser, or wait and so come back here.
 void WebEngineBrowser::emitDue()
 {
-    const QPointer self(this);
-    while (self && !mDue.empty() && mReads == 0) {
-        const auto emission = std::move(mDue.front());
-        mDue.pop_front();
-        emission();
-    }
+    mEmissionDue = false;
+    if (mDue.empty() || mReads > 0) // behind the read it goes on
+        return;
+    const auto emission = std::move(mDue.front());
+    mDue.pop_front();
+    emitSoon();
+    emission();
 }

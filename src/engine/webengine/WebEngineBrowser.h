@@ -117,6 +117,7 @@ class WebEngineBrowser : public EmbeddedBrowser
     [[nodiscard]] QString readPart(Part part, int frame);
     void raiseIfClosed() const;
     void emitLater(std::function<void()> emission);
+    void emitSoon();
     void emitDue();
 
     std::unique_ptr<Kernel> mKernel;
@@ -124,6 +125,7 @@ class WebEngineBrowser : public EmbeddedBrowser
     WebEngineOptions mOptions;
 
     std::deque<std::function<void()>> mDue; ///< signals that wait for the event loop, in order
+    bool mEmissionDue = false;              ///< the event loop has been asked for a turn
     QString mLocation = QStringLiteral("about:blank");
     QUrl mAddress; ///< of the navigation under way
     PageLoading mLoading;

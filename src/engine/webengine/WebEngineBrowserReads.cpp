@@ -43,7 +43,7 @@ QStringList WebEngineBrowser::read(QLatin1StringView what, int frame)
     ++mReads;
     const auto leave = qScopeGuard([self] {
         if (self && --self->mReads == 0)
-            self->emitLater({});
+            self->emitSoon();
     });
     const QDeadlineTimer deadline(mOptions.readLimit);
     if (!mPlain) {
