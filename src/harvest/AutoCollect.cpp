@@ -1,6 +1,7 @@
 #include "harvest/AutoCollect.h"
 
 #include <QScopedValueRollback>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using CollectState::Content;
@@ -8,19 +9,39 @@ using CollectState::Pages;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
-}
+/// A page and its frames, as they finish loading one after the other.
+constexpr int turnsInARow = 4;
+constexpr std::chrono::milliseconds restPerTurn{50}, longestRest{500};
+} // namespace
 
+/// What finishes loading before its turn has come, or in the middle of collecting, shares the next turn.
 void AutoCollect::DocumentComplete()
 {
-    // Collecting lets events in: what finishes loading in the middle of it has its turn behind it.
-    mComesAgain = true;
-    if (mIsCollecting)
-        return;
-    const QScopedValueRollback<bool> collecting(mIsCollecting, true);
-    while (std::exchange(mComesAgain, false) && mChoice.state() > 0) {
-        if (ValidData())
+    if (!std::exchange(mIsDue, true) && !mIsCollecting)
+        takeTurnSoon();
+}
+
+/// A page of which something is for ever finishing keeps neither the user nor a wait: collecting takes controls away,
+/// so the longer it goes on the longer it rests.
+void AutoCollect::takeTurnSoon()
+{
+    const std::chrono::milliseconds rest = std::max(0, mTurns - turnsInARow) * restPerTurn;
+    QTimer::singleShot(std::min(rest, longestRest), this, &AutoCollect::takeTurn);
+}
+
+void AutoCollect::takeTurn()
+{
+    mIsDue = false;
+    ++mTurns;
+    {
+        const QScopedValueRollback<bool> collecting(mIsCollecting, true);
+        if (mChoice.state() > 0 && mPage.isThere() && ValidData())
             guarded(mContext.log, {module, "Sub AutoCollect"_L1}, [&] { collect(); });
     }
+    if (mIsDue)
+        takeTurnSoon();
+    else
+        mTurns = 0;
 }
 
 /// A Saved Url needs the record of its site; without one that kind of collecting goes off.

@@ -1,5 +1,6 @@
-// Collects from each page, and each frame of one, that finishes loading. Meant for browsing by hand; a run that is
-// under way goes on beside it. Knows lists.
+// Collects from each page, and each frame of one, that finishes loading: behind each of them a collection begins, in a
+// turn of the event loop of its own. Meant for browsing by hand; a run that is under way goes on beside it. Knows
+// lists.
 #pragma once
 
 #include "harvest/CollectChoice.h"
@@ -7,8 +8,10 @@
 #include "lists/ManualFeed.h"
 #include "lists/SavedUrls.h"
 
-class AutoCollect
+class AutoCollect : public QObject
 {
+    Q_OBJECT
+
   public:
     AutoCollect(const Context &context, CollectChoice &choice, PageCollecting &page, ManualFeed &feed,
                 SavedUrls &savedUrls, ResultLinks &links, const ManualDesk &desk)
@@ -21,6 +24,8 @@ class AutoCollect
     void DocumentComplete();
 
   private:
+    void takeTurnSoon();
+    void takeTurn();
     [[nodiscard]] bool ValidData();
     void collect();
     [[nodiscard]] QString collectContent(int list);
@@ -33,6 +38,7 @@ class AutoCollect
     SavedUrls &mSavedUrls;
     ResultLinks &mLinks;
     const ManualDesk &mDesk;
+    bool mIsDue = false; ///< something has finished loading
     bool mIsCollecting = false;
-    bool mComesAgain = false; ///< something has finished loading meanwhile
+    int mTurns = 0; ///< in a row
 };

@@ -9,6 +9,11 @@ namespace {
 constexpr auto module = "frmSearch"_L1;
 }
 
+bool PageCollecting::isThere() const
+{
+    return mBrowser.isSet() && mBrowser->arrival() != BrowserEngine::Arrival::Pending;
+}
+
 void PageCollecting::collectUrl(int list)
 {
     const QString url = cUtility::asColumnText(mBrowser->GetSiteUrl());

@@ -13,6 +13,8 @@ class PageCollecting
     {
     }
 
+    /// A page stands in the browser, and not one that is still to come.
+    [[nodiscard]] bool isThere() const;
     /// The page's address, unless it stands in the list.
     void collectUrl(int list);
     /// "120 loaded A", or "" where nothing was found.

@@ -214,17 +214,34 @@ class Pictures(http.server.BaseHTTPRequestHandler):
         pass
 
 
+class Restless(Pictures):
+    """A page of frames that reload themselves for ever."""
+    FRAME = b"<iframe srcdoc='<script>setInterval(() => location.reload(), 10)</script>'></iframe>"
+
+    def do_GET(self):
+        self.send_response(200)
+        self.send_header("Content-Type", "text/html")
+        self.end_headers()
+        self.wfile.write(b"<a href=http://a.com/1>x</a>" + self.FRAME * 12)
+
+
+def serve(case, handler):
+    """A server of pages on loopback, for as long as the test runs; its port."""
+    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
+    case.addCleanup(server.server_close)
+    case.addCleanup(server.shutdown)
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+    return server.server_port
+
+
 class ManualRun(trawlex.Case):
     def test_a_series_of_files_lies_in_the_folder(self):
         self.make_database()
-        pictures = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Pictures)
-        self.addCleanup(pictures.server_close)
-        self.addCleanup(pictures.shutdown)
-        threading.Thread(target=pictures.serve_forever, daemon=True).start()
+        port = serve(self, Pictures)
         folder = pathlib.Path(self.folder) / "pictures"
         folder.mkdir()
         words = [trawlex.HARVESTER, "--database-dir", self.folder, "--headless", "--browser", "iexplore",
-                 "--set", f"cboMNAutoUrl=http://127.0.0.1:{pictures.server_port}/a.com/p-1.jpg",
+                 "--set", f"cboMNAutoUrl=http://127.0.0.1:{port}/a.com/p-1.jpg",
                  "--set", "mnuMNStatusAutoIncrPos(6)=1", "--set", "cboFilesSites=0", "--set", f"txtSFMNDir={folder}/",
                  "--set", "chkSMA(2)=0", "--until-loaded", "--manual", "--json"]
         done = trawlex.subprocess.run(words, env=self.env, capture_output=True, text=True, timeout=120, check=False)
@@ -260,6 +277,24 @@ class Browsing(trawlex.Case):
 
     def test_links_of_the_page_on_show_are_collected_from_the_built_in_browser(self):
         self.collects("internal")
+
+    def ends_in_time(self, browser):
+        self.make_database(browser)
+        words = [trawlex.HARVESTER, "--database-dir", self.folder, "--headless", "--browser", browser,
+                 "--set", "mnuMNStatusListCL(0)=1", "--open", f"http://127.0.0.1:{serve(self, Restless)}/a.com/",
+                 "--browse", "5", "--json"]
+        begin = time.monotonic()
+        done = trawlex.subprocess.run(words, env=self.env, capture_output=True, text=True, timeout=60, check=False)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertLess(time.monotonic() - begin, 30)
+        self.assertIn("Stopped (FINISHED)", done.stderr)
+        self.assertEqual(trawlex.json.loads(done.stdout)["lists"]["A"], ["http://a.com/1"])
+
+    def test_frames_that_reload_for_ever_do_not_hold_the_free_standing_browser(self):
+        self.ends_in_time("iexplore")
+
+    def test_frames_that_reload_for_ever_do_not_hold_the_built_in_browser(self):
+        self.ends_in_time("internal")
 
 
 if __name__ == "__main__":

@@ -2,6 +2,9 @@
 #include "PageFixture.h"
 #include "harvest/AutoCollect.h"
 
+#include <QEventLoop>
+#include <QTimer>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -153,6 +156,53 @@ TEST_F(CollectTest, AThousandPagesInARowKeepWhatTheyFound)
         complete();
     }
     EXPECT_EQ(items(0).size(), 1000);
+}
+
+TEST_F(CollectTest, OfFramesThatFinishInOneBreathEachHasACollectionBehindIt)
+{
+    toLinks(0);
+    window().pages[address].links = {};
+    window().show(address);
+    Q_EMIT window().DocumentComplete(address, false);
+    window().pages[address].links = found;
+    window().show(address);
+    Q_EMIT window().DocumentComplete(address, true);
+    pump.doEvents();
+    EXPECT_EQ(items(0), found);
+    EXPECT_EQ(statuses.count(u"2 loaded A"_s), 1) << "one collection is behind both";
+}
+
+TEST_F(CollectTest, APageThatFinishesForEverLeavesTheUserAndWaitsTheirTurns)
+{
+    toLinks(0);
+    int collections = 0;
+    QObject::connect(&status, &StatusLine::told, &form, [&](const QString &text) {
+        if (text == u"Loading"_s && ++collections < 200)
+            Q_EMIT window().DocumentComplete(address, false); // the next one in the middle of this one
+    });
+    complete();
+    EXPECT_EQ(collections, 1) << "one a turn";
+    EXPECT_TRUE(form.manual.cmdMNStart.isEnabled());
+    QEventLoop waiting;
+    QTimer::singleShot(1000, &waiting, &QEventLoop::quit);
+    waiting.exec();
+    EXPECT_GT(collections, 5) << "it goes on";
+    EXPECT_LT(collections, 20) << "and leaves most of the time to others";
+}
+
+TEST_F(CollectTest, NothingIsCollectedOfAPageThatIsLeftOrABrowserThatIsGone)
+{
+    toManualPages(0);
+    Q_EMIT window().DocumentComplete(address, true);
+    window().pages[u"http://www.later.com/"_s].loadTime = 5000;
+    window().Navigate(u"http://www.later.com/"_s);
+    pump.doEvents();
+    EXPECT_TRUE(items(0).isEmpty());
+    Q_EMIT window().DocumentComplete(address, true);
+    browser.release();
+    pump.doEvents();
+    EXPECT_TRUE(items(0).isEmpty());
+    EXPECT_TRUE(log.entries.isEmpty());
 }
 
 TEST_F(CollectTest, APlainListNameDoesNotRefuseGo)
