@@ -114,7 +114,8 @@ def fetch(bench, folder):
     pictures = folder / "pictures"
     pictures.mkdir()
     (folder / "list.txt").write_text("\n".join(addresses(bench.port)), encoding="utf-8")
-    switches = {"cboFilesSites": 0, "incMNTiming": 0, "incMNDLTiming": 0, "txtSFMNDir": f"{pictures}/", "chkSMA(2)": 0}
+    switches = {"cboFilesSites": 0, "incMNTiming": 0, "incMNDLTiming": 0, "txtSFMNDir": f"{pictures}/", "chkSMA(2)": 0,
+                "chkSMOpenDownloadedGraphics": 0}
     seconds = bench.seconds_of_run("--manual", switches, ["--list-file", folder / "list.txt"], "Connecting|Requesting")
     check_files(pictures)
     return seconds

@@ -61,7 +61,21 @@ BrowserTraits Downloads::browserTraits(const QString &url)
     const QString address = QString::fromLatin1(RequestRules::encodedAddress(url));
     if (const QString page = mBrowser->GetSiteUrl(); !page.startsWith("file:"_L1, Qt::CaseInsensitive))
         mPage = page;
-    return {mBrowser->userAgent(), mPage, mBrowser->cookiesFor(address)};
+    return {mBrowser->userAgent(), mPage, cookiesFor(address)};
+}
+
+/// A fast series asks a browser that stands still once a second for the cookies of a folder, and not for each file.
+QString Downloads::cookiesFor(const QString &address)
+{
+    constexpr qint64 freshFor = 1000;
+    const QString path = address.section(u'?', 0, 0);
+    const QString folder = path.first(path.lastIndexOf(u'/') + 1);
+    const bool isFresh = mCookies.age.isValid() && !mCookies.age.hasExpired(freshFor);
+    if (!isFresh || mCookies.page != mPage || mCookies.folder != folder) {
+        mCookies = {mPage, folder, mBrowser->cookiesFor(address), {}};
+        mCookies.age.start();
+    }
+    return mCookies.header;
 }
 
 void Downloads::cancel()

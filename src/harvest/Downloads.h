@@ -8,6 +8,8 @@
 #include "transfer/cInetWS.h"
 #include "transfer/cInternet.h"
 
+#include <QElapsedTimer>
+
 class Downloads : public QObject
 {
     Q_OBJECT
@@ -47,6 +49,7 @@ class Downloads : public QObject
   private:
     [[nodiscard]] Download transfer(const QString &url, const QString &target);
     [[nodiscard]] BrowserTraits browserTraits(const QString &url);
+    [[nodiscard]] QString cookiesFor(const QString &address);
 
     Context mContext;
     const FilePlaces &mPlaces;
@@ -57,5 +60,11 @@ class Downloads : public QObject
     cInetWS &mInet;
     Fetched mLast;
     QString mPage; // that the browser stood on last
+    struct
+    {
+        QString page, folder; // for which it was asked
+        QString header;
+        QElapsedTimer age;
+    } mCookies;
     bool mIsUnderWay = false;
 };

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -417,6 +418,30 @@ TEST_F(Fetching, CookiesAreFoundForAnAddressWithoutProtocol)
     clickGo();
     ASSERT_EQ(server.requests.size(), 1);
     EXPECT_EQ(server.requests[0].header("Cookie"), "visitor=7");
+}
+
+TEST_F(Fetching, FilesOfAFolderThatFollowAtOnceShareTheCookies)
+{
+    const QStringList paths{u"/a/1.jpg"_s, u"/a/2.jpg"_s, u"/a/3.jpg"_s, u"/b/4.jpg"_s, u"/b/5.jpg"_s};
+    QStringList items;
+    for (const QString &path : paths) {
+        server.route(path.toLatin1(), okReply("xyz"_ba));
+        items.append(server.address(path));
+        window().cookies[items.constLast()] = "of="_L1 + path;
+    }
+    QObject::connect(&downloads, &Downloads::fetched, &form, [this] {
+        if (files.size() == 2)
+            QThread::msleep(1100);
+        if (files.size() == 4)
+            window().show(u"http://www.site1.com/"_s);
+    });
+    fill(items);
+    clickGo();
+    QByteArrayList sent;
+    for (const auto &request : server.requests)
+        sent.append(request.header("Cookie"));
+    EXPECT_EQ(sent.join(' '), "of=/a/1.jpg of=/a/1.jpg of=/a/3.jpg of=/b/4.jpg of=/b/5.jpg")
+        << "asked for anew after a second, for another folder, and with another page on show";
 }
 
 TEST_F(Fetching, SwitchedOffItDoesNot)

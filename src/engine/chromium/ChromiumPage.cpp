@@ -286,7 +286,10 @@ QJsonObject ChromiumPage::askBrowser(const QString &session, QLatin1StringView m
 
 QString ChromiumPage::userAgent()
 {
-    return askBrowser({}, "Browser.getVersion"_L1, {})[u"userAgent"].toString();
+    // The same for as long as the browser runs.
+    if (mUserAgent.isEmpty())
+        mUserAgent = askBrowser({}, "Browser.getVersion"_L1, {})[u"userAgent"].toString();
+    return mUserAgent;
 }
 
 QString ChromiumPage::cookiesFor(const QString &url)

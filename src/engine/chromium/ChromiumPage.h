@@ -113,6 +113,7 @@ class ChromiumPage : public QObject
     QString mAddress;
     QString mUnreachable;      // what the error page in place stands for
     QString mRequested;        // the latest Navigate
+    QString mUserAgent;        // once it has been asked for
     bool mLostProcess = false; // since the latest request
     int mRepetitions = 0;      // of the latest Navigate
     int mStuck = 0;            // how often the old page has held up the latest Navigate
