@@ -19,3 +19,8 @@ target_compile_definitions(fuzz_foreign PRIVATE TRAWLEX_SOURCE_DIR="${CMAKE_SOUR
 set_source_files_properties("${CMAKE_SOURCE_DIR}/src/store/reader/main.cpp" PROPERTIES COMPILE_DEFINITIONS main=readerMain)
 target_link_libraries(fuzz_foreign PRIVATE trawlex_options fuzz_options PkgConfig::MDB Qt6::Core)
 add_dependencies(fuzzers fuzz_foreign)
+
+add_executable(fuzz_foreign_texts fuzz_foreign_texts.cpp FuzzInput.h "${CMAKE_SOURCE_DIR}/src/store/foreign/TextForms.cpp")
+target_include_directories(fuzz_foreign_texts PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+target_link_libraries(fuzz_foreign_texts PRIVATE fuzz_text)
+add_dependencies(fuzzers fuzz_foreign_texts)

@@ -297,6 +297,18 @@ TEST_F(RecordsetTest, ACloneWalksAloneAndOutlivesTheSetAndTheDatabaseObject)
     EXPECT_EQ(clone.Fields()[0].Value(), QVariant(u"3"_s));
 }
 
+TEST_F(RecordsetTest, AFirstCharacterThatLooksLikeAMarkOfTheByteOrderIsOneOfTheText)
+{
+    const QString text = u"\ufeffä"_s;
+    ASSERT_TRUE(add(*mDatabase, u"Block"_s, {{"UrlsContent"_L1, text}}));
+    for (const QLatin1StringView comparison : {"="_L1, "LIKE"_L1}) {
+        Recordset rows = open(u"SELECT UrlsContent FROM Block WHERE UrlsContent %1 '%2'"_s.arg(comparison, text));
+        ASSERT_FALSE(rows.Eof()) << comparison.data();
+        EXPECT_EQ(rows.Fields()[0].Value(), text);
+    }
+    EXPECT_TRUE(open(u"SELECT * FROM Block WHERE UrlsContent LIKE 'ä'"_s).Eof());
+}
+
 TEST_F(RecordsetTest, TextHasTheRowDelimiterBehindTheLastRowToo)
 {
     add(*mDatabase, u"Block"_s, {{"UrlsContent"_L1, u"a"_s}, {"EmailContent"_L1, u"b"_s}});

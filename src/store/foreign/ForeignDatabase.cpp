@@ -1,5 +1,6 @@
 #include "store/foreign/ForeignDatabase.h"
 #include "store/AdoErrors.h"
+#include "store/StoredText.h"
 #include "store/foreign/ReaderProcess.h"
 #include "store/rows/Catalog.h"
 #include "store/rows/TableFiller.h"
@@ -54,7 +55,7 @@ QVariant valueIn(const ReaderProcess::Frame &frame)
     case Frames::Bytes:
         return frame.bytes;
     default:
-        return QString::fromUtf8(frame.bytes);
+        return storedText(frame.bytes);
     }
 }
 

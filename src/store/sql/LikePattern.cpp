@@ -1,4 +1,5 @@
 #include "store/sql/LikePattern.h"
+#include "store/StoredText.h"
 #include "util/Text.h"
 
 #include <algorithm>
@@ -55,7 +56,7 @@ LikePattern::LikePattern(QStringView pattern) : mPieces(cUtility::lowered(patter
 
 bool LikePattern::matchesUtf8(std::string_view text) const
 {
-    return isAscii(text) ? matchesAscii(text) : matches(QString::fromUtf8(text.data(), qsizetype(text.size())));
+    return isAscii(text) ? matchesAscii(text) : matches(storedText(text));
 }
 
 bool LikePattern::matches(QStringView text) const

@@ -1,4 +1,5 @@
 #include "store/sqlite/Connection.h"
+#include "store/StoredText.h"
 #include "store/rows/ColumnKinds.h"
 #include "store/sql/SqlTranslator.h"
 #include "store/sqlite/LikeFunction.h"
@@ -177,7 +178,7 @@ QString Connection::textBeginning(const TableInfo &table, const ColumnInfo &colu
     QByteArray bytes(std::min<qsizetype>(sqlite3_blob_bytes(text), (count + 1) * longestCharacter), Qt::Uninitialized);
     if (const int read = sqlite3_blob_read(text, bytes.data(), static_cast<int>(bytes.size()), 0); read != SQLITE_OK)
         mSteps.raise(read);
-    return QString::fromUtf8(bytes).left(count);
+    return storedText(bytes).left(count);
 }
 
 void Connection::administer(const std::string &text)

@@ -1,4 +1,5 @@
 #include "store/sqlite/LikeFunction.h"
+#include "store/StoredText.h"
 #include "store/sql/LikePattern.h"
 
 #include <exception>
@@ -17,7 +18,7 @@ const LikePattern *patternOf(sqlite3_context *context, sqlite3_value *value)
 {
     if (const void *known = sqlite3_get_auxdata(context, 0))
         return static_cast<const LikePattern *>(known);
-    sqlite3_set_auxdata(context, 0, new LikePattern(QString::fromUtf8(bytesOf(value))),
+    sqlite3_set_auxdata(context, 0, new LikePattern(storedText(bytesOf(value))),
                         [](void *pattern) { delete static_cast<LikePattern *>(pattern); });
     return static_cast<const LikePattern *>(sqlite3_get_auxdata(context, 0));
 }

@@ -1,4 +1,5 @@
 #include "store/sqlite/Statement.h"
+#include "store/StoredText.h"
 #include "store/sqlite/SqliteErrors.h"
 
 #include <QStringEncoder>
@@ -13,7 +14,7 @@ constexpr qsizetype largestRoom = qsizetype(4) * 1024 * 1024;
 QString textOf(sqlite3_stmt *row, int column)
 {
     const auto *const bytes = reinterpret_cast<const char *>(sqlite3_column_text(row, column));
-    return QString::fromUtf8(bytes, sqlite3_column_bytes(row, column));
+    return storedText({bytes, sqlite3_column_bytes(row, column)});
 }
 } // namespace
 
