@@ -4,7 +4,6 @@
 
 #include <QJsonArray>
 #include <QPointer>
-#include <QScopedValueRollback>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,11 +11,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::chrono::seconds windowCallLimit{5};
-const QString emptyPage = u"about:blank"_s;
 // How often one page is asked for once more, because a process was lost or the old page stood in the way.
 constexpr int repetitionsAtMost = 3;
 
 } // namespace
+
+const QString ChromiumPage::emptyPage = u"about:blank"_s;
 
 struct ChromiumPage::EventRow
 {
@@ -85,12 +85,15 @@ DevToolsConnection::Then ChromiumPage::whileAlive(std::function<void(const DevTo
 void ChromiumPage::navigate(const QString &address)
 {
     requireWindow();
-    letScriptsRun(true);
     mRequested = address;
     mStuck = 0;
     mRepetitions = 0;
+    ++mNavigations;
     std::erase_if(mNotices, [](const PageNotice &each) { return each.kind == PageNotice::Kind::LoadingEnded; });
-    request();
+    if (mPlain)
+        requestWithScripts();
+    else
+        request();
 }
 
 // A page that is left needs its scripts no more; one that never ends can be broken off only before the browser begins
@@ -182,7 +185,8 @@ void ChromiumPage::onWindowReplaced()
     mUnreachable.clear();
     mDocuments.clear();
     mReader.setPage(mTargets.session(), mTopFrame);
-    if (std::exchange(mPlain, false))
+    ++mNavigations;
+    if (std::exchange(mPlain, false) && mLoadsPlain)
         letScriptsRun(false);
     if (mLoading.isLoading())
         request();
@@ -200,62 +204,6 @@ QString ChromiumPage::address() const
 {
     requireWindow();
     return mUnreachable.isEmpty() ? mAddress : mUnreachable;
-}
-
-void ChromiumPage::requireDocument() const
-{
-    requireWindow();
-    if (mLoading.isWaitingForDocument()) // nor would the browser answer before it comes
-        throw RuntimeError(EngineError::NotArrived, u"The page has not arrived yet."_s);
-}
-
-QStringList ChromiumPage::read(QLatin1StringView what, int frame)
-{
-    requireDocument();
-    const QDeadlineTimer deadline(BrowserEngine::readLimit);
-    try {
-        return mReader.read(what, frame, deadline);
-    } catch (const RuntimeError &error) {
-        if (error.number() != EngineError::NoAnswer || mPlain || deadline.hasExpired())
-            throw;
-    }
-    loadPlain(deadline);
-    requireDocument();
-    return mReader.read(what, frame, deadline);
-}
-
-void ChromiumPage::letScriptsRun(bool run)
-{
-    if (mPlain == !run)
-        return;
-    mPlain = !run;
-    mConnection->send(mTargets.session(), "Emulation.setScriptExecutionDisabled"_L1, {{u"value"_s, mPlain}});
-}
-
-// The process that did not answer has gone. A new one takes no word about scripts before it has a document: an empty
-// one comes first, of which nobody is told.
-void ChromiumPage::loadPlain(QDeadlineTimer deadline)
-{
-    requireWindow();
-    const QScopedValueRollback loadsPlain(mLoadsPlain, true);
-    const QString address = std::exchange(mAddress, {});
-    for (const QString &each : {emptyPage, address}) {
-        std::erase_if(mNotices, [](const PageNotice &notice) { return notice.url == emptyPage; });
-        mRequested = each;
-        request();
-        mConnection->waitUntil([this] { return !mLoading.isLoading(); }, deadline);
-        requireWindow();
-        letScriptsRun(false);
-    }
-}
-
-PageContent ChromiumPage::content()
-{
-    const QStringList texts = read("content"_L1);
-    PageContent result{.html = texts.value(0), .title = texts.value(1), .url = texts.value(2)};
-    if (!mUnreachable.isEmpty() && result.url == mAddress)
-        result.url = mUnreachable;
-    return result;
 }
 
 void ChromiumPage::setBound(const QString &name, int pixels)

@@ -68,6 +68,7 @@ class ChromiumPage : public QObject
     using Handler = void (ChromiumPage::*)(const QString &session, const QJsonObject &params);
     struct EventRow;
     static const EventRow eventRows[];
+    static const QString emptyPage;
 
     void handleEvent(const QString &session, const QString &method, const QJsonObject &params);
     void onAttached(const QString &session, const QJsonObject &params);
@@ -84,8 +85,10 @@ class ChromiumPage : public QObject
 
     [[nodiscard]] QJsonObject askBrowser(const QString &session, QLatin1StringView method, const QJsonObject &params);
     void request();
+    void requestWithScripts();
     void letScriptsRun(bool run);
     void loadPlain(QDeadlineTimer deadline);
+    void load(const QString &address, QDeadlineTimer deadline);
     void requireDocument() const;
     void answered(int number, const DevToolsConnection::Answer &answer);
     void settle(int number);
@@ -117,6 +120,7 @@ class ChromiumPage : public QObject
     bool mLostProcess = false; // since the latest request
     int mRepetitions = 0;      // of the latest Navigate
     int mStuck = 0;            // how often the old page has held up the latest Navigate
+    int mNavigations = 0;      // counts Navigate, and the windows that have taken the place of one
     bool mPlain = false;       // the page was loaded without scripts
     bool mLoadsPlain = false;  // it is being loaded so
     bool mClosed = false;

@@ -32,6 +32,7 @@ class PageReader : public QObject
 
     /// How long a script may keep a read waiting before it is broken off.
     void setPatience(std::chrono::milliseconds patience) { mPatience = patience; }
+    [[nodiscard]] std::chrono::milliseconds patience() const { return mPatience; }
 
     /// Runs `what` of js/reader.js for the document of frame `index` (-1: the top document). Raises a RuntimeError,
     /// NoAnswer when the page has lost its process by it.
