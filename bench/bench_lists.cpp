@@ -1,14 +1,16 @@
 // The commands of the manual lists over 100,000 and over 1,000,000 addresses, in the whole program without its windows:
 // each beside its mark of a second for the shorter list, and how much longer the longer one takes. A tenfold list may
-// take 12 times as long (n log n). Time is wall time; TRAWLEX_BENCH_ITEMS gives another shorter length.
+// take 12 times as long (n log n). Time is processor time, the best of three; TRAWLEX_BENCH_ITEMS gives another shorter
+// length.
 #include "app/QtEventPump.h"
 #include "support/Outside.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -64,6 +66,16 @@ void full(Desk &desk)
 {
     desk.list().setItems(desk.items);
 }
+void saved(Desk &desk)
+{
+    full(desk);
+    desk.click("mnuMNSaveToDatabase");
+}
+void unsaved(Desk &desk)
+{
+    saved(desk);
+    desk.click("mnuMNDeleteSaved");
+}
 void selected(Desk &desk)
 {
     full(desk);
@@ -84,8 +96,8 @@ const Row rows[] = {
      },
      0.1},
     {"save to a file", full, "", [](Desk &d) { d.click("mnuMNSaveAsFile"); }, 1},
-    {"save to the database", full, "", [](Desk &d) { d.click("mnuMNSaveToDatabase"); }, 1},
-    {"save there again", full, "", [](Desk &d) { d.click("mnuMNSaveToDatabase"); }, 1},
+    {"save to the database", unsaved, "", [](Desk &d) { d.click("mnuMNSaveToDatabase"); }, 1},
+    {"save there again", saved, "", [](Desk &d) { d.click("mnuMNSaveToDatabase"); }, 1},
     {"load from the database", empty, "", [](Desk &d) { d.click("mnuMNLoadLinksDB"); }, 1},
     {"find the last one", full, "@last", [](Desk &d) { d.click("mnuMNFind(0)"); }, 1},
     {"find what is not there", full, "zzzzzzzzzz", [](Desk &d) { d.click("mnuMNFind(0)"); }, 1},
@@ -101,7 +113,7 @@ const Row rows[] = {
     {"items not containing", full, "7.HTML", [](Desk &d) { d.click("mnuMNRem(5)"); }, 0.1},
     {"unique servers", full, "", [](Desk &d) { d.click("mnuMNUniqueServersOnly"); }, 0.1},
     {"reduce to server", full, "", [](Desk &d) { d.click("mnuMNReduceToServer"); }, 0.1},
-    {"delete what is saved", full, "", [](Desk &d) { d.click("mnuMNDeleteSaved"); }, 1},
+    {"delete what is saved", saved, "", [](Desk &d) { d.click("mnuMNDeleteSaved"); }, 1},
 };
 
 double milliseconds(Desk &desk, const Row &row)
@@ -110,15 +122,19 @@ double milliseconds(Desk &desk, const Row &row)
     desk.program.form.urlFilter.cboMNMCMNC.setListIndex(0);
     const QString answer = QString::fromLatin1(row.answer);
     desk.dialogs.inputAnswers = {answer == "@last"_L1 ? desk.items.constLast() : answer};
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock();
     row.run(desk);
-    const double time = double(timer.nsecsElapsed()) / 1e6;
+    const double time = 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC;
     if (desk.list().listCount() != qRound(row.left * double(desk.items.size()))) {
         std::fprintf(stderr, "bench: %s leaves %d items\n", row.name, desk.list().listCount());
         std::exit(1);
     }
     return time;
+}
+
+double bestOfThree(Desk &desk, const Row &row)
+{
+    return std::min({milliseconds(desk, row), milliseconds(desk, row), milliseconds(desk, row)});
 }
 
 /// Files and page that the commands take their items from.
@@ -145,8 +161,8 @@ int main(int argc, char **argv)
     furnish(large);
     std::printf("| %-34s | %9d | %9d | growth |\n", "ms for so many items", length, length * 10);
     for (const Row &row : rows) {
-        const double one = milliseconds(small, row);
-        const double ten = milliseconds(large, row);
+        const double one = bestOfThree(small, row);
+        const double ten = bestOfThree(large, row);
         const bool met = one <= mark && ten / one <= growthMark;
         std::printf("| %-34s | %9.1f | %9.1f | %6.1f | %s\n", row.name, one, ten, ten / one, met ? "met" : "MISSED");
     }

@@ -25,6 +25,7 @@ import loopback  # noqa: E402
 import record  # noqa: E402
 
 SITES, FILES, SIZE = 100, 500, 100_000
+READ_FOR = 50  # milliseconds that a page of the chain stands
 SERVICE = "www.bench-results.com"
 LINKS = [f"http://www.bench-site-{letter}{number}.com/" for number in range(10) for letter in "abcdefghij"]
 OUTPUTS = {"chkSaveSummary": 1, "chkSaveEmail": 1, "chkSavePhone": 1, "chkSMA(2)": 0, "incANTiming": 30, "incMNTiming": 30}
@@ -41,7 +42,7 @@ def answer(host, path):
     if path.startswith("/chain/"):
         number = int(path.rpartition("/")[2])
         links = "".join(f'<a href="http://www.chain-{number % 7}.com/{n}">{n}</a> ' for n in range(10))
-        onward = f"<script>setTimeout(() => location = '/chain/{number + 1}', 1)</script>"
+        onward = f"<script>setTimeout(() => location = '/chain/{number + 1}', {READ_FOR})</script>"
         return page(f"Page {number}", links + (onward if number < 1000 else "<p>the end</p>"))
     return page(f"The site {host}", f"<p>Write to desk@{host.removeprefix('www.')} or call 212-555-0188 by day.</p>" * 40)
 

@@ -19,9 +19,17 @@ constexpr auto invalidUrl = "InValid Url"_L1;
 constexpr auto cancelled = "Cancelled"_L1;
 
 /// The lines of a text, ended by CR LF or LF.
-QStringList linesOf(QString text)
+/// Lines that are not empty. A CR belongs to the end of its line where LF follows.
+QStringList linesOf(const QString &text)
 {
-    return text.replace("\r\n"_L1, "\n"_L1).split(u'\n', Qt::SkipEmptyParts);
+    QStringList lines;
+    for (QStringView line : QStringTokenizer{text, u'\n', Qt::SkipEmptyParts}) {
+        if (line.endsWith(u'\r') && line.cend() != QStringView(text).cend())
+            line.chop(1);
+        if (!line.isEmpty())
+            lines.append(line.toString());
+    }
+    return lines;
 }
 
 /// What was typed, dropped or pasted, as an item.

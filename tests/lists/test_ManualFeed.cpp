@@ -2,6 +2,9 @@
 #include "lists/ListFile.h"
 #include "lists/ManualFeed.h"
 #include "support/ManualFixture.h"
+#include "util/ColumnText.h"
+#include "util/RandomText.h"
+#include "util/Text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -98,6 +101,21 @@ TEST_F(ManualFeedTest, PastedLinksAreAddedRepeatsAndAll)
     EXPECT_EQ(list().items(), (QStringList{u"http://a.com"_s, u"http://a.com"_s, u"http://c.com"_s}));
     EXPECT_EQ(states.calls, 1);
     EXPECT_EQ(paste(u"http://d.com\nhttp://e.com"_s), u"5 loaded.  2 added"_s) << "other programs end lines with LF";
+}
+
+TEST_F(ManualFeedTest, EveryMixtureOfLineEndsIsTakenLikeItsPlainTelling)
+{
+    useBase(true);
+    RandomText random(5);
+    for (int round = 0; round < 300; ++round) {
+        const QString text = random.text({u"\r"_s, u"\n"_s, u"\r\n"_s, u"ab"_s}, 12) + u'\n';
+        list().clear();
+        static_cast<void>(paste(text));
+        QStringList plain;
+        for (const QString &line : QString(text).replace("\r\n"_L1, "\n"_L1).split(u'\n', Qt::SkipEmptyParts))
+            plain.append(cUtility::asColumnText(cUtility::MultipleLinesToSingle(line)));
+        ASSERT_EQ(list().items(), plain) << "round " << round;
+    }
 }
 
 TEST_F(ManualFeedTest, AListOfAddressesTakesNoLinks)
