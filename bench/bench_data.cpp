@@ -1,6 +1,7 @@
 // The grid, exports and imports: a million e-mail rows looked at, filtered, deleted from and exported in every form;
 // 100,000 rows of each table imported, against the same rows written by bare prepared statements. Each figure stands
 // beside its mark. Time is wall time; TRAWLEX_BENCH_ROWS gives another number of rows for the first part.
+#include "app/QtEventPump.h"
 #include "app/frmSearch.h"
 #include "data/DataView.h"
 #include "data/Exports.h"
@@ -8,12 +9,13 @@
 #include "data/ImportLists.h"
 #include "data/Imports.h"
 #include "store/Schema.h"
-#include "support/FakePump.h"
 #include "support/Fakes.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <cstdio>
 #include <sqlite3.h>
 
@@ -59,7 +61,7 @@ struct Desk
     }
     frmSearch form;
     RecordingLog log;
-    FakePump pump;
+    QtEventPump pump;
     FakeDialogs dialogs;
     MemorySettings settings;
     CountingStates states;
@@ -84,7 +86,7 @@ void require(int code, sqlite3 *handle)
 }
 
 /// Rows written by one prepared statement in one transaction, and nothing else.
-void insertBarely(const QString &path, const QString &table, const QStringList &columns, int rows)
+void insertBarely(const QString &path, const QString &table, const QStringList &columns, int rows, int first = 0)
 {
     sqlite3 *handle = nullptr;
     require(sqlite3_open(path.toUtf8().constData(), &handle), handle);
@@ -94,7 +96,7 @@ void insertBarely(const QString &path, const QString &table, const QStringList &
     const QString text = u"INSERT INTO [%1]([%2]) VALUES(%3)"_s.arg(table, columns.join("],["_L1), places.join(u','));
     sqlite3_stmt *statement = nullptr;
     require(sqlite3_prepare_v2(handle, text.toUtf8().constData(), -1, &statement, nullptr), handle);
-    for (int row = 0; row < rows; ++row) {
+    for (int row = first; row < first + rows; ++row) {
         for (int i = 0; i < columns.size(); ++i) {
             const bool date = columns[i] == "Date"_L1, number = columns[i].endsWith("Index"_L1);
             const QByteArray value =
@@ -182,10 +184,58 @@ void measureImports()
         report(u"   times bare inserts"_s, told / plain, "x", 2);
     }
 }
+/// How long the event loop is kept from its work at most, while something else is done.
+class Freeze
+{
+  public:
+    Freeze()
+    {
+        QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] { beat(); });
+        mClock.start();
+        mTimer.start(10);
+    }
+    [[nodiscard]] double longest()
+    {
+        beat();
+        return double(mLongest) / 1e6;
+    }
+
+  private:
+    void beat()
+    {
+        mLongest = std::max(mLongest, mClock.nsecsElapsed() - std::exchange(mBefore, mClock.nsecsElapsed()));
+    }
+
+    QElapsedTimer mClock;
+    QTimer mTimer;
+    qint64 mBefore = 0, mLongest = 0;
+};
+
+/// As the window imports: into a table that has rows, with the status line told how far it is.
+void measureFreeze()
+{
+    constexpr int rows = 100'000;
+    for (const ImportedTable &table : ImportLists::data()) {
+        if (table.name != "SiteSummary"_L1 && table.name != "EmailAddress"_L1)
+            continue;
+        QTemporaryDir folder, source;
+        Desk target(folder.path()), from(source.path());
+        insertBarely(from.database->DatabasePath(), table.name, table.columns, rows);
+        insertBarely(target.database->DatabasePath(), table.name, table.columns, rows, rows);
+        Freeze freeze;
+        const double whole = milliseconds([&] {
+            target.work.run(u"Importing"_s,
+                            [&] { std::ignore = target.imports.ImportAllData(from.database->DatabasePath()); });
+        });
+        report("longest freeze while importing "_L1 + table.name, freeze.longest(), "ms", 100);
+        report(u"   of"_s, whole, "ms", 0);
+    }
+}
 } // namespace
 
-int main()
+int main(int argc, char *argv[])
 {
+    const QCoreApplication application(argc, argv);
     bool wanted = false;
     const int given = qEnvironmentVariableIntValue("TRAWLEX_BENCH_ROWS", &wanted);
     const int rows = wanted ? given : 1'000'000;
@@ -200,4 +250,5 @@ int main()
     }
     std::printf("100000 rows into each table\n");
     measureImports();
+    measureFreeze();
 }

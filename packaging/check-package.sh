@@ -12,7 +12,7 @@ say() { printf '== %s\n' "$*"; }
 clean=${2:-$(mktemp -d)}
 running=()
 at_end() {
-  for process in "${running[@]}"; do kill "$process" 2>/dev/null || true; done
+  for process in "${running[@]}"; do kill "$process" 2>/dev/null && wait "$process" || true; done
   umount "$clean/dev/shm" "$clean/proc" 2>/dev/null || true
   [ $# -eq 0 ] || rm -rf --one-file-system "$clean"
 }

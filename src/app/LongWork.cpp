@@ -1,6 +1,13 @@
 #include "app/LongWork.h"
 
+#include <chrono>
+#include <future>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+constexpr std::chrono::milliseconds besideTurn(10);
+}
 
 void LongWork::begin(const QString &text)
 {
@@ -20,4 +27,14 @@ bool LongWork::goOn(qint64 done, qint64 all)
     mPump.doEvents();
     mNextTurn = mPump.tickCount() + turn;
     return !mCancelled;
+}
+
+void LongWork::beside(const std::function<void()> &body)
+{
+    if (!mUnderWay)
+        return body();
+    std::future<void> done = std::async(std::launch::async, body);
+    while (done.wait_for(besideTurn) != std::future_status::ready)
+        mPump.doEvents();
+    done.get();
 }

@@ -6,13 +6,15 @@
 #include "app/Ports.h"
 #include "app/StatusLine.h"
 
+#include <functional>
+
 class LongWork : public QObject
 {
     Q_OBJECT
 
   public:
     /// Milliseconds between two looks at what the user does meanwhile.
-    static constexpr qint64 turn = 200;
+    static constexpr qint64 turn = 50;
 
     LongWork(EventPump &pump, StatusLine &status) : mPump(pump), mStatus(status) {}
 
@@ -29,6 +31,9 @@ class LongWork : public QObject
     /// To be asked between two steps; costs next to nothing. False once the user has cancelled. `done` and `all` are
     /// steps; 0 for `all` shows no share. Outside run() always True.
     [[nodiscard]] bool goOn(qint64 done, qint64 all = 0);
+    /// Runs `body` in a thread of its own while events go on being handled; what it throws comes out here. For what
+    /// waits for the disk and touches nothing that an event could. Outside run() it is simply run.
+    void beside(const std::function<void()> &body);
     /// The user wants the command that is under way to end.
     void cancel() { mCancelled = mUnderWay; }
     [[nodiscard]] bool isUnderWay() const { return mUnderWay; }

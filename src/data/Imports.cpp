@@ -77,7 +77,7 @@ QString Imports::run(Place place, const std::function<void(cAdoMdb &)> &copy)
     });
     if (mWork.isCancelled())
         return u"Import cancelled, nothing imported"_s;
-    if (!transaction.commit())
+    if (!transaction.commit([this](const auto &writing) { mWork.beside(writing); }))
         return "Nothing imported. "_L1 + StoreFaults::text(transaction.fault());
     return ending.isEmpty() ? ending : "Import ended: "_L1 + ending;
 }

@@ -19,7 +19,7 @@ void RowCopy::collectKnown(const QString &testField)
 {
     Recordset rows = mTarget.GetRecordset("SELECT ["_L1 + testField + "] FROM ["_L1 + mTable + ']'_L1);
     const Field field = rows.Fields()[0];
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.Eof() && mWork.goOn(0); rows.MoveNext()) {
         if (field.Value().isValid()) // no text is equal to Null
             mKnown.insert(cUtility::columnKey(FixNull(field)));
     }

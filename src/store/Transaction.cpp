@@ -33,11 +33,11 @@ Transaction::~Transaction()
         mConnection->allowWrites();
 }
 
-bool Transaction::commit()
+bool Transaction::commit(const Waiting &waiting)
 {
     if (!mActive)
         return false;
-    const bool kept = guarded(mLog, place, [&] { mConnection->commit(); });
+    const bool kept = guarded(mLog, place, [&] { waiting([this] { mConnection->commit(); }); });
     if (!kept)
         mFault = mConnection->fault();
     mActive = !kept;

@@ -4,6 +4,7 @@
 
 #include "store/StoreFault.h"
 
+#include <functional>
 #include <memory>
 
 class Connection;
@@ -26,7 +27,11 @@ class Transaction
     /// True when the rows are on the disk, in the file at the database's path (an inner one: when they belong to the
     /// outer one). False, with the error in the log, when they are not: nothing of it may be reported as saved. False
     /// too, and nothing is kept, when the file refused a row on the way: what is kept is whole. A second call is False.
-    [[nodiscard]] bool commit();
+    [[nodiscard]] bool commit() { return commit(atOnce); }
+    /// The same for much work, whose writing may take a while: `waiting` decides how it is waited for, and passes on
+    /// what is thrown.
+    using Waiting = std::function<void(const std::function<void()> &writing)>;
+    [[nodiscard]] bool commit(const Waiting &waiting);
 
     /// What befell the file, when the transaction could not begin or `commit` was False; None while all is well. What
     /// is wrong with a statement alone is no fault of the file.
@@ -37,6 +42,8 @@ class Transaction
     [[nodiscard]] bool isActive() const { return mActive; }
 
   private:
+    static void atOnce(const std::function<void()> &writing) { writing(); }
+
     std::shared_ptr<Connection> mConnection;
     ErrorReceiver &mLog;
     StoreFault mFault = StoreFault::None;

@@ -4,6 +4,10 @@
 #include "support/FakePump.h"
 #include "util/QtPrint.h"
 
+#include <QDeadlineTimer>
+#include <QThread>
+#include <QTimer>
+#include <atomic>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -67,6 +71,24 @@ TEST_F(LongWorkTest, CancellingEndsTheOneUnderWayAndNoLaterOne)
     work.cancel();
     EXPECT_TRUE(work.goOn(1)) << "nothing is under way";
     EXPECT_TRUE(work.run(u"Loading"_s, [&] { EXPECT_TRUE(work.goOn(1)); }));
+}
+
+TEST_F(LongWorkTest, WhatIsDoneBesideItKeepsNoEventWaiting)
+{
+    std::atomic<bool> handled = false;
+    const QThread *const here = QThread::currentThread();
+    EXPECT_TRUE(work.run(u"Saving"_s, [&] {
+        QTimer::singleShot(0, &form, [&] { handled = true; });
+        work.beside([&] {
+            EXPECT_NE(QThread::currentThread(), here);
+            const QDeadlineTimer patience(20'000);
+            while (!handled && !patience.hasExpired())
+                QThread::msleep(1);
+        });
+        EXPECT_TRUE(handled);
+        EXPECT_THROW(work.beside([] { throw RuntimeError(5, u"no"_s); }), RuntimeError);
+    }));
+    work.beside([&] { EXPECT_EQ(QThread::currentThread(), here) << "nobody waits outside a command"; });
 }
 
 TEST_F(LongWorkTest, ASecondOneIsRefusedUntilTheFirstHasEndedEvenByAnError)

@@ -88,6 +88,46 @@ TEST_F(RowReaderTest, EveryValueIsThatOfItsRowHoweverTheSetIsWalkedAndChanged)
     }
 }
 
+namespace {
+/// The columns that each row is asked for, in that order.
+class WalkTest : public RowReaderTest, public testing::WithParamInterface<std::vector<int>>
+{
+};
+} // namespace
+
+TEST_P(WalkTest, EveryPageIsThatOfItsRow)
+{
+    constexpr qint64 count = 700;
+    fill(count, 5000);
+    std::mt19937 random(12);
+    Recordset rows = mDatabase->GetRecordset(u"SELECT * FROM SiteSummary"_s);
+    rows.setAbsolutePosition(count); // all rows belong to the set now, whatever is deleted later
+    rows.setAbsolutePosition(1);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const QString some = QString::number(1 + random() % count);
+        if (random() % 40 == 0)
+            mDatabase->DeleteRecords(table, u"Index"_s, some, true);
+        Recordset other = mDatabase->GetRecordset(u"SELECT * FROM SiteSummary WHERE Index="_s + some);
+        if (random() % 40 == 0 && !other.Eof()) {
+            other.Fields()["FullPage"_L1].setValue("changed "_L1 + some);
+            other.Update();
+        }
+        if (random() % 100 == 0)
+            rows.setAbsolutePosition(some.toLongLong());
+        for (const int column : GetParam()) {
+            const bool wanted = random() % 20 != 0;
+            if (wanted) {
+                ASSERT_EQ(readValue(rows, column), plainValue(rows.AbsolutePosition(), column))
+                    << "row " << rows.AbsolutePosition();
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(RowReader, WalkTest,
+                         testing::Values(std::vector{4}, std::vector{3, 4}, std::vector{4, 3},
+                                         std::vector{5, 1, 4, 0}));
+
 TEST_F(RowReaderTest, ASparseSetHasItsOwnRows)
 {
     fill(3000);

@@ -12,6 +12,7 @@ constexpr qint64 largestBlock = 256;
 constexpr qint64 mostBytes = 1'048'576;
 // A block may read over so many rows for each one that belongs to the set.
 constexpr qint64 mostStrangers = 3;
+constexpr qint64 notAsked = -2;
 
 constexpr std::array longKinds{ColumnKind::LongVarWChar, ColumnKind::LongVarChar, ColumnKind::LongVarBinary,
                                ColumnKind::Binary};
@@ -25,7 +26,8 @@ qint64 bytesOf(const QVariant &value)
 } // namespace
 
 RowReader::RowReader(std::shared_ptr<KeySet> keys)
-    : mKeys(std::move(keys)), mSlots(mKeys->query().columns.size(), -1), mWanted(mSlots.size())
+    : mKeys(std::move(keys)), mSlots(mKeys->query().columns.size(), -1), mWanted(mSlots.size()),
+      mAskedAt(mSlots.size(), notAsked)
 {
 }
 
@@ -55,25 +57,30 @@ void RowReader::forgetWhatChanged()
 const QVariant &RowReader::value(qint64 place, int column)
 {
     forgetWhatChanged();
-    if (isLong(column))
-        return longValue(place, column);
     const auto asked = static_cast<std::size_t>(column);
+    const bool inBlock = holds(place) && mSlots[asked] >= 0;
+    const bool walked = isWalked(place, column);
     mWanted[asked] = true;
-    if (!holds(place) || mSlots[asked] < 0)
+    if (!inBlock && (walked || !isLong(column)))
         read(place);
+    mAskedAt[asked] = place;
+    if (!inBlock && !walked && isLong(column))
+        return longValue(place, column);
     const auto row = static_cast<std::size_t>(place - mFirst);
     if (!mPresent[row])
         throw AdoError::error(AdoError::RowDeleted);
     return mValues[row * mColumns.size() + static_cast<std::size_t>(mSlots[asked])];
 }
 
-/// A first row is read with all its short columns, the rows behind it with those that were wanted so far.
-void RowReader::chooseColumns(bool first)
+/// A first row is read with all its short columns, the rows behind it with those that were wanted so far, and with the
+/// long ones of a walk.
+void RowReader::chooseColumns(qint64 first)
 {
+    const bool all = mRows == 0;
     mColumns.clear();
     for (int column = 0; column < static_cast<int>(mSlots.size()); ++column) {
         const auto place = static_cast<std::size_t>(column);
-        const bool taken = !isLong(column) && (first || mWanted[place]);
+        const bool taken = isLong(column) ? isWalked(first, column) : all || mWanted[place];
         mSlots[place] = taken ? static_cast<int>(mColumns.size()) : -1;
         if (taken)
             mColumns.push_back(column);
@@ -96,7 +103,7 @@ qint64 RowReader::rowsToRead(qint64 place) const
 void RowReader::read(qint64 place)
 {
     const qint64 count = rowsToRead(place);
-    chooseColumns(mRows == 0);
+    chooseColumns(place);
     const TableInfo &table = *mKeys->query().table;
     std::string text = "SELECT " + table.key;
     for (const int column : mColumns)

@@ -1,7 +1,7 @@
 // Reads the values of a set's rows: no column that is not asked for, if it may be long, and rows that follow each other
-// in blocks, so that a walk costs little more than what it takes. A block holds the rows as they stood when it was
-// read; a change through the same connection is seen at once, one of another program with the next block. Inside store/
-// only.
+// in blocks of a megabyte at most, so that a walk costs little more than what it takes. A block holds the rows as they
+// stood when it was read; a change through the same connection is seen at once, one of another program with the next
+// block. Inside store/ only.
 #pragma once
 
 #include "store/rows/KeySet.h"
@@ -23,7 +23,11 @@ class RowReader
     [[nodiscard]] bool isLong(int column) const;
     [[nodiscard]] const ColumnInfo &info(int column) const;
     void forgetWhatChanged();
-    void chooseColumns(bool first);
+    [[nodiscard]] bool isWalked(qint64 place, int column) const
+    {
+        return place == mAskedAt[static_cast<std::size_t>(column)] + 1;
+    }
+    void chooseColumns(qint64 first);
     [[nodiscard]] qint64 rowsToRead(qint64 place) const;
     void read(qint64 place);
     void takeRows(Statement &statement, qint64 count);
@@ -41,6 +45,8 @@ class RowReader
     std::vector<bool> mPresent;
     qint64 mFirst = 0;
     qint64 mRows = 0;
+    // Where each column was asked for last: a long one goes into the block of a walk that asks for it row by row.
+    std::vector<qint64> mAskedAt;
     // One long value.
     QVariant mLongValue;
     qint64 mLongPlace = -1;
