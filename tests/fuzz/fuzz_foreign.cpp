@@ -22,7 +22,9 @@ using namespace Qt::StringLiterals;
 int readerMain(int count, char **arguments); // that of the program
 
 namespace {
-constexpr unsigned patience = 20; // seconds
+// As the program has them: a reader that is silent for so many seconds, or complains without end, is ended.
+constexpr unsigned patience = 10;
+constexpr qsizetype longestComplaint = 262'144;
 constexpr int endedByDefect = 77;
 // The fuzzer sees nothing of the child. It takes an answer of a new kind for a new place that was reached.
 constexpr std::size_t mostKinds = 4096;
@@ -55,7 +57,7 @@ struct Answer
     _exit(readerMain(int(arguments.size()), arguments.data()));
 }
 
-void readToTheEnd(const std::array<int, 2> &ends, Answer &answer)
+void readToTheEnd(pid_t child, const std::array<int, 2> &ends, Answer &answer)
 {
     std::array<pollfd, 2> open{pollfd{ends[0], POLLIN, 0}, pollfd{ends[1], POLLIN, 0}};
     const std::array texts{&answer.frames, &answer.complaint};
@@ -71,6 +73,8 @@ void readToTheEnd(const std::array<int, 2> &ends, Answer &answer)
             else
                 close(std::exchange(open[i].fd, -1));
         }
+        if (answer.complaint.size() > longestComplaint)
+            kill(child, SIGKILL);
     }
 }
 
@@ -86,7 +90,7 @@ Answer ask(const QByteArrayList &words)
     close(frames[1]);
     close(complaint[1]);
     Answer answer;
-    readToTheEnd({frames[0], complaint[0]}, answer);
+    readToTheEnd(child, {frames[0], complaint[0]}, answer);
     waitpid(child, &answer.state, 0);
     return answer;
 }
@@ -185,8 +189,8 @@ QList<QByteArray> samples()
     return found;
 }
 
-/// Bytes in fives: a page, a place on it, what stands there. Half of the places are in the page's head, where most of
-/// what leads elsewhere stands.
+/// Bytes in fives: a page, a place on it, what stands there. Some of the places are in the page's head, where most of
+/// what leads elsewhere stands; many there leave nothing to read.
 QByteArray changed(QByteArray file, QByteArrayView changes)
 {
     constexpr qsizetype page = 4096;
@@ -194,7 +198,7 @@ QByteArray changed(QByteArray file, QByteArrayView changes)
     for (; changes.size() >= 5; changes = changes.sliced(5)) {
         const qsizetype number = quint8(changes[0]) | quint8(changes[1]) << 8;
         const qsizetype inPage = quint8(changes[2]) | quint8(changes[3]) << 8;
-        const qsizetype place = number * page + inPage % (quint8(changes[3]) < 128 ? head : page);
+        const qsizetype place = number * page + inPage % (quint8(changes[3]) < 32 ? head : page);
         file[place % file.size()] = changes[4];
     }
     return file;
