@@ -40,6 +40,9 @@ class frmFoto : public QObject
     void addPicture(const QString &file);
     /// A file comes back to its place in the list, or to its end; none is chosen.
     void insertPicture(int index, const QString &file);
+    enum class Leaves { Moved, Deleted };
+    /// The chosen picture has left the directory, and the list is about to lose it.
+    void tellLeaves(Leaves how) { Q_EMIT leaves(how); }
     /// Takes an item off the list.
     void removePicture(int index);
     /// Chooses an item, or none with -1: the list's Click, if that is another one.
@@ -51,6 +54,7 @@ class frmFoto : public QObject
   Q_SIGNALS:
     void shown();
     void unloaded();
+    void leaves(frmFoto::Leaves how);
     /// Caption, notice or directories are other ones.
     void changed();
 

@@ -5,6 +5,7 @@
 #include "app/QtEventPump.h"
 #include "app/SettingKeys.h"
 #include "support/Fakes.h"
+#include "ui/pictures/PictureGoing.h"
 #include "ui/pictures/ThumbnailStore.h"
 #include "ui/widgets/ItemList.h"
 #include "window/side/PictureMenu.h"
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -204,6 +206,41 @@ TEST_F(PicturesOnShow, ThumbnailsAreAnOptionOfTheList)
     EXPECT_TRUE(QTest::qWaitFor([&] { return redness() > 40; }, patience));
     press(Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(list().sizeHintForRow(0), plain);
+}
+
+TEST_F(PicturesOnShow, APictureThatGoesDoesSoInAMomentAndInNobodysWay)
+{
+    for (const QString &name : {u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s, u"d.jpg"_s})
+        make(name, {300, 300});
+    open();
+    const auto going = [this] { return view().findChildren<PictureGoing *>().size(); };
+    press(Qt::Key_Insert);
+    EXPECT_EQ(going(), 1) << "moved";
+    press(Qt::Key_Delete);
+    EXPECT_EQ(going(), 1) << "deleted, and the one before it is cut short";
+    EXPECT_EQ(form.lstFoto.listCount(), 2) << "nothing waits for it";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return going() == 0; }, patience));
+}
+
+TEST_F(PicturesOnShow, WhereNoMotionIsWantedAPictureIsGoneAtOnce)
+{
+    class Still : public QProxyStyle
+    {
+      public:
+        int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                      QStyleHintReturn *data) const override
+        {
+            return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    } style;
+    make(u"a.jpg"_s, {300, 300});
+    make(u"b.jpg"_s, {300, 300});
+    open();
+    QStyle *const usual = view().style();
+    view().setStyle(&style);
+    press(Qt::Key_Delete);
+    EXPECT_TRUE(view().findChildren<PictureGoing *>().isEmpty());
+    view().setStyle(usual);
 }
 
 TEST_F(PicturesOnShow, AThumbnailGoesWithItsFile)

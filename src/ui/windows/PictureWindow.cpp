@@ -3,6 +3,7 @@
 #include "ui/binding/MenuMirror.h"
 #include "ui/look/Icons.h"
 #include "ui/look/Style.h"
+#include "ui/pictures/PictureGoing.h"
 #include "ui/pictures/ThumbnailDelegate.h"
 #include "ui/widgets/ItemList.h"
 #include "ui/widgets/PathLabel.h"
@@ -120,6 +121,10 @@ void PictureWindow::connectKeys()
 void PictureWindow::connectForm()
 {
     connect(&mForm, &frmFoto::changed, this, &PictureWindow::showState);
+    connect(&mForm, &frmFoto::leaves, this, [this](frmFoto::Leaves how) {
+        PictureGoing::letGo(*picFoto,
+                            how == frmFoto::Leaves::Moved ? PictureGoing::Way::Slide : PictureGoing::Way::Fade);
+    });
     const Menu &more = mForm.mnuFotoMore;
     connect(&more.item("mnuFotoActualSize"_L1), &Control::changed, this, &PictureWindow::showActualSize);
     connect(&more.item("mnuFotoThumbnails"_L1), &MenuItem::Click, this, &PictureWindow::showThumbnails);

@@ -167,6 +167,7 @@ void PictureBrowser::deleteChosen(int index)
         keep({path, PictureMoves::toTrash(path), index, true});
     else
         PictureMoves::kill(path);
+    mForm.tellLeaves(frmFoto::Leaves::Deleted);
     takeOff(index);
 }
 
@@ -188,6 +189,7 @@ void PictureBrowser::moveChosen(int index)
     const QString path = demandFile(index);
     const QString target = mForm.moveToDirectory() + QFileInfo(path).fileName();
     keep({path, PictureMoves::move(path, target), index, false});
+    mForm.tellLeaves(frmFoto::Leaves::Moved);
     takeOff(index);
 }
 
