@@ -6,14 +6,27 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+// Whoever opens and closes the files of a database that this program has open takes its locks away.
+bool isOfADatabase(const QString &path)
+{
+    static constexpr std::array endings{".mdb"_L1, "-wal"_L1, "-shm"_L1, "-journal"_L1};
+    return std::ranges::any_of(endings, [&](auto ending) { return path.endsWith(ending, Qt::CaseInsensitive); });
+}
+} // namespace
 
 ListFile::Content ListFile::read(const QString &path)
 {
     const QFileInfo file(path);
     if (!file.isFile())
         return {{}, u"No such file"_s};
+    if (isOfADatabase(file.canonicalFilePath()))
+        return {{}, u"A database is no list"_s};
     if (!file.isReadable())
         return {{}, u"File can not be read"_s};
     if (file.size() > longest)

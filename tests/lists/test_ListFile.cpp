@@ -64,6 +64,13 @@ TEST_F(ListFileTest, WhatIsNoFileOrTooLongForAListIsTold)
 {
     EXPECT_EQ(ListFile::read(folder.filePath(u"none.txt"_s)).fault, u"No such file"_s);
     EXPECT_EQ(ListFile::read(folder.path()).fault, u"No such file"_s);
+    for (const QString &name : {u"Trawlex-0.mdb"_s, u"Old.MDB"_s, u"Trawlex-0.mdb-wal"_s, u"Trawlex-0.mdb-shm"_s}) {
+        QFile kept(folder.filePath(name));
+        ASSERT_TRUE(kept.open(QIODevice::WriteOnly) && kept.write("http://a.com\n") > 0);
+        kept.close();
+        EXPECT_EQ(ListFile::read(kept.fileName()).fault, u"A database is no list"_s) << "its locks would go";
+        EXPECT_TRUE(ListFile::read(kept.fileName()).lines.isEmpty());
+    }
     const QString path = file(u"huge.txt"_s, "a\r\n");
     ASSERT_TRUE(QFile::resize(path, 1024LL * 1024 * 1024)) << "a hole takes no room";
     const ListFile::Content content = ListFile::read(path);
