@@ -209,6 +209,11 @@ class Places(OptionCase):
         self.start_anew(**places)
         self.page = None
 
+    def closes(self, chooser):
+        self.display.do("key", "alt+c")
+        with contextlib.suppress(AssertionError):
+            return trawlex.wait_for(lambda: chooser not in self.windows(), 3, "its end")
+
     def choose_folder_below(self, button, key, wanted):
         """Opens the chooser, which stands on the folder as it was left, and goes one folder down."""
         def chosen():
@@ -216,13 +221,15 @@ class Places(OptionCase):
             chooser = self.wait_for_window("Select Folder")
             self.display.do("windowactivate", "--sync", chooser)
             # The tree reads its folders in the background: a key that finds none yet leaves all as it was.
-            for pressed in ("Tab", "Right", "alt+c"):
+            for pressed in ("Tab", "Right"):
                 self.display.do("key", pressed)
-            trawlex.wait_for(lambda: chooser not in self.windows(), 10, "the end of the chooser")
-            return self.stored(key) == wanted
+            trawlex.wait_for(lambda: self.closes(chooser), 20, "the end of the chooser")
+            # What was chosen is stored a moment later; looking too soon would go one folder further.
+            with contextlib.suppress(AssertionError):
+                return trawlex.wait_for(lambda: self.stored(key) == wanted, 3, wanted)
 
         self.show(DIRECTORY)
-        trawlex.wait_for(chosen, 30, f"'{wanted}' under {key}")
+        trawlex.wait_for(chosen, 60, f"'{wanted}' under {key}")
 
     def choose_file(self, button, title, *keys, text=""):
         self.show(DIRECTORY)
