@@ -242,6 +242,20 @@ TEST_F(ChromiumWindows, AKilledBrowserIsToldOnceAndFoundNoMore)
     EXPECT_EQ(str(browser->LocationName()), "new");
 }
 
+TEST_F(ChromiumWindows, ABrowserThatDiesInTheMiddleOfALoadIsToldBeforeItsEnd)
+{
+    server().route("/never", {.delay = -1});
+    server().page("/half", "<title>half</title><iframe src=/pop></iframe><img src=/never>");
+    browser->Navigate(here(u"/half"_s));
+    ASSERT_TRUE(waitForTitle(u"half"_s));
+    told.clear();
+    for (const qint64 process : mainProcess())
+        ::kill(pid_t(process), SIGKILL);
+    ASSERT_TRUE(waitFor([&] { return told.contains(u"ended"_s); }));
+    EXPECT_EQ(str(told), "died | ended") << "who hears of the end first takes the page for one that did not come";
+    take(connect());
+}
+
 TEST_F(ChromiumWindows, ABrowserThatIsKilledInTheMiddleOfAReadEndsIt)
 {
     server().page("/endless", "<title>endless</title><script>while (true);</script>");

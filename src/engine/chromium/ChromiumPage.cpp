@@ -414,10 +414,12 @@ void ChromiumPage::end(PageNotice::Kind how)
     if (std::exchange(mClosed, true))
         return;
     mReader.processLost(); // a read under way ends at once
+    // First of all: whoever hears that loading has ended must know already that the browser has.
+    mNotices.clear();
+    notice({how});
     if (mLoading.cancel())
         notice({PageNotice::Kind::LoadingEnded});
     (void)mLoading.processLost();
-    notice({how});
 }
 
 void ChromiumPage::loadingEnded()
