@@ -222,6 +222,13 @@ TEST_F(PicturesOnShow, APictureThatGoesDoesSoInAMomentAndInNobodysWay)
     EXPECT_TRUE(QTest::qWaitFor([&] { return going() == 0; }, patience));
 }
 
+TEST_F(PicturesOnShow, TheListHasRoomForItsNamesBesideALargePicture)
+{
+    make(u"a.jpg"_s, {3000, 2000});
+    open();
+    EXPECT_EQ(list().width(), 200);
+}
+
 TEST_F(PicturesOnShow, WhereNoMotionIsWantedAPictureIsGoneAtOnce)
 {
     class Still : public QProxyStyle

@@ -215,7 +215,7 @@ struct DISABLED_Screenshots : WindowFixture
         QByteArray bytes;
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "png");
+        image.save(&buffer, "jpg");
         return bytes;
     }
 

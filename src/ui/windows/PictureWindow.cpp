@@ -61,15 +61,21 @@ void PictureWindow::build()
     picFoto->setMinimumSize(leastPicture);
     mPosition = new QLabel(this);
     mPosition->setObjectName("lblPosition"_L1);
+    mPosition->setMaximumWidth(listWidth);
     auto *const whole = new QGridLayout(this);
     whole->setContentsMargins(gap, gap, gap, gap);
     whole->setSpacing(gap);
     whole->addWidget(lstFoto, 0, 0);
     whole->addWidget(picFoto, 0, 1);
     whole->addWidget(mPosition, 1, 0);
-    whole->addWidget(commands(), 1, 1);
+    QWidget *const row = commands();
+    whole->addWidget(row, 1, 1);
+    // They take what room there is, whatever they would like to have.
+    picFoto->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    row->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     whole->setRowStretch(0, 1);
-    whole->setColumnStretch(1, 1);
+    whole->setColumnStretch(0, 2); // up to the width of the list
+    whole->setColumnStretch(1, 3);
 }
 
 QPushButton *PictureWindow::command(MenuItem &item, const QString &name)
