@@ -196,7 +196,7 @@ TEST_F(ChromiumHolder, AHolderThatIsKilledTakesTheBrowserAlong)
     ASSERT_GT(holder(), 0);
     ::kill(pid_t(holder()), SIGKILL);
     EXPECT_TRUE(waitFor([&] { return processes().isEmpty(); }, 5000));
-    EXPECT_TRUE(died);
+    EXPECT_TRUE(waitFor([&] { return died; })) << "the news may come a turn behind the end";
     factory->start(ChromiumProgram::find());
     browser = connect();
     EXPECT_TRUE(browser) << "what the killed one has left is in nobody's way";
