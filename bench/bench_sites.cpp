@@ -111,11 +111,18 @@ void measureLinks()
     measure("20,000 links, 1,000 blocked texts", 30, rounds, getLinks);
 }
 
-void measureCriteria()
+/// A page of at least so many characters.
+QString pageOf(qsizetype size)
 {
     QString page;
-    while (page.size() < 5'000'000)
+    while (page.size() < size)
         page += u"<p class=\"text\">The quick brown fox number %1 jumps over the lazy dog.</p>\n"_s.arg(page.size());
+    return page;
+}
+
+void measureCriteria()
+{
+    const QString page = pageOf(5'000'000);
     QStringList texts;
     for (int i = 0; i < 40; ++i)
         texts.append(u"the quick brown dog %1"_s.arg(i));
@@ -127,9 +134,7 @@ void measureCriteria()
 /// Lists that stay the same from page to page: a page of usual size is looked through, and its addresses are sifted.
 void measureKeptTexts()
 {
-    QString page;
-    while (page.size() < 100'000)
-        page += u"<p class=\"text\">The quick brown fox number %1 jumps over the lazy dog.</p>\n"_s.arg(page.size());
+    const QString page = pageOf(100'000);
     QStringList found;
     for (int i = 0; i < 20; ++i)
         found.append(u"ann%1@harbour.example"_s.arg(i));

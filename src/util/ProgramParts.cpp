@@ -18,7 +18,7 @@ QString cUtility::programPart(const QString &name)
 {
     const QString own = ownFolder();
     for (const QLatin1StringView folder : {"/"_L1, "/../libexec/trawlex/"_L1}) {
-        const QString path = own + folder + name;
+        QString path = own + folder + name;
         if (QFileInfo(path).isFile())
             return path;
     }
