@@ -79,7 +79,7 @@ void frmFoto::choosePicture(int index)
 
 QString frmFoto::picturePath(int index) const
 {
-    if (index < 0 || index >= mFiles.size())
+    if (mActiveDirectory.isEmpty() || index < 0 || index >= mFiles.size())
         return {};
     // A path that begins at the root stays as it is.
     return QDir(mActiveDirectory).filePath(mFiles.at(index));

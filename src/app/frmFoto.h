@@ -47,7 +47,7 @@ class frmFoto : public QObject
     void removePicture(int index);
     /// Chooses an item, or none with -1: the list's Click, if that is another one.
     void choosePicture(int index);
-    /// The file's path; "" outside the list.
+    /// The file's path; "" outside the list, and while the window is closed.
     [[nodiscard]] QString picturePath(int index) const;
     [[nodiscard]] QString chosenPath() const { return picturePath(lstFoto.listIndex()); }
 

@@ -13,11 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 // Whoever opens and closes the files of a database that this program has open takes its locks away.
-bool isOfADatabase(const QString &path)
+bool isOfADatabase(const QFileInfo &file)
 {
     static constexpr std::array endings{".mdb"_L1, "-wal"_L1, "-shm"_L1, "-journal"_L1};
-    return std::ranges::any_of(endings, [&](auto ending) { return path.endsWith(ending, Qt::CaseInsensitive); });
+    return std::ranges::any_of(endings, [name = file.filePath(), target = file.canonicalFilePath()](auto ending) {
+        return name.endsWith(ending, Qt::CaseInsensitive) || target.endsWith(ending, Qt::CaseInsensitive);
+    });
 }
+
+constexpr auto noList = "A database is no list"_L1;
 } // namespace
 
 ListFile::Content ListFile::read(const QString &path)
@@ -25,8 +29,8 @@ ListFile::Content ListFile::read(const QString &path)
     const QFileInfo file(path);
     if (!file.isFile())
         return {{}, u"No such file"_s};
-    if (isOfADatabase(file.canonicalFilePath()))
-        return {{}, u"A database is no list"_s};
+    if (isOfADatabase(file))
+        return {{}, noList};
     if (!file.isReadable())
         return {{}, u"File can not be read"_s};
     if (file.size() > longest)
@@ -50,17 +54,20 @@ QString ListFile::proposal(const QString &directory, const QString &base)
     return cUtility::GetVacantFileSpecs(directory + (name.isEmpty() ? u"UrlExport"_s : name) + "-0.txt"_L1);
 }
 
-bool ListFile::append(const QString &path, const QStringList &items)
+QString ListFile::append(const QString &path, const QStringList &items)
 {
+    if (isOfADatabase(QFileInfo(path)))
+        return noList;
+    const QString fault = "Not saved. "_L1 + path;
     QFile file(path);
     if (!file.open(QIODevice::Append))
-        return false;
+        return fault;
     const qint64 before = file.size();
     QByteArray bytes;
     for (const QString &item : items)
         bytes += item.toUtf8() + "\r\n";
     if (file.write(bytes) == bytes.size() && file.flush())
-        return true;
+        return {};
     file.resize(before);
-    return false;
+    return fault;
 }

@@ -20,6 +20,7 @@ struct Content
 /// hold, and a number.
 [[nodiscard]] QString proposal(const QString &directory, const QString &base);
 
-/// Puts the items behind what the file holds, one a line. False when not all of it could be written.
-[[nodiscard]] bool append(const QString &path, const QStringList &items);
+/// Puts the items behind what the file holds, one a line. What stood in the way, and then nothing is added; "" where
+/// all was written.
+[[nodiscard]] QString append(const QString &path, const QStringList &items);
 } // namespace ListFile

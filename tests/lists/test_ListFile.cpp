@@ -91,7 +91,25 @@ TEST_F(ListFileTest, TheProposalIsTheFirstFreeNameOfItsKind)
 TEST_F(ListFileTest, AFileThatIsThereIsAddedTo)
 {
     const QString path = file(u"mine.txt"_s, "a\r\n");
-    EXPECT_TRUE(ListFile::append(path, {u"b"_s, u"\u00FC"_s}));
+    EXPECT_EQ(ListFile::append(path, {u"b"_s, u"\u00FC"_s}), QString());
     EXPECT_EQ(ListFile::read(path).lines, (QStringList{u"a"_s, u"b"_s, u"\u00FC"_s}));
-    EXPECT_FALSE(ListFile::append(folder.path(), {u"b"_s}));
+    EXPECT_EQ(ListFile::append(folder.path(), {u"b"_s}), "Not saved. "_L1 + folder.path());
+}
+
+TEST_F(ListFileTest, NothingIsAddedToTheFilesOfADatabaseByWhateverName)
+{
+    for (const QString &name : {u"Trawlex-0.mdb"_s, u"Trawlex-0.mdb-wal"_s, u"Trawlex-0.mdb-shm"_s}) {
+        const QString path = file(name, "rows");
+        const QString link = folder.filePath(u"link.txt"_s);
+        ASSERT_TRUE(QFile::link(path, link));
+        for (const QString &way : {path, link}) {
+            EXPECT_EQ(ListFile::append(way, {u"http://a.com"_s}), u"A database is no list"_s);
+            EXPECT_EQ(ListFile::read(way).fault, u"A database is no list"_s);
+        }
+        EXPECT_EQ(QFileInfo(path).size(), 4);
+        QFile::remove(link);
+    }
+    const QString unborn = folder.filePath(u"New.MDB"_s);
+    EXPECT_EQ(ListFile::append(unborn, {u"http://a.com"_s}), u"A database is no list"_s);
+    EXPECT_FALSE(QFile::exists(unborn));
 }

@@ -214,6 +214,90 @@ TEST_F(PictureBrowserTest, TheListFlashesForAHundredAndOneTurnsInWhichNothingCan
     }
 }
 
+namespace {
+/// What happens during the flash of the key that takes "b.jpg" away, and what is on the list then.
+struct Meanwhile
+{
+    const char *tag;
+    bool closes;
+    enum class Loads { Nothing, Others, Target, SameWithOneMore } loads;
+    QStringList list;
+};
+
+void PrintTo(const Meanwhile &meanwhile, std::ostream *out)
+{
+    *out << meanwhile.tag;
+}
+
+const QStringList otherNames{u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s};
+const Meanwhile meanwhiles[] = {
+    {"the window is closed", true, Meanwhile::Loads::Nothing, {u"a.jpg"_s, u"b.jpg"_s}},
+    {"another directory is loaded", false, Meanwhile::Loads::Others, otherNames},
+    {"a download opens the window anew", true, Meanwhile::Loads::Others, otherNames},
+    {"opened anew it has nowhere to move to", true, Meanwhile::Loads::Target, {}},
+    {"its directory has another first file",
+     false,
+     Meanwhile::Loads::SameWithOneMore,
+     {u"0.jpg"_s, u"a.jpg"_s, u"b.jpg"_s}},
+};
+
+class PictureBrowserFlash : public PictureBrowserTest, public testing::WithParamInterface<Meanwhile>
+{
+  protected:
+    PictureBrowserFlash()
+    {
+        for (const QString &name : otherNames)
+            make(otherFolder.filePath(name), "other");
+        QDir::setCurrent(otherFolder.path()); // where a name without its directory leads to
+    }
+    ~PictureBrowserFlash() override { QDir::setCurrent(before); }
+    void happen()
+    {
+        if (GetParam().closes)
+            form.unload();
+        switch (GetParam().loads) {
+        case Meanwhile::Loads::Nothing:
+            return;
+        case Meanwhile::Loads::Others:
+            return browser.LoadDirectory(otherFolder.path());
+        case Meanwhile::Loads::Target:
+            return browser.LoadDirectory(target());
+        case Meanwhile::Loads::SameWithOneMore:
+            make(u"0.jpg"_s);
+            return browser.LoadDirectory(source());
+        }
+    }
+    void pressDuringWhich(EditKey key)
+    {
+        open({u"a.jpg"_s, u"b.jpg"_s});
+        pump.after(0, [this] { happen(); });
+        press(key);
+        EXPECT_EQ(names(otherFolder.path()), otherNames);
+        EXPECT_FALSE(QFile::exists(source() + u"b.jpg"_s));
+        EXPECT_TRUE(QFile::exists(source() + u"a.jpg"_s));
+        EXPECT_EQ(list(), GetParam().list);
+        EXPECT_TRUE(log.entries.isEmpty());
+        EXPECT_TRUE(form.lstFoto.isEnabled());
+    }
+
+    QTemporaryDir otherFolder;
+    const QString before = QDir::currentPath();
+};
+} // namespace
+
+TEST_P(PictureBrowserFlash, DeletesThePictureThatTheKeyWasPressedFor)
+{
+    pressDuringWhich(EditKey::Delete);
+}
+
+TEST_P(PictureBrowserFlash, MovesThePictureThatTheKeyWasPressedFor)
+{
+    pressDuringWhich(EditKey::Insert);
+    EXPECT_EQ(names(target()), QStringList{u"b.jpg"_s});
+}
+
+INSTANTIATE_TEST_SUITE_P(PictureBrowserTest, PictureBrowserFlash, testing::ValuesIn(meanwhiles));
+
 TEST_F(PictureBrowserTest, AFileThatAnotherProgramHasTakenAwayLeavesTheListWithALogEntry)
 {
     for (const EditKey key : {EditKey::Delete, EditKey::Insert}) {

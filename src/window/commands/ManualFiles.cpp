@@ -77,6 +77,7 @@ void ManualFiles::saveAs()
     if (path.isEmpty())
         return;
     keepFolder(path);
-    if (!ListFile::append(path, mDesk.list().items()))
-        mContext.status.UpDateStatus("Not saved. "_L1 + path);
+    const QString fault = ListFile::append(path, mDesk.list().items());
+    if (!fault.isEmpty())
+        mContext.status.UpDateStatus(fault);
 }

@@ -142,63 +142,81 @@ void PictureBrowser::DeleteIt()
 {
     procedure("Sub DeleteIt"_L1, [&] {
         const Bracket bracket(*this);
-        if (mForm.lstFoto.listIndex() < 0)
+        const Item item = chosen();
+        if (item.index < 0)
             return;
         const Flash flash(*this, Colours::Red);
-        deleteChosen(mForm.lstFoto.listIndex());
+        deleteFile(item);
     });
 }
 
-/// What another program has taken away leaves the list.
-QString PictureBrowser::demandFile(int index)
+PictureBrowser::Item PictureBrowser::chosen() const
 {
-    QString path = mForm.picturePath(index);
-    if (!QFileInfo(path).isFile()) {
-        takeOff(index);
-        throw RuntimeError(ErrorNumber::FileNotFound, u"File not found: "_s + path);
-    }
-    return path;
+    return {mForm.lstFoto.listIndex(), mForm.chosenPath()};
 }
 
-void PictureBrowser::deleteChosen(int index)
+/// What another program has taken away leaves the list.
+void PictureBrowser::demandFile(const Item &item)
 {
-    const QString path = demandFile(index);
+    if (QFileInfo(item.path).isFile())
+        return;
+    takeOff(item);
+    throw RuntimeError(ErrorNumber::FileNotFound, u"File not found: "_s + item.path);
+}
+
+void PictureBrowser::deleteFile(const Item &item)
+{
+    demandFile(item);
     if (mForm.mnuFotoMore.item("mnuFotoToTrash"_L1).isChecked())
-        keep({path, PictureMoves::toTrash(path), index, true});
+        keep({item, PictureMoves::toTrash(item.path), true});
     else
-        PictureMoves::kill(path);
-    mForm.tellLeaves(frmFoto::Leaves::Deleted);
-    takeOff(index);
+        PictureMoves::kill(item.path);
+    leave(item, frmFoto::Leaves::Deleted);
 }
 
 void PictureBrowser::MoveIt()
 {
     procedure("Sub MoveIt"_L1, [&] {
         const Bracket bracket(*this);
-        if (mForm.lstFoto.listIndex() < 0 || !canMove())
+        const Item item = chosen();
+        const QString directory = mForm.moveToDirectory();
+        if (item.index < 0 || !canMove())
             return;
-        if (isSameDirectory(mForm.moveToDirectory(), mForm.activeDirectory()))
+        if (isSameDirectory(directory, mForm.activeDirectory()))
             return mForm.setMoveToDirectory({});
         const Flash flash(*this, Colours::Green);
-        moveChosen(mForm.lstFoto.listIndex());
+        moveFile(item, directory);
     });
 }
 
-void PictureBrowser::moveChosen(int index)
+void PictureBrowser::moveFile(const Item &item, const QString &directory)
 {
-    const QString path = demandFile(index);
-    const QString target = mForm.moveToDirectory() + QFileInfo(path).fileName();
-    keep({path, PictureMoves::move(path, target), index, false});
-    mForm.tellLeaves(frmFoto::Leaves::Moved);
-    takeOff(index);
+    demandFile(item);
+    keep({item, PictureMoves::move(item.path, directory + QFileInfo(item.path).fileName()), false});
+    leave(item, frmFoto::Leaves::Moved);
+}
+
+/// During a flash the window may be closed, and a directory loaded.
+bool PictureBrowser::isListed(const Item &item) const
+{
+    return mForm.picturePath(item.index) == item.path;
+}
+
+void PictureBrowser::leave(const Item &item, frmFoto::Leaves how)
+{
+    if (isListed(item))
+        mForm.tellLeaves(how);
+    takeOff(item);
 }
 
 /// The walk goes from the end of the list to its start.
-void PictureBrowser::takeOff(int index)
+void PictureBrowser::takeOff(const Item &item)
 {
-    mForm.removePicture(index);
-    if (index >= 1)
-        mForm.choosePicture(index - 1);
+    if (!isListed(item))
+        return;
+    mForm.removePicture(item.index);
+    if (item.index >= 1)
+        mForm.choosePicture(item.index - 1);
 }
 
 void PictureBrowser::keep(const Done &done)
@@ -220,13 +238,13 @@ void PictureBrowser::undo()
             if (cUtility::isNameTaken(done.to))
                 mDone.append(done);
         });
-        const QString path =
-            done.inTrash ? PictureMoves::fromTrash(done.to, done.from) : PictureMoves::move(done.to, done.from);
+        const QString path = done.inTrash ? PictureMoves::fromTrash(done.to, done.from.path)
+                                          : PictureMoves::move(done.to, done.from.path);
         again.dismiss();
         const QFileInfo file(path);
         if (!isSameDirectory(file.path(), mForm.activeDirectory()))
             return;
-        const int index = std::min(done.index, mForm.lstFoto.listCount());
+        const int index = std::min(done.from.index, mForm.lstFoto.listCount());
         mForm.insertPicture(index, file.fileName());
         mForm.choosePicture(index);
     });

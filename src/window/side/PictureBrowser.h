@@ -35,10 +35,16 @@ class PictureBrowser : public QObject
     class Bracket;
     /// The list has another colour while it lives.
     class Flash;
+    /// A picture and where it stands in the list. The path holds whatever a flash lets in; the index may not.
+    struct Item
+    {
+        int index;
+        QString path;
+    };
     struct Done
     {
-        QString from, to;
-        int index; ///< where it stood in the list
+        Item from;
+        QString to;
         bool inTrash;
     };
 
@@ -48,10 +54,13 @@ class PictureBrowser : public QObject
     void lstFoto_Click();
     void lstFoto_KeyDown(EditKey key);
     void EnableDisable(bool enabled);
-    [[nodiscard]] QString demandFile(int index);
-    void moveChosen(int index);
-    void deleteChosen(int index);
-    void takeOff(int index);
+    [[nodiscard]] Item chosen() const;
+    void demandFile(const Item &item);
+    void moveFile(const Item &item, const QString &directory);
+    void deleteFile(const Item &item);
+    [[nodiscard]] bool isListed(const Item &item) const;
+    void leave(const Item &item, frmFoto::Leaves how);
+    void takeOff(const Item &item);
     void keep(const Done &done);
     [[nodiscard]] bool canMove() const;
 
