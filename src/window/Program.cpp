@@ -126,7 +126,6 @@ void Program::connectLife(const Ports &ports)
     QObject::connect(&startUp, &StartUp::loaded, &form, [this] { manual.restoreElongation(); });
     QObject::connect(&startUp, &StartUp::formLoaded, &form, [this] {
         manual.restorePosition();
-        manual.filters.cboMNMCMNC_Click(); // a stored filter in force looks so
         manualColours.SetMNColors();
     });
     QObject::connect(&startUp, &StartUp::settled, &windowCommands, &WindowCommands::tmrKeepOnTop_Timer);

@@ -13,11 +13,11 @@ QString twips(int pixels)
     return QString::number(pixels * twipsPerPixel);
 }
 
-/// A stored position on the screen's axis; beyond the screen, or negative, it is 0.
-int position(const QString &stored, int bound)
+/// A stored position on one axis of the screen, which begins at `begin`; one off the screen comes back to there.
+int position(const QString &stored, int begin, int length)
 {
     const double pixels = stored.toDouble() / twipsPerPixel;
-    return pixels > 0 && pixels < bound ? static_cast<int>(pixels) : 0;
+    return pixels >= begin && pixels < begin + length ? static_cast<int>(pixels) : begin;
 }
 } // namespace
 
@@ -31,11 +31,11 @@ void SaveFF(SettingsStore &settings, const QString &name, const QRect &place)
 
 QRect AlignFF(const SettingsStore &settings, const QString &name, const QRect &window, const QRect &screen)
 {
-    const QString left = twips((screen.width() - window.width()) / 2);
-    const QString top = twips((screen.height() - window.height()) / 2);
+    const QString left = twips(screen.left() + (screen.width() - window.width()) / 2);
+    const QString top = twips(screen.top() + (screen.height() - window.height()) / 2);
     QRect place = window;
-    place.moveTo(position(settings.GetSetting(name, Keys::Left, left), screen.width()),
-                 position(settings.GetSetting(name, Keys::Top, top), screen.height()));
+    place.moveTo(position(settings.GetSetting(name, Keys::Left, left), screen.left(), screen.width()),
+                 position(settings.GetSetting(name, Keys::Top, top), screen.top(), screen.height()));
     return place;
 }
 

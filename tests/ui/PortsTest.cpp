@@ -1,5 +1,6 @@
 // What the skin brings for the ports: dialogs, desktop, clipboard.
 #include "WindowFixture.h"
+#include "ui/windows/FileDialog.h"
 #include "ui/windows/QtClipboard.h"
 #include "ui/windows/QtDesktop.h"
 #include "ui/windows/QtDialogs.h"
@@ -139,6 +140,23 @@ TEST_F(Dialogs, AFileIsChosen)
     EXPECT_EQ(dialogs.chooseFile(folder.path(), u"Programs (*.exe)|*.exe|"_s, u"Locate"_s), path);
     whenShown<QFileDialog>([](QFileDialog &dialog) { dialog.reject(); });
     EXPECT_EQ(dialogs.chooseFile(folder.path(), QString(), u"Locate"_s), QString());
+}
+
+TEST(FileBoxes, BeginInTheFolderOfTheirPlaceWhetherItsFileIsThereOrNot)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"Trawlex-1.mdb"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    const QString here = QDir(folder.path()).path();
+    for (const auto &[place, begin] : {std::pair{folder.path(), here},
+                                       {file.fileName(), here},
+                                       {folder.filePath(u"Trawlex-0.mdb"_s), here},
+                                       {folder.filePath(u"none/Trawlex-0.mdb"_s), QDir::homePath()},
+                                       {QString(), QDir::homePath()}}) {
+        const FileDialog dialog(nullptr, u"Select File"_s, place, u"all (*)"_s);
+        EXPECT_EQ(dialog.directory().path(), begin) << qPrintable(place);
+    }
 }
 
 TEST(FileFilters, AreWrittenAsQtDoes)

@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTreeView>
 
@@ -162,6 +163,14 @@ struct DirectoryChoosers : WindowFixture
         chooser->show();
     }
     void press(const char *button) { chooser->findChild<QPushButton *>(QLatin1StringView(button))->click(); }
+    [[nodiscard]] QTreeView &tree() const { return *chooser->findChild<QTreeView *>(u"dirDirSelect"_s); }
+    [[nodiscard]] int rows(const QModelIndex &index) const { return tree().model()->rowCount(index); }
+    /// More than the tree shows at once.
+    void makeManyFolders() const
+    {
+        for (int i = 0; i < 60; ++i)
+            ASSERT_TRUE(QDir(folder.path()).mkpath(u"%1/in"_s.arg(i, 2, 10, QChar(u'0'))));
+    }
 
     QTemporaryDir folder;
     QPointer<DirectoryWindow> chooser;
@@ -181,31 +190,63 @@ TEST_F(DirectoryChoosers, BeginWithTheDirectoryIfItIsThere)
 
 TEST_F(DirectoryChoosers, ShowDriveAndFolderThatTheyBeginWith)
 {
-    for (int i = 0; i < 60; ++i)
-        ASSERT_TRUE(QDir(folder.path()).mkpath(u"%1/in"_s.arg(i, 2, 10, QChar(u'0'))));
+    makeManyFolders();
     const auto &drives = *chooser->findChild<QComboBox *>(u"drvDirSelect"_s);
     chooser->InitDir(QDir::homePath());
     EXPECT_EQ(drives.currentText(), QDir::homePath());
     chooser->InitDir(folder.path() + u"/58/in"_s);
     EXPECT_EQ(drives.currentText(), QDir::rootPath());
-    const auto &tree = *chooser->findChild<QTreeView *>(u"dirDirSelect"_s);
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            const QRect row = tree.visualRect(tree.currentIndex());
-            return tree.currentIndex().data() == u"in"_s && row.isValid() &&
-                   tree.viewport()->rect().contains(row.center());
+        [this] {
+            const QRect row = tree().visualRect(tree().currentIndex());
+            return tree().currentIndex().data() == u"in"_s && row.isValid() &&
+                   tree().viewport()->rect().contains(row.center());
         },
         5000))
         << "in sight when all folders above it have been read";
+}
+
+TEST_F(DirectoryChoosers, DoNotJumpBackToTheChosenFolderWhenOthersAreReadOrChange)
+{
+    makeManyFolders();
+    chooser->InitDir(folder.path() + u"/58"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rows(tree().currentIndex()) == 1; }, 5000));
+    const QModelIndex above = tree().currentIndex().parent();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rows(above) == 60; }, 5000));
+    settle();
+    const QModelIndex other = tree().model()->index(4, 0, above);
+    tree().scrollTo(other, QAbstractItemView::PositionAtTop);
+    const int before = tree().verticalScrollBar()->value();
+    tree().expand(other);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rows(other) == 1; }, 5000));
+    EXPECT_EQ(tree().verticalScrollBar()->value(), before) << "another folder was read";
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"99"_s));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rows(above) == 61; }, 5000));
+    settle();
+    EXPECT_EQ(tree().verticalScrollBar()->value(), before) << "a folder that is watched has changed";
+}
+
+TEST_F(DirectoryChoosers, LeaveTheTreeToTheUserWhoScrollsWhileFoldersAreRead)
+{
+    makeManyFolders();
+    chooser->InitDir(folder.path() + u"/58/in"_s);
+    const QPointF at(5, 5);
+    QWheelEvent turn(at, tree().viewport()->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(tree().viewport(), &turn);
+    tree().verticalScrollBar()->setValue(0);
+    const QModelIndex above = tree().currentIndex().parent().parent();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rows(above) == 60; }, 5000));
+    settle();
+    EXPECT_EQ(tree().verticalScrollBar()->value(), 0);
 }
 
 TEST_F(DirectoryChoosers, TakeTheFolderThatIsChosenInTheTree)
 {
     ASSERT_TRUE(QDir(folder.path()).mkdir(u"below"_s));
     chooser->InitDir(folder.path());
-    auto &tree = *chooser->findChild<QTreeView *>(u"dirDirSelect"_s);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount(tree.currentIndex()) == 1; }, 5000));
-    tree.setCurrentIndex(tree.model()->index(0, 0, tree.currentIndex()));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return rows(tree().currentIndex()) == 1; }, 5000));
+    tree().setCurrentIndex(tree().model()->index(0, 0, tree().currentIndex()));
     EXPECT_EQ(chooser->directory(), folder.path() + u"/below/"_s);
     press("cmdDirList_0");
     EXPECT_EQ(choices, QStringList{folder.path() + u"/below/"_s});

@@ -321,6 +321,34 @@ INSTANTIATE_TEST_SUITE_P(Windows, Places,
                                          PlaceCase{"no number", u"abc"_s, u"nan"_s, {0, 0}}),
                          [](const auto &row) { return "row" + std::to_string(row.index); });
 
+TEST(Windows, ComeBackToScreensThatDoNotBeginAtTheCorner)
+{
+    struct Case
+    {
+        QRect screen;
+        QPoint stored, at;
+    };
+    const QRect right(1920, 0, 1000, 800);
+    const QRect left(-1000, -200, 1000, 800);
+    const QRect docked(70, 30, 930, 770);
+    for (const auto &[screen, stored, at] : {Case{right, {2500, 100}, {2500, 100}},
+                                             {right, {2919, 799}, {2919, 799}},
+                                             {right, {2920, 800}, {1920, 0}},
+                                             {right, {100, 100}, {1920, 100}},
+                                             {left, {-900, -150}, {-900, -150}},
+                                             {left, {-1, 599}, {-1, 599}},
+                                             {left, {0, 600}, {-1000, -200}},
+                                             {docked, {990, 790}, {990, 790}},
+                                             {docked, {10, 10}, {70, 30}}}) {
+        MemorySettings settings;
+        const QRect window(stored, QSize(400, 300));
+        SaveFF(settings, u"frmFoto"_s, window);
+        EXPECT_EQ(AlignFF(settings, u"frmFoto"_s, QRect(7, 7, 400, 300), screen).topLeft(), at);
+        const QRect first = AlignFF(settings, u"frmWBare"_s, QRect(7, 7, 400, 300), screen);
+        EXPECT_LE((first.center() - screen.center()).manhattanLength(), 2) << "never stored: centred";
+    }
+}
+
 TEST(Windows, PlacesAreKeptInTwipsAndOnTopAsOneOrZero)
 {
     MemorySettings settings;

@@ -23,7 +23,19 @@ TEST_F(ManualSideTest, TheTabComesBackWithItsSettings)
     EXPECT_TRUE(item("mnuMNStatusElongate"_L1).isChecked());
     EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.text(), u"tea"_s);
     EXPECT_EQ(form().urlFilter.cboMNMCMNC.listIndex(), 1);
-    EXPECT_EQ(form().urlFilter.cboMNMCMNC.foreColor(), Colours::Blue) << "a filter in force";
+}
+
+TEST_F(ManualSideTest, AFilterOfTheStartIsColouredAtTheFirstChange)
+{
+    settings.preset("cboMNMCMNCFilter", u"tea"_s);
+    settings.preset("cboMNMCMNC", u"1"_s);
+    program.reset();
+    load();
+    ComboBox &kind = form().urlFilter.cboMNMCMNC;
+    EXPECT_EQ(kind.foreColor(), Colours::WindowText);
+    EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.foreColor(), Colours::WindowText);
+    kind.setListIndex(2);
+    EXPECT_EQ(kind.foreColor(), Colours::Blue);
     EXPECT_EQ(form().urlFilter.cboMNMCMNCFilter.foreColor(), Colours::Blue);
 }
 

@@ -4,7 +4,11 @@
 #include "ui_DirectoryWindow.h"
 
 #include <QDir>
+#include <QEvent>
+#include <QScrollBar>
 #include <QStorageInfo>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -35,10 +39,10 @@ DirectoryWindow::DirectoryWindow(QWidget *main) : QDialog(main), mUi(std::make_u
     mUi->dirDirSelect->setModel(&mFolders);
     for (int column = 1; column < mFolders.columnCount(); ++column)
         mUi->dirDirSelect->hideColumn(column);
-    // The folders above come one after the other, and each moves what is below it.
-    connect(&mFolders, &QFileSystemModel::directoryLoaded, this, [this] {
-        mUi->dirDirSelect->scrollTo(mUi->dirDirSelect->currentIndex(), QAbstractItemView::PositionAtCenter);
-    });
+    connect(&mFolders, &QFileSystemModel::directoryLoaded, this, &DirectoryWindow::keepInSight);
+    for (QObject *const part : std::initializer_list<QObject *>{mUi->dirDirSelect, mUi->dirDirSelect->viewport(),
+                                                                mUi->dirDirSelect->verticalScrollBar()})
+        part->installEventFilter(this);
     connect(mUi->drvDirSelect, &QComboBox::activated, this, &DirectoryWindow::chooseDrive);
     connect(mUi->dirDirSelect->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &now) {
@@ -110,6 +114,25 @@ void DirectoryWindow::showInTree()
     mUi->dirDirSelect->setCurrentIndex(index);
     mUi->dirDirSelect->expand(index);
     mUi->dirDirSelect->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    mAwaited.clear();
+    for (QModelIndex above = index; above.isValid(); above = above.parent())
+        mAwaited.append(mFolders.filePath(above));
+}
+
+/// The folders above come one after the other, and each moves what is below it.
+void DirectoryWindow::keepInSight(const QString &loaded)
+{
+    if (mAwaited.removeAll(loaded) > 0)
+        mUi->dirDirSelect->scrollTo(mUi->dirDirSelect->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
+/// Whoever scrolls or opens folders meanwhile is looking at something else.
+bool DirectoryWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    static constexpr std::array moves{QEvent::MouseButtonPress, QEvent::Wheel, QEvent::KeyPress};
+    if (std::ranges::find(moves, event->type()) != moves.end())
+        mAwaited.clear();
+    return QDialog::eventFilter(watched, event);
 }
 
 void DirectoryWindow::finish(int result)

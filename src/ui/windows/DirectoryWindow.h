@@ -35,11 +35,15 @@ class DirectoryWindow : public QDialog
     [[nodiscard]] int driveOf(const QString &directory) const;
     void takeDirectory(const QString &path);
     void showInTree();
+    void keepInSight(const QString &loaded);
     void finish(int result);
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     std::unique_ptr<Ui::DirectoryWindow> mUi;
     FileIcons mIcons; ///< of the folders, which go first
     QFileSystemModel mFolders;
     QString mDirectory;
+    /// The directory to be shown and those above it, as far as they have not been read; none once the user has moved.
+    QStringList mAwaited;
     int mGoodDrive = 0; ///< the last one that could be read
 };

@@ -4,6 +4,17 @@
 
 #include <QDir>
 
+namespace {
+/// Where `place` leads to: a file need not be there for its folder to be.
+QString folderOf(const QString &place)
+{
+    const QFileInfo start(place);
+    if (place.isEmpty() || start.isDir())
+        return place.isEmpty() ? QDir::homePath() : place;
+    return QFileInfo(start.path()).isDir() ? start.path() : QDir::homePath();
+}
+} // namespace
+
 // The box looks into its first folder before it can be told how: that is one where no database lies.
 FileDialog::FileDialog(QWidget *parent, const QString &title, const QString &place, const QString &filter)
     : QFileDialog(parent, title, QDir::rootPath(), filter)
@@ -11,7 +22,7 @@ FileDialog::FileDialog(QWidget *parent, const QString &title, const QString &pla
     setOption(DontUseNativeDialog);
     setIconProvider(this);
     const QFileInfo start(place);
-    setDirectory(start.isDir() ? place : start.isFile() ? start.path() : QDir::homePath());
+    setDirectory(folderOf(place));
     if (start.isFile())
         selectFile(start.fileName());
     setHistory({});

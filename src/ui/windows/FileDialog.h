@@ -9,7 +9,7 @@
 class FileDialog : private FileIcons, public QFileDialog
 {
   public:
-    /// Begins with `place`, a folder or a file in one, else at home. `filter` as Qt writes it.
+    /// Begins with `place`, a folder or a file in one (which may not be there), else at home. `filter` as Qt writes it.
     FileDialog(QWidget *parent, const QString &title, const QString &place, const QString &filter);
     /// Asks the user. "" when the box was cancelled.
     [[nodiscard]] QString choose();
