@@ -17,9 +17,11 @@ void BrowserHolder::set(std::unique_ptr<cIEObject> driver)
     connect(mobjIE.get(), &cIEObject::WindowClosing, this, &BrowserHolder::WindowClosing);
     connect(mobjIE.get(), &cIEObject::Died, this, &BrowserHolder::Died);
     connect(mobjIE.get(), &cIEObject::loadingEnded, this, &BrowserHolder::loadingEnded);
+    Q_EMIT changed();
 }
 
 void BrowserHolder::release()
 {
     mobjIE.reset();
+    Q_EMIT changed();
 }

@@ -18,6 +18,8 @@ class BrowserHolder : public QObject
     void release();
 
   Q_SIGNALS:
+    /// Another driver is held than before, or none.
+    void changed();
     void DocumentComplete(const QString &url, bool topDocument);
     void NewWindow2(bool *cancel);
     void WindowClosing();

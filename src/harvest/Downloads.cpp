@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +23,15 @@ QString withoutRepeat(const QString &first, const QString &file)
     }
     return file;
 }
+
+/// The address of the folder that the file at `address` lies in.
+QString folderOf(const QString &address)
+{
+    QUrl folder = QUrl(address).adjusted(QUrl::RemoveFilename | QUrl::RemoveQuery | QUrl::RemoveFragment);
+    if (folder.path().isEmpty())
+        folder.setPath(u"/"_s);
+    return folder.toString(QUrl::FullyEncoded);
+}
 } // namespace
 
 Downloads::Downloads(const Context &context, const FilePlaces &places, const Limits &limits, const OptionBoxes &options,
@@ -29,6 +39,11 @@ Downloads::Downloads(const Context &context, const FilePlaces &places, const Lim
     : mContext(context), mPlaces(places), mLimits(limits), mOptions(options), mBrowser(browser), mTransfers(transfers),
       mInet(inet)
 {
+    // What one browser was at is no other one's to tell.
+    connect(&browser, &BrowserHolder::changed, this, [this] {
+        mPage.clear();
+        mCookies = {};
+    });
 }
 
 QString Downloads::fetch(const QString &url, const QString &name, Turn turn)
@@ -65,17 +80,19 @@ BrowserTraits Downloads::browserTraits(const QString &url)
 }
 
 /// A fast series asks a browser that stands still once a second for the cookies of a folder, and not for each file.
+/// Those of a file that has some of its own are kept for none of its neighbours.
 QString Downloads::cookiesFor(const QString &address)
 {
     constexpr qint64 freshFor = 1000;
-    const QString path = address.section(u'?', 0, 0);
-    const QString folder = path.first(path.lastIndexOf(u'/') + 1);
+    const QString folder = folderOf(address);
     const bool isFresh = mCookies.age.isValid() && !mCookies.age.hasExpired(freshFor);
-    if (!isFresh || mCookies.page != mPage || mCookies.folder != folder) {
-        mCookies = {mPage, folder, mBrowser->cookiesFor(address), {}};
+    if (isFresh && mCookies.page == mPage && mCookies.folder == folder)
+        return mCookies.header;
+    const QString header = mBrowser->cookiesFor(address);
+    mCookies = {mPage, folder, header, {}};
+    if (header == mBrowser->cookiesFor(folder))
         mCookies.age.start();
-    }
-    return mCookies.header;
+    return header;
 }
 
 void Downloads::cancel()

@@ -59,12 +59,13 @@ class Downloads : public QObject
     Transfers &mTransfers;
     cInetWS &mInet;
     Fetched mLast;
-    QString mPage; // that the browser stood on last
-    struct
+    struct CookiesOfFolder
     {
         QString page, folder; // for which it was asked
         QString header;
         QElapsedTimer age;
-    } mCookies;
+    };
+    QString mPage; // that this browser stood on last
+    CookiesOfFolder mCookies;
     bool mIsUnderWay = false;
 };

@@ -17,7 +17,7 @@ class AutoIncr : public QObject
     /// Chooses a position, or gives up the one that is chosen.
     void SetAutoIncrPos(int position);
     /// The series in the box is among those that are remembered, from just this number on.
-    [[nodiscard]] bool isRemembered() { return mTexts.GetAutoIncrNumber({}, {}) == mDesk.GetAutoIncrChecked(); }
+    [[nodiscard]] bool isRemembered() { return mTexts.isRemembered(mDesk.GetAutoIncrChecked()); }
     /// Makes as many positions available as the address has numbers. The chosen one, 0 where it is not among them.
     int SetupAutoIncrMenu();
     /// Takes over what is remembered of the address in the box.

@@ -10,6 +10,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto module = "frmSearch"_L1;
+
+/// As an address stands in its row.
+QString asStored(const QString &url)
+{
+    return cUtility::asColumnText(SeriesRules::storedUrl(url));
+}
+
+/// No statement can hold a quote, so no row of such an address is ever found.
+bool canBeAsked(const QString &url)
+{
+    return !url.contains(u'\'');
+}
 } // namespace
 
 QString AutoText::table() const
@@ -54,6 +66,12 @@ qint64 AutoText::GetAutoIncrNumber(const QString &otherTable, const QString &url
     });
 }
 
+bool AutoText::isRemembered(int position)
+{
+    const QString url = asStored(mPanel.cboMNAutoUrl.text());
+    return canBeAsked(url) && !url.isEmpty() && GetAutoIncrNumber({}, url) == position;
+}
+
 void AutoText::LoadAutoTextUrls()
 {
     guarded(mContext.log, {module, "Sub LoadAutoTextUrls"_L1}, [&] {
@@ -69,8 +87,7 @@ void AutoText::LoadAutoTextUrls()
 
 QString AutoText::add(const QString &url, int position)
 {
-    const QString added =
-        cUtility::asColumnText(SeriesRules::storedUrl(url.isEmpty() ? mPanel.cboMNAutoUrl.text() : url));
+    const QString added = asStored(url.isEmpty() ? mPanel.cboMNAutoUrl.text() : url);
     if (isStored(added))
         return u"Url exists"_s;
     if (position <= 0)
@@ -104,8 +121,8 @@ int AutoText::placeOf(const QString &url) const
 /// Why the table still has the address; nothing once it has not.
 std::optional<QString> AutoText::forget(const QString &url)
 {
-    // No statement can hold a quote: what was only typed is not in the table, what was loaded from it stays there.
-    if (url.contains(u'\''))
+    // What was only typed is not in the table, what was loaded from it stays there.
+    if (!canBeAsked(url))
         return placeOf(url) < 0 ? std::nullopt : std::optional(u"Url holds a quote"_s);
     mDatabase->DeleteRecords(table(), u"Url"_s, url, false);
     return isStored(url) ? std::optional(StoreFaults::text(mDatabase->fault())) : std::nullopt;

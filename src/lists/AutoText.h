@@ -21,6 +21,8 @@ class AutoText
     [[nodiscard]] SeriesRules::Row GetAutoTextData();
     /// The position of a row; "" for either means the list on show or the address in the box. 0 without such a row.
     [[nodiscard]] qint64 GetAutoIncrNumber(const QString &table, const QString &url);
+    /// The address in the box is remembered with that position, in the form that it is stored in.
+    [[nodiscard]] bool isRemembered(int position);
     /// Offers the addresses of the list on show; the text in the box stays.
     void LoadAutoTextUrls();
     /// Remembers `url`, or with "" the address in the box, with the numbers as the boxes show them.

@@ -61,6 +61,17 @@ TEST_F(NavigationTest, ReturnsBeforeThePageIsThere)
     EXPECT_TRUE(browser->isLoading());
 }
 
+TEST_F(NavigationTest, EachChangeOfTheDriverIsTold)
+{
+    int changes = 0;
+    const QObject listener;
+    QObject::connect(&browser, &BrowserHolder::changed, &listener, [&] { ++changes; });
+    connectBrowser(browsers.running);
+    EXPECT_EQ(changes, 1);
+    browser.release();
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(NavigationTest, WithoutADriverItIsAnErrorInTheLogAndFalse)
 {
     browser.release();

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QThread>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -420,28 +421,87 @@ TEST_F(Fetching, CookiesAreFoundForAnAddressWithoutProtocol)
     EXPECT_EQ(server.requests[0].header("Cookie"), "visitor=7");
 }
 
-TEST_F(Fetching, FilesOfAFolderThatFollowAtOnceShareTheCookies)
+namespace {
+class FetchingWithCookies : public Fetching
 {
-    const QStringList paths{u"/a/1.jpg"_s, u"/a/2.jpg"_s, u"/a/3.jpg"_s, u"/b/4.jpg"_s, u"/b/5.jpg"_s};
-    QStringList items;
-    for (const QString &path : paths) {
-        server.route(path.toLatin1(), okReply("xyz"_ba));
-        items.append(server.address(path));
-        window().cookies[items.constLast()] = "of="_L1 + path;
+  protected:
+    /// The values that the server gets with the files. `then` is called behind each.
+    std::string sentFor(
+        const QStringList &addresses, const std::function<void()> &then = [] {})
+    {
+        for (const QString &address : addresses)
+            server.route(QUrl(address).toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority), okReply("xyz"_ba));
+        QObject::connect(&downloads, &Downloads::fetched, &form, then);
+        fill(addresses);
+        clickGo();
+        QByteArrayList sent;
+        for (const RawRequest &request : server.requests)
+            sent.append(request.header("Cookie"));
+        return sent.join(" | ").toStdString();
     }
-    QObject::connect(&downloads, &Downloads::fetched, &form, [this] {
-        if (files.size() == 2)
-            QThread::msleep(1100);
-        if (files.size() == 4)
-            window().show(u"http://www.site1.com/"_s);
-    });
-    fill(items);
-    clickGo();
-    QByteArrayList sent;
-    for (const auto &request : server.requests)
-        sent.append(request.header("Cookie"));
-    EXPECT_EQ(sent.join(' '), "of=/a/1.jpg of=/a/1.jpg of=/a/3.jpg of=/b/4.jpg of=/b/5.jpg")
+    /// The browser has the same cookies for a folder and for the files in it.
+    void give(const QString &path, const QStringList &names, const QString &cookies)
+    {
+        window().cookies[server.address(path)] = cookies;
+        for (const QString &name : names)
+            window().cookies[server.address(path + name)] = cookies;
+    }
+};
+} // namespace
+
+TEST_F(FetchingWithCookies, FilesOfAFolderThatFollowAtOnceShareThem)
+{
+    const auto giveAll = [this](const QString &cookies) {
+        give(u"/a/"_s, {u"1.jpg"_s, u"2.jpg"_s, u"3.jpg"_s}, cookies);
+        give(u"/b/"_s, {u"4.jpg"_s, u"5.jpg"_s}, cookies);
+    };
+    giveAll(u"n=0"_s);
+    const std::string sent =
+        sentFor({server.address(u"/a/1.jpg"_s), server.address(u"/a/2.jpg"_s), server.address(u"/a/3.jpg"_s),
+                 server.address(u"/b/4.jpg"_s), server.address(u"/b/5.jpg"_s)},
+                [&] {
+                    giveAll(u"n=%1"_s.arg(files.size()));
+                    if (files.size() == 2)
+                        QThread::msleep(1100);
+                    if (files.size() == 4)
+                        window().show(u"http://www.site1.com/"_s);
+                });
+    EXPECT_EQ(sent, "n=0 | n=0 | n=2 | n=3 | n=4")
         << "asked for anew after a second, for another folder, and with another page on show";
+}
+
+TEST_F(FetchingWithCookies, NoServerGetsThoseOfAnother)
+{
+    // Without a path all that stands in front of the last "/" is the protocol.
+    for (const QString &query : {u"?x=1.jpg"_s, u"/?x=1.jpg"_s}) {
+        server.requests.clear();
+        const QString one = server.address({}) + query;
+        const QString other = server.address({}, u"localhost"_s) + query;
+        for (const QString &address : {one, server.address(u"/"_s), server.address(u"/?x=1.jpg"_s)})
+            window().cookies[address] = u"secret=1"_s;
+        EXPECT_EQ(sentFor({one, other}), "secret=1 | ") << query.toStdString();
+    }
+}
+
+TEST_F(FetchingWithCookies, AFileKeepsItsOwnForItself)
+{
+    give(u"/a/"_s, {u"1.jpg"_s, u"2.jpg"_s}, u"all=1"_s);
+    const QString one = server.address(u"/a/1.jpg"_s);
+    window().cookies[one] = u"own=1; all=1"_s;
+    EXPECT_EQ(sentFor({one, server.address(u"/a/2.jpg"_s)}), "own=1; all=1 | all=1");
+}
+
+TEST_F(FetchingWithCookies, NeitherTheyNorThePageAreThoseOfABrowserBefore)
+{
+    give(u"/a/"_s, {u"1.jpg"_s, u"2.jpg"_s}, u"of=first"_s);
+    const QString file = u"file:///tmp/1.jpg"_s;
+    const std::string sent = sentFor({server.address(u"/a/1.jpg"_s), server.address(u"/a/2.jpg"_s)}, [&] {
+        connectBrowser(std::make_shared<FakeBrowser>(pump));
+        window().show(file);
+    });
+    EXPECT_EQ(sent, "of=first | ");
+    EXPECT_EQ(server.requests.at(0).header("Referer"), "http://www.start.com/");
+    EXPECT_EQ(server.requests.at(1).header("Referer"), "");
 }
 
 TEST_F(Fetching, SwitchedOffItDoesNot)

@@ -127,6 +127,33 @@ TEST_F(AutoIncrTest, ARememberedSeriesComesBack)
     EXPECT_EQ(desk.GetAutoIncrChecked(), 0) << "one without a row gives the position up";
 }
 
+TEST_F(AutoIncrTest, IsRememberedInTheFormThatItIsStoredIn)
+{
+    setSeries(2);
+    show(u"http://www.a.com/7/9"_s);
+    EXPECT_FALSE(series.isRemembered());
+    texts.AddAutoTextUrl({}, 2);
+    EXPECT_TRUE(series.isRemembered());
+    show(u"www.a.com/7/9"_s);
+    EXPECT_TRUE(series.isRemembered());
+    setSeries(1);
+    EXPECT_FALSE(series.isRemembered()) << "with another number that changes";
+    show(u"www.a.com/7/10"_s);
+    EXPECT_FALSE(series.isRemembered());
+    show(u"http://"_s);
+    EXPECT_FALSE(series.isRemembered());
+}
+
+TEST_F(AutoIncrTest, AnAddressThatNoStatementCanHoldIsNotRememberedAndNoError)
+{
+    show(u"www.a.com/o'hara/7"_s);
+    setSeries(1);
+    EXPECT_FALSE(series.isRemembered());
+    remember(u"www.a.com/o'hara/7"_s, {}, u"1"_s, {});
+    EXPECT_FALSE(series.isRemembered());
+    EXPECT_TRUE(log.entries.isEmpty());
+}
+
 TEST_F(AutoIncrTest, AStepOfZeroOrNoneBehavesAsOne)
 {
     for (const QString &step : {u"0"_s, u"000"_s, QString()}) {
