@@ -23,7 +23,7 @@ namespace {
 constexpr char absentUnit = 0x01;
 constexpr int listSize = 100000;
 constexpr int fewTexts = 40;
-constexpr int manyTexts = 80; // more than the vector method takes
+constexpr int manyTexts = 80; // for several scanners
 
 using PageWork = void (*)(const QString &page);
 

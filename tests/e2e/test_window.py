@@ -4,6 +4,8 @@ import contextlib
 import re
 import signal
 import subprocess
+import tempfile
+import time
 import unittest
 
 import trawlex
@@ -36,6 +38,24 @@ class OneProgram(window.WindowCase):
         self.assertEqual(second.returncode, 0)
         trawlex.wait_for(self.find_window, 10, "the window is up again")
         self.assertIsNone(self.window.poll())
+
+    def test_a_second_start_shows_its_splash_and_leaves_the_settings_as_they_are(self):
+        self.start()
+        before = self.settings_file().read_bytes()
+        created = tempfile.TemporaryFile("w+")
+        self.addCleanup(created.close)
+        with subprocess.Popen(["xev", "-root", "-event", "substructure"], env=self.env, stdout=created) as events:
+            try:
+                time.sleep(0.5)     # it says nothing when it has begun
+                second = subprocess.run([trawlex.WINDOW], env=self.env, cwd=self.folder, timeout=30, check=False,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                time.sleep(0.5)
+            finally:
+                events.terminate()
+        self.assertEqual(second.returncode, 0)
+        created.seek(0)
+        self.assertIn("width 360, height 132", created.read(), "the splash came up")
+        self.assertEqual(self.settings_file().read_bytes(), before)
 
 
 class OnTop(window.WindowCase):
