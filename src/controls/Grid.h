@@ -74,10 +74,13 @@ class Grid : public Control
     void setSortMark(SortMark mark) { assign(mSortMark, mark); }
     /// The user's click on a column's head.
     void clickHead(int column) { Q_EMIT headClicked(column); }
+    /// The user's key for copying.
+    void askForCopy() { Q_EMIT copyAsked(); }
 
   Q_SIGNALS:
     void selectionMoved();
     void headClicked(int column);
+    void copyAsked();
 
   private:
     std::shared_ptr<const GridRows> mRows;

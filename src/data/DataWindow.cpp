@@ -49,6 +49,7 @@ void DataWindow::connectMenu(PopUpMenus &menus)
     onClick("mnuFxgCopy"_L1, "Sub mnuFxgCopy_Click"_L1, [this] {
         mClipboard.setText(mWindow.showsList() ? cLstBx::CopySelected(mWindow.lstMN, lineEnd) : clipLines());
     });
+    connect(&mWindow.fxgTrawlex, &Grid::copyAsked, &mWindow.mnuFxgPopUpMenu.item("mnuFxgCopy"_L1), &MenuItem::click);
     onClick("mnuFxgClose"_L1, "Sub mnuFxgClose_Click"_L1, [this] { mWindow.unload(); });
 }
 

@@ -65,6 +65,25 @@ TEST_F(DataCommandsTest, CopyTakesTheSelectedCellsWithWholeLineEnds)
     EXPECT_EQ(clipboard.held, u"1\ta@b.com\r\n2\tc@d.com"_s);
 }
 
+TEST_F(DataCommandsTest, TheKeyForCopyingCopiesTheSameAndAlsoRowsOfNoTable)
+{
+    addRow(*database, u"SiteSummary"_s, {{u"FullPage"_s, QString(50'000, u'p')}});
+    chooseTable(u"SiteSummary"_s);
+    grid().select(0, 4);
+    grid().askForCopy();
+    EXPECT_EQ(clipboard.held, QString(50'000, u'p')) << "the whole text";
+    clickItem(menu(), "mnuDBNewWindow");
+    clipboard.held.clear();
+    detached().fxgTrawlex.select(0, 4, {0, 3, 0, 4});
+    detached().fxgTrawlex.askForCopy();
+    EXPECT_EQ(clipboard.held, u'\t' + QString(50'000, u'p'));
+    chooseTable(u"EmailAddress"_s);
+    form.data.cboDBTables.setListIndex(-1);
+    grid().select(0, 2, {0, 2, 1, 3});
+    grid().askForCopy();
+    EXPECT_EQ(clipboard.held, u"1\ta@b.com\r\n2\tc@d.com"_s);
+}
+
 TEST_F(DataCommandsTest, MagnifyPartsColumnsByCommas)
 {
     grid().select(0, 2, {0, 2, 1, 3});

@@ -39,7 +39,7 @@ TEST_F(DataImportTest, AFileOfThisSystemAllowsAllKinds)
 {
     selectOther();
     EXPECT_EQ(lastStatus(), u"Trawlex database selected"_s);
-    EXPECT_EQ(dialogs.files[0].text, u"Access DB (*.mdb)|*.mdb|"_s);
+    EXPECT_EQ(dialogs.files[0].text, u"Access DB (*.mdb)|*.mdb|Access DB (*.accdb)|*.accdb|"_s);
     EXPECT_TRUE(page().chkSFIAllData.isEnabled() && page().chkSFIAllSettings.isEnabled() &&
                 page().chkSFIImportTable.isEnabled());
     EXPECT_EQ(page().lblSFIImportDatabase.caption(), other->DatabasePath());
@@ -67,6 +67,21 @@ TEST_F(DataImportTest, PickingTheOpenDatabaseChangesNothing)
     select(database->DatabasePath());
     EXPECT_EQ(lastStatus(), u"Can't import loaded database"_s);
     EXPECT_EQ(page().lblSFIImportDatabase.caption(), other->DatabasePath());
+}
+
+TEST_F(DataImportTest, AFileThatHasBeenOpenedSinceItWasSelectedIsNotImportedIntoItself)
+{
+    selectOther();
+    page().chkSFIAllData.setValue(1);
+    ASSERT_TRUE(QFile::link(other->DatabasePath(), pathOf(u"link.mdb"_s)));
+    for (const QString &path : {other->DatabasePath(), pathOf(u"link.mdb"_s)}) {
+        database->setDatabasePath(path);
+        ASSERT_TRUE(database->TestDatabase(true));
+        page().cmdSFIImport.click();
+        EXPECT_EQ(lastStatus(), u"Can't import loaded database"_s);
+        EXPECT_EQ(values(u"SiteSummary"_s, u"Url"_s), QStringList{u"http://a.com"_s});
+        EXPECT_TRUE(page().cmdSFIImport.isEnabled() && page().cmdSFISelDatabase.isEnabled());
+    }
 }
 
 TEST_F(DataImportTest, NothingChosenOrGoneChangesNothing)

@@ -3,6 +3,9 @@
 #include "ui/widgets/GridModel.h"
 #include "ui/widgets/GridTable.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -119,6 +122,17 @@ TEST_F(Grids, TellADoubleClick)
     const Raised doubles(grid, &Control::doubleClicked);
     QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, centre(1, 1));
     EXPECT_EQ(doubles.times(), 1);
+}
+
+TEST_F(Grids, LeaveTheKeyForCopyingToTheirControl)
+{
+    QGuiApplication::clipboard()->setText(u"before"_s);
+    const Raised copies(grid, &Grid::copyAsked);
+    QTest::keyClick(&table, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(grid.selection(), (CellBlock{0, 0, 999, 2}));
+    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(copies.times(), 1);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"before"_s) << "the view copies no cell of its own";
 }
 
 TEST(GridCells, StandAtTheRightWhenTheyAreFigures)

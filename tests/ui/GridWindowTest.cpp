@@ -96,6 +96,33 @@ TEST_F(GridWindowTest, FindGoesToTheNextCellAndAroundTheEnd)
     EXPECT_FALSE(ended.takeFirst().constFirst().toBool());
 }
 
+TEST_F(GridWindowTest, FindLooksIntoTheWholeOfALongText)
+{
+    struct Pages : Squares
+    {
+        [[nodiscard]] QString text(int, int) const override { return QString(400, u'x'); }
+        [[nodiscard]] QString wholeText(int row, int column) const override
+        {
+            return text(row, column) + (row == 700 && column == 1 ? u"needle"_s : QString());
+        }
+    };
+    form.fxgTrawlex.setDataSource(std::make_shared<Pages>());
+    settle();
+    auto *const find = window.findChild<GridFind *>("gridFind"_L1);
+    QSignalSpy ended(find, &GridFind::ended);
+    find->setText(u"needle"_s);
+    QTest::keyClick(find, Qt::Key_Return);
+    ASSERT_TRUE(ended.wait(5000));
+    EXPECT_EQ(form.fxgTrawlex.row(), 700);
+}
+
+TEST_F(GridWindowTest, TheKeyForCopyingReachesTheGrid)
+{
+    const QSignalSpy copies(&form.fxgTrawlex, &Grid::copyAsked);
+    QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(copies.count(), 1);
+}
+
 TEST_F(GridWindowTest, AClickOnAHeadReachesTheGrid)
 {
     const QSignalSpy heads(&form.fxgTrawlex, &Grid::headClicked);

@@ -26,6 +26,7 @@ class GridLink : public QObject
         };
         connect(mView.selectionModel(), &QItemSelectionModel::selectionChanged, this, userChose);
         connect(mView.selectionModel(), &QItemSelectionModel::currentChanged, this, userChose);
+        connect(&mView, &GridTable::copyPressed, &mControl, &Grid::askForCopy);
         const auto clickHead = [this](int column) {
             if (mControl.isEnabled())
                 mControl.clickHead(column);

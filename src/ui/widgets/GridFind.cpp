@@ -1,5 +1,7 @@
 #include "ui/widgets/GridFind.h"
 
+#include "ui/widgets/GridModel.h"
+
 #include <QElapsedTimer>
 #include <QKeyEvent>
 
@@ -54,7 +56,7 @@ void GridFind::look()
         mCell = (mCell + mStep + all) % all;
         const int columns = mGrid.model()->columnCount();
         const QModelIndex index = mGrid.model()->index(int(mCell / columns), int(mCell % columns));
-        if (!index.data().toString().contains(text(), Qt::CaseInsensitive))
+        if (!index.data(GridModel::WholeText).toString().contains(text(), Qt::CaseInsensitive))
             continue;
         mGrid.setCurrentIndex(index);
         mGrid.scrollTo(index);

@@ -1,5 +1,6 @@
-// A box in which a text is looked for in its cells, from the cell in use on and around the end.
-// It looks in small portions, so that a million rows hold nothing up. Return goes on to the next cell, with Shift back.
+// A box in which a text is looked for in the cells of a grid, however long they are, from the cell in use on and around
+// the end. It looks in small portions, so that a million rows hold nothing up. Return goes on to the next cell, with
+// Shift back.
 #pragma once
 
 #include <QLineEdit>

@@ -30,6 +30,8 @@ bool GridModel::isFigure(const QString &text)
 
 QVariant GridModel::data(const QModelIndex &index, int role) const
 {
+    if (role == WholeText)
+        return mRows ? mRows->wholeText(index.row(), index.column()) : QString();
     if (role != Qt::DisplayRole && role != Qt::TextAlignmentRole)
         return {};
     const QString text = mRows ? mRows->text(index.row(), index.column()) : QString();

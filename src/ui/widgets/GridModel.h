@@ -12,6 +12,8 @@ class GridModel : public QAbstractTableModel
   public:
     /// Longer texts, such as whole pages, are cut here for the eye.
     static constexpr int longestShown = 300;
+    /// The role of a cell's text as it is, however long.
+    static constexpr int WholeText = Qt::UserRole;
 
     using QAbstractTableModel::QAbstractTableModel;
 

@@ -57,6 +57,14 @@ void GridTable::mousePressEvent(QMouseEvent *event)
         QTableView::mousePressEvent(event);
 }
 
+void GridTable::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        Q_EMIT copyPressed();
+    else
+        QTableView::keyPressEvent(event);
+}
+
 void GridTable::setModel(QAbstractItemModel *model)
 {
     QTableView::setModel(model);

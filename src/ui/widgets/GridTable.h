@@ -23,10 +23,13 @@ class GridTable : public QTableView
   Q_SIGNALS:
     /// Another row is the one in use, or there are other rows.
     void placeMoved();
+    /// The key for copying: what is selected is meant, whole, not the cell as it is shown.
+    void copyPressed();
 
   protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
   private:

@@ -32,6 +32,10 @@ DataCommands::DataCommands(const Context &context, const BrowserPanel &browser, 
         });
     connect(&grid(), &Control::mousePressed, this, &DataCommands::fxgTrawlex_MouseDown);
     connect(&grid(), &Control::doubleClicked, this, &DataCommands::fxgTrawlex_DblClick);
+    // Rows of no table, as those of a saved recordset, can be copied by the key alone.
+    connect(&grid(), &Grid::copyAsked, this, [this] {
+        guarded(mContext.log, {form, "Sub mnuDBCopy_Click"_L1}, [this] { copy(); });
+    });
 }
 
 void DataCommands::fxgTrawlex_MouseDown(MouseButton button)

@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto form = "frmSearch"_L1;
+constexpr auto openDatabase = "Can't import loaded database"_L1;
 
 QString chosen(const ComboBox &box)
 {
@@ -68,11 +69,12 @@ void DataImport::connectBoxes()
 void DataImport::cmdSFISelDatabase_Click()
 {
     const QString folder = mContext.settings.GetSetting(Sections::Main, Keys::LastImportDir);
-    const QString path = mContext.dialogs.chooseFile(folder, u"Access DB (*.mdb)|*.mdb|"_s, u"Select File"_s);
+    const QString path = mContext.dialogs.chooseFile(folder, u"Access DB (*.mdb)|*.mdb|Access DB (*.accdb)|*.accdb|"_s,
+                                                     u"Select File"_s);
     QString told;
     if (!path.isEmpty() && QFileInfo(path).isFile()) {
         if (mImports.isOpenDatabase(path))
-            return mContext.status.UpDateStatus(u"Can't import loaded database"_s);
+            return mContext.status.UpDateStatus(openDatabase);
         told = take(path);
     }
     mContext.states.SetStateOfControls();
@@ -178,7 +180,10 @@ void DataImport::cmdSFIImport_Click()
     };
     enable(false);
     const QString path = mPage.lblSFIImportDatabase.caption();
-    if (!path.isEmpty() && QFileInfo(path).isFile() && !mWork.isUnderWay()) {
+    // It may have been opened since it was selected.
+    if (!path.isEmpty() && mImports.isOpenDatabase(path)) {
+        mContext.status.UpDateStatus(openDatabase);
+    } else if (!path.isEmpty() && QFileInfo(path).isFile() && !mWork.isUnderWay()) {
         Q_EMIT formReady(false);
         QString told;
         guarded(mContext.log, {form, "Sub cmdSFIImport_Click"_L1}, [&] {
