@@ -34,7 +34,8 @@ void LongWork::beside(const std::function<void()> &body)
     if (!mUnderWay)
         return body();
     std::future<void> done = std::async(std::launch::async, body);
-    while (done.wait_for(besideTurn) != std::future_status::ready)
+    do
         mPump.doEvents();
+    while (done.wait_for(besideTurn) != std::future_status::ready);
     done.get();
 }

@@ -44,6 +44,8 @@ class LongWork : public QObject
   Q_SIGNALS:
     /// So many steps of `all` are done; 0 of 0 behind the last one, and where there is no share to tell.
     void progressed(qint64 done, qint64 all);
+    /// None is under way any more; what has called it may still stand on the stack.
+    void ended();
 
   private:
     class Ending
@@ -54,6 +56,7 @@ class LongWork : public QObject
         {
             mWork.mUnderWay = mWork.mCancelled = false;
             Q_EMIT mWork.progressed(0, 0);
+            Q_EMIT mWork.ended();
         }
         Q_DISABLE_COPY_MOVE(Ending)
 

@@ -51,9 +51,15 @@ bool import(Program &program, const DataArguments &arguments)
         return refuse(u"Can't import loaded database"_s);
     if (arguments.from.field.isEmpty() && !imports.TestImportDatabase(*arguments.imported))
         return refuse(u"Not an Trawlex database"_s);
+    bool cancelled = false;
     for (const Step &step : stepsOf(imports, arguments)) {
+        if (cancelled)
+            return refuse("Cancelled before: "_L1 + step.begins);
         QString failure;
-        program.longWork.run(step.begins, [&] { failure = step.import(); });
+        program.longWork.run(step.begins, [&] {
+            failure = step.import();
+            cancelled = program.longWork.isCancelled();
+        });
         program.status.UpDateStatus(failure.isEmpty() ? step.done : failure);
         if (!failure.isEmpty())
             return false;

@@ -21,8 +21,20 @@ DataSide::DataSide(const Context &context, frmSearch &form, DatabaseHolder &data
     QObject::connect(&form.data.crdDBRow, &Card::followed, &form,
                      [&navigation](const QString &url) { navigation.OpenSite(url); });
     QObject::connect(&commands, &DataCommands::newWindowWanted, &window, &DataWindow::showRows);
-    QObject::connect(&import, &DataImport::formReady, &form, [&form](bool ready) { form.mbFormReady = ready; });
+    connectImport(form);
     connectLabels(form);
+}
+
+/// What else writes to the database would wait for the import that it stands in the way of.
+void DataSide::connectImport(frmSearch &form)
+{
+    QObject::connect(&import, &DataImport::formReady, &form, [&form](bool ready) { form.mbFormReady = ready; });
+    QObject::connect(&import, &DataImport::importing, &form, [this, &form](bool begins) {
+        if (begins)
+            mLock.emplace(form);
+        else
+            mLock.reset();
+    });
 }
 
 /// The lamps of a run show what it has stored.

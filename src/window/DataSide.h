@@ -2,17 +2,21 @@
 // detached grid, exports, imports.
 #pragma once
 
-#include "app/frmSearch.h"
+#include "app/FormLock.h"
 #include "data/DataWindow.h"
 #include "data/RowCard.h"
 #include "window/commands/DataCommands.h"
 #include "window/commands/DataImport.h"
 #include "window/commands/DataStatusMenu.h"
 
+#include <optional>
+
 struct DataSide
 {
     DataSide(const Context &context, frmSearch &form, DatabaseHolder &database, Navigation &navigation, LongWork &work,
              ClipboardText &clipboard, PopUpMenus &menus);
+    /// The database belongs to an import.
+    [[nodiscard]] bool isImporting() const { return mLock.has_value(); }
 
     frmfxg gridForm;
     DataView view;
@@ -25,5 +29,8 @@ struct DataSide
     DataImport import;
 
   private:
+    void connectImport(frmSearch &form);
     void connectLabels(frmSearch &form);
+
+    std::optional<FormLock> mLock;
 };

@@ -9,8 +9,9 @@ constexpr auto module = "frmSearch"_L1;
 } // namespace
 
 LifeCycle::LifeCycle(const Context &context, frmSearch &form, cTimer &timer, Runs &runs, BrowserHolder &browser,
-                     BrowserConnection &connection)
-    : mContext(context), mForm(form), mTimer(timer), mRuns(runs), mBrowser(browser), mConnection(connection)
+                     BrowserConnection &connection, LongWork &work)
+    : mContext(context), mForm(form), mTimer(timer), mRuns(runs), mBrowser(browser), mConnection(connection),
+      mWork(work)
 {
     // A run that has been told to end may still have a wait before it; that wait is over as it begins.
     connect(&mTimer, &cTimer::started, this, [this] {
@@ -41,8 +42,9 @@ void LifeCycle::end()
     mEnding = true;
     mConnection.giveUp();
     stopRun();
-    // No object goes away while a run or the connecting of a browser stands on the stack.
-    if (mRuns.idle() && mHolds == 0)
+    mWork.cancel();
+    // No object goes away while a run, a long command or the connecting of a browser stands on the stack.
+    if (mRuns.idle() && !mWork.isUnderWay() && mHolds == 0)
         Form_Unload();
 }
 
@@ -52,7 +54,7 @@ void LifeCycle::endWithoutSaving()
     end();
 }
 
-void LifeCycle::runEnded()
+void LifeCycle::unwound()
 {
     if (mEnding)
         QTimer::singleShot(0, this, &LifeCycle::end);

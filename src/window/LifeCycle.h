@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/Context.h"
+#include "app/LongWork.h"
 #include "app/cTimer.h"
 #include "app/frmSearch.h"
 #include "driver/Runs.h"
@@ -14,7 +15,7 @@ class LifeCycle : public QObject
 
   public:
     LifeCycle(const Context &context, frmSearch &form, cTimer &timer, Runs &runs, BrowserHolder &browser,
-              BrowserConnection &connection);
+              BrowserConnection &connection, LongWork &work);
 
     /// While one lives the end waits: something stands on the stack that must not lose its objects.
     class Hold
@@ -31,13 +32,13 @@ class LifeCycle : public QObject
 
     /// The user wants to end; asks first where the option says so.
     void Terminate();
-    /// Ends without asking: at once, or as soon as the run on the stack has unwound.
+    /// Ends without asking: at once, or as soon as the run or the long command on the stack has unwound.
     void end();
     /// Ends like end(), but nothing is written: what the user did since the start is not kept.
     void endWithoutSaving();
     [[nodiscard]] bool isEnding() const { return mEnding; }
-    /// A run has ended; what waited for that goes on.
-    void runEnded();
+    /// A run or a long command has ended; what waited for that goes on.
+    void unwound();
 
   Q_SIGNALS:
     /// What is kept of this time is to be written now.
@@ -57,6 +58,7 @@ class LifeCycle : public QObject
     Runs &mRuns;
     BrowserHolder &mBrowser;
     BrowserConnection &mConnection;
+    LongWork &mWork;
     int mHolds = 0;
     bool mEnding = false;
     bool mSaving = true;

@@ -34,7 +34,7 @@ Program::Program(const Ports &ports)
       areaCodes(log, form.areaCodes), databaseFile(context, form.places, form.import.cboSFITableExisting, database),
       loader(log, databaseFile, options, form.saved, form.criteria, form.blocking),
       dataSide(context, form, database, navigation, longWork, ports.system.clipboard, ports.window.menus),
-      lifeCycle(context, form, timer, runs, browser, connection),
+      lifeCycle(context, form, timer, runs, browser, connection, longWork),
       startUp(context, form, options, loader, connection, ports.window.place, lifeCycle),
       placeCommands(context, form.places, form.runs, database, loader, ports.system.desktop, ports.window.side),
       windowCommands(context, form.menus, ports.window.place, ports.window.side), filesSites(context, form),
@@ -84,7 +84,8 @@ void Program::connectAll(const Ports &ports)
         for (Control *control : form.findChildren<Control *>(Qt::FindDirectChildrenOnly))
             control->setEnabled(true);
     });
-    QObject::connect(&runs, &Runs::finalized, &lifeCycle, &LifeCycle::runEnded);
+    QObject::connect(&runs, &Runs::finalized, &lifeCycle, &LifeCycle::unwound);
+    QObject::connect(&longWork, &LongWork::ended, &lifeCycle, &LifeCycle::unwound);
 }
 
 /// Who reads what from a database that has been opened, in the order in which one thing depends on another.
@@ -171,7 +172,6 @@ void Program::connectManual(Desktop &desktop, SideWindows &side)
         if (const QString url = savedUrls.chosenAddress(); !url.isEmpty())
             magnify(url);
     });
-    QObject::connect(&lifeCycle, &LifeCycle::ended, &longWork, &LongWork::cancel);
 }
 
 void Program::connectManualRun()
@@ -194,7 +194,10 @@ void Program::connectCollecting()
             manual.series.SetAutoIncrPos(position);
         collectChoice.DisableANAutoC(false);
     });
-    QObject::connect(&browser, &BrowserHolder::DocumentComplete, &form, [this] { autoCollect.DocumentComplete(); });
+    QObject::connect(&browser, &BrowserHolder::DocumentComplete, &form, [this] {
+        if (!dataSide.isImporting())
+            autoCollect.DocumentComplete();
+    });
     QObject::connect(&manual.series, &AutoIncr::baseSwitchedOff, &collectChoice,
                      [this] { collectChoice.SetAutoCollectState(CollectState::Kind::EmailPhone, true); });
     QObject::connect(&collectChoice, &CollectChoice::coloursAsked, &manual.series, &AutoIncr::coloursAsked);

@@ -203,6 +203,72 @@ TEST_F(DataImportTest, EscapeCancelsAndNothingOfItStays)
     EXPECT_TRUE(values(u"SiteSummary"_s, u"Url"_s).isEmpty());
 }
 
+TEST_F(DataImportTest, CancelledWhenTheSettingsAreAboutToStandTheDataDoesNotFollowAndThatIsTold)
+{
+    selectOther();
+    page().chkSFIAllData.setValue(1);
+    page().chkSFIAllSettings.setValue(1);
+    // Events are let in before the first row, and then while the disk is waited for.
+    int events = 0;
+    const QMetaObject::Connection cancelling =
+        QObject::connect(&status, &StatusLine::told, &form, [&](const QString &text) {
+            if (text == u"Importing all settings"_s)
+                pump.after(0, [&] {
+                    pump.after(0, [&] {
+                        ++events;
+                        work.cancel();
+                    });
+                });
+        });
+    page().cmdSFIImport.click();
+    QObject::disconnect(cancelling);
+    EXPECT_EQ(events, 1);
+    EXPECT_EQ(lastStatus(), u"Settings Imported; Data: Import cancelled, nothing imported"_s);
+    EXPECT_FALSE(statuses.contains(u"Importing all data"_s));
+    EXPECT_EQ(values(u"Block"_s, u"UrlsContent"_s), QStringList{u"ads"_s});
+    EXPECT_TRUE(values(u"SiteSummary"_s, u"Url"_s).isEmpty());
+}
+
+TEST_F(DataImportTest, CancelledInTheDataTheSettingsStandAndBothAreTold)
+{
+    selectOther();
+    page().chkSFIAllData.setValue(1);
+    page().chkSFIAllSettings.setValue(1);
+    QObject::connect(&status, &StatusLine::told, &form, [this](const QString &text) {
+        if (text == u"Importing all data"_s)
+            cancelSoon();
+    });
+    page().cmdSFIImport.click();
+    EXPECT_EQ(lastStatus(), u"Settings Imported; Data: Import cancelled, nothing imported"_s);
+    EXPECT_EQ(values(u"Block"_s, u"UrlsContent"_s), QStringList{u"ads"_s});
+}
+
+TEST_F(DataImportTest, WhileItIsUnderWayTheUserCanDoNothingElseButEnd)
+{
+    selectOther();
+    page().chkSFIAllData.setValue(1);
+    page().cmdSFIImport.setEnabled(true);
+    form.places.cmdSFDBDirBrowse.setEnabled(false);
+    const QList<Control *> others{&form.autoRun.cmdANStart, &form.manual.cmdMNStart,  &form.places.cmdSFAutoDBFile,
+                                  &form.data.fxgTrawlex,    &form.saved.cboANList,    &form.frame.picStatus,
+                                  &page().cmdSFIImport,     &page().chkSFIAllSettings};
+    int looks = 0;
+    pump.after(0, [&] {
+        ++looks;
+        EXPECT_TRUE(side.isImporting());
+        EXPECT_TRUE(form.browser.picANEnd.isEnabled());
+        for (const Control *const control : others)
+            EXPECT_FALSE(control->isEnabled()) << qPrintable(control->name());
+    });
+    page().cmdSFIImport.click();
+    EXPECT_EQ(looks, 1);
+    EXPECT_FALSE(side.isImporting());
+    for (const Control *const control : others)
+        EXPECT_TRUE(control->isEnabled()) << qPrintable(control->name());
+    EXPECT_FALSE(form.places.cmdSFDBDirBrowse.isEnabled()) << "as it was";
+    EXPECT_EQ(lastStatus(), u"Data Imported"_s);
+}
+
 TEST_F(DataImportTest, WithoutAFileTheButtonDoesNothing)
 {
     page().cmdSFIImport.click();

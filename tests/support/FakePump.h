@@ -54,7 +54,9 @@ class FakePump : public EventPump
   private:
     void runDue()
     {
-        while (!mActions.empty() && mActions.begin()->first <= mNow) {
+        // What an action plans for the next turn is not for this one.
+        for (auto due = std::distance(mActions.begin(), mActions.upper_bound(mNow));
+             due > 0 && !mActions.empty() && mActions.begin()->first <= mNow; --due) {
             const Action action = std::move(mActions.begin()->second);
             mActions.erase(mActions.begin());
             action();

@@ -223,6 +223,55 @@ TEST_F(EndInARun, TerminateInTheMiddleOfAWaitStopsTheRunAndEndsOnceItHasUnwound)
     EXPECT_EQ(window.navigated.size(), 2);
 }
 
+TEST_F(EndInARun, TheEndInALongCommandCancelsItAndComesOnceItHasUnwoundWithAllWritten)
+{
+    int endsInside = -1;
+    settings.written.clear();
+    pump.after(0, [&] {
+        program->lifeCycle.end();
+        endsInside = ends;
+    });
+    EXPECT_TRUE(program->longWork.run(u"Saving"_s, [&] {
+        EXPECT_FALSE(program->longWork.goOn(1));
+        pump.doEvents();
+        EXPECT_TRUE(program->database.isSet()) << "what stands on the stack keeps its objects";
+    }));
+    EXPECT_EQ(endsInside, 0);
+    EXPECT_EQ(ends, 0);
+    pump.doEvents();
+    EXPECT_EQ(ends, 1);
+    EXPECT_FALSE(program->database.isSet());
+    EXPECT_EQ(settings.of("npTimimg"), u"005"_s);
+}
+
+TEST_F(EndInARun, TheEndInAnImportTakesItBackAndWritesTheOptions)
+{
+    QTemporaryDir elsewhere;
+    {
+        RecordingLog log;
+        DatabaseHolder other;
+        makeDatabase(other, log, elsewhere.path());
+        addRow(*other, u"SiteSummary"_s, {{u"Url"_s, u"http://a.com"_s}});
+        dialogs.fileAnswer = other->DatabasePath();
+    }
+    form().import.cmdSFISelDatabase.setEnabled(true);
+    form().import.cmdSFISelDatabase.click();
+    form().import.chkSFIAllData.setValue(1);
+    const QString path = database().DatabasePath();
+    settings.written.clear();
+    pump.after(0, [&] { program->lifeCycle.end(); });
+    form().import.cmdSFIImport.setEnabled(true);
+    form().import.cmdSFIImport.click();
+    EXPECT_EQ(lastStatus(), u"Import cancelled, nothing imported"_s);
+    EXPECT_TRUE(rows(u"SiteSummary"_s).isEmpty());
+    EXPECT_EQ(ends, 0);
+    pump.doEvents();
+    EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(form().mbFormReady);
+    EXPECT_EQ(settings.of("npTimimg"), u"005"_s);
+    EXPECT_TRUE(dialogs.errors.isEmpty());
+}
+
 TEST_F(EndInARun, ANoToTheQuestionLetsTheRunGoOn)
 {
     dialogs.answer = UserDialogs::Answer::No;

@@ -6,6 +6,7 @@
 #include "util/Text.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -200,6 +201,13 @@ void DataImport::cmdSFIImport_Click()
 
 QString DataImport::import(const QString &path)
 {
+    Q_EMIT importing(true);
+    const auto ended = qScopeGuard([this] { Q_EMIT importing(false); });
+    return importChosen(path);
+}
+
+QString DataImport::importChosen(const QString &path)
+{
     if (mPage.chkSFIAllSettings.isOn() || mPage.chkSFIAllData.isOn())
         return importAll(path);
     QString told;
@@ -235,26 +243,34 @@ QString DataImport::importTable(const QString &path)
     return told.isEmpty() ? table + " Imported"_L1 : told;
 }
 
-/// What went wrong with the settings stands in front of what is said of the data.
+template <class Import> DataImport::Outcome DataImport::run(const QString &text, const Import &import)
+{
+    Outcome outcome;
+    mWork.run(text, [&] {
+        outcome.failure = import();
+        outcome.cancelled = mWork.isCancelled();
+    });
+    return outcome;
+}
+
+/// The last message wins, but what went wrong with either of both is told. The user may cancel when the settings are
+/// about to stand: the data does not follow then.
 QString DataImport::importAll(const QString &path)
 {
+    Outcome settings, data;
     QStringList told;
-    bool cancelled = false;
     if (mPage.chkSFIAllSettings.isOn()) {
-        QString failure;
-        mWork.run(u"Importing all settings"_s, [&] {
-            failure = mImports.ImportAllSettings(path);
-            cancelled = mWork.isCancelled();
-        });
-        if (!failure.isEmpty())
-            told.append(failure);
-        else if (!mPage.chkSFIAllData.isOn())
-            told.append(u"Settings Imported"_s);
+        settings = run(u"Importing all settings"_s, [&] { return mImports.ImportAllSettings(path); });
+        told.append(settings.failure.isEmpty() ? u"Settings Imported"_s : settings.failure);
     }
-    if (mPage.chkSFIAllData.isOn() && !cancelled) {
-        QString failure;
-        mWork.run(u"Importing all data"_s, [&] { failure = mImports.ImportAllData(path); });
-        told.append(failure.isEmpty() ? u"Data Imported"_s : failure);
+    if (mPage.chkSFIAllData.isOn() && !settings.cancelled) {
+        data = run(u"Importing all data"_s, [&] { return mImports.ImportAllData(path); });
+        if (data.failure.isEmpty() && settings.failure.isEmpty())
+            told.clear();
+        const QLatin1StringView of = told.isEmpty() ? ""_L1 : "Data: "_L1;
+        told.append(data.failure.isEmpty() ? u"Data Imported"_s : of + data.failure);
+    } else if (mPage.chkSFIAllData.isOn() && settings.failure.isEmpty()) {
+        told.append(u"Data: Import cancelled, nothing imported"_s);
     }
     clear({&mPage.chkSFIAllSettings, &mPage.chkSFIAllData});
     return told.join("; "_L1);

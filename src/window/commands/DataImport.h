@@ -16,10 +16,17 @@ class DataImport : public QObject
   Q_SIGNALS:
     /// The options are not to be stored from now on, and again.
     void formReady(bool ready);
+    /// From now on the import is alone with the database, and no longer.
+    void importing(bool begins);
     /// The database has other rows: everything that shows it is to be loaded anew.
     void reloadWanted();
 
   private:
+    struct Outcome
+    {
+        QString failure;
+        bool cancelled = false;
+    };
     void connectBoxes();
     void cmdSFISelDatabase_Click();
     [[nodiscard]] QString take(const QString &path);
@@ -31,9 +38,11 @@ class DataImport : public QObject
     void refuse(CheckBox &box, const QString &why);
     void cmdSFIImport_Click();
     [[nodiscard]] QString import(const QString &path);
+    [[nodiscard]] QString importChosen(const QString &path);
     [[nodiscard]] QString importField(const QString &path);
     [[nodiscard]] QString importTable(const QString &path);
     [[nodiscard]] QString importAll(const QString &path);
+    template <class Import> [[nodiscard]] Outcome run(const QString &text, const Import &import);
 
     Context mContext;
     ImportPage &mPage;

@@ -66,8 +66,8 @@ void PlaceCommands::browse(Folder folder)
 void PlaceCommands::mobjDirSel_DirSelectionChanged(const QString &chosen, Folder folder)
 {
     guarded(mContext.log, {module, "Sub mobjDirSel_DirSelectionChanged"_L1}, [&] {
-        // A run that was begun meanwhile keeps its database and its folder.
-        if (chosen.isEmpty() || !mRuns.idle())
+        // A run or an import that was begun meanwhile keeps its database and its folder.
+        if (chosen.isEmpty() || !mRuns.idle() || !mPlaces.cmdSFDBDirBrowse.isEnabled())
             return mContext.status.UpDateStatus(u"Canceled"_s);
         if (folder == Folder::Database) {
             assignDatabaseFolder(withSeparator(chosen));
