@@ -24,10 +24,15 @@ int work(char *argv[], const Arguments &arguments)
 {
     QLibrary file(cUtility::programPart(QString::fromLatin1(harvestFile)));
     auto *harvest = reinterpret_cast<HarvestWork *>(file.resolve(harvestName));
-    if (harvest != nullptr)
-        return harvest(argv, arguments);
-    printError("trawlex-harvest: "_L1 + QLatin1StringView(harvestFile) + ": "_L1 + file.errorString());
-    return OtherEnd;
+    if (harvest == nullptr)
+        throw RuntimeError(ErrorNumber::FileNotFound, QLatin1StringView(harvestFile) + ": "_L1 + file.errorString());
+    return harvest(argv, arguments);
+}
+
+int refuse(const RuntimeError &error, ExitStatus status)
+{
+    printError("trawlex-harvest: "_L1 + error.description());
+    return status;
 }
 } // namespace
 
@@ -37,11 +42,15 @@ int main(int argc, char *argv[])
     try {
         arguments = parseArguments(wordsOf(argc, argv));
     } catch (const RuntimeError &error) {
-        printError("trawlex-harvest: "_L1 + error.description());
-        return BadArguments;
+        return refuse(error, BadArguments);
     }
-    if (!arguments.help)
+    if (arguments.help) {
+        std::fputs(usage().toUtf8().constData(), stdout);
+        return Finished;
+    }
+    try {
         return work(argv, arguments);
-    std::fputs(usage().toUtf8().constData(), stdout);
-    return Finished;
+    } catch (const RuntimeError &error) {
+        return refuse(error, OtherEnd);
+    }
 }

@@ -1,6 +1,9 @@
 #include "util/ProgramParts.h"
 
+#include "util/Errors.h"
+
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -16,11 +19,17 @@ QString ownFolder()
 
 QString cUtility::programPart(const QString &name)
 {
-    const QString own = ownFolder();
-    for (const QLatin1StringView folder : {"/"_L1, "/../libexec/trawlex/"_L1}) {
-        QString path = own + folder + name;
+    return programPart(name, ownFolder());
+}
+
+QString cUtility::programPart(const QString &name, const QString &own)
+{
+    const QString installed = QDir::cleanPath(own + "/" TRAWLEX_PARTS_FROM_BIN ""_L1);
+    for (const QString &folder : {own, installed}) {
+        QString path = folder + u'/' + name;
         if (QFileInfo(path).isFile())
             return path;
     }
-    return {};
+    throw RuntimeError(ErrorNumber::FileNotFound,
+                       u"%1 is not installed: it is neither in %2 nor in %3."_s.arg(name, own, installed));
 }

@@ -5,6 +5,8 @@
 
 namespace cUtility {
 /// The path of the part of this name: beside the running program or, installed, in the folder for what no user starts.
-/// Works before there is an application object. "" where it is not.
+/// Works before there is an application object. A RuntimeError that names both places where it is in neither.
 [[nodiscard]] QString programPart(const QString &name);
+/// The same for a program in the folder `own`.
+[[nodiscard]] QString programPart(const QString &name, const QString &own);
 } // namespace cUtility

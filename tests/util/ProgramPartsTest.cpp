@@ -1,7 +1,12 @@
 // The parts of the program that stand in files of their own.
 #include "util/ProgramParts.h"
 
+#include "util/Errors.h"
+
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -13,9 +18,32 @@ TEST(ProgramParts, WhatStandsBesideTheProgramIsFoundBeforeThereIsAnApplication)
     EXPECT_EQ(QFileInfo(cUtility::programPart(self.fileName())).canonicalFilePath(), self.canonicalFilePath());
 }
 
-TEST(ProgramParts, WhatIsNotThereHasNoPath)
+TEST(ProgramParts, LieWhereTheyAreInstalled)
 {
-    EXPECT_EQ(cUtility::programPart(u"no such part"_s), QString());
-    EXPECT_EQ(cUtility::programPart(u"."_s), QString()) << "a folder is no part";
+    const QTemporaryDir prefix;
+    const QString bin = prefix.filePath(u"" TRAWLEX_BIN_DIR ""_s);
+    const QString parts = prefix.filePath(u"" TRAWLEX_PARTS_DIR ""_s);
+    ASSERT_TRUE(QDir().mkpath(bin) && QDir().mkpath(parts));
+    QFile part(parts + "/part"_L1);
+    ASSERT_TRUE(part.open(QIODevice::WriteOnly));
+    EXPECT_EQ(cUtility::programPart(u"part"_s, bin), part.fileName());
+}
+
+TEST(ProgramParts, WhatIsNotThereIsToldWithThePlaces)
+{
+    try {
+        FAIL() << cUtility::programPart(u"part"_s, u"/none/bin"_s).toStdString();
+    } catch (const RuntimeError &error) {
+        EXPECT_EQ(error.number(), ErrorNumber::FileNotFound);
+        const QString installed = QDir::cleanPath(
+            u"/none/bin/"_s + QDir(u"/" TRAWLEX_BIN_DIR ""_s).relativeFilePath(u"/" TRAWLEX_PARTS_DIR ""_s));
+        EXPECT_EQ(error.description().toStdString(),
+                  "part is not installed: it is neither in /none/bin nor in " + installed.toStdString() + ".");
+    }
+}
+
+TEST(ProgramParts, AFolderIsNone)
+{
+    EXPECT_THROW(std::ignore = cUtility::programPart(u"."_s), RuntimeError);
 }
 } // namespace

@@ -1,5 +1,4 @@
 #include "engine/chromium/ChromiumProgram.h"
-#include "util/Errors.h"
 #include "util/ProgramParts.h"
 
 #include <QFileInfo>
@@ -48,10 +47,7 @@ QString find()
 
 QString holder()
 {
-    QString path = cUtility::programPart(u"trawlex-browser-holder"_s);
-    if (path.isEmpty())
-        throw RuntimeError(ErrorNumber::FileNotFound, u"trawlex-browser-holder is not installed."_s);
-    return path;
+    return cUtility::programPart(u"trawlex-browser-holder"_s);
 }
 
 } // namespace ChromiumProgram

@@ -22,14 +22,6 @@ constexpr std::array seriousComplaints{
     "beyond EOF",          "reading page",          "not a valid table definition", "doesn't match",
     "Invalid page buffer", "Invalid data location", "incorrect memo length",        "unrecognized usage map"};
 
-QString readerProgram()
-{
-    QString program = cUtility::programPart(u"trawlex-mdb-reader"_s);
-    if (program.isEmpty())
-        throw RuntimeError(ErrorNumber::FileNotFound, u"trawlex-mdb-reader is not installed."_s);
-    return program;
-}
-
 [[noreturn]] void breakOff(const QString &why)
 {
     throw StoreError(StoreFault::Damaged, AdoError::Engine, why);
@@ -46,7 +38,7 @@ ReaderProcess::ReaderProcess(const QStringList &arguments)
     }
     mProcess.setProcessEnvironment(environment);
     mProcess.setStandardInputFile(QProcess::nullDevice());
-    mProcess.start(readerProgram(), arguments, QIODevice::ReadOnly);
+    mProcess.start(cUtility::programPart(u"trawlex-mdb-reader"_s), arguments, QIODevice::ReadOnly);
     if (!mProcess.waitForStarted(patience))
         breakOff(u"The reader of other databases cannot be started."_s);
 }
