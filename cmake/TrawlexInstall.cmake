@@ -11,7 +11,7 @@ function(install_packed source name folder)
 endfunction()
 
 install(TARGETS trawlex trawlex-harvest RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(TARGETS trawlex-mdb-reader trawlex-browser-holder trawlex-harvest-work DESTINATION ${TRAWLEX_PARTS_DIR})
+install(TARGETS trawlex-mdb-reader trawlex-browser-holder trawlex-harvest-work trawlex-browser DESTINATION ${TRAWLEX_PARTS_DIR})
 install(FILES packaging/desktop/trawlex.desktop packaging/desktop/z-trawlex-pictures.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/desktop/trawlex.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES src/ui/look/icons/trawlex.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)

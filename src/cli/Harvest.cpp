@@ -11,7 +11,7 @@
 #include "cli/ListCommands.h"
 #include "cli/Outcome.h"
 #include "engine/BrowserSwitches.h"
-#include "engine/webengine/WebEngineSetup.h"
+#include "engine/WebEngineSetup.h"
 #include "util/Memory.h"
 #include "window/ProgramFolder.h"
 

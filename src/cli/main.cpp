@@ -5,7 +5,6 @@
 #include "util/Errors.h"
 #include "util/ProgramParts.h"
 
-#include <QLibrary>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -22,10 +21,8 @@ QStringList wordsOf(int argc, char *argv[])
 
 int work(char *argv[], const Arguments &arguments)
 {
-    QLibrary file(cUtility::programPart(QString::fromLatin1(harvestFile)));
-    auto *harvest = reinterpret_cast<HarvestWork *>(file.resolve(harvestName));
-    if (harvest == nullptr)
-        throw RuntimeError(ErrorNumber::FileNotFound, QLatin1StringView(harvestFile) + ": "_L1 + file.errorString());
+    const auto file = QString::fromLatin1(harvestFile);
+    auto *const harvest = reinterpret_cast<HarvestWork *>(cUtility::functionOfPart(file, harvestName));
     return harvest(argv, arguments);
 }
 

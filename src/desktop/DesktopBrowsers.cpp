@@ -1,6 +1,7 @@
 #include "desktop/DesktopBrowsers.h"
 
 #include "desktop/KeptPlace.h"
+#include "util/ProgramParts.h"
 #include "window/ProgramFolder.h"
 #include "window/WindowPlaces.h"
 
@@ -13,16 +14,23 @@ DesktopBrowsers::~DesktopBrowsers()
 
 std::shared_ptr<BrowserEngine> DesktopBrowsers::internalBrowser()
 {
-    if (!mInternal) {
-        mInternal =
-            std::make_shared<WebEngineBrowser>(WebEngineOptions{.storageFolder = dataFolder() + u"/internal"_s});
-        mobjWBare = new BareBrowserWindow(mInternal);
-        QObject::connect(mInternal.get(), &BrowserEngine::WindowClosing, mInternal.get(), [this] { forget(); });
-        QObject::connect(mobjWBare, &BareBrowserWindow::closing, mobjWBare, [this] { savePlace(); });
-        placeInternal();
-    }
+    if (!mInternal)
+        makeInternal();
     mobjWBare->show();
     return mInternal;
+}
+
+void DesktopBrowsers::makeInternal()
+{
+    const auto file = QString::fromLatin1(internalBrowserFile);
+    auto *const make = reinterpret_cast<InternalBrowserMaker *>(cUtility::functionOfPart(file, internalBrowserName));
+    InternalBrowser made;
+    make(dataFolder() + u"/internal"_s, made);
+    mInternal = std::move(made.browser);
+    mobjWBare = made.window.release();
+    QObject::connect(mInternal.get(), &BrowserEngine::WindowClosing, mInternal.get(), [this] { forget(); });
+    QObject::connect(mobjWBare, &BrowserWindow::closing, mobjWBare, [this] { savePlace(); });
+    placeInternal();
 }
 
 void DesktopBrowsers::placeInternal()

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "app/Ports.h"
+#include "desktop/InternalBrowser.h"
 #include "engine/chromium/ChromiumFactory.h"
-#include "engine/webengine/WebEngineBrowser.h"
-#include "ui/windows/BareBrowserWindow.h"
 
 #include <QPointer>
 
@@ -13,7 +12,7 @@ class DesktopBrowsers : public ChromiumFactory
   public:
     using ChromiumFactory::ChromiumFactory;
     ~DesktopBrowsers() override;
-    /// The browser of the window that is open, or of a new one.
+    /// The browser of the window that is open, or of a new one. Raises an error where its file cannot be loaded.
     [[nodiscard]] std::shared_ptr<BrowserEngine> internalBrowser() override;
     /// The window beside which the browser's window opens.
     void standBeside(QWidget *main) { mMain = main; }
@@ -24,12 +23,12 @@ class DesktopBrowsers : public ChromiumFactory
     void placeInternal();
 
   private:
+    void makeInternal();
     void forget();
-
     void savePlace();
 
     QPointer<QWidget> mMain;
     SettingsStore *mSettings = nullptr;
-    QPointer<BareBrowserWindow> mobjWBare;
-    std::shared_ptr<WebEngineBrowser> mInternal;
+    QPointer<BrowserWindow> mobjWBare;
+    std::shared_ptr<BrowserEngine> mInternal;
 };

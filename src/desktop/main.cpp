@@ -14,7 +14,7 @@
 #include "desktop/ProgramEnd.h"
 #include "desktop/Splash.h"
 #include "engine/BrowserSwitches.h"
-#include "engine/webengine/WebEngineSetup.h"
+#include "engine/WebEngineSetup.h"
 #include "ui/binding/MenuMirror.h"
 #include "ui/windows/QtClipboard.h"
 #include "ui/windows/QtDesktop.h"

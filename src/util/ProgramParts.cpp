@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibrary>
 
 using namespace Qt::StringLiterals;
 
@@ -32,4 +33,13 @@ QString cUtility::programPart(const QString &name, const QString &own)
     }
     throw RuntimeError(ErrorNumber::FileNotFound,
                        u"%1 is not installed: it is neither in %2 nor in %3."_s.arg(name, own, installed));
+}
+
+QFunctionPointer cUtility::functionOfPart(const QString &name, const char *function)
+{
+    QLibrary file(programPart(name));
+    const QFunctionPointer found = file.resolve(function);
+    if (found == nullptr)
+        throw RuntimeError(ErrorNumber::FileNotFound, name + u": "_s + file.errorString());
+    return found;
 }

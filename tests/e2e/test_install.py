@@ -13,7 +13,7 @@ import xml.etree.ElementTree as ElementTree
 import trawlex
 
 FILES = ["bin/trawlex", "bin/trawlex-harvest", "libexec/trawlex/trawlex-mdb-reader",
-         "libexec/trawlex/trawlex-browser-holder", "libexec/trawlex/trawlex-harvest.so",
+         "libexec/trawlex/trawlex-browser-holder", "libexec/trawlex/trawlex-harvest.so", "libexec/trawlex/trawlex-browser.so",
          "share/applications/trawlex.desktop", "share/applications/z-trawlex-pictures.desktop",
          "share/metainfo/trawlex.metainfo.xml",
          "share/icons/hicolor/scalable/apps/trawlex.svg", "share/man/man1/trawlex.1.gz", "share/man/man1/trawlex-harvest.1.gz",

@@ -159,6 +159,7 @@ class Alone(PictureCase):
         opened = [os.readlink(entry) for entry in pathlib.Path(f"/proc/{self.program.pid}/fd").iterdir()]
         self.assertEqual([path for path in opened if path.endswith((".mdb", ".lock"))], [])
         self.assertFalse((self.folder / "data").exists(), "no database, no browser profile")
+        self.assertNotIn("WebEngine", pathlib.Path(f"/proc/{self.program.pid}/maps").read_text(encoding="utf-8"), "no engine")
         self.end()
 
     def test_it_runs_beside_another_one(self):

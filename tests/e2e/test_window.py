@@ -31,8 +31,11 @@ class OneProgram(window.WindowCase):
 
     def test_a_second_start_brings_the_first_ones_window_up_and_ends(self):
         self.start()
-        self.display.do("windowminimize", "--sync", self.id)
-        self.assertIsNone(self.find_window())
+        def minimized():
+            self.display.do("windowminimize", "--sync", self.id)
+            return not self.find_window()
+
+        trawlex.wait_for(minimized, 10, "a window that has just come up is minimized")
         second = subprocess.run([trawlex.WINDOW], env=self.env, cwd=self.folder, timeout=30, check=False,
                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.assertEqual(second.returncode, 0)

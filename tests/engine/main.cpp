@@ -1,6 +1,6 @@
 // The engines' tests run against the real browsers, without a display.
 #include "engine/BrowserSwitches.h"
-#include "engine/webengine/WebEngineSetup.h"
+#include "engine/WebEngineSetup.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

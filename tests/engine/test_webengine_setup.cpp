@@ -2,7 +2,7 @@
 #include "WebEngineFixture.h"
 #include "engine/BrowserSwitches.h"
 #include "engine/Platform.h"
-#include "engine/webengine/WebEngineSetup.h"
+#include "engine/WebEngineSetup.h"
 #include "support/EnvironmentVariable.h"
 
 #include <QCoreApplication>

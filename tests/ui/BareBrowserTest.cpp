@@ -1,5 +1,5 @@
 // The built-in browser's window, with the real engine in it.
-#include "ui/windows/BareBrowserWindow.h"
+#include "desktop/internal/BareBrowserWindow.h"
 
 #include "engine/webengine/WebEngineBrowser.h"
 

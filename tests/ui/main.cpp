@@ -1,6 +1,6 @@
 // The skin's tests run without a display. A Qt warning that nobody expects fails the test in which it comes.
 #include "engine/BrowserSwitches.h"
-#include "engine/webengine/WebEngineSetup.h"
+#include "engine/WebEngineSetup.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -42,6 +42,17 @@ TEST(ProgramParts, WhatIsNotThereIsToldWithThePlaces)
     }
 }
 
+TEST(ProgramParts, OneThatCannotBeLoadedIsToldByName)
+{
+    const QString self = QFileInfo(QFileInfo(u"/proc/self/exe"_s).symLinkTarget()).fileName();
+    try {
+        std::ignore = cUtility::functionOfPart(self, "main");
+        FAIL() << "a program is no library";
+    } catch (const RuntimeError &error) {
+        EXPECT_TRUE(error.description().startsWith(self + u": "_s)) << error.description().toStdString();
+    }
+}
+
 TEST(ProgramParts, AFolderIsNone)
 {
     EXPECT_THROW(std::ignore = cUtility::programPart(u"."_s), RuntimeError);

@@ -11,7 +11,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSysInfo>
-#include <QtWebEngineCore/qtwebenginecoreglobal.h>
+#include <QtWebEngineCore/qtwebenginecoreversion.h>
 
 using namespace Qt::StringLiterals;
 
@@ -62,8 +62,7 @@ QString AboutWindow::systemInformation()
                       u"System: %1, %2"_s.arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()),
                       u"Kernel: %1 %2"_s.arg(QSysInfo::kernelType(), QSysInfo::kernelVersion()),
                       u"Qt: %1, windows by %2"_s.arg(QString::fromLatin1(qVersion()), QGuiApplication::platformName()),
-                      u"Built-in browser: Qt WebEngine %1, Chromium %2"_s.arg(
-                          QString::fromLatin1(qWebEngineVersion()), QString::fromLatin1(qWebEngineChromiumVersion()))};
+                      u"Built-in browser: Qt WebEngine " QTWEBENGINECORE_VERSION_STR ""_s};
     for (const QScreen *const screen : QGuiApplication::screens()) {
         const QSize size = screen->size();
         lines.append(

@@ -1,4 +1,4 @@
-#include "engine/webengine/WebEngineSetup.h"
+#include "engine/WebEngineSetup.h"
 #include "engine/BrowserSwitches.h"
 #include "engine/Platform.h"
 

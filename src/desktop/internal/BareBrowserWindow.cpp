@@ -1,4 +1,4 @@
-#include "ui/windows/BareBrowserWindow.h"
+#include "desktop/internal/BareBrowserWindow.h"
 
 #include "ui/look/Icons.h"
 #include "ui/windows/FileDialog.h"

@@ -3,16 +3,16 @@
 #pragma once
 
 #include "browser/EmbeddedBrowser.h"
+#include "ui/windows/BrowserWindow.h"
 
 #include <QTimer>
-#include <QWidget>
 #include <memory>
 
 namespace Ui {
 class BareBrowserWindow;
 }
 
-class BareBrowserWindow : public QWidget
+class BareBrowserWindow : public BrowserWindow
 {
     Q_OBJECT
 
@@ -27,12 +27,7 @@ class BareBrowserWindow : public QWidget
     void NavigateToUrl(const QString &url);
     /// Loads the page again every 65 seconds while on.
     void AutoRefreshTimer(bool on);
-    /// Takes the room at the right side of `main`, as far as the screen has any.
-    void placeBeside(const QWidget &main);
-
-  Q_SIGNALS:
-    /// The user, or the end of the program, closes the window; it still stands where it was.
-    void closing();
+    void placeBeside(const QWidget &main) override;
 
   protected:
     void closeEvent(QCloseEvent *event) override;
