@@ -229,6 +229,17 @@ TEST_F(PicturesOnShow, TheListHasRoomForItsNamesBesideALargePicture)
     EXPECT_EQ(list().width(), 200);
 }
 
+TEST_F(PicturesOnShow, TheKeysOnTheButtonsAreReadInTheSmallestWindow)
+{
+    make(u"a.jpg"_s, {300, 200});
+    open();
+    window->resize(1, 1);
+    settle();
+    for (const QPushButton *const button : window->findChildren<QPushButton *>())
+        EXPECT_GE(button->width(), button->sizeHint().width()) << qPrintable(button->text());
+    EXPECT_LE(window->width(), 1366 / 3) << "the smallest screen that we fit on";
+}
+
 TEST_F(PicturesOnShow, WhereNoMotionIsWantedAPictureIsGoneAtOnce)
 {
     class Still : public QProxyStyle

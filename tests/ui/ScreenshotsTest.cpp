@@ -1,9 +1,11 @@
 // Takes the pictures of docs/images. Not a test, so it runs only when asked for:
 //   [QT_SCALE_FACTOR=2] test_ui --gtest_also_run_disabled_tests --gtest_filter='*Screenshots*'
 #include "WindowFixture.h"
+#include "engine/webengine/WebEngineBrowser.h"
 #include "support/Places.h"
 #include "ui/look/Theme.h"
 #include "ui/windows/AboutWindow.h"
+#include "ui/windows/BareBrowserWindow.h"
 #include "ui/windows/GridWindow.h"
 #include "ui/windows/MagnifyWindow.h"
 #include "ui/windows/PictureWindow.h"
@@ -13,6 +15,7 @@
 #include <QBuffer>
 #include <QCursor>
 #include <QDir>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -234,6 +237,30 @@ struct DISABLED_Screenshots : WindowFixture
         take(u"magnifier"_s, magnifier);
     }
 
+    /// The built-in browser with a page, as it stands under its address.
+    void showBrowser()
+    {
+        const QTemporaryDir folder;
+        QFile page(folder.filePath(u"harbour.html"_s));
+        ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+        page.write("<title>People of the harbour</title><body style='font-family:sans-serif;margin:2em'>"
+                   "<h1>People of the harbour</h1><p><img src='data:image/jpeg;base64," +
+                   harbour().toBase64() +
+                   "'><p>The pilots' house has been open to visitors since 1911. Boats leave from the eastern pier at "
+                   "nine, at noon and at three.<p><a href='x'>Anna Berg, pilot</a><br><a href='y'>The office</a>");
+        page.close();
+        BareBrowserWindow browser(std::make_shared<WebEngineBrowser>());
+        browser.resize(640, 480);
+        browser.show();
+        browser.NavigateToUrl(QUrl::fromLocalFile(page.fileName()).toString());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return browser.windowTitle() == u"People of the harbour"_s; }, 30000));
+        QTest::qWait(500); // until it is drawn
+        browser.findChild<QLineEdit *>(u"txtAddressBar"_s)
+            ->setText(u"http://www.north-harbour.example/team/people/index.html"_s);
+        take(u"browser"_s, browser);
+        browser.close();
+    }
+
     /// Some pictures of a harbour at all times of day, the last one on show.
     void showPictures()
     {
@@ -315,5 +342,6 @@ TEST_F(DISABLED_Screenshots, AreTaken)
     }
     showCard();
     showSideWindows();
+    showBrowser();
     showPictures();
 }

@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTreeView>
@@ -128,6 +129,16 @@ TEST_F(About, CutsNoLineOfItsTextsWhereTheScreenIsLow)
     settle();
     const auto &system = *low.findChild<QPlainTextEdit *>(u"systemText"_s);
     EXPECT_EQ(system.visibleRegion().boundingRect().height(), system.height()) << "what was asked for is in sight";
+}
+
+TEST_F(About, ScrollsNothingWhereTheScreenHasTheRoom)
+{
+    const QScrollBar &bar = *part<QScrollArea>("aboutScroller").verticalScrollBar();
+    settle();
+    EXPECT_EQ(bar.maximum(), 0);
+    part<QPushButton>("cmdSysInFo").click();
+    settle();
+    EXPECT_EQ(bar.maximum(), 0);
 }
 
 TEST_F(About, ShowsAndCopiesTheSystemInformation)

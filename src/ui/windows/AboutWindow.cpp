@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QLibraryInfo>
 #include <QMouseEvent>
 #include <QScreen>
@@ -52,6 +53,7 @@ AboutWindow::AboutWindow(QWidget *main) : QDialog(main), mUi(std::make_unique<Ui
     connect(mUi->copyButton, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(mUi->systemText->toPlainText()); });
     mUi->cmdOK->setFocus();
+    mUi->aboutSheet->layout()->activate(); // or the window comes up as high as it was without what was filled in
 }
 
 AboutWindow::~AboutWindow() = default;

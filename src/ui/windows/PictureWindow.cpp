@@ -73,6 +73,7 @@ void PictureWindow::build()
     // They take what room there is, whatever they would like to have.
     picFoto->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     row->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    row->setMinimumWidth(row->minimumSizeHint().width()); // the keys on the buttons are read in any case
     whole->setRowStretch(0, 1);
     whole->setColumnStretch(0, 2); // up to the width of the list
     whole->setColumnStretch(1, 3);
