@@ -6,6 +6,17 @@ here=$(cd "$(dirname "$0")" && pwd)
 all=$(mktemp)
 trap 'rm -f "$all"' EXIT
 
+# What is at work besides, while no benchmark is: wall times of a machine that is not quiet are too long.
+tell_load() {
+  { head -n 1 /proc/stat; sleep 2; head -n 1 /proc/stat; } | awk -v when="$1" -v cores="$(nproc)" '
+    { total = 0; for (i = 2; i <= 9; ++i) total += $i; idle = $5 + $6 }
+    NR == 1 { before = total; rested = idle }
+    END {
+      busy = cores * (1 - (idle - rested) / (total - before))
+      printf "%s %s: other programs take %.1f of %d processors\n", busy < 0.2 ? "quiet" : "not quiet", when, busy, cores
+    }'
+}
+
 # A benchmark that ends with an error does not keep the others from being run.
 measure() {
   echo "== $1"
@@ -15,6 +26,7 @@ measure() {
 
 run_all() {
   local program
+  tell_load "at the beginning"
   for program in "$bin"/bench_*; do
     [ -x "$program" ] || continue
     measure "$(basename "$program")" "$program"
@@ -23,6 +35,7 @@ run_all() {
   measure "driving a browser" python3 "$here/bench_driving.py" "$bin" 10
   measure "fetching a series of files" python3 "$here/bench_transfer.py" "$bin"
   measure "the Manual run" python3 "$here/bench_manual.py" "$bin"
+  tell_load "at the end"
   return "${failed:-0}"
 }
 

@@ -88,7 +88,7 @@ QString Downloads::cookiesFor(const QString &address)
     const bool isFresh = mCookies.age.isValid() && !mCookies.age.hasExpired(freshFor);
     if (isFresh && mCookies.page == mPage && mCookies.folder == folder)
         return mCookies.header;
-    const QString header = mBrowser->cookiesFor(address);
+    QString header = mBrowser->cookiesFor(address);
     mCookies = {mPage, folder, header, {}};
     if (header == mBrowser->cookiesFor(folder))
         mCookies.age.start();
