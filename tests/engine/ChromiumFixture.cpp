@@ -48,22 +48,6 @@ int pageNumber = 0;
 
 } // namespace
 
-bool waitFor(const std::function<bool()> &done, int milliseconds)
-{
-    QEventLoop loop;
-    QTimer alarm;
-    alarm.start(10); // `done` may depend on what happens outside of this loop
-    const QDeadlineTimer deadline(milliseconds);
-    while (!done() && !deadline.hasExpired())
-        loop.processEvents(QEventLoop::WaitForMoreEvents);
-    return done();
-}
-
-void idle(int milliseconds)
-{
-    waitFor([] { return false; }, milliseconds);
-}
-
 qint64 errorOf(const std::function<void()> &call)
 {
     try {

@@ -1,6 +1,7 @@
 // Starts the real browser on a data folder of its own and gives its engine; ends the browser afterwards.
 #pragma once
 
+#include "EventWait.h"
 #include "TestServer.h"
 #include "engine/BrowserErrors.h"
 #include "engine/chromium/ChromiumFactory.h"
@@ -11,10 +12,6 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-/// Runs the event loop until `done` or the limit; gives `done()`.
-bool waitFor(const std::function<bool()> &done, int milliseconds = 10000);
-/// Runs the event loop for a while in which nothing is expected to happen.
-void idle(int milliseconds);
 /// Runs `call` and gives the number of the error that it raises, 0 without one.
 qint64 errorOf(const std::function<void()> &call);
 using Arrival = BrowserEngine::Arrival;

@@ -1,8 +1,6 @@
 // When a page of the free-standing browser counts as loaded, and what is signalled then.
 #include "ChromiumFixture.h"
-
-#include <QCoreApplication>
-#include <QEventLoop>
+#include "RestlessPages.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -240,27 +238,7 @@ TEST_F(ChromiumLoading, AHandlerMayReadAndNavigate)
 
 TEST_F(ChromiumLoading, APageWhoseFramesReloadForEverLeavesTheEventLoopItsTurns)
 {
-    QByteArray page;
-    for (int frame = 0; frame < 6; ++frame)
-        page += "<iframe srcdoc='<a href=x>x</a><script>setInterval(() => location.reload(), 30)</script>'></iframe>";
-    QElapsedTimer clock;
-    clock.start();
-    int completions = 0;
-    QObject::connect(browser.get(), &BrowserEngine::DocumentComplete, browser.get(), [&] {
-        ++completions;
-        for (int reads = 0; reads < 5 && clock.elapsed() < 5000; ++reads) // slower than the frames
-            (void)browser->links();
-    });
-    server().page("/restless", page);
-    browser->Navigate(here(u"/restless"_s));
-    qint64 longest = 0;
-    while (clock.elapsed() < 2000) {
-        const qint64 begin = clock.elapsed();
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        longest = std::max(longest, clock.elapsed() - begin);
-    }
-    EXPECT_GT(completions, 1);
-    EXPECT_LT(longest, 2000);
+    expectTurnsBesideRestlessFrames(*browser, server(), u"site.test"_s);
 }
 
 // ---- Whether the page has arrived

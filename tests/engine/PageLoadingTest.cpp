@@ -368,18 +368,3 @@ TEST(PageLoading, AnEndIsThatOfTheDocumentOnceThatHasToldOfItsLoadEvent)
     EXPECT_TRUE(page.documentFound());
     EXPECT_FALSE(page.documentFound());
 }
-
-TEST(PageLoading, ARequestOfThePageItselfBehindOursIsKnown)
-{
-    PageLoading loading;
-    EXPECT_FALSE(loading.isOvertaken());
-    const int number = loading.begin();
-    (void)loading.answered(number, u"ours"_s, {});
-    EXPECT_FALSE(loading.isOvertaken());
-    loading.started(u"ours"_s);
-    EXPECT_FALSE(loading.isOvertaken());
-    loading.started(u"the page's own"_s);
-    EXPECT_TRUE(loading.isOvertaken());
-    (void)loading.committed(u"ours"_s);
-    EXPECT_FALSE(loading.isOvertaken()) << "ours has come all the same";
-}

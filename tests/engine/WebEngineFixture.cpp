@@ -1,9 +1,5 @@
 #include "WebEngineFixture.h"
 
-#include <QDeadlineTimer>
-#include <QEventLoop>
-#include <QTimer>
-
 namespace {
 
 QStringList warnings;
@@ -49,28 +45,6 @@ void WebEngineTest::TearDown()
         EXPECT_TRUE(isExpected(message)) << "Qt warned: " << message.toStdString();
 }
 
-bool WebEngineTest::waitUntil(const std::function<bool()> &condition, int milliseconds)
-{
-    const QDeadlineTimer deadline(milliseconds);
-    QEventLoop loop;
-    QTimer tick;
-    QObject::connect(&tick, &QTimer::timeout, &loop, &QEventLoop::quit);
-    tick.start(5);
-    while (!condition()) {
-        if (deadline.hasExpired())
-            return false;
-        loop.exec();
-    }
-    return true;
-}
-
-void WebEngineTest::idle(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
 void WebEngineTest::startBrowser(const WebEngineOptions &options)
 {
     browser = std::make_shared<WebEngineBrowser>(options);
@@ -95,7 +69,7 @@ void WebEngineTest::openAddress(const QString &address)
 {
     signalled.clear();
     browser->Navigate(address);
-    ASSERT_TRUE(waitUntil([this] { return signalled.contains(QStringLiteral("ended")); }))
+    ASSERT_TRUE(waitFor([this] { return signalled.contains(QStringLiteral("ended")); }))
         << "never loaded: " << address.toStdString();
     EXPECT_FALSE(browser->isLoading());
 }
@@ -109,7 +83,7 @@ void WebEngineTest::openPage(const QByteArray &html)
 QString WebEngineTest::titleAfter(const QString &now)
 {
     QString title;
-    (void)waitUntil([&] { return (title = browser->LocationName()) != now; });
+    (void)waitFor([&] { return (title = browser->LocationName()) != now; });
     return title;
 }
 

@@ -2,6 +2,7 @@
 // has announced fails the test.
 #pragma once
 
+#include "EventWait.h"
 #include "TestServer.h"
 #include "engine/webengine/WebEngineBrowser.h"
 #include "util/QtPrint.h"
@@ -15,11 +16,6 @@ class WebEngineTest : public testing::Test
   protected:
     void SetUp() override;
     void TearDown() override;
-
-    /// Runs the event loop until `condition` holds; false after `milliseconds`.
-    static bool waitUntil(const std::function<bool()> &condition, int milliseconds = 10000);
-    /// Runs the event loop for a while in which nothing is expected to happen.
-    static void idle(int milliseconds);
 
     void startBrowser(const WebEngineOptions &options = {});
     /// Navigates to `path` of the server and waits until it has loaded.

@@ -165,7 +165,7 @@ TEST_F(WebEngineTest, NavigateReturnsAtOnceAndLoadingEndsWithThePage)
     EXPECT_TRUE(browser->isLoading());
     EXPECT_EQ(browser->LocationURL(), u"about:blank");
     EXPECT_TRUE(signalled.isEmpty());
-    EXPECT_TRUE(waitUntil([&] { return !browser->isLoading(); }));
+    EXPECT_TRUE(waitFor([&] { return !browser->isLoading(); }));
     idle(0);
     EXPECT_EQ(signalled, (QStringList{u"page "_s + server.address(u"/slow"_s), u"ended"_s}));
 }
@@ -206,7 +206,7 @@ TEST_F(WebEngineTest, AMoveWithinThePageHasLoadedAtOnce)
     EXPECT_FALSE(browser->isLoading());
     EXPECT_EQ(browser->LocationURL(), there);
     EXPECT_TRUE(signalled.isEmpty());
-    EXPECT_TRUE(waitUntil([&] { return signalled.size() == 2; }));
+    EXPECT_TRUE(waitFor([&] { return signalled.size() == 2; }));
     EXPECT_EQ(signalled, (QStringList{u"page "_s + there, u"ended"_s}));
     EXPECT_EQ(browser->content().url, there);
     EXPECT_EQ(server.requestCount("/page"), 1);
@@ -239,7 +239,7 @@ TEST_F(WebEngineTest, APageThatMovesOnByItselfIsLoadingAgain)
 {
     server.page("/end", "<title>end</title>");
     openPage("<title>start</title><meta http-equiv=refresh content='0.3;url=/end'>");
-    EXPECT_TRUE(waitUntil([&] { return signalled.count(u"ended"_s) == 2; }));
+    EXPECT_TRUE(waitFor([&] { return signalled.count(u"ended"_s) == 2; }));
     EXPECT_EQ(browser->LocationURL(), server.address(u"/end"_s));
 }
 
@@ -298,7 +298,7 @@ TEST_F(WebEngineTest, TheEndOfAnOlderLoadIsNotTakenForThatOfTheNewOne)
     server.route("/never", {.delay = -1});
     server.route("/slow", {.body = "<title>slow</title>", .delay = 300});
     browser->Navigate(server.address(u"/half"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->LocationURL().endsWith("/half"_L1); }));
+    EXPECT_TRUE(waitFor([&] { return browser->LocationURL().endsWith("/half"_L1); }));
     open(u"/slow"_s);
     EXPECT_EQ(browser->LocationName(), u"slow");
 }
@@ -358,7 +358,7 @@ TEST_F(WebEngineTest, APageHasArrivedWithItsOwnDocumentAndNotBefore)
     browser->Navigate(server.address(u"/half"_s));
     EXPECT_EQ(browser->arrival(), Arrival::Pending);
     EXPECT_FALSE(errorOf([&] { (void)browser->LocationName(); }).isEmpty()) << "there is nothing of its own to read";
-    EXPECT_TRUE(waitUntil([&] { return browser->arrival() != Arrival::Pending; }));
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() != Arrival::Pending; }));
     EXPECT_EQ(titleAfter(server.address(u"/half"_s)), u"half");
     EXPECT_EQ(browser->arrival(), Arrival::Arrived);
     EXPECT_TRUE(browser->isLoading());
@@ -413,7 +413,7 @@ TEST_F(WebEngineTest, APageThatGoesOnToNowhereHasFailed)
 {
     openPage("<title>first</title><script>setTimeout(() => location = 'http://nobody.invalid/', 200)</script>");
     EXPECT_EQ(browser->arrival(), Arrival::Arrived);
-    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == Arrival::Failed; }));
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == Arrival::Failed; }));
 }
 
 // --- what transfers ask --------------------------------------------------------------------------------------------
@@ -435,7 +435,7 @@ TEST_F(WebEngineTest, CookiesAreGivenAsTheBrowserWouldSendThem)
     open(u"/deep/page"_s);
     const QByteArray sent = server.requests().constLast().headers.value("cookie");
     EXPECT_EQ(sent, "deep=2; a=1");
-    EXPECT_TRUE(waitUntil([&] { return browser->cookiesFor(server.address(u"/deep/page"_s)).toUtf8() == sent; }))
+    EXPECT_TRUE(waitFor([&] { return browser->cookiesFor(server.address(u"/deep/page"_s)).toUtf8() == sent; }))
         << browser->cookiesFor(server.address(u"/deep/page"_s)).toStdString();
     EXPECT_EQ(browser->cookiesFor(server.address(u"/"_s)), u"a=1");
     EXPECT_EQ(browser->cookiesFor(server.address(u"/"_s, u"other.test"_s)), QString());

@@ -1,4 +1,5 @@
 // Nothing on a page stops the built-in browser: each of these ends in a page that can be read, or in an error.
+#include "RestlessPages.h"
 #include "WebEngineFixture.h"
 #include "engine/Platform.h"
 #include "engine/webengine/WebEngineStage.h"
@@ -249,7 +250,7 @@ TEST_F(WebEngineRefusals, APageThatTheUserSavesIsSaved)
     openPage("<title>t</title>kept text");
     const QString file = folder.filePath(u"page.html"_s);
     browser->page()->save(file, QWebEngineDownloadRequest::SingleHtmlSaveFormat);
-    EXPECT_TRUE(waitUntil([&] { return QFileInfo(file).size() > 0; }));
+    EXPECT_TRUE(waitFor([&] { return QFileInfo(file).size() > 0; }));
 }
 
 TEST_F(WebEngineRefusals, AddressesOfOtherProgramsAreNotLaunched)
@@ -272,7 +273,7 @@ TEST_F(WebEngineRefusals, APageThatNeverFinishesLoadingCanBeRead)
     server.route("/never", {.delay = -1});
     server.page("/page", "<title>half</title>text<img src='/never'>");
     browser->Navigate(server.address(u"/page"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
     EXPECT_EQ(titleAfter(server.address(u"/page"_s)), u"half");
     EXPECT_EQ(browser->content().title, u"half");
     EXPECT_EQ(text(), u"text");
@@ -291,13 +292,18 @@ TEST_F(WebEngineRefusals, APageThatReloadsItselfForEverCanBeReadAndLeft)
     server.page("/next", "<title>next</title>");
     server.page("/page", "<title>again</title><p>text</p><script>location.reload()</script>");
     browser->Navigate(server.address(u"/page"_s));
-    EXPECT_TRUE(waitUntil([&] { return server.requestCount("/page") > 3; }));
+    EXPECT_TRUE(waitFor([&] { return server.requestCount("/page") > 3; }));
     EXPECT_EQ(browser->content().url, server.address(u"/page"_s));
     browser->Navigate(server.address(u"/next"_s));
-    EXPECT_TRUE(waitUntil([&] { return !browser->isLoading(); }));
+    EXPECT_TRUE(waitFor([&] { return !browser->isLoading(); }));
     EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived);
     EXPECT_EQ(browser->LocationURL(), server.address(u"/next"_s)) << "the old page's is not taken for the new one";
     EXPECT_EQ(browser->LocationName(), u"next");
+}
+
+TEST_F(WebEngineRefusals, APageThatGoesOnByItselfDoesNotTakeTheNextOnesPlace)
+{
+    expectToLeaveRestlessPages(*browser, server, {u"127.0.0.1"_s, u"localhost"_s});
 }
 
 TEST_F(WebEngineRefusals, AScriptThatNeverEndsEndsTheReadAndTheNextPageWorks)
@@ -330,7 +336,7 @@ TEST_F(WebEngineRefusals, AScriptThatNeverEndsDoesNotHoldUpTheNextPage)
     for (const QString &path : {u"/while-loading"_s, u"/after-loading"_s}) {
         startBrowser({.leaveLimit = 500ms});
         browser->Navigate(server.address(path));
-        EXPECT_TRUE(waitUntil([&] { return browser->LocationURL().endsWith(path); }));
+        EXPECT_TRUE(waitFor([&] { return browser->LocationURL().endsWith(path); }));
         idle(100);
         open(u"/next"_s);
         EXPECT_EQ(browser->LocationName(), u"next");
@@ -347,7 +353,7 @@ TEST_F(WebEngineRefusals, AScriptThatNeverEndsIsDoneWithout)
         server.page("/hang", "<title>hang</title><p>text</p><a href=/x>x</a><script>" + script + "</script>");
         browser->setScriptLimit(700ms);
         browser->Navigate(server.address(u"/hang"_s));
-        EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+        EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
         idle(200);
         QElapsedTimer clock;
         clock.start();
@@ -372,7 +378,7 @@ TEST_F(WebEngineRefusals, APageThatIsNeverCompleteIsReadAsFarAsItHasComeWithoutS
                 "<title>hang</title><p>text</p><iframe src='/never'></iframe><script>for (;;);</script><p>end</p>");
     browser->setScriptLimit(700ms);
     browser->Navigate(server.address(u"/hang"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
     QElapsedTimer clock;
     clock.start();
     const PageContent content = browser->content();
@@ -389,7 +395,7 @@ TEST_F(WebEngineRefusals, ElementsInsideOneAnotherByTheThousandAreRead)
     server.page("/next", "<title>next</title>");
     server.page("/nested", "<title>nested</title><p>text</p>" + QByteArray("<div>").repeated(20'000));
     browser->Navigate(server.address(u"/nested"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
     idle(500);
     const PageContent content = browser->content();
     EXPECT_EQ(content.title, u"nested");
@@ -405,7 +411,7 @@ TEST_F(WebEngineRefusals, APageThatDoesNotAnswerWithoutScriptsEitherIsGivenUp)
     server.page("/nested", "<title>nested</title><p>text</p>" + QByteArray("<div>").repeated(300'000));
     browser->setScriptLimit(1s);
     browser->Navigate(server.address(u"/nested"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
     idle(500); // it has begun
     QElapsedTimer clock;
     clock.start();
@@ -440,7 +446,7 @@ TEST_F(WebEngineRefusals, TheViewShowsTheNextPageBehindOneThatWasReadWithoutScri
     view->setPage(browser->page());
     browser->setScriptLimit(500ms);
     browser->Navigate(server.address(u"/hang"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+    EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
     EXPECT_EQ(browser->content().title, u"hang");
     EXPECT_NE(view->page(), browser->page()) << "what is not laid out is not shown";
     open(u"/next"_s);
@@ -458,20 +464,20 @@ TEST_F(WebEngineRefusals, APageWithoutScriptsIsLeftBackwardsAndLoadedAgain)
     browser->setScriptLimit(500ms);
     const auto openPlain = [&] {
         browser->Navigate(server.address(u"/hang"_s));
-        EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+        EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
         EXPECT_EQ(browser->content().title, u"hang");
     };
     openPlain();
     browser->goBack();
     EXPECT_TRUE(
-        waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived && !browser->isLoading(); }));
+        waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived && !browser->isLoading(); }));
     EXPECT_EQ(browser->LocationURL(), server.address(u"/first"_s));
     EXPECT_EQ(view->page(), browser->page());
     openPlain();
     server.page("/hang", "<title>mended</title>");
     browser->reload();
     EXPECT_TRUE(
-        waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived && !browser->isLoading(); }));
+        waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived && !browser->isLoading(); }));
     EXPECT_EQ(browser->LocationName(), u"mended");
     EXPECT_EQ(view->title(), u"mended");
 }
@@ -484,7 +490,7 @@ TEST_F(WebEngineRefusals, APageThatAsksForOtherProgramsWithoutEndDoesNotHoldUpTh
                                  pause + ")</script>");
         for (int round = 0; round < 3; ++round) {
             browser->Navigate(server.address(u"/mail"_s)); // never loaded for long
-            EXPECT_TRUE(waitUntil([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
+            EXPECT_TRUE(waitFor([&] { return browser->arrival() == BrowserEngine::Arrival::Arrived; }));
             idle(100);
             open(u"/next"_s);
             EXPECT_EQ(browser->arrival(), BrowserEngine::Arrival::Arrived) << pause.constData();
@@ -513,7 +519,7 @@ TEST_F(WebEngineRefusals, ACrashedPageRaisesErrorsUntilTheNextOne)
     openPage("<title>t</title><iframe src='/frame'></iframe>");
     for (int round = 0; round < 3; ++round) {
         Platform::endProcess(browser->page()->renderProcessPid());
-        EXPECT_TRUE(waitUntil([&] { return !errorOf([&] { (void)browser->content(); }).isEmpty(); }));
+        EXPECT_TRUE(waitFor([&] { return !errorOf([&] { (void)browser->content(); }).isEmpty(); }));
         EXPECT_FALSE(errorOf([&] { (void)browser->links(); }).isEmpty());
         EXPECT_FALSE(errorOf([&] { (void)browser->LocationName(); }).isEmpty());
         EXPECT_EQ(browser->LocationURL(), server.address(u"/page"_s));
@@ -529,14 +535,14 @@ TEST_F(WebEngineRefusals, ACrashEndsTheLoadAndTheRead)
 {
     server.page("/page", "<title>t</title><script>const e=Date.now()+5000;while(Date.now()<e);</script>");
     browser->Navigate(server.address(u"/page"_s));
-    EXPECT_TRUE(waitUntil([&] { return browser->LocationURL().endsWith("/page"_L1); }));
+    EXPECT_TRUE(waitFor([&] { return browser->LocationURL().endsWith("/page"_L1); }));
     QTimer::singleShot(100, [&] { Platform::endProcess(browser->page()->renderProcessPid()); });
     QElapsedTimer clock;
     clock.start();
     EXPECT_FALSE(errorOf([&] { (void)browser->content(); }).isEmpty());
     EXPECT_LT(clock.elapsed(), 2000);
     EXPECT_FALSE(browser->isLoading());
-    EXPECT_TRUE(waitUntil([&] { return signalled == QStringList{u"ended"_s}; }));
+    EXPECT_TRUE(waitFor([&] { return signalled == QStringList{u"ended"_s}; }));
 }
 
 TEST_F(WebEngineRefusals, TheViewOfACrashedPageShowsTheNextOne)
@@ -548,7 +554,7 @@ TEST_F(WebEngineRefusals, TheViewOfACrashedPageShowsTheNextOne)
     QPointer<QWebEnginePage> replaced;
     QObject::connect(browser.get(), &WebEngineBrowser::pageReplaced, [&](QWebEnginePage *page) { replaced = page; });
     Platform::endProcess(browser->page()->renderProcessPid());
-    EXPECT_TRUE(waitUntil([&] { return !errorOf([&] { (void)text(); }).isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return !errorOf([&] { (void)text(); }).isEmpty(); }));
     open(u"/next"_s);
     EXPECT_EQ(view->page(), browser->page());
     EXPECT_EQ(replaced, browser->page());
@@ -565,7 +571,7 @@ TEST_F(WebEngineRefusals, OnAStageAPageHasASizeWithoutAWindow)
              "<iframe loading=lazy src='/late'></iframe><script>document.title=[innerWidth,innerHeight]</script>");
     EXPECT_EQ(browser->LocationName(), u"1000,700");
     EXPECT_EQ(text(), u"wide");
-    EXPECT_TRUE(waitUntil([&] { return server.requestCount("/late") == 1; }));
+    EXPECT_TRUE(waitFor([&] { return server.requestCount("/late") == 1; }));
 }
 
 #include "test_webengine_refusals.moc"

@@ -99,7 +99,7 @@ TEST_F(WebEngineTest, MadeUpHostsAreMappedToLoopback)
     other.setProcessEnvironment(environment);
     other.setProcessChannelMode(QProcess::MergedChannels);
     other.start(QCoreApplication::applicationFilePath(), {u"--gtest_filter=*.MadeUpHostsAreMappedInTheOtherProgram"_s});
-    EXPECT_TRUE(waitUntil([&] { return other.state() == QProcess::NotRunning; }, 20000));
+    EXPECT_TRUE(waitFor([&] { return other.state() == QProcess::NotRunning; }, 20000));
     EXPECT_EQ(other.exitCode(), 0) << other.readAll().toStdString();
     EXPECT_EQ(server.requests().size(), 1);
     EXPECT_EQ(server.requests().value(0).headers.value("host"), "made.up.example");

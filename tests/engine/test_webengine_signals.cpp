@@ -1,9 +1,7 @@
 // The signals of the built-in browser, and what may end in the middle of them.
+#include "RestlessPages.h"
 #include "WebEngineFixture.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -21,7 +19,7 @@ TEST_F(WebEngineTest, NothingIsSignalledDuringARead)
     EXPECT_FALSE(errorOf([&] { (void)browser->content(); }).isEmpty());
     EXPECT_TRUE(signalled.isEmpty());
     reading = false;
-    EXPECT_TRUE(waitUntil([&] { return signalled == QStringList{u"closing"_s}; }));
+    EXPECT_TRUE(waitFor([&] { return signalled == QStringList{u"closing"_s}; }));
     EXPECT_FALSE(during);
 }
 
@@ -62,7 +60,7 @@ TEST_F(WebEngineTest, TheLastReferenceMayBeDroppedInAnyHandler)
         startBrowser();
         connectTo();
         browser->Navigate(server.address(u"/page"_s));
-        EXPECT_TRUE(waitUntil([&] { return !browser; }));
+        EXPECT_TRUE(waitFor([&] { return !browser; }));
         idle(50);
     }
     EXPECT_EQ(dropped, 4);
@@ -81,25 +79,5 @@ TEST_F(WebEngineTest, TheLastReferenceMayBeDroppedDuringARead)
 
 TEST_F(WebEngineTest, APageWhoseFramesReloadForEverLeavesTheEventLoopItsTurns)
 {
-    QByteArray page;
-    for (int frame = 0; frame < 6; ++frame)
-        page += "<iframe srcdoc='<a href=x>x</a><script>setInterval(() => location.reload(), 30)</script>'></iframe>";
-    QElapsedTimer clock;
-    clock.start();
-    int completions = 0;
-    QObject::connect(browser.get(), &BrowserEngine::DocumentComplete, browser.get(), [&] {
-        ++completions;
-        for (int reads = 0; reads < 5 && clock.elapsed() < 5000; ++reads) // slower than the frames
-            (void)browser->links();
-    });
-    server.page("/page", page);
-    browser->Navigate(server.address(u"/page"_s));
-    qint64 longest = 0;
-    while (clock.elapsed() < 2000) {
-        const qint64 begin = clock.elapsed();
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        longest = std::max(longest, clock.elapsed() - begin);
-    }
-    EXPECT_GT(completions, 1);
-    EXPECT_LT(longest, 2000);
+    expectTurnsBesideRestlessFrames(*browser, server, u"127.0.0.1"_s);
 }

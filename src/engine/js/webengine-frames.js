@@ -11,7 +11,7 @@
     globalThis.trawlexFrames = true;
 
     const tell = (moment) => {
-        console.info("TOKEN" + JSON.stringify({ moment, top: window === window.top, url: location.href }));
+        console.info("TOKEN" + JSON.stringify({ moment, top: window === window.top, url: location.href, origin }));
     };
     tell("created");
     window.addEventListener("load", (event) => {

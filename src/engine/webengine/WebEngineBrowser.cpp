@@ -23,8 +23,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::chrono::milliseconds askAgain{100};
-// How often one page is asked for once more, because the old page stood in the way.
-constexpr int repetitionsAtMost = 3;
 constexpr int looksAtLeaving = 5; // within the limit
 
 // Where the folder is given, it holds cookies: nobody else's business.
@@ -151,17 +149,10 @@ void WebEngineBrowser::Navigate(const QString &address)
     const QUrl url = WebEngineAddress::parsed(address);
     const bool moveWithin = isAlive() && !mPlain && !isLoading() && WebEngineAddress::isMoveWithin(page()->url(), url);
     mAddress = url;
-    if (std::exchange(mPlain, false))
-        mProcess = Process::Lost; // the next page has its scripts again, in a process of its own
-    mRepetitions = 0;
+    if (std::exchange(mPlain, false) || (mKernel->page->isUnderWay() && !moveWithin))
+        leavePage(); // the next one has its scripts again, and nothing of this one comes in its place
     request();
-    if (isAlive() && !moveWithin)
-        watchLeaving(std::make_shared<bool>(true), QDeadlineTimer(mOptions.leaveLimit));
     issue();
-    QTimer::singleShot(mOptions.leaveLimit, this, [this, navigation = mNavigation] {
-        if (navigation == mNavigation)
-            onLeaveLimit();
-    });
     if (moveWithin) { // the page tells nothing more of it
         mLocation = WebEngineAddress::text(url);
         (void)mLoading.answered(mNavigation, {}, {});
@@ -174,8 +165,14 @@ void WebEngineBrowser::issue()
 {
     if (!isAlive())
         replacePage();
+    if (mKernel->page->hasDocument())
+        watchLeaving(std::make_shared<bool>(true), QDeadlineTimer(mOptions.leaveLimit));
     mLoading.issued(page()->isLoading());
     page()->setUrl(mAddress);
+    QTimer::singleShot(mOptions.leaveLimit, this, [this, asked = QPointer(page()), navigation = mNavigation] {
+        if (asked == page() && navigation == mNavigation)
+            onLeaveLimit();
+    });
 }
 
 // A page whose script never ends keeps the next one from coming, as the same site's pages share a process. It is asked
@@ -185,14 +182,15 @@ void WebEngineBrowser::watchLeaving(const std::shared_ptr<bool> &answered, QDead
     const QDeadlineTimer rest = *answered ? QDeadlineTimer(mOptions.leaveLimit) : patience;
     *answered = false;
     mReader->probe(answered);
-    QTimer::singleShot(mOptions.leaveLimit / looksAtLeaving, this, [this, answered, rest, navigation = mNavigation] {
-        if (navigation != mNavigation || !mLoading.isWaitingForDocument() || mProcess == Process::Changing)
+    const auto look = [this, answered, rest, asked = QPointer(page()), navigation = mNavigation] {
+        if (asked != page() || navigation != mNavigation || !isAlive() || !mLoading.isWaitingForDocument())
             return;
         if (*answered || !rest.hasExpired())
             watchLeaving(answered, rest);
         else
             Platform::endProcess(page()->renderProcessPid()); // onProcessGone() gives the address to the next process
-    });
+    };
+    QTimer::singleShot(mOptions.leaveLimit / looksAtLeaving, this, look);
 }
 
 // The page has taken the address for nothing that it can open.
@@ -247,8 +245,8 @@ void WebEngineBrowser::onLoadingChanged(const QWebEngineLoadingInfo &info)
     // Stopped: nothing came (a download, an empty answer, another program's address); the old document still stands.
     const bool stopped = info.status() == QWebEngineLoadingInfo::LoadStoppedStatus;
     const bool sameAddress = info.url() == mAddress;
-    if (stopped && !sameAddress && mLoading.isOvertaken())
-        return repeat();
+    if (stopped && !sameAddress && leaveIfInTheWay())
+        return;
     switch (mLoading.endTold(stopped ? PageLoading::End::Stopped : PageLoading::End::Loaded, sameAddress)) {
     case PageLoading::Verdict::Ended:
         tellEnd(!stopped);
@@ -273,7 +271,7 @@ void WebEngineBrowser::askWhetherLoaded()
 
 void WebEngineBrowser::onReadyState(const QString &state)
 {
-    if (!isLoading())
+    if (!isLoading() || mProcess == Process::Changing)
         return;
     if (state == u"complete") {
         if (mLoading.documentFound())
@@ -324,17 +322,15 @@ void WebEngineBrowser::onUrlChanged(const QUrl &url)
 
 void WebEngineBrowser::onDocumentCreated(const QString &url, bool topDocument)
 {
-    if (!topDocument)
+    if (!topDocument || mProcess == Process::Changing)
         return;
     const bool errorPage = WebEngineAddress::isErrorPage(url);
     const auto kind = errorPage ? PageLoading::Document::ErrorPage : PageLoading::Document::Page;
     mDocument = mLoading.isWaitingForDocument() ? awaited() : QString::number(++mDocuments);
-    const bool stays = mLoading.committed(mDocument, kind);
+    (void)mLoading.committed(mDocument, kind);
     if (mProcess != Process::Closed)
         mProcess = Process::Alive;
     mLocation = errorPage ? WebEngineAddress::text(page()->url()) : url;
-    if (!stays)
-        repeat();
 }
 
 // What the page calls the document of the latest navigation; it tells of a document and not whose it is.
@@ -345,23 +341,36 @@ QString WebEngineBrowser::awaited() const
 
 void WebEngineBrowser::onNavigationBegun(bool asGiven)
 {
-    mLoading.started(asGiven ? awaited() : QStringLiteral("the page's own"));
+    if (asGiven)
+        mLoading.started(awaited());
+    else
+        (void)leaveIfInTheWay();
 }
 
-// The old page has set out for another one while ours was on its way: it may be that one which has come.
-void WebEngineBrowser::repeat()
+// The old page has set out for another one while ours was on its way: either may come, and nothing tells which it is.
+bool WebEngineBrowser::leaveIfInTheWay()
 {
-    const bool again = mRepetitions++ < repetitionsAtMost;
+    if (!isAlive() || !mKernel->page->hasDocument() || !mLoading.isWaitingForDocument())
+        return false;
+    leavePage();
     request();
-    QTimer::singleShot(0, this, [this, again, navigation = mNavigation] {
-        if (navigation != mNavigation || !mLoading.isWaitingForDocument())
-            return;
-        if (again) {
-            watchLeaving(std::make_shared<bool>(true), QDeadlineTimer(mOptions.leaveLimit));
+    issueSoon();
+    return true;
+}
+
+// What the old page and its process do no longer counts; the address is given to another one.
+void WebEngineBrowser::leavePage()
+{
+    mProcess = Process::Lost;
+    mReader->fail({EngineError::NotArrived, QStringLiteral("The page has been left.")});
+}
+
+void WebEngineBrowser::issueSoon()
+{
+    mProcess = Process::Changing;
+    QTimer::singleShot(0, this, [this] {
+        if (mProcess == Process::Changing)
             issue();
-        } else {
-            Platform::endProcess(page()->renderProcessPid()); // onProcessGone() gives the address to the next process
-        }
     });
 }
 
@@ -374,7 +383,7 @@ void WebEngineBrowser::request()
 // The process of the page that is being left takes the navigation along when it ends; the address is then given again.
 void WebEngineBrowser::onProcessGone()
 {
-    if (mProcess == Process::Closed)
+    if (mProcess == Process::Closed || mProcess == Process::Changing)
         return;
     mProcess = Process::Lost;
     mReader->fail({EngineError::BrowserGone, QStringLiteral("The page's process has ended.")});
@@ -383,12 +392,8 @@ void WebEngineBrowser::onProcessGone()
         tellEnd(false);
     if (!again)
         return;
-    mProcess = Process::Changing;
     mReissued = mNavigation;
-    QTimer::singleShot(0, this, [this] {
-        if (mProcess == Process::Changing)
-            issue();
-    });
+    issueSoon();
 }
 
 void WebEngineBrowser::endProcess()

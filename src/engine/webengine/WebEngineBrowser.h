@@ -3,7 +3,9 @@
 // A page that does not answer a read within the script limit loses its process, and is loaded once more in another one,
 // plain: without scripts, and not laid out. One that does not answer at all even then, for nearly as long again, or not
 // to its end within the read limit, is given up; reads then raise an error, as after a crash, until the next Navigate()
-// has brought a document. The last reference to the browser may be dropped anywhere, in a handler of one of its own
+// has brought a document. A page that is on its way somewhere else when it is left, or sets out while the next one is
+// awaited, stays behind: the next one gets a page and a process of its own, as what is told of either could be of both.
+// The last reference to the browser may be dropped anywhere, in a handler of one of its own
 // signals too. Reads raise an error inside a handler of NewWindow2, since the page waits for its end.
 #pragma once
 
@@ -84,7 +86,7 @@ class WebEngineBrowser : public EmbeddedBrowser
     /// What stands behind the page.
     enum class Process {
         Alive,
-        Lost,     ///< and with it the document: nothing can be read until another one has come
+        Lost,     ///< or left to itself, and with it the document: nothing can be read until another one has come
         Changing, ///< the same, and the address is about to be given to a new one
         Closed    ///< the window has been closed: nothing is answered any more
     };
@@ -104,8 +106,10 @@ class WebEngineBrowser : public EmbeddedBrowser
     void tellEnd(bool withDocument);
     void request();
     void issue();
-    void repeat();
+    void issueSoon();
     void onNavigationBegun(bool asGiven);
+    [[nodiscard]] bool leaveIfInTheWay();
+    void leavePage();
     [[nodiscard]] QString awaited() const;
     void watchLeaving(const std::shared_ptr<bool> &answered, QDeadlineTimer patience);
     void onLeaveLimit();
@@ -130,13 +134,12 @@ class WebEngineBrowser : public EmbeddedBrowser
     QUrl mAddress; ///< of the navigation under way
     PageLoading mLoading;
     Process mProcess = Process::Alive;
-    int mNavigation = 0;  ///< the latest navigation, as PageLoading counts them
-    int mReissued = 0;    ///< the navigation that has been given to a second process
-    int mRepetitions = 0; ///< of the latest Navigate(), since the old page stood in the way
-    int mDocuments = 0;   ///< counts the documents that have come into being
-    QString mDocument;    ///< the name of the latest, for PageLoading
-    int mRefusing = 0;    ///< handlers of NewWindow2 on the stack
-    int mReads = 0;       ///< reads under way
-    bool mPlain = false;  ///< the page is loaded without scripts
+    int mNavigation = 0; ///< the latest navigation, as PageLoading counts them
+    int mReissued = 0;   ///< the navigation that has been given to a second process
+    int mDocuments = 0;  ///< counts the documents that have come into being
+    QString mDocument;   ///< the name of the latest, for PageLoading
+    int mRefusing = 0;   ///< handlers of NewWindow2 on the stack
+    int mReads = 0;      ///< reads under way
+    bool mPlain = false; ///< the page is loaded without scripts
     std::chrono::milliseconds mScriptLimit = usualScriptLimit;
 };

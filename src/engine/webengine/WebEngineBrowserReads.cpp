@@ -28,12 +28,12 @@ void WebEngineBrowser::raiseIfClosed() const
 void WebEngineBrowser::requireReadable() const
 {
     raiseIfClosed();
+    if (mLoading.isWaitingForDocument())
+        throw RuntimeError(EngineError::NotArrived, QStringLiteral("The page has not arrived yet."));
     if (!isAlive())
         throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page's process has ended."));
     if (mRefusing > 0)
         throw RuntimeError(EngineError::BrowserGone, QStringLiteral("The page waits for its new window."));
-    if (mLoading.isWaitingForDocument())
-        throw RuntimeError(EngineError::NotArrived, QStringLiteral("The page has not arrived yet."));
 }
 
 QStringList WebEngineBrowser::read(QLatin1StringView what, int frame)

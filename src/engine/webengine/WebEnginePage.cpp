@@ -10,12 +10,17 @@
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
+#include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
+#include <QWebEngineUrlRequestInfo>
+#include <QWebEngineUrlRequestInterceptor>
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -40,6 +45,23 @@ constexpr Setting settingRows[] = {
     {QWebEngineSettings::DnsPrefetchEnabled, false},
 };
 
+// Looks on while documents of the top frame are asked for. What has been asked for by a page has an initiator, over all
+// redirections.
+class DocumentRequests : public QWebEngineUrlRequestInterceptor
+{
+  public:
+    using Tell = std::function<void(bool byPage)>;
+    DocumentRequests(QObject *parent, Tell tell) : QWebEngineUrlRequestInterceptor(parent), mTell(std::move(tell)) {}
+    void interceptRequest(QWebEngineUrlRequestInfo &info) override
+    {
+        if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame)
+            mTell(!info.initiator().isEmpty());
+    }
+
+  private:
+    const Tell mTell;
+};
+
 QString framesScript(const QString &token)
 {
     return QString::fromUtf8(engineResource(QStringLiteral("js/webengine-frames.js")))
@@ -54,6 +76,8 @@ WebEnginePage::WebEnginePage(QWebEngineProfile *profile, const QString &token)
     setUp();
     refuseRequests();
     listenToFrames();
+    setUrlRequestInterceptor(new DocumentRequests(this, [this](bool byPage) { decide(byPage || mNameless); }));
+    connect(this, &QWebEnginePage::loadingChanged, this, &WebEnginePage::onLoadingChanged);
 }
 
 QString WebEnginePage::newToken()
@@ -106,11 +130,53 @@ void WebEnginePage::listenToFrames()
         profile()->scripts()->insert(script);
 }
 
-bool WebEnginePage::acceptNavigationRequest(const QUrl &, NavigationType type, bool isMainFrame)
+bool WebEnginePage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)
 {
-    if (isMainFrame && type != NavigationTypeRedirect)
-        Q_EMIT navigationBegun(type == NavigationTypeTyped);
+    if (isMainFrame && type == NavigationTypeRedirect)
+        mSentOnTo = url;
+    else if (isMainFrame)
+        begin(url, type == NavigationTypeTyped);
     return true;
+}
+
+void WebEnginePage::begin(const QUrl &url, bool asGiven)
+{
+    ++mUnderWay;
+    mLatest = url;
+    Q_EMIT navigationBegun(asGiven);
+}
+
+// Whether a server or the page itself has sent it on is told by the request that follows; without one it was the page.
+void WebEnginePage::decide(bool byPage)
+{
+    const QUrl url = std::exchange(mSentOnTo, {});
+    if (url.isEmpty())
+        return;
+    if (byPage)
+        begin(url, false);
+    else
+        mLatest = url;
+}
+
+void WebEnginePage::onTopDocument(const QString &url)
+{
+    decide(true);
+    mUnderWay = std::max(0, mUnderWay - 1);
+    mHasDocument = true;
+    mNameless = false;
+    Q_EMIT documentCreated(url, true);
+}
+
+void WebEnginePage::onLoadingChanged(const QWebEngineLoadingInfo &info)
+{
+    if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus && !isUnderWay()) {
+        ++mUnderWay; // asked of nobody: to another program, which comes to nothing, and may come again at any moment
+        mLatest.clear();
+    } else if (info.status() == QWebEngineLoadingInfo::LoadStoppedStatus) {
+        decide(true);
+        if (mUnderWay == 1 && mLatest == info.url()) // of several, any may go on
+            mUnderWay = 0;
+    }
 }
 
 QWebEnginePage *WebEnginePage::createWindow(WebWindowType)
@@ -146,8 +212,11 @@ void WebEnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, cons
     const QJsonObject told = QJsonDocument::fromJson(QStringView(message).mid(mToken.size()).toUtf8()).object();
     const QString url = told[QLatin1StringView("url")].toString();
     const bool top = told[QLatin1StringView("top")].toBool();
-    if (told[QLatin1StringView("moment")].toString() == u"created")
-        Q_EMIT documentCreated(url, top);
-    else
+    if (told[QLatin1StringView("moment")].toString() == u"load")
         Q_EMIT documentLoaded(url, top);
+    else if (top)
+        onTopDocument(url);
+    else
+        Q_EMIT documentCreated(url, false);
+    mNameless = mNameless || told[QLatin1StringView("origin")].toString() == u"null";
 }

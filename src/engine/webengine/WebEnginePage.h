@@ -8,6 +8,8 @@
 
 #include <QWebEnginePage>
 
+class QWebEngineLoadingInfo;
+
 class WebEnginePage : public QWebEnginePage
 {
     Q_OBJECT
@@ -16,6 +18,10 @@ class WebEnginePage : public QWebEnginePage
     /// `profile` must outlive the page. `token` begins each message of our own script: no page may know it.
     WebEnginePage(QWebEngineProfile *profile, const QString &token);
     [[nodiscard]] static QString newToken();
+
+    [[nodiscard]] bool hasDocument() const { return mHasDocument; }
+    /// More has been begun than documents have come of it: what is told next may be of any of that.
+    [[nodiscard]] bool isUnderWay() const { return mUnderWay > 0 || !mSentOnTo.isEmpty(); }
 
   Q_SIGNALS:
     /// The page wants a new window and does not get it. Emitted from within the browser's own work: the page must not
@@ -44,6 +50,15 @@ class WebEnginePage : public QWebEnginePage
     void setUp();
     void refuseRequests();
     void listenToFrames();
+    void begin(const QUrl &url, bool asGiven);
+    void decide(bool byPage);
+    void onTopDocument(const QString &url);
+    void onLoadingChanged(const QWebEngineLoadingInfo &info);
 
     QString mToken;
+    bool mHasDocument = false;
+    bool mNameless = false; // a document on it has no origin by which its requests could be told from ours
+    int mUnderWay = 0;      // navigations of the top frame of which no document has come
+    QUrl mLatest;           // where the latest of them goes
+    QUrl mSentOnTo;         // by a server or a script of the page's own, which is not known yet
 };
