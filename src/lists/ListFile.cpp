@@ -58,7 +58,7 @@ QString ListFile::append(const QString &path, const QStringList &items)
 {
     if (isOfADatabase(QFileInfo(path)))
         return noList;
-    const QString fault = "Not saved. "_L1 + path;
+    QString fault = "Not saved. "_L1 + path;
     QFile file(path);
     if (!file.open(QIODevice::Append))
         return fault;
