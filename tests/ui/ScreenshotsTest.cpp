@@ -1,11 +1,11 @@
 // Takes the pictures of docs/images. Not a test, so it runs only when asked for:
 //   [QT_SCALE_FACTOR=2] test_ui --gtest_also_run_disabled_tests --gtest_filter='*Screenshots*'
 #include "WindowFixture.h"
+#include "desktop/internal/BareBrowserWindow.h"
 #include "engine/webengine/WebEngineBrowser.h"
 #include "support/Places.h"
 #include "ui/look/Theme.h"
 #include "ui/windows/AboutWindow.h"
-#include "ui/windows/BareBrowserWindow.h"
 #include "ui/windows/GridWindow.h"
 #include "ui/windows/MagnifyWindow.h"
 #include "ui/windows/PictureWindow.h"
