@@ -28,10 +28,17 @@ void RunTally::stored(const QMap<QString, int> &rows)
     }
 }
 
+void RunTally::walk(const QString &anew)
+{
+    mAnew = anew;
+    mWalkBegins = true;
+}
+
 void RunTally::progress(int number, int count, qint64 now)
 {
-    if (!std::exchange(mRunning, true)) {
+    if (!std::exchange(mRunning, true))
         mRows.clear();
+    if (std::exchange(mWalkBegins, false)) {
         mFirst = number;
         mBegan = now;
     }
@@ -43,12 +50,13 @@ void RunTally::progress(int number, int count, qint64 now)
 void RunTally::finished()
 {
     mRunning = false;
+    mWalkBegins = true;
 }
 
 QString RunTally::text() const
 {
-    if (mRunning && mFirst > 1 && mNumber == mFirst)
-        return u"Resuming %1/%2, ReSet starts anew"_s.arg(mNumber).arg(mCount);
+    if (mRunning && !mAnew.isEmpty() && mNumber == mFirst)
+        return u"Resuming %1/%2, %3"_s.arg(QString::number(mNumber), QString::number(mCount), mAnew);
     QStringList parts;
     for (const Kind &kind : kinds) {
         const int count = mRows.value(kind.word);

@@ -10,6 +10,8 @@ class RunTally
   public:
     /// Rows have reached the database: how many, by table.
     void stored(const QMap<QString, int> &rows);
+    /// A walk over items begins. `anew`: how to begin it with the first item, where it goes on in its middle, else "".
+    void walk(const QString &anew);
     /// Item `number` of `count`, from 1, is the next one; `now` are the milliseconds of a clock that never goes back.
     void progress(int number, int count, qint64 now);
     /// The run is over: what it has stored stays.
@@ -23,7 +25,8 @@ class RunTally
     [[nodiscard]] QString timeLeft() const;
 
     QMap<QString, int> mRows; ///< by kind
-    bool mRunning = false;
+    QString mAnew;
+    bool mRunning = false, mWalkBegins = true;
     int mFirst = 1, mNumber = 1, mCount = 0;
     qint64 mBegan = 0, mNow = 0;
 };

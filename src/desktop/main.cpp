@@ -53,6 +53,7 @@ void connectTally(Program &program, MainWindow &window, const EventPump &pump)
 {
     const auto tally = std::make_shared<RunTally>();
     const auto show = [tally, &window] { window.setTally(tally->text()); };
+    QObject::connect(&program.runs, &Runs::walking, &window, [tally](const QString &anew) { tally->walk(anew); });
     QObject::connect(&program.runs, &Runs::progress, &window, [tally, show, &pump](int number, int count) {
         tally->progress(number, count, pump.tickCount());
         show();

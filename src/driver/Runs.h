@@ -56,6 +56,9 @@ class Runs : public QObject
     void starting(Runs::Kind kind);
     /// A run, or whatever else it waits for, is to end.
     void stopping();
+    /// A walk over items begins; a run may have several. Where it goes on in the middle of its items, `anew` says how
+    /// to begin with the first one; else "".
+    void walking(const QString &anew);
     /// Item `number` of `count`, from 1, is the next one.
     void progress(int number, int count);
     /// A run has ended with this status.

@@ -73,6 +73,7 @@ AutoRun::Next AutoRun::walkPage(Walk &walk)
 
 AutoRun::Next AutoRun::walkLinks(const Walk &walk)
 {
+    Q_EMIT mRuns.walking(mPanel.mlngANLinkIndex > 0 ? u"ReSet starts anew"_s : QString());
     for (int i = mPanel.mlngANLinkIndex; i <= walk.lastLink; ++i) {
         mPanel.mlngANLinkIndex = i;
         if (!mRuns.mayGoOn(kind) || visit(walk, i) == Next::LeaveMainLoop)

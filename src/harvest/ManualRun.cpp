@@ -41,9 +41,10 @@ void ManualRun::run()
     mPanel.mstrMNStartUrl = mVisit.siteUrl();
     mWalk.begin(mRuns.isStoppedOnPass(kind));
     mRuns.forgetPass(kind);
+    const qint64 zeroth = mWalk.isSeries() ? mWalk.first() : 0;
+    Q_EMIT mRuns.walking(mWalk.first() > zeroth ? u"the first item starts anew"_s : QString());
     for (qint64 item = mWalk.first(); item <= mWalk.last(); ++item) {
-        Q_EMIT mRuns.progress(static_cast<int>(item - mWalk.first() + 1),
-                              static_cast<int>(mWalk.last() - mWalk.first() + 1));
+        Q_EMIT mRuns.progress(static_cast<int>(item - zeroth + 1), static_cast<int>(mWalk.last() - zeroth + 1));
         if (!take(item, mWalk.take(item)) || !mRuns.mayGoOn(kind))
             break;
     }

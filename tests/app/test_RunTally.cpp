@@ -45,15 +45,39 @@ TEST(Tallies, TellTheTimeLeftAsTheItemsSoFarWent)
 TEST(Tallies, TellAResumedWalkAndCountItFromWhereItWentOn)
 {
     RunTally tally;
+    tally.walk(u"ReSet starts anew"_s);
     tally.progress(12, 30, 0);
     EXPECT_EQ(tally.text(), u"Resuming 12/30, ReSet starts anew"_s);
     tally.progress(13, 30, 5000);
     EXPECT_EQ(tally.text(), u"2 min left"_s);
 }
 
+TEST(Tallies, OfTheNextResultPageCountItsOwnTime)
+{
+    RunTally tally;
+    tally.walk(u"ReSet starts anew"_s);
+    tally.progress(12, 13, 0);
+    tally.progress(13, 13, 300'000);
+    tally.stored({{u"SiteSummary"_s, 2}});
+    tally.walk({});
+    tally.progress(1, 30, 600'000);
+    EXPECT_EQ(tally.text(), u"2 pages"_s) << "what the run has stored stays";
+    tally.progress(2, 30, 604'000);
+    EXPECT_EQ(tally.text(), u"2 pages, 2 min left"_s);
+}
+
+TEST(Tallies, OfANewWalkWhoseFirstItemsAreLeftOutTellNoResuming)
+{
+    RunTally tally;
+    tally.walk({});
+    tally.progress(3, 30, 0);
+    EXPECT_EQ(tally.text(), QString());
+}
+
 TEST(Tallies, OfAResumedWalkThatEndsOnItsFirstItemTellWhatItStored)
 {
     RunTally tally;
+    tally.walk(u"ReSet starts anew"_s);
     tally.progress(30, 30, 0);
     tally.stored({{u"SiteSummary"_s, 1}});
     tally.finished();

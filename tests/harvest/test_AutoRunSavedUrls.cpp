@@ -77,8 +77,12 @@ TEST_F(SavedRun, XInTheMiddleOfAPageResumesOnThatPageWithoutOpeningItAgain)
     ASSERT_EQ(lastStatus(), u"Stopped (USER)"_s);
     ASSERT_EQ(form.autoRun.mlngANLinkIndex, 1);
     window().navigated.clear();
+    QStringList walks;
+    QObject::connect(&runs, &Runs::walking, &form, [&](const QString &anew) { walks.append(anew); });
     clickStart();
     EXPECT_EQ(window().navigated, (QStringList{sites[1], sites[2], page(2), sites[3]}));
+    EXPECT_EQ(walks, (QStringList{u"ReSet starts anew"_s, QString()}))
+        << "the second page is walked from its first link";
 }
 
 TEST_F(SavedRun, XInTheMiddleOfAPauseStopsBeforeTheFirstLink)

@@ -103,8 +103,13 @@ TEST_F(ManualRunTest, TheWalkBeginsAtTheChosenItemAndShowsTheOneInTurn)
     list().setListIndex(1);
     std::vector<bool> during;
     pump.after(second, [&] { during = list().selection(); });
+    QStringList told;
+    QObject::connect(&runs, &Runs::walking, &form, [&](const QString &anew) { told.append(anew); });
+    QObject::connect(&runs, &Runs::progress, &form,
+                     [&](int number, int count) { told.append(u"%1/%2"_s.arg(number).arg(count)); });
     clickGo();
     EXPECT_EQ(window().navigated, site({2, 3}));
+    EXPECT_EQ(told, (QStringList{u"the first item starts anew"_s, u"2/3"_s, u"3/3"_s}));
     EXPECT_EQ(during, (std::vector<bool>{false, true, false}));
     EXPECT_EQ(list().listIndex(), 2);
 }

@@ -268,6 +268,8 @@ TEST_F(MainWindows, ShowProgressInTheStatusBar)
     window.setProgress(3, 14);
     EXPECT_EQ(widget<StatusBarLine>("picStatus").done(), 3);
     EXPECT_EQ(widget<StatusBarLine>("picStatus").total(), 14);
+    form.frame.picStatus.setToolTipText(u"Another tip"_s);
+    EXPECT_EQ(widget<StatusBarLine>("picStatus").accessibleDescription(), u"3 of 14"_s) << "no tip takes its place";
 }
 
 TEST_F(MainWindows, AreMinimizedByTheirButton)

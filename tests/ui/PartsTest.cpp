@@ -207,6 +207,15 @@ TEST(StatusLines, KeepProgressWithinItsTotal)
     EXPECT_EQ(line.accessibleDescription(), QString());
 }
 
+TEST(StatusLines, DescribeWhatStandsBesideTheirText)
+{
+    StatusBarLine line;
+    line.setTally(u"2 pages, 5 s left"_s);
+    EXPECT_EQ(line.accessibleDescription(), u"2 pages, 5 s left"_s);
+    line.setProgress(3, 14);
+    EXPECT_EQ(line.accessibleDescription(), u"2 pages, 5 s left, 3 of 14"_s);
+}
+
 TEST(Addresses, HaveTheirServerStandOut)
 {
     for (const auto &[address, server] :

@@ -117,8 +117,8 @@ void Binding::showWords()
     const QString tip = shownTip(mControl.toolTipText());
     if (mWidget.toolTip() != tip) {
         mWidget.setToolTip(tip);
-        // A mark's description is what it reports.
-        if (qobject_cast<Mark *>(&mWidget) == nullptr)
+        // The description of a mark, and of the status line, is what it reports.
+        if (qobject_cast<Mark *>(&mWidget) == nullptr && qobject_cast<StatusBarLine *>(&mWidget) == nullptr)
             mWidget.setAccessibleDescription(mControl.toolTipText());
     }
     QString name = ownWords();

@@ -33,7 +33,7 @@ void StatusBarLine::setTally(const QString &tally)
     if (mTally == tally)
         return;
     mTally = tally;
-    update();
+    describe();
 }
 
 void StatusBarLine::keyPressEvent(QKeyEvent *event)
@@ -47,7 +47,17 @@ void StatusBarLine::setProgress(int done, int total)
 {
     mTotal = qMax(0, total);
     mDone = qBound(0, done, mTotal);
-    setAccessibleDescription(mTotal > 0 ? u"%1 of %2"_s.arg(mDone).arg(mTotal) : QString());
+    describe();
+}
+
+/// A screen reader is told what stands beside the text.
+void StatusBarLine::describe()
+{
+    QStringList parts{mTally};
+    if (mTotal > 0)
+        parts.append(u"%1 of %2"_s.arg(mDone).arg(mTotal));
+    parts.removeAll(QString());
+    setAccessibleDescription(parts.join(u", "_s));
     update();
 }
 

@@ -33,6 +33,8 @@ class StatusBarLine : public QWidget
     void keyPressEvent(QKeyEvent *event) override;
 
   private:
+    void describe();
+
     QString mText, mTally;
     int mDone = 0, mTotal = 0;
 };
