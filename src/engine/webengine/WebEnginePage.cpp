@@ -162,6 +162,7 @@ void WebEnginePage::onTopDocument(const QString &url)
 {
     decide(true);
     mUnderWay = std::max(0, mUnderWay - 1);
+    mCalls = 0;
     mHasDocument = true;
     mNameless = false;
     Q_EMIT documentCreated(url, true);
@@ -169,9 +170,9 @@ void WebEnginePage::onTopDocument(const QString &url)
 
 void WebEnginePage::onLoadingChanged(const QWebEngineLoadingInfo &info)
 {
-    if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus && !isUnderWay()) {
-        ++mUnderWay; // asked of nobody: to another program, which comes to nothing, and may come again at any moment
-        mLatest.clear();
+    if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
+        if (!isUnderWay() && info.url() != requestedUrl())
+            ++mCalls;
     } else if (info.status() == QWebEngineLoadingInfo::LoadStoppedStatus) {
         decide(true);
         if (mUnderWay == 1 && mLatest == info.url()) // of several, any may go on

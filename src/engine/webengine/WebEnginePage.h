@@ -20,8 +20,9 @@ class WebEnginePage : public QWebEnginePage
     [[nodiscard]] static QString newToken();
 
     [[nodiscard]] bool hasDocument() const { return mHasDocument; }
-    /// More has been begun than documents have come of it: what is told next may be of any of that.
-    [[nodiscard]] bool isUnderWay() const { return mUnderWay > 0 || !mSentOnTo.isEmpty(); }
+    /// More has been begun than documents have come of it, or is begun again and again: what is told next may be of any
+    /// of that.
+    [[nodiscard]] bool isUnderWay() const { return mUnderWay > 0 || !mSentOnTo.isEmpty() || mCalls > 1; }
 
   Q_SIGNALS:
     /// The page wants a new window and does not get it. Emitted from within the browser's own work: the page must not
@@ -59,6 +60,7 @@ class WebEnginePage : public QWebEnginePage
     bool mHasDocument = false;
     bool mNameless = false; // a document on it has no origin by which its requests could be told from ours
     int mUnderWay = 0;      // navigations of the top frame of which no document has come
+    int mCalls = 0;         // for other programs, which are begun unasked and come to nothing
     QUrl mLatest;           // where the latest of them goes
     QUrl mSentOnTo;         // by a server or a script of the page's own, which is not known yet
 };
