@@ -3,6 +3,8 @@
 #include "window/ProgramFolder.h"
 
 #include <QFile>
+#include <QScopeGuard>
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
@@ -100,6 +102,39 @@ TEST_F(LoaderTest, AssignedThroughTheBoxABadFileSaysSoAndTheProgramStays)
     ASSERT_EQ(dialogs.told.size(), 1);
     EXPECT_EQ(dialogs.told[0].text, folder.filePath(u"Bad.mdb"_s) + u"\r\nYou will need to restart Trawlex"_s);
     EXPECT_EQ(ends, 0);
+}
+
+TEST_F(LoaderTest, ADatabaseInUseIsToldAsThatAndNotToBeDeleted)
+{
+    makeDatabaseFile(u"Mine.mdb"_s);
+    const QString path = folder.filePath(u"Mine.mdb"_s);
+    sqlite3 *holder = nullptr;
+    const auto close = qScopeGuard([&holder] { sqlite3_close(holder); });
+    ASSERT_EQ(sqlite3_open(path.toUtf8().constData(), &holder), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(holder, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr, nullptr, nullptr),
+              SQLITE_OK);
+
+    load(); // another database
+    ASSERT_TRUE(loaded);
+    form().places.txtSFDBFile.setText(u"Mine.mdb"_s);
+    EXPECT_FALSE(program->loader.LoadDBData(true));
+    program->lifeCycle.end();
+    program.reset();
+    ends = 0;
+    setName(u"Mine.mdb"_s);
+    load();
+    EXPECT_FALSE(loaded);
+    EXPECT_EQ(ends, 1);
+
+    ASSERT_EQ(dialogs.told.size(), 2) << "chosen, and at the start";
+    for (const auto &told : dialogs.told) {
+        EXPECT_EQ(told.title, u"Fatal Database Test Error"_s);
+        EXPECT_TRUE(told.text.startsWith(path + u"\r\n"_s + StoreFaults::text(StoreFault::Locked)))
+            << told.text.toStdString();
+        EXPECT_TRUE(told.text.endsWith(u"\r\nClose the program that uses it, then try again"_s))
+            << told.text.toStdString();
+    }
+    EXPECT_TRUE(QFile::exists(path));
 }
 
 TEST_F(LoaderTest, AFolderThatCannotHoldADatabaseEndsTheStart)
