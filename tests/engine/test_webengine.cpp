@@ -455,6 +455,9 @@ TEST_F(WebEngineTest, KeepsCookiesInTheFolderThatItIsGiven)
     startBrowser({.storageFolder = folder.filePath(u"profile"_s)});
     openPage("x");
     EXPECT_EQ(server.requests().constLast().headers.value("cookie"), "trawl=1");
+    const auto others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    EXPECT_FALSE(QFile::permissions(folder.filePath(u"profile"_s)) & others) << "cookies are nobody else's business";
 }
 
 TEST_F(WebEngineTest, ScriptsOfAPageWithoutAWindowRunAtFullPace)

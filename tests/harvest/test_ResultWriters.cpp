@@ -164,6 +164,14 @@ TEST_F(WritersTest, AFileHoldsThePageAndALineEnd)
     EXPECT_EQ(fileContent(u"Page-1.htm"_s), "\xEF\xBB\xBF<body>a page of no interest</body>\r\n");
 }
 
+TEST_F(WritersTest, OnlyTheUserMayReadAFile)
+{
+    savePagesToFile();
+    EXPECT_TRUE(saveFile());
+    EXPECT_EQ(QFile::permissions(folder.filePath(u"Page-1.htm"_s)) & ~(QFile::ReadUser | QFile::WriteUser),
+              QFile::ReadOwner | QFile::WriteOwner);
+}
+
 TEST_F(WritersTest, FileNamesClimbAndNeverOverwrite)
 {
     savePagesToFile();

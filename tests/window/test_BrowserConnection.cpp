@@ -251,6 +251,10 @@ TEST_F(ConnectionTest, TheStandardPositionTakesTheSizesThatAreSet)
     form().limits.incSMAIEHeight.setText(u"0050"_s); // too small: unset
     program->connection.SetStandardPosition();
     EXPECT_EQ(browser().geometry, (QStringList{u"top 0"_s, u"width 51"_s, u"height 440"_s, u"left 400"_s}));
+    browser().geometry.clear();
+    form().limits.incSMAIEWidth.setText(u"0050"_s);
+    program->connection.SetStandardPosition();
+    EXPECT_TRUE(browser().geometry.contains(u"width 380"_s)) << browser().geometry.join(u", "_s).toStdString();
 }
 
 TEST_F(ConnectionTest, TheStandardPositionDoesNothingWithoutABrowserAndMovesOnlyUsWithTheBuiltInOne)
