@@ -88,6 +88,8 @@ void AutoText::LoadAutoTextUrls()
 QString AutoText::add(const QString &url, int position)
 {
     const QString added = asStored(url.isEmpty() ? mPanel.cboMNAutoUrl.text() : url);
+    if (!canBeAsked(added))
+        return u"Not added. Url holds a quote"_s;
     if (isStored(added))
         return u"Url exists"_s;
     if (position <= 0)

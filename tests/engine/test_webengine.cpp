@@ -428,15 +428,17 @@ TEST_F(WebEngineTest, CookiesAreGivenAsTheBrowserWouldSendThem)
 {
     server.route("/set", {.body = "x",
                           .headers = {"Set-Cookie: a=1; Path=/", "Set-Cookie: deep=2; Path=/deep; HttpOnly",
-                                      "Set-Cookie: gone=3; Path=/"}});
+                                      "Set-Cookie: gone=3; Path=/", "Set-Cookie: own=5; Path=/deep/page"}});
     server.route("/unset", {.body = "x", .headers = {"Set-Cookie: gone=; Max-Age=0; Path=/"}});
     open(u"/set"_s);
     open(u"/unset"_s);
     open(u"/deep/page"_s);
     const QByteArray sent = server.requests().constLast().headers.value("cookie");
-    EXPECT_EQ(sent, "deep=2; a=1");
+    EXPECT_EQ(sent, "own=5; deep=2; a=1");
     EXPECT_TRUE(waitFor([&] { return browser->cookiesFor(server.address(u"/deep/page"_s)).toUtf8() == sent; }))
         << browser->cookiesFor(server.address(u"/deep/page"_s)).toStdString();
+    EXPECT_EQ(browser->cookiesFor(server.address(u"/deep/"_s)), u"deep=2; a=1");
+    EXPECT_EQ(browser->cookiesFor(server.address(u"/deep/other"_s)), u"deep=2; a=1");
     EXPECT_EQ(browser->cookiesFor(server.address(u"/"_s)), u"a=1");
     EXPECT_EQ(browser->cookiesFor(server.address(u"/"_s, u"other.test"_s)), QString());
     EXPECT_EQ(browser->cookiesFor(u"no address"_s), QString());

@@ -205,6 +205,16 @@ TEST_F(AutoIncrTest, AddingKeepsTheNumbersAsTheBoxesShowThem)
     EXPECT_EQ(lastStatus(), u"Url exists"_s);
 }
 
+TEST_F(AutoIncrTest, AnAddressThatNoStatementCanHoldIsToldAsNotAdded)
+{
+    show(u"www.a.com/o'hara/7"_s);
+    setSeries(1);
+    series.MaintainAutoIncr();
+    EXPECT_EQ(lastStatus(), u"Not added. Url holds a quote"_s);
+    EXPECT_TRUE(rows(table).isEmpty());
+    EXPECT_TRUE(log.entries.isEmpty());
+}
+
 TEST_F(AutoIncrTest, RemovingEmptiesTheBoxWhetherItWasOfferedOrNot)
 {
     texts.RemoveAutoTextUrl({});

@@ -4,6 +4,8 @@
 
 #include <QJsonArray>
 #include <QPointer>
+#include <algorithm>
+#include <tuple>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -245,9 +247,13 @@ QString ChromiumPage::cookiesFor(const QString &url)
     const QJsonObject answer = askBrowser(mTargets.session(), "Network.getCookies"_L1, {{u"urls"_s, QJsonArray{url}}});
     const QJsonArray told = answer[u"cookies"].toArray();
     QList<QJsonValue> cookies(told.cbegin(), told.cend());
-    // The longer paths first, as they are sent.
-    std::stable_sort(cookies.begin(), cookies.end(), [](const QJsonValue &one, const QJsonValue &other) {
-        return one[u"path"].toString().size() > other[u"path"].toString().size();
+    // The longer paths first, as they are sent. Those of one path are told in any order, each time in another.
+    std::sort(cookies.begin(), cookies.end(), [](const QJsonValue &one, const QJsonValue &other) {
+        const auto place = [](const QJsonValue &cookie) {
+            return std::tuple(-cookie[u"path"].toString().size(), cookie[u"name"].toString(),
+                              cookie[u"domain"].toString());
+        };
+        return place(one) < place(other);
     });
     QStringList pairs;
     for (const QJsonValue &cookie : cookies) {
