@@ -2,6 +2,13 @@
 
 #include <algorithm>
 
+SortMark SortMark::clicked(int head) const
+{
+    if (column != head)
+        return {head, Qt::AscendingOrder};
+    return order == Qt::AscendingOrder ? SortMark{head, Qt::DescendingOrder} : SortMark();
+}
+
 Grid::Grid(const QString &name, QObject *parent) : Control(name, parent)
 {
     setBackColor(Colours::Window);
@@ -15,9 +22,15 @@ void Grid::setDataSource(std::shared_ptr<const GridRows> rows)
     mWidths.assign(static_cast<std::size_t>(cols()), -1);
     mRow = mColumn = -1;
     mSelection = {};
-    mSortMark = {};
     Q_EMIT changed();
     select(0, 0);
+}
+
+void Grid::takeMoreRows()
+{
+    Q_EMIT changed();
+    if (mRow < 0)
+        select(0, 0);
 }
 
 QString Grid::textMatrix(int row, int column) const

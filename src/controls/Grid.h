@@ -8,25 +8,36 @@
 #include <memory>
 #include <vector>
 
-/// What stands behind a grid. It does not change while a grid shows it.
-class GridRows
-{
-  public:
-    virtual ~GridRows() = default;
-    [[nodiscard]] virtual QStringList heads() const = 0;
-    [[nodiscard]] virtual int rowCount() const = 0;
-    /// "" for what is not there.
-    [[nodiscard]] virtual QString text(int row, int column) const = 0;
-    /// The same where a cell shows the beginning of a long text alone.
-    [[nodiscard]] virtual QString wholeText(int row, int column) const { return text(row, column); }
-};
-
-/// The column by which the rows are sorted; -1 for none.
+/// The column by which rows are sorted; -1 for none.
 struct SortMark
 {
     int column = -1;
     Qt::SortOrder order = Qt::AscendingOrder;
     friend bool operator==(const SortMark &, const SortMark &) = default;
+    /// What follows from a click on a head: the first sorts up, the second down, the third no more.
+    [[nodiscard]] SortMark clicked(int head) const;
+};
+
+/// What stands behind a grid. While a grid shows it, rows may be added at its end, and nothing else changes.
+class GridRows
+{
+  public:
+    virtual ~GridRows() = default;
+    [[nodiscard]] virtual QStringList heads() const = 0;
+    /// Those that are known.
+    [[nodiscard]] virtual int rowCount() const = 0;
+    /// "" for what is not there.
+    [[nodiscard]] virtual QString text(int row, int column) const = 0;
+    /// The same where a cell shows the beginning of a long text alone.
+    [[nodiscard]] virtual QString wholeText(int row, int column) const { return text(row, column); }
+    /// Goes on looking for rows for about so many milliseconds. True once all are known; sorted ones are known
+    /// together.
+    [[nodiscard]] virtual bool advance(int /*milliseconds*/) const { return true; }
+
+    [[nodiscard]] virtual SortMark order() const { return {}; }
+    [[nodiscard]] virtual bool canSort() const { return false; }
+    /// The rows in another order; nothing where they can have none.
+    [[nodiscard]] virtual std::shared_ptr<const GridRows> sorted(SortMark /*order*/) const { return {}; }
 };
 
 /// A block of cells, both ends included. Without cells all four are -1.
@@ -46,6 +57,8 @@ class Grid : public Control
 
     /// Shows `rows` from their first cell on; null shows nothing.
     void setDataSource(std::shared_ptr<const GridRows> rows);
+    /// The rows on show have become more.
+    void takeMoreRows();
     [[nodiscard]] const std::shared_ptr<const GridRows> &dataSource() const { return mRows; }
 
     [[nodiscard]] int cols() const { return static_cast<int>(mHeads.size()); }
@@ -69,9 +82,10 @@ class Grid : public Control
     [[nodiscard]] int colWidth(int column) const;
     void setColWidth(int column, int twips);
 
-    /// Shown in a head; other rows take it away.
-    [[nodiscard]] SortMark sortMark() const { return mSortMark; }
-    void setSortMark(SortMark mark) { assign(mSortMark, mark); }
+    /// Shown in a head.
+    [[nodiscard]] SortMark sortMark() const { return mRows ? mRows->order() : SortMark(); }
+    /// A click on a head has a meaning.
+    [[nodiscard]] bool canSort() const { return mRows && mRows->canSort(); }
     /// The user's click on a column's head.
     void clickHead(int column) { Q_EMIT headClicked(column); }
     /// The user's key for copying.
@@ -87,6 +101,5 @@ class Grid : public Control
     QStringList mHeads;
     std::vector<int> mWidths;
     CellBlock mSelection;
-    SortMark mSortMark;
     int mRow = -1, mColumn = -1;
 };

@@ -21,8 +21,10 @@ constexpr ColumnWidths::Width widths[] = {{"Index"_L1, 700},
 
 DataView::DataView(const Context &context, DataBoxes &data, const ComboBox &cboMNList, const ComboBox &cboANList,
                    DatabaseHolder &database)
-    : mContext(context), mData(data), mManualList(cboMNList), mAutoList(cboANList), mDatabase(database)
+    : mContext(context), mData(data), mManualList(cboMNList), mAutoList(cboANList), mDatabase(database),
+      mFilling(context.log, data.fxgTrawlex)
 {
+    connectFilling();
     connect(&data.cboDBTables, &ComboBox::Click, this, [this] {
         mSorting = {};
         SetShowData({});
@@ -42,6 +44,8 @@ DataView::DataView(const Context &context, DataBoxes &data, const ComboBox &cboM
 
 void DataView::LoadTableSelectData()
 {
+    if (mFilling.isWaiting())
+        mFilling.drop();
     guarded(mContext.log, {form, "Sub LoadTableSelectData"_L1}, [this] {
         const QString manual = mManualList.list(mManualList.listIndex());
         const QString automatic = mAutoList.list(mAutoList.listIndex());
@@ -66,11 +70,27 @@ void DataView::show(const QString &filter)
     const QString field = mData.cboDBFields.list(mData.cboDBFields.listIndex());
     const TablePages::Filter wanted{filter.isEmpty() ? QString() : field, filter,
                                     TablePages::Place(mData.cboDBPlace.listIndex())};
-    const auto rows = std::make_shared<TableRows>(TablePages(*mDatabase, table(), wanted, mSorting));
-    mData.fxgTrawlex.setDataSource(rows);
-    mData.fxgTrawlex.setSortMark({int(rows->heads().indexOf(mSorting.column)), mSorting.order});
-    mContext.status.UpDateStatus(u"%1 records"_s.arg(rows->rowCount()));
-    SetColumnSizes();
+    mFilling.show(std::make_shared<TableRows>(TablePages(*mDatabase, table(), wanted, mSorting)));
+}
+
+void DataView::connectFilling()
+{
+    connect(&mFilling, &GridFilling::shown, this, &DataView::SetColumnSizes);
+    connect(&mFilling, &GridFilling::failed, this, &DataView::giveUpSorting);
+    connect(&mFilling, &GridFilling::delayed, this, [this] { mContext.status.UpDateStatus(u"Please Wait"_s); });
+    connect(&mFilling, &GridFilling::complete, this,
+            [this] { mContext.status.UpDateStatus(u"%1 records"_s.arg(mData.fxgTrawlex.rows())); });
+}
+
+void DataView::giveUpSorting()
+{
+    if (!mFilling.isWaiting())
+        return;
+    const SortMark mark = mData.fxgTrawlex.sortMark();
+    mSorting = {mData.fxgTrawlex.head(mark.column), mark.order};
+    // Those on show may not have been counted to their end.
+    mFilling.show(mData.fxgTrawlex.dataSource());
+    mContext.status.UpDateStatus(u"Cancelled"_s);
 }
 
 void DataView::SetColumnSizes()
@@ -93,18 +113,13 @@ QString DataView::shownFilter() const
     return mData.cboDBFields.listIndex() >= 0 ? mData.txtDBQuery.text() : QString();
 }
 
-/// The first click on a head sorts up, the second down, the third gives table order back.
 void DataView::sortBy(int column)
 {
     const QString head = mData.fxgTrawlex.head(column);
     if (table().isEmpty() || head.isEmpty())
         return;
-    if (mSorting.column != head)
-        mSorting = {head, Qt::AscendingOrder};
-    else if (mSorting.order == Qt::AscendingOrder)
-        mSorting.order = Qt::DescendingOrder;
-    else
-        mSorting = {};
+    const SortMark mark = mData.fxgTrawlex.sortMark().clicked(column);
+    mSorting = {mData.fxgTrawlex.head(mark.column), mark.order};
     SetShowData(shownFilter());
 }
 
@@ -112,7 +127,9 @@ void DataView::showSaved(const QString &path)
 {
     guarded(mContext.log, {form, "Sub mnuDBStatusReLoadRSFile_Click"_L1}, [&] {
         try {
-            mData.fxgTrawlex.setDataSource(std::make_shared<SavedRows>(Recordset::open(path)));
+            const auto rows = std::make_shared<SavedRows>(Recordset::open(path));
+            mFilling.drop();
+            mData.fxgTrawlex.setDataSource(rows);
         } catch (...) {
             mContext.status.UpDateStatus("Not loaded: "_L1 + currentError().description());
             throw;

@@ -3,6 +3,7 @@
 
 #include "app/Context.h"
 #include "app/FormGroups.h"
+#include "data/GridFilling.h"
 #include "store/DatabaseHolder.h"
 #include "store/TablePages.h"
 
@@ -22,6 +23,8 @@ class DataView : public QObject
     void SetShowData(const QString &filter);
     /// Fills cboDBFields with the heads of the grid, and sets the widths of its columns.
     void SetColumnSizes();
+    /// The user does not want to wait for rows that are being sorted.
+    void giveUpSorting();
     /// Shows a saved recordset. No table is chosen then.
     void showSaved(const QString &path);
     /// Removes the rows whose Index is selected, all or none, and shows the rest.
@@ -33,10 +36,12 @@ class DataView : public QObject
     [[nodiscard]] QString shownFilter() const;
     void sortBy(int column);
     void show(const QString &filter);
+    void connectFilling();
 
     Context mContext;
     DataBoxes &mData;
     const ComboBox &mManualList, &mAutoList;
     DatabaseHolder &mDatabase;
+    GridFilling mFilling;
     TablePages::Sorting mSorting;
 };

@@ -15,11 +15,14 @@ constexpr int besidesUrl = 700;
 DataWindow::DataWindow(const Context &context, const BrowserPanel &browser, frmfxg &formOfGrid,
                        DatabaseHolder &database, Navigation &navigation, ClipboardText &clipboard, PopUpMenus &menus)
     : mContext(context), mBrowser(browser), mWindow(formOfGrid), mDatabase(database), mNavigation(navigation),
-      mClipboard(clipboard)
+      mClipboard(clipboard), mFilling(context.log, formOfGrid.fxgTrawlex)
 {
     connectMenu(menus);
     connect(&mWindow, &frmfxg::resized, this, &DataWindow::ReScale);
+    connect(&mWindow.fxgTrawlex, &Grid::headClicked, this, &DataWindow::sortBy);
+    connect(&mFilling, &GridFilling::shown, this, &DataWindow::SetColumnSizes);
     connect(&mWindow, &frmfxg::unloaded, this, [this] {
+        mFilling.drop();
         mWindow.fxgTrawlex.setDataSource(nullptr);
         mWindow.lstMN.clear();
     });
@@ -80,9 +83,18 @@ void DataWindow::SetColumnSizes()
 void DataWindow::showRows(std::shared_ptr<const GridRows> rows)
 {
     mWindow.lstMN.clear();
-    mWindow.fxgTrawlex.setDataSource(std::move(rows));
+    mFilling.show(std::move(rows));
     ReScale();
     mWindow.show();
+}
+
+void DataWindow::sortBy(int column)
+{
+    const Grid &grid = mWindow.fxgTrawlex;
+    guarded(mContext.log, {window, "fxgTrawlex_Click"_L1}, [&] {
+        if (grid.canSort())
+            mFilling.show(grid.dataSource()->sorted(grid.sortMark().clicked(column)));
+    });
 }
 
 void DataWindow::showItems(const QStringList &items)

@@ -4,6 +4,7 @@
 #include "app/Context.h"
 #include "app/FormGroups.h"
 #include "app/frmfxg.h"
+#include "data/GridFilling.h"
 #include "driver/Navigation.h"
 #include "store/DatabaseHolder.h"
 
@@ -28,6 +29,7 @@ class DataWindow : public QObject
 
   private:
     void ReScale();
+    void sortBy(int column);
     void SetColumnSizes();
     void connectMenu(PopUpMenus &menus);
     [[nodiscard]] QString clipLines() const;
@@ -38,4 +40,5 @@ class DataWindow : public QObject
     DatabaseHolder &mDatabase;
     Navigation &mNavigation;
     ClipboardText &mClipboard;
+    GridFilling mFilling;
 };

@@ -14,6 +14,16 @@ QString TableRows::wholeText(int row, int column) const
     return described.isBytes() ? QString() : Cells::text(described, mPages.value(row, column));
 }
 
+SortMark TableRows::order() const
+{
+    return {static_cast<int>(heads().indexOf(mPages.sorting().column)), mPages.sorting().order};
+}
+
+std::shared_ptr<const GridRows> TableRows::sorted(SortMark order) const
+{
+    return std::make_shared<TableRows>(mPages.sorted({heads().value(order.column), order.order}));
+}
+
 SavedRows::SavedRows(const Recordset &rows) : mRows(rows.Clone()), mCount(static_cast<int>(rows.RecordCount()))
 {
     for (const DataColumn &column : Cells::columnsOf(mRows))

@@ -12,9 +12,13 @@ class TableRows : public GridRows
   public:
     explicit TableRows(TablePages pages) : mPages(std::move(pages)) {}
     [[nodiscard]] QStringList heads() const override { return mPages.columns(); }
-    [[nodiscard]] int rowCount() const override { return static_cast<int>(mPages.rowCount()); }
+    [[nodiscard]] int rowCount() const override { return static_cast<int>(mPages.knownRows()); }
     [[nodiscard]] QString text(int row, int column) const override;
     [[nodiscard]] QString wholeText(int row, int column) const override;
+    [[nodiscard]] bool advance(int milliseconds) const override { return mPages.advance(milliseconds); }
+    [[nodiscard]] SortMark order() const override;
+    [[nodiscard]] bool canSort() const override { return true; }
+    [[nodiscard]] std::shared_ptr<const GridRows> sorted(SortMark order) const override;
 
   private:
     TablePages mPages;

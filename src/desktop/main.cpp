@@ -40,6 +40,7 @@ void connectWindow(Program &program, MainWindow &window)
         QApplication::quit();
     });
     QObject::connect(&window, &MainWindow::cancelRequested, &program.longWork, &LongWork::cancel);
+    QObject::connect(&window, &MainWindow::cancelRequested, &program.dataSide.view, &DataView::giveUpSorting);
     QObject::connect(&program.runs, &Runs::progress, &window,
                      [&window](int number, int count) { window.setProgress(number - 1, count); });
     QObject::connect(&program.runs, &Runs::finalized, &window, [&window] { window.setProgress(0, 0); });

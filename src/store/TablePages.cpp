@@ -25,6 +25,7 @@ Query queryFor(const cAdoMdb &database, const QString &table, const TablePages::
 
 void sort(Query &query, const TablePages::Sorting &sorting)
 {
+    query.order.clear();
     if (sorting.column.isEmpty())
         return;
     const int column = query.table->columnOf(sorting.column);
@@ -45,12 +46,38 @@ QString TablePages::Filter::pattern() const
 TablePages::TablePages(const cAdoMdb &database, const QString &table) : TablePages(database, table, {}, {}) {}
 
 TablePages::TablePages(const cAdoMdb &database, const QString &table, const Filter &filter, const Sorting &sorting)
+    : TablePages(queryFor(database, table, filter), sorting)
 {
-    Query query = queryFor(database, table, filter);
+}
+
+TablePages::TablePages(Query query, const Sorting &sorting) : mSorting(sorting)
+{
     sort(query, sorting);
     mKeys = std::make_shared<KeySet>(std::move(query));
     mReader = std::make_unique<RowReader>(mKeys);
-    static_cast<void>(mKeys->reach(0));
+    if (isCounted())
+        static_cast<void>(mKeys->reach(0));
+}
+
+TablePages TablePages::sorted(const Sorting &sorting) const
+{
+    return {mKeys->query(), sorting};
+}
+
+/// The whole table in its own order: nothing has to be looked at.
+bool TablePages::isCounted() const
+{
+    return mKeys->query().condition.empty() && mKeys->query().order.empty();
+}
+
+bool TablePages::advance(int milliseconds) const
+{
+    return isCounted() || mKeys->advance(milliseconds);
+}
+
+qint64 TablePages::knownRows() const
+{
+    return isCounted() ? rowCount() : mKeys->fetched();
 }
 
 TablePages::~TablePages() = default;

@@ -13,6 +13,7 @@
 
 class KeySet;
 class RowReader;
+struct Query;
 class cAdoMdb;
 
 class TablePages
@@ -37,7 +38,8 @@ class TablePages
         Qt::SortOrder order = Qt::AscendingOrder;
     };
 
-    /// Chooses all rows of the table. Errors: AdoError::ConnectionClosed, AdoError::NoSuchTable, AdoError::Engine.
+    /// Chooses all rows of the table; what takes long is done when it is asked for. Errors: AdoError::ConnectionClosed,
+    /// AdoError::NoSuchTable, AdoError::Engine.
     TablePages(const cAdoMdb &database, const QString &table);
     TablePages(const cAdoMdb &database, const QString &table, const Filter &filter, const Sorting &sorting);
     ~TablePages();
@@ -50,6 +52,14 @@ class TablePages
 
     /// How many rows were chosen. Without a filter that is a quick count; else all rows are looked at.
     [[nodiscard]] qint64 rowCount() const;
+    /// Goes on looking for rows, or waits for their order, about so many milliseconds. True once all are known.
+    [[nodiscard]] bool advance(int milliseconds) const;
+    /// How many rows are known; all of them once advance() has said so. Sorted ones are known together.
+    [[nodiscard]] qint64 knownRows() const;
+
+    /// The same rows, chosen anew, in another order. Error AdoError::BadSql for a column that is none.
+    [[nodiscard]] TablePages sorted(const Sorting &sorting) const;
+    [[nodiscard]] const Sorting &sorting() const { return mSorting; }
 
     /// The row's key, which is its Index where the table has one; nothing behind the last row.
     [[nodiscard]] std::optional<qint64> key(qint64 row) const;
@@ -62,8 +72,11 @@ class TablePages
     static constexpr int longestCell = 1000;
 
   private:
+    TablePages(Query query, const Sorting &sorting);
+    [[nodiscard]] bool isCounted() const;
     [[nodiscard]] bool hasCell(qint64 row, int column) const;
 
+    Sorting mSorting;
     std::shared_ptr<KeySet> mKeys;
     std::unique_ptr<RowReader> mReader;
     mutable qint64 mCount = -1;

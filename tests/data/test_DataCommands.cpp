@@ -169,6 +169,46 @@ TEST_F(DataCommandsTest, OpeningTheDetachedGridOnAnotherTableRebindsTheOneWindow
     EXPECT_FALSE(detached().isOpen());
 }
 
+TEST_F(DataCommandsTest, TheDetachedGridIsSortedByItsHeadsAndTheTabIsNot)
+{
+    addEmail(u"b@c.com"_s, u"0"_s);
+    chooseTable(u"EmailAddress"_s);
+    chooseField(u"Address"_s);
+    form.data.txtDBQuery.setText(u"c"_s);
+    grid().clickHead(3);
+    clickItem(menu(), "mnuDBNewWindow");
+    Grid &other = detached().fxgTrawlex;
+    EXPECT_EQ(other.sortMark(), (SortMark{3, Qt::AscendingOrder})) << "as on the tab";
+    const auto numbers = [&other] {
+        QStringList all;
+        for (int row = 0; row < other.rows(); ++row)
+            all.append(other.textMatrix(row, 2));
+        return all.join(u',');
+    };
+    const int width = other.colWidth(4);
+    EXPECT_EQ(numbers(), u"1,0,2"_s);
+    other.clickHead(2);
+    EXPECT_EQ(numbers(), u"0,1,2"_s);
+    EXPECT_EQ(other.colWidth(4), width);
+    other.clickHead(2);
+    EXPECT_EQ(numbers(), u"2,1,0"_s);
+    other.clickHead(2);
+    EXPECT_EQ(numbers(), u"1,2,0"_s) << "in table order, by the same filter";
+    EXPECT_EQ(other.sortMark(), SortMark());
+    EXPECT_EQ(shown(2), (QStringList{u"1"_s, u"0"_s, u"2"_s}));
+}
+
+TEST_F(DataCommandsTest, ASavedRecordsetHasNoOtherOrder)
+{
+    side.exports.ExportRecordSet(4);
+    side.view.showSaved(pathOf(u"EmailAddress-0.dat"_s));
+    EXPECT_FALSE(grid().canSort());
+    side.window.showRows(grid().dataSource());
+    const auto rows = detached().fxgTrawlex.dataSource();
+    detached().fxgTrawlex.clickHead(1);
+    EXPECT_EQ(detached().fxgTrawlex.dataSource(), rows);
+}
+
 TEST_F(DataCommandsTest, TheLampOfPagesOpensTheSummaryIfPagesGoThere)
 {
     form.outputs.chkSaveToSS.setValue(0);

@@ -2,7 +2,9 @@
 #include "DataSideFixture.h"
 #include "util/RandomText.h"
 
+#include <QDeadlineTimer>
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -192,6 +194,77 @@ TEST_F(DataViewTest, AClickOnAHeadSortsUpThenDownThenNotAndANewTableNotAtAll)
     EXPECT_EQ(shown(3), orders[0]) << "without a table nothing happens";
     chooseTable(u"EmailAddress"_s);
     EXPECT_EQ(shown(3), orders[2]);
+}
+
+namespace {
+/// A table that is not shown at once.
+class LargeTable : public DataViewTest
+{
+  protected:
+    static constexpr int count = 1'000'000;
+    LargeTable()
+    {
+        SQLite::Database file(database->DatabasePath().toStdString(), SQLite::OPEN_READWRITE);
+        file.exec("WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM n WHERE x<" + std::to_string(count) +
+                  ") INSERT INTO EmailAddress(Address,Url) SELECT 'a'||((x*7919)%1000003)||'@b.com', "
+                  "'u'||((x*104729)%1000003) FROM n");
+        chooseTable(u"EmailAddress"_s);
+    }
+    /// The rows have arrived, however slow the machine is.
+    [[nodiscard]] bool wait(const QString &wanted)
+    {
+        const QDeadlineTimer patience(30'000);
+        while (lastStatus() != wanted && !patience.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        return lastStatus() == wanted;
+    }
+};
+} // namespace
+
+TEST_F(LargeTable, IsFilteredAndSortedInTurnsAndTheNextKeystrokeDropsWhatIsComing)
+{
+    EXPECT_EQ(lastStatus(), u"1000000 records"_s) << "all of a table is a quick count";
+    chooseField(u"Address"_s);
+    for (const QString &text : {u"a"_s, u"a9"_s, u"a999"_s})
+        form.data.txtDBQuery.setText(text);
+    const int wanted = SQLite::Database(database->DatabasePath().toStdString())
+                           .execAndGet("SELECT count(*) FROM EmailAddress WHERE Address LIKE '%a999%'")
+                           .getInt();
+    EXPECT_TRUE(wait(u"%1 records"_s.arg(wanted))) << qPrintable(lastStatus());
+    EXPECT_EQ(grid().rows(), wanted);
+    grid().clickHead(3);
+    EXPECT_TRUE(wait(u"%1 records"_s.arg(wanted)));
+    EXPECT_EQ(grid().sortMark(), (SortMark{3, Qt::AscendingOrder}));
+    QStringList sorted = shown(3);
+    std::sort(sorted.begin(), sorted.end());
+    EXPECT_EQ(shown(3), sorted);
+}
+
+TEST_F(LargeTable, ASortThatIsGivenUpLeavesTheOrderThatWas)
+{
+    const auto before = grid().dataSource();
+    for (int turn = 0; turn < 3; ++turn) {
+        statuses.clear();
+        grid().clickHead(4);
+        ASSERT_EQ(lastStatus(), u"Please Wait"_s);
+        EXPECT_EQ(grid().dataSource(), before) << "nothing half sorted is shown";
+        side.view.giveUpSorting();
+        EXPECT_EQ(lastStatus(), u"Cancelled"_s);
+        EXPECT_EQ(grid().sortMark(), SortMark());
+    }
+    side.view.giveUpSorting();
+    EXPECT_EQ(statuses.count(u"Cancelled"_s), 1) << "nothing is coming any more";
+    EXPECT_EQ(grid().rows(), count);
+}
+
+TEST_F(LargeTable, ASortIsDroppedWithTheChoiceOfItsTable)
+{
+    const auto before = grid().dataSource();
+    grid().clickHead(4);
+    side.view.LoadTableSelectData();
+    for (int i = 0; i < 50; ++i)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    EXPECT_TRUE(grid().dataSource() == before || lastStatus() == u"1000000 records"_s);
 }
 
 TEST_F(DataViewTest, ReloadingASavedRecordsetLeavesNoTableChosen)

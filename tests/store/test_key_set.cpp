@@ -6,6 +6,7 @@
 #include "store/Transaction.h"
 #include "support/ErrorOf.h"
 
+#include <QElapsedTimer>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -128,4 +129,89 @@ TEST_F(KeySetTest, ADeletionTakesWhatItNamesAndNothingElse)
     EXPECT_EQ(plain({}).size(), 60U);
     runDelete(query(u"DELETE * FROM MNUrlsA"_s));
     EXPECT_TRUE(plain({}).empty());
+}
+
+TEST_F(KeySetTest, GoesOnInPortionsToTheSameRowsAsAtOnce)
+{
+    fill(3000);
+    {
+        Transaction transaction(*mDatabase);
+        for (const qint64 key : {1, 2, 700, 701, 2999, 3000})
+            remove(key);
+        ASSERT_TRUE(transaction.commit());
+    }
+    for (const auto &[statement, condition, top] :
+         {std::tuple{u"SELECT * FROM MNUrlsA"_s, "", -1},
+          {u"SELECT TOP 17 * FROM MNUrlsA"_s, "", 17},
+          {u"SELECT TOP 17 * FROM MNUrlsA WHERE Url LIKE '%S3%'"_s, " WHERE Url='http://s3.de/'", 17},
+          {u"SELECT * FROM MNUrlsA WHERE Url LIKE '%S3%'"_s, " WHERE Url='http://s3.de/'", -1},
+          {u"SELECT * FROM MNUrlsA WHERE LastUrl LIKE '%'"_s, "", -1},
+          {u"SELECT * FROM MNUrlsA WHERE Url LIKE '%none%'"_s, " WHERE 0", -1}}) {
+        KeySet set(query(statement));
+        int portions = 1;
+        for (; !set.advance(0); ++portions)
+            ASSERT_LT(portions, 3000);
+        EXPECT_EQ(all(set), plain(condition, top)) << qPrintable(statement);
+        EXPECT_TRUE(top > 0 || portions > 10) << portions;
+    }
+}
+
+TEST_F(KeySetTest, PortionsAndWholeFetchesGoTogether)
+{
+    fill(3000);
+    std::mt19937 random(7);
+    for (int turn = 0; turn < 50; ++turn) {
+        KeySet set(query(u"SELECT * FROM MNUrlsA WHERE Url LIKE '%s3%'"_s));
+        for (unsigned step = random() % 6; step > 0; --step) {
+            if (random() % 2 == 0)
+                static_cast<void>(set.advance(0));
+            else
+                static_cast<void>(set.reach(static_cast<qint64>(random() % 500)));
+        }
+        EXPECT_EQ(all(set), plain(" WHERE Url='http://s3.de/'"));
+    }
+}
+
+TEST_F(KeySetTest, RowsAddedAfterThePortionsBeganDoNotBelongToIt)
+{
+    fill(1000);
+    KeySet set(query(u"SELECT * FROM MNUrlsA WHERE Url LIKE '%s3%'"_s));
+    const std::vector<qint64> before = plain(" WHERE Url='http://s3.de/'");
+    EXPECT_FALSE(set.advance(0));
+    fill(1000);
+    while (!set.advance(0)) {
+    }
+    EXPECT_EQ(all(set), before);
+}
+
+TEST_F(KeySetTest, ALargeTableIsSortedBesideToTheSameOrderAsAtOnce)
+{
+    fill(20'000);
+    Query sorted = query(u"SELECT * FROM MNUrlsA WHERE Url LIKE '%s%'"_s);
+    sorted.order = "[Url]";
+    std::vector<qint64> plainly;
+    for (const QString &key : mConnection->administerTexts("SELECT rowid FROM MNUrlsA ORDER BY Url,rowid"))
+        plainly.push_back(key.toLongLong());
+    KeySet set(sorted);
+    EXPECT_EQ(set.fetched(), 0);
+    while (!set.advance(1))
+        EXPECT_EQ(set.fetched(), 0) << "all together";
+    EXPECT_EQ(all(set), plainly);
+    KeySet waiting(sorted);
+    EXPECT_EQ(all(waiting), plainly) << "who asks for a row waits for it";
+}
+
+TEST_F(KeySetTest, ASortThatNobodyWaitsForAnyMoreEnds)
+{
+    fill(200'000);
+    Query sorted = query(u"SELECT * FROM MNUrlsA"_s);
+    sorted.order = "[Url]";
+    QElapsedTimer time;
+    time.start();
+    static_cast<void>(KeySet(sorted).size());
+    const qint64 whole = time.restart();
+    constexpr int dropped = 8;
+    for (int i = 0; i < dropped; ++i)
+        EXPECT_FALSE(KeySet(sorted).advance(0));
+    EXPECT_LT(time.elapsed(), dropped * whole / 2);
 }

@@ -161,12 +161,17 @@ TEST_F(Cards, TheHeadOfTheSortedColumnShowsIt)
         [[nodiscard]] QStringList heads() const override { return {u"Index"_s, u"Url"_s}; }
         [[nodiscard]] int rowCount() const override { return 2; }
         [[nodiscard]] QString text(int row, int) const override { return QString::number(row); }
+        [[nodiscard]] SortMark order() const override { return mark; }
+        [[nodiscard]] bool canSort() const override { return true; }
+        SortMark mark;
     };
     form.data.fxgTrawlex.setDataSource(std::make_shared<Rows>());
     settle();
     QHeaderView &heads = *widget<GridTable>("fxgTrawlex").horizontalHeader();
     EXPECT_FALSE(heads.isSortIndicatorShown());
-    form.data.fxgTrawlex.setSortMark({1, Qt::DescendingOrder});
+    const auto sorted = std::make_shared<Rows>();
+    sorted->mark = {1, Qt::DescendingOrder};
+    form.data.fxgTrawlex.setDataSource(sorted);
     settle();
     EXPECT_TRUE(heads.isSortIndicatorShown());
     EXPECT_EQ(heads.sortIndicatorSection(), 1);

@@ -18,6 +18,7 @@ struct Squares : GridRows
     {
         return column == 0 ? QString::number(row) : u"Page %1"_s.arg(row * row);
     }
+    [[nodiscard]] bool canSort() const override { return true; }
 };
 
 struct GridWindowTest : testing::Test
@@ -135,4 +136,40 @@ TEST_F(GridWindowTest, AClickOnAHeadReachesTheGrid)
                        Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(header.viewport(), &second);
     EXPECT_EQ(heads.count(), 2) << "however quick the second click comes";
+}
+
+TEST_F(GridWindowTest, HeadsOfRowsThatHaveNoOtherOrderDoNotLookAsIfTheyCouldBeClicked)
+{
+    EXPECT_TRUE(table().horizontalHeader()->sectionsClickable());
+    struct Saved : Squares
+    {
+        [[nodiscard]] bool canSort() const override { return false; }
+    };
+    form.fxgTrawlex.setDataSource(std::make_shared<Saved>());
+    settle();
+    EXPECT_FALSE(table().horizontalHeader()->sectionsClickable());
+}
+
+TEST_F(GridWindowTest, RowsThatComeLaterAreShownWithTheSelectionAsItIs)
+{
+    struct Coming : Squares
+    {
+        [[nodiscard]] int rowCount() const override { return known; }
+        int known = 0;
+    };
+    const auto rows = std::make_shared<Coming>();
+    form.fxgTrawlex.setDataSource(rows);
+    settle();
+    EXPECT_EQ(place(), QString());
+    rows->known = 3;
+    form.fxgTrawlex.takeMoreRows();
+    settle();
+    EXPECT_EQ(table().model()->rowCount(), 3);
+    EXPECT_EQ(form.fxgTrawlex.row(), 0) << "the first cell, as of any rows";
+    form.fxgTrawlex.select(2, 1);
+    rows->known = 2000;
+    form.fxgTrawlex.takeMoreRows();
+    settle();
+    EXPECT_EQ(table().currentIndex().row(), 2);
+    EXPECT_EQ(place(), QLocale().toString(3) + u" of "_s + QLocale().toString(2000));
 }

@@ -1,67 +1,15 @@
 #include "store/rows/KeySet.h"
-#include "store/rows/GrowthMarks.h"
-#include "store/rows/SummaryKeys.h"
 
 #include <algorithm>
-#include <numeric>
+#include <limits>
 
 namespace {
 // Keys fetched at once: few for the first look, since most sets are asked only whether they have a row.
 constexpr qint64 firstFetch = 16;
 constexpr qint64 laterFetch = 2048;
-
-std::string conditionText(const TableInfo &table, const SqlStatement::Condition &condition)
-{
-    const int column = table.columnOf(condition.field);
-    if (column < 0)
-        throw AdoError::error(AdoError::BadSql);
-    const bool like = condition.comparison == SqlStatement::Comparison::Like;
-    return " AND (" + table.columns[static_cast<std::size_t>(column)].quoted + (like ? " LIKE ?1)" : "=?1)");
-}
-
-// What is kept beside the table goes first: less than there is of it is never wrong.
-void removeAllRows(Connection &connection, const TableInfo &table)
-{
-    GrowthMarks(connection, table).removeAll();
-    if (SummaryKeys keys(connection, table); keys.exist())
-        keys.removeAll();
-    connection.empty(table);
-}
+// Rows that are looked at between two looks at the clock.
+constexpr int rowsPerLook = 64;
 } // namespace
-
-Query prepareQuery(std::shared_ptr<Connection> connection, const SqlStatement &statement)
-{
-    Query query;
-    query.table = connection->requireTable(statement.table);
-    query.connection = std::move(connection);
-    query.top = statement.top;
-    if (statement.fields.isEmpty()) {
-        query.columns.resize(query.table->columns.size());
-        std::iota(query.columns.begin(), query.columns.end(), 0);
-    }
-    for (const QString &field : statement.fields) {
-        query.columns.push_back(query.table->columnOf(field));
-        if (query.columns.back() < 0)
-            throw AdoError::error(AdoError::BadSql);
-    }
-    if (statement.condition) {
-        query.condition = conditionText(*query.table, *statement.condition);
-        query.value = statement.condition->value;
-    }
-    return query;
-}
-
-void runDelete(const Query &query)
-{
-    ++query.table->changes->revision;
-    if (query.condition.empty()) {
-        removeAllRows(*query.connection, *query.table);
-        return;
-    }
-    Statement statement =
-        query.connection->prepare("DELETE FROM " + query.table->quoted + " WHERE 1" + query.condition);
-    query.connection->change(statement.bind(1, query.value));
-}
 
 KeySet::KeySet(Query query) : mQuery(std::move(query)) {}
 
@@ -71,44 +19,92 @@ bool KeySet::reach(qint64 place)
         if (mQuery.order.empty())
             fetch(mKeys.empty() ? firstFetch : laterFetch);
         else
-            fetchSorted();
+            takeSorted();
     return place >= 0 && place < static_cast<qint64>(mKeys.size());
 }
 
 void KeySet::fetch(qint64 count)
 {
-    const bool first = mKeys.empty();
     if (mQuery.top >= 0)
         count = std::min(count, mQuery.top - static_cast<qint64>(mKeys.size()));
     const TableInfo &table = *mQuery.table;
-    const std::string range = first ? "" : " AND " + table.key + ">?2 AND " + table.key + "<=?3";
+    const std::string range = mBegun ? " AND " + table.key + ">?2 AND " + table.key + "<=?3" : "";
     Statement keys = mQuery.connection->prepare("SELECT " + table.key + " FROM " + table.quoted + " WHERE 1" +
                                                 mQuery.condition + range + " ORDER BY " + table.key + " LIMIT ?4");
     if (!mQuery.condition.empty())
         keys.bind(1, mQuery.value);
-    if (!first)
-        keys.bind(2, mKeys.back()).bind(3, mLastKey);
+    if (mBegun)
+        keys.bind(2, mLookedAt).bind(3, mLastKey);
     keys.bind(4, count);
     const std::size_t before = mKeys.size();
     while (keys.step())
         mKeys.push_back(keys.integer(0));
     const auto fetched = static_cast<qint64>(mKeys.size() - before);
-    mComplete = fetched < count || (mQuery.top >= 0 && static_cast<qint64>(mKeys.size()) >= mQuery.top);
-    if (first && !mComplete) {
-        Statement last = mQuery.connection->prepare("SELECT max(" + table.key + ") FROM " + table.quoted);
-        mLastKey = last.step() ? last.integer(0) : 0;
+    mComplete = fetched < count || isFull();
+    if (mComplete)
+        return;
+    if (!mBegun)
+        begin();
+    mLookedAt = mKeys.back();
+}
+
+/// From here on the table's last row is the last one.
+void KeySet::begin()
+{
+    const TableInfo &table = *mQuery.table;
+    Statement last = mQuery.connection->prepare("SELECT max(" + table.key + ") FROM " + table.quoted);
+    mLastKey = last.step() ? last.integer(0) : 0;
+    mLookedAt = std::numeric_limits<qint64>::min();
+    mBegun = true;
+}
+
+/// Looks at one row after another, also where none belongs to the set.
+void KeySet::look(const QDeadlineTimer &time)
+{
+    const TableInfo &table = *mQuery.table;
+    const std::string belongs = mQuery.condition.empty() ? "" : ",1" + mQuery.condition;
+    Statement rows = mQuery.connection->prepare("SELECT " + table.key + belongs + " FROM " + table.quoted + " WHERE " +
+                                                table.key + ">?2 AND " + table.key + "<=?3 ORDER BY " + table.key);
+    if (!belongs.empty())
+        rows.bind(1, mQuery.value);
+    rows.bind(2, mLookedAt).bind(3, mLastKey);
+    for (int row = 1; !mComplete && (row % rowsPerLook != 0 || !time.hasExpired()); ++row) {
+        mComplete = !rows.step();
+        if (mComplete)
+            break;
+        mLookedAt = rows.integer(0);
+        if (belongs.empty() || rows.integer(1) == 1)
+            mKeys.push_back(mLookedAt);
+        mComplete = isFull();
     }
 }
 
-void KeySet::fetchSorted()
+bool KeySet::advance(int milliseconds)
 {
-    const TableInfo &table = *mQuery.table;
-    Statement keys = mQuery.connection->prepare("SELECT " + table.key + " FROM " + table.quoted + " WHERE 1" +
-                                                mQuery.condition + " ORDER BY " + mQuery.order + "," + table.key);
-    if (!mQuery.condition.empty())
-        keys.bind(1, mQuery.value);
-    while (keys.step())
-        mKeys.push_back(keys.integer(0));
+    const QDeadlineTimer time(milliseconds);
+    if (!mComplete && !mQuery.order.empty() && beginSorting().isReady(milliseconds))
+        takeSorted();
+    if (!mComplete && mQuery.order.empty()) {
+        if (!mBegun)
+            begin();
+        look(time);
+    }
+    return mComplete;
+}
+
+SortedKeys &KeySet::beginSorting()
+{
+    if (!mSorted) {
+        begin();
+        mSorted = std::make_unique<SortedKeys>(mQuery, mLastKey);
+    }
+    return *mSorted;
+}
+
+void KeySet::takeSorted()
+{
+    mKeys = beginSorting().take();
+    mSorted.reset();
     mComplete = true;
 }
 

@@ -1,29 +1,10 @@
-// A query made ready for a connection, and the keys of the rows that it gives. Inside store/ only.
+// The keys of the rows that a query gives. Inside store/ only.
 #pragma once
 
-#include "store/sql/SqlTranslator.h"
-#include "store/sqlite/Connection.h"
+#include "store/rows/SortedKeys.h"
 
-/// A statement made ready for one connection: its table is there and its columns are.
-struct Query
-{
-    std::shared_ptr<Connection> connection;
-    std::shared_ptr<const TableInfo> table;
-    /// The columns of the result, as places in the table.
-    std::vector<int> columns;
-    qint64 top = -1;
-    /// "" or " AND ([Url]=?1)"; `value` is bound to ?1.
-    std::string condition;
-    QString value;
-    /// What comes before table order: "" or a column in brackets, with its direction.
-    std::string order;
-};
-
-/// Errors: AdoError::BadSql, AdoError::NoSuchTable.
-[[nodiscard]] Query prepareQuery(std::shared_ptr<Connection> connection, const SqlStatement &statement);
-
-/// Removes the rows that the query names.
-void runDelete(const Query &query);
+#include <QDeadlineTimer>
+#include <memory>
 
 /// The keys of a query's rows in its order, fetched as far as they are asked for; all at once where that is not the
 /// table's. Rows that are added to the table after the set was made do not belong to it.
@@ -38,6 +19,8 @@ class KeySet
     [[nodiscard]] bool reach(qint64 place);
     /// The row's key. `place` must have been reached.
     [[nodiscard]] qint64 key(qint64 place) const { return mKeys[static_cast<std::size_t>(place)]; }
+    /// Goes on fetching for about so many milliseconds. True once all keys are there.
+    [[nodiscard]] bool advance(int milliseconds);
     /// How many keys have been fetched.
     [[nodiscard]] qint64 fetched() const { return static_cast<qint64>(mKeys.size()); }
     [[nodiscard]] bool isDeleted(qint64 place) const;
@@ -51,13 +34,19 @@ class KeySet
     qint64 append(qint64 key);
 
   private:
+    [[nodiscard]] bool isFull() const { return mQuery.top >= 0 && fetched() >= mQuery.top; }
+    void begin();
     void fetch(qint64 count);
-    void fetchSorted();
+    void look(const QDeadlineTimer &time);
+    [[nodiscard]] SortedKeys &beginSorting();
+    void takeSorted();
 
     Query mQuery;
     std::vector<qint64> mKeys;
     // Places of rows that were removed through the set, in order.
     std::vector<qint64> mDeleted;
-    qint64 mLastKey = 0;
-    bool mComplete = false;
+    std::unique_ptr<SortedKeys> mSorted;
+    // The last key that was looked at, and the table's last one when the first was.
+    qint64 mLookedAt = 0, mLastKey = 0;
+    bool mBegun = false, mComplete = false;
 };

@@ -295,6 +295,13 @@ qint64 Connection::outsideVersion()
     return mOutsideVersion;
 }
 
+void Connection::stopWhen(const std::atomic<bool> &stop)
+{
+    constexpr int stepsPerLook = 1000; // of the engine's own machine
+    const auto stops = [](void *wish) { return static_cast<const std::atomic<bool> *>(wish)->load() ? 1 : 0; };
+    sqlite3_progress_handler(mDatabase->getHandle(), stepsPerLook, stops, const_cast<std::atomic<bool> *>(&stop));
+}
+
 bool Connection::inTransaction() const
 {
     return sqlite3_get_autocommit(mDatabase->getHandle()) == 0;

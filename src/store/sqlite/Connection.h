@@ -9,6 +9,7 @@
 
 #include <QHash>
 #include <QStringList>
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -103,6 +104,9 @@ class Connection
     [[nodiscard]] std::shared_ptr<const TableInfo> requireTable(const QString &name);
 
     [[nodiscard]] bool isReadOnly() const { return mReadOnly; }
+    [[nodiscard]] const QString &path() const { return mSteps.path(); }
+    /// Its statements end with an error soon after `stop` has become true, which outlives it.
+    void stopWhen(const std::atomic<bool> &stop);
 
     /// The row number of the last row that was inserted.
     [[nodiscard]] qint64 lastRow() const;

@@ -47,6 +47,7 @@ class GridLink : public QObject
             mModel.setRows(mControl.dataSource());
             mWidths.assign(static_cast<std::size_t>(mControl.cols()), -2);
         }
+        mModel.grow();
         showWidths();
         showSelection();
         showSortMark();
@@ -100,6 +101,7 @@ class GridLink : public QObject
     void showSortMark()
     {
         const SortMark mark = mControl.sortMark();
+        mView.horizontalHeader()->setSectionsClickable(mControl.canSort());
         mView.horizontalHeader()->setSortIndicatorShown(mark.column >= 0);
         mView.horizontalHeader()->setSortIndicator(mark.column, mark.order);
     }

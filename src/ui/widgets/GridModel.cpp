@@ -9,12 +9,23 @@ void GridModel::setRows(std::shared_ptr<const GridRows> rows)
     beginResetModel();
     mRows = std::move(rows);
     mHeads = mRows ? mRows->heads() : QStringList();
+    mCount = mRows ? mRows->rowCount() : 0;
     endResetModel();
+}
+
+void GridModel::grow()
+{
+    const int count = mRows ? mRows->rowCount() : 0;
+    if (count <= mCount)
+        return;
+    beginInsertRows({}, mCount, count - 1);
+    mCount = count;
+    endInsertRows();
 }
 
 int GridModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() || !mRows ? 0 : mRows->rowCount();
+    return parent.isValid() ? 0 : mCount;
 }
 
 int GridModel::columnCount(const QModelIndex &parent) const

@@ -18,6 +18,8 @@ class GridModel : public QAbstractTableModel
     using QAbstractTableModel::QAbstractTableModel;
 
     void setRows(std::shared_ptr<const GridRows> rows);
+    /// The rows may have become more.
+    void grow();
     [[nodiscard]] const std::shared_ptr<const GridRows> &source() const { return mRows; }
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
@@ -31,4 +33,5 @@ class GridModel : public QAbstractTableModel
   private:
     std::shared_ptr<const GridRows> mRows;
     QStringList mHeads;
+    int mCount = 0;
 };

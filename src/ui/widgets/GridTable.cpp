@@ -68,8 +68,10 @@ void GridTable::keyPressEvent(QKeyEvent *event)
 void GridTable::setModel(QAbstractItemModel *model)
 {
     QTableView::setModel(model);
-    if (model != nullptr)
+    if (model != nullptr) {
         connect(model, &QAbstractItemModel::modelReset, this, &GridTable::placeMoved);
+        connect(model, &QAbstractItemModel::rowsInserted, this, &GridTable::placeMoved);
+    }
     Q_EMIT placeMoved();
 }
 
