@@ -12,7 +12,7 @@ packages=(
   # tests and benchmarks
   libgtest-dev libgmock-dev libbenchmark-dev python3-pyftpdlib
   # the browser that is driven, a display for the window, fonts, and eyes for the tests
-  chromium xvfb xauth openbox xdotool x11-utils imagemagick fonts-dejavu-core fonts-liberation sqlite3 groff-base
+  chromium xvfb xauth openbox xdotool xclip x11-utils imagemagick fonts-dejavu-core fonts-liberation sqlite3 groff-base
   xdg-utils desktop-file-utils
 )
 

@@ -56,12 +56,12 @@ class DatabaseWriter : public RowWriter
         mInsert->clearBindings();
     }
 
-    void finish() override
+    void complete() override
     {
         mInsert.reset();
         mDatabase.exec("COMMIT");
-        mFile.commit();
     }
+    void finish() override { mFile.commit(); }
 
   private:
     void bind(int place, const QVariant &value)

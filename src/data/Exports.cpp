@@ -37,12 +37,17 @@ std::unique_ptr<RowWriter> makeWriter(DataFormat format, const QString &path, co
     }
 }
 
-void save(const Recordset &rows, DataFormat format, const QString &path)
+/// False when the user has cancelled.
+bool save(const Recordset &rows, DataFormat format, const QString &path, LongWork &work)
 {
     NewFile file(path);
-    rows.Save(file.placeUntilComplete(),
-              format == DataFormat::Saved ? Recordset::SaveFormat::Binary : Recordset::SaveFormat::Xml);
-    file.commit();
+    const bool saved =
+        rows.Save(file.placeUntilComplete(),
+                  format == DataFormat::Saved ? Recordset::SaveFormat::Binary : Recordset::SaveFormat::Xml,
+                  [&work](qint64 row) { return work.goOn(row); });
+    if (saved)
+        file.commit();
+    return saved;
 }
 
 /// A file that is to be replaced lies aside until its successor is there, and comes back if there is none.
@@ -82,10 +87,9 @@ QString Exports::statement(const ExportSource &source, const ExportKind &kind) c
 /// The rows as a file of that form; what the user is told then.
 QString Exports::write(Recordset &rows, DataFormat format, const QString &path, const QString &table)
 {
-    if (format == DataFormat::Saved || format == DataFormat::SavedXml) {
-        save(rows, format, path);
-        return path + " written"_L1;
-    }
+    const auto cancelled = u"Export cancelled"_s;
+    if (format == DataFormat::Saved || format == DataFormat::SavedXml)
+        return save(rows, format, path, mWork) ? path + " written"_L1 : cancelled;
     const auto writer = makeWriter(format, path, table, Cells::columnsOf(rows));
     std::vector<Field> fields;
     for (int column = 0; column < rows.Fields().Count(); ++column)
@@ -93,10 +97,13 @@ QString Exports::write(Recordset &rows, DataFormat format, const QString &path, 
     DataRow values(fields.size());
     for (qint64 done = 0; !rows.Eof(); rows.MoveNext()) {
         if (!mWork.goOn(done++))
-            return u"Export cancelled"_s;
+            return cancelled;
         std::transform(fields.begin(), fields.end(), values.begin(), [](const Field &field) { return field.Value(); });
         writer->row(values);
     }
+    mWork.beside([&writer] { writer->complete(); });
+    if (mWork.isCancelled())
+        return cancelled;
     writer->finish();
     const QString cut = u", %1 texts cut to the length of a cell"_s.arg(writer->cutTexts());
     return path + " written"_L1 + (writer->cutTexts() > 0 ? cut : QString());

@@ -11,7 +11,9 @@ class RowWriter
   public:
     virtual ~RowWriter() = default;
     virtual void row(const DataRow &values) = 0;
-    /// Completes the file and gives it its name. Without this call no file is left.
+    /// Completes what has been written; that may take long. It touches nothing but the file, in whatever thread.
+    virtual void complete() {}
+    /// Gives the complete file its name. Without this call no file is left.
     virtual void finish() = 0;
     /// How many texts did not fit and were cut.
     [[nodiscard]] virtual qint64 cutTexts() const { return 0; }

@@ -91,11 +91,8 @@ class SpreadsheetWriter : public RowWriter
         ++mRow;
     }
 
-    void finish() override
-    {
-        mBook.close();
-        mFile.commit();
-    }
+    void complete() override { mBook.close(); }
+    void finish() override { mFile.commit(); }
 
     [[nodiscard]] qint64 cutTexts() const override { return mCut; }
 

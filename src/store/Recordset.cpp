@@ -90,10 +90,13 @@ Recordset Recordset::open(const QString &filePath)
 
 void Recordset::Save(const QString &filePath, SaveFormat format) const
 {
-    if (format == SaveFormat::Binary)
-        SavedRecordset::saveBinary(state().keys(), filePath);
-    else
-        SavedRecordset::saveXml(state().keys(), filePath);
+    static_cast<void>(Save(filePath, format, [](qint64) { return true; }));
+}
+
+bool Recordset::Save(const QString &filePath, SaveFormat format, const std::function<bool(qint64)> &goOn) const
+{
+    return format == SaveFormat::Binary ? SavedRecordset::saveBinary(state().keys(), filePath, goOn)
+                                        : SavedRecordset::saveXml(state().keys(), filePath, goOn);
 }
 
 bool Recordset::isOpen() const

@@ -13,6 +13,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QVariant>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -126,6 +127,8 @@ class Recordset
     /// Writes all rows to a file, which is replaced only once it is complete. The current row stays.
     /// Errors: 75 for a place that cannot be written, 75 or -2147467259 for a full disk.
     void Save(const QString &filePath, SaveFormat format) const;
+    /// The same, asking before each row, by its number from 0. False when it may not go on: no file then.
+    [[nodiscard]] bool Save(const QString &filePath, SaveFormat format, const std::function<bool(qint64)> &goOn) const;
 
     /// Closes the set. Error 3219 with an edit pending. Closing twice is error 3704.
     void Close();

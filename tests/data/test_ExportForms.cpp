@@ -90,6 +90,7 @@ TEST_F(ExportFormsTest, JsonIsReadBackByAnyReader)
     const DataColumns columns{{u"T\"x"_s, 130}, {u"N"_s, 3}, {u"D"_s, 5}, {u"B"_s, 11}, {u"P"_s, 205}, {u"Z"_s, 130}};
     const auto writer = RowWriters::text(DataFormat::JsonLines, pathOf(u"odd.jsonl"_s), columns);
     writer->row({odd, qlonglong(-7), 1.5, true, QByteArray("\x00\xff", 2), QVariant()});
+    writer->complete();
     writer->finish();
     const QJsonObject read = QJsonDocument::fromJson(bytes(pathOf(u"odd.jsonl"_s))).object();
     EXPECT_EQ(read.value(u"T\"x"_s).toString(), odd);
@@ -117,6 +118,7 @@ TEST_F(ExportFormsTest, TextsTooLongForACellAreCutAndCounted)
     const auto writer = RowWriters::spreadsheet(pathOf(u"long.xlsx"_s), u"T"_s, {{u"FullPage"_s, 203}});
     writer->row({QVariant(QString(40'000, u'x'))});
     writer->row({QVariant(QString(32'766, u'x') + u"\U0001F600"_s)});
+    writer->complete();
     writer->finish();
     EXPECT_EQ(writer->cutTexts(), 2);
     const QString sheet = unzipped(u"long.xlsx"_s, u"xl/worksheets/sheet1.xml"_s);
@@ -129,6 +131,7 @@ TEST_F(ExportFormsTest, MoreRowsThanASheetHoldsGoOnInANextOne)
     const auto writer = RowWriters::spreadsheet(pathOf(u"many.xlsx"_s), u"T"_s, {{u"N"_s, 3}});
     for (qlonglong row = 0; row < 1'048'576; ++row)
         writer->row({QVariant(row)});
+    writer->complete();
     writer->finish();
     const QString second = unzipped(u"many.xlsx"_s, u"xl/worksheets/sheet2.xml"_s);
     EXPECT_EQ(second.count(u"<row "_s), 2) << "heads, and the one row too many";

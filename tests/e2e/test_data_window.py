@@ -106,6 +106,17 @@ class DataWindow(window.WindowCase):
             trawlex.wait_for(lambda: self.addresses() == wanted, 30, what)
         self.assertEqual(self.addresses(), wanted, what)
 
+    def copied(self):
+        """The cells that Ctrl+A and Ctrl+C take, row by row."""
+        self.first_cell("ctrl+a", "ctrl+c")
+        done = subprocess.run(["xclip", "-selection", "clipboard", "-out"], env=self.env, capture_output=True, timeout=20, check=False)
+        return [tuple(line.split("\t")) for line in done.stdout.decode().split("\r\n")]
+
+    def wait_for_copied(self, wanted, what):
+        with contextlib.suppress(AssertionError):   # what differs is told below
+            trawlex.wait_for(lambda: self.copied() == wanted, 20, what)
+        self.assertEqual(self.copied(), wanted, what)
+
     def end(self):
         def press():
             self.display.do("key", "Escape")    # what a slow machine has opened late
@@ -162,7 +173,7 @@ class DataWindow(window.WindowCase):
         self.wait_for_addresses([row[2] for row in ROWS[1:]], "a row is gone")
         self.choose_end(self.status_menu(), -1)
         self.answer("Select File", path)
-        time.sleep(1)                       # what is pressed while the file is read may be lost
+        self.wait_for_copied([(str(index), *map(str, row)) for index, row in enumerate(ROWS, 1)], "the rows of the file are shown")
         self.first_cell()
         self.keys("Menu", "Up", "Return")   # would delete, if a menu opened
         time.sleep(1)

@@ -408,6 +408,30 @@ TEST_F(RecordsetTest, ASavedSetOpensAgainInBothForms)
         << "the database with its two logs, and the saved set";
 }
 
+TEST_F(RecordsetTest, ASaveThatMayNotGoOnLeavesTheFileAsItWas)
+{
+    for (int row = 0; row < 50; ++row)
+        add(*mDatabase, u"Block"_s, {{"UrlsContent"_L1, QString::number(row)}});
+    const Recordset set = open(u"SELECT * FROM Block"_s);
+    const QString path = pathOf(u"Block-0.dat"_s);
+    for (const auto format : {Recordset::SaveFormat::Binary, Recordset::SaveFormat::Xml}) {
+        QFile::remove(path);
+        QList<qint64> asked;
+        const auto untilTwenty = [&](qint64 row) {
+            asked.append(row);
+            return row < 20;
+        };
+        const QStringList before = QDir(mFolder.path()).entryList(QDir::Files | QDir::Hidden);
+        EXPECT_FALSE(set.Save(path, format, untilTwenty));
+        EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files | QDir::Hidden), before);
+        EXPECT_EQ(asked.size(), 21);
+        EXPECT_EQ(asked.constLast(), 20);
+        set.Save(path, format);
+        EXPECT_FALSE(set.Save(path, format, [](qint64) { return false; }));
+        EXPECT_EQ(Recordset::open(path).RecordCount(), 50);
+    }
+}
+
 TEST_F(RecordsetTest, AFileThatIsNoSavedSetIsRefused)
 {
     EXPECT_EQ(errorOf([&] { static_cast<void>(Recordset::open(pathOf(u"none"_s))); }), 53);

@@ -24,11 +24,30 @@ std::vector<TableFiller::Column> columnsOf(const Query &query)
     return columns;
 }
 
-template <class Take> void forEachRow(const std::shared_ptr<KeySet> &rows, Take &&take)
+/// Thrown through what is half written, so that it goes.
+struct Stopped
+{
+};
+
+template <class Take>
+void forEachRow(const std::shared_ptr<KeySet> &rows, const SavedRecordset::GoOn &goOn, Take &&take)
 {
     RecordsetState walk(rows, true);
-    for (; !walk.atEnd(); walk.moveNext())
+    for (qint64 number = 0; !walk.atEnd(); walk.moveNext()) {
+        if (!goOn(number++))
+            throw Stopped();
         take(walk.row());
+    }
+}
+
+template <class Write> bool unlessStopped(Write &&write)
+{
+    try {
+        write();
+        return true;
+    } catch (const Stopped &) {
+        return false;
+    }
 }
 
 std::shared_ptr<KeySet> rowsOf(const std::shared_ptr<Connection> &connection)
@@ -42,25 +61,28 @@ std::shared_ptr<KeySet> rowsOf(const std::shared_ptr<Connection> &connection)
 }
 } // namespace
 
-void SavedRecordset::saveBinary(const std::shared_ptr<KeySet> &rows, const QString &filePath)
+bool SavedRecordset::saveBinary(const std::shared_ptr<KeySet> &rows, const QString &filePath, const GoOn &goOn)
 {
-    DatabaseFiles::build(filePath, [&](Connection &connection) {
+    const auto fill = [&](Connection &connection) {
         connection.administer("PRAGMA application_id=" + std::to_string(savedSetId));
         TableFiller table(connection, tableName, columnsOf(rows->query()));
-        forEachRow(rows, [&](const std::vector<QVariant> &row) { table.addRow(row); });
+        forEachRow(rows, goOn, [&](const std::vector<QVariant> &row) { table.addRow(row); });
         table.finish();
-    });
+    };
+    return unlessStopped([&] { DatabaseFiles::build(filePath, fill); });
 }
 
-void SavedRecordset::saveXml(const std::shared_ptr<KeySet> &rows, const QString &filePath)
+bool SavedRecordset::saveXml(const std::shared_ptr<KeySet> &rows, const QString &filePath, const GoOn &goOn)
 {
-    QSaveFile file(filePath);
-    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
-        throw AdoError::error(ErrorNumber::PathAccessError);
-    RecordsetXmlWriter xml(file, columnsOf(rows->query()));
-    forEachRow(rows, [&](const std::vector<QVariant> &row) { xml.addRow(row); });
-    if (!xml.finish() || !file.commit())
-        throw AdoError::error(ErrorNumber::PathAccessError);
+    return unlessStopped([&] {
+        QSaveFile file(filePath);
+        if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
+            throw AdoError::error(ErrorNumber::PathAccessError);
+        RecordsetXmlWriter xml(file, columnsOf(rows->query()));
+        forEachRow(rows, goOn, [&](const std::vector<QVariant> &row) { xml.addRow(row); });
+        if (!xml.finish() || !file.commit())
+            throw AdoError::error(ErrorNumber::PathAccessError);
+    });
 }
 
 std::shared_ptr<KeySet> SavedRecordset::open(const QString &filePath)

@@ -5,11 +5,16 @@
 #include "store/rows/RecordsetState.h"
 
 #include <QString>
+#include <functional>
 
 namespace SavedRecordset {
-/// Write all rows of the set. The file is replaced once it is complete. Error 75 for a place that cannot be written.
-void saveBinary(const std::shared_ptr<KeySet> &rows, const QString &filePath);
-void saveXml(const std::shared_ptr<KeySet> &rows, const QString &filePath);
+/// Asked before each row, by its number from 0.
+using GoOn = std::function<bool(qint64)>;
+
+/// Write all rows of the set. The file is replaced once it is complete. False when they may not go on: then it is as it
+/// was. Error 75 for a place that cannot be written.
+[[nodiscard]] bool saveBinary(const std::shared_ptr<KeySet> &rows, const QString &filePath, const GoOn &goOn);
+[[nodiscard]] bool saveXml(const std::shared_ptr<KeySet> &rows, const QString &filePath, const GoOn &goOn);
 
 /// The rows of a file in either form. Errors: 53 for a missing file, AdoError::Engine for one in neither form.
 [[nodiscard]] std::shared_ptr<KeySet> open(const QString &filePath);
