@@ -435,6 +435,12 @@ TEST_F(Bound, TheContextMenuKeyIsARightPressOnTheControlInFocus)
     QCoreApplication::sendEvent(&widget<QWidget>("lstANMC"), &key);
     EXPECT_EQ(presses.times(), 1);
     EXPECT_EQ(last, MouseButton::Right);
+    last = MouseButton::Left;
+    QTest::keyClick(&widget<QWidget>("lstANMC"), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(presses.times(), 2) << "where the keyboard has no such key";
+    EXPECT_EQ(last, MouseButton::Right);
+    QTest::keyClick(&widget<QWidget>("lstANMC"), Qt::Key_F10);
+    EXPECT_EQ(presses.times(), 2);
 }
 
 TEST_F(Bound, ManyChangesAreShownOnce)

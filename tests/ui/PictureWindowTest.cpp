@@ -8,6 +8,7 @@
 #include "ui/pictures/PictureGoing.h"
 #include "ui/pictures/ThumbnailStore.h"
 #include "ui/widgets/ItemList.h"
+#include "ui/widgets/PathLabel.h"
 #include "window/side/PictureMenu.h"
 
 #include <QApplication>
@@ -227,6 +228,16 @@ TEST_F(PicturesOnShow, TheListHasRoomForItsNamesBesideALargePicture)
     make(u"a.jpg"_s, {3000, 2000});
     open();
     EXPECT_EQ(list().width(), 200);
+}
+
+TEST_F(PicturesOnShow, ThatThereIsNowhereToMoveToIsReadWhole)
+{
+    settings.SaveSetting(Sections::Foto, Keys::MoveToDir, {});
+    make(u"a.jpg"_s, {100, 80});
+    open();
+    const auto &label = part<PathLabel>("lblMoveTo");
+    EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance(label.emptyText()));
+    EXPECT_TRUE(label.toolTip().contains(u"Set Move To Dir"_s)) << "the way to one";
 }
 
 TEST_F(PicturesOnShow, TheKeysOnTheButtonsAreReadInTheSmallestWindow)

@@ -52,6 +52,20 @@ QString shownTip(const QString &tip)
     return Qt::mightBeRichText(broken) ? u"<p style='white-space:pre'>"_s + broken.toHtmlEscaped() + u"</p>"_s : broken;
 }
 
+/// The menu key of keyboards that have none.
+bool isMenuKey(const QEvent &event)
+{
+    const auto &key = static_cast<const QKeyEvent &>(event);
+    return key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier;
+}
+
+void pressMenuKey(QWidget &widget)
+{
+    const QPoint middle = widget.rect().center();
+    QContextMenuEvent press(QContextMenuEvent::Keyboard, middle, widget.mapToGlobal(middle));
+    QCoreApplication::sendEvent(&widget, &press);
+}
+
 QPalette toned(const Tone &tone)
 {
     QPalette palette;
@@ -156,6 +170,10 @@ bool Binding::eventFilter(QObject *watched, QEvent *event)
         mControl.mouseMove();
         return false;
     case QEvent::KeyPress:
+        if (isMenuKey(*event)) {
+            pressMenuKey(*qobject_cast<QWidget *>(watched));
+            return true;
+        }
         return !inner && keyPressed(*event);
     case QEvent::ContextMenu:
         if (static_cast<QContextMenuEvent *>(event)->reason() != QContextMenuEvent::Keyboard)

@@ -15,7 +15,7 @@ constexpr int twipsPerPixel = 15;
 GridWindow::GridWindow(frmfxg &form, QWidget *main) : QWidget(main, Qt::Window), mForm(form)
 {
     setObjectName("frmfxg"_L1);
-    setWindowTitle(u"Trawlex - Data"_s);
+    setWindowTitle(u"Data"_s);
     setMinimumSize(frmfxg::leastSize / twipsPerPixel);
     resize(frmfxg::usualSize / twipsPerPixel);
     auto *const layout = new QVBoxLayout(this);

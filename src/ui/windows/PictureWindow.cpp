@@ -59,17 +59,13 @@ void PictureWindow::build()
     picFoto->setObjectName("picFoto"_L1);
     picFoto->setAccessibleName(u"Picture"_s);
     picFoto->setMinimumSize(leastPicture);
-    mPosition = new QLabel(this);
-    mPosition->setObjectName("lblPosition"_L1);
-    mPosition->setMaximumWidth(listWidth);
     auto *const whole = new QGridLayout(this);
     whole->setContentsMargins(gap, gap, gap, gap);
     whole->setSpacing(gap);
     whole->addWidget(lstFoto, 0, 0);
     whole->addWidget(picFoto, 0, 1);
-    whole->addWidget(mPosition, 1, 0);
     QWidget *const row = commands();
-    whole->addWidget(row, 1, 1);
+    whole->addWidget(row, 1, 0, 1, 2);
     // They take what room there is, whatever they would like to have.
     picFoto->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     row->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -96,15 +92,19 @@ QWidget *PictureWindow::commands()
     auto *const layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
+    mPosition = new QLabel(row);
+    mPosition->setObjectName("lblPosition"_L1);
+    mPosition->setMinimumWidth(fontMetrics().horizontalAdvance(u"999 of 999"_s));
     mTarget = new PathLabel(row);
     mTarget->setObjectName("lblMoveTo"_L1);
     mTarget->setMinimumWidth(leastTarget);
-    mTarget->setEmptyText(u"No directory to move to is set (right button on the list)"_s);
+    mTarget->setEmptyText(u"No directory to move to"_s);
     mMore = new QPushButton(u"…"_s, row);
     mMore->setObjectName("cmdMore"_L1);
     mMore->setAccessibleName(u"More"_s);
     mMore->setFocusPolicy(Qt::NoFocus);
     connect(mMore, &QPushButton::clicked, this, &PictureWindow::showMore);
+    layout->addWidget(mPosition);
     layout->addWidget(command(mForm.mnuFotoPopUpAction.item("mnuFotoMoveIt"_L1), u"cmdMoveIt"_s));
     layout->addWidget(mTarget, 1);
     layout->addWidget(command(mForm.mnuFotoPopUpAction.item("mnuFotoDeleteIt"_L1), u"cmdDeleteIt"_s));
@@ -147,7 +147,7 @@ void PictureWindow::showState()
     setWindowTitle(mForm.caption());
     mPosition->setText(mForm.caption());
     mTarget->setText(mForm.notice().isEmpty() ? mForm.moveToDirectory() : mForm.notice());
-    mTarget->setToolTip(mTarget->text());
+    mTarget->setToolTip(mTarget->text().isEmpty() ? u"Right button on the list: Set Move To Dir"_s : mTarget->text());
 }
 
 void PictureWindow::LoadPicture(const QString &path)
