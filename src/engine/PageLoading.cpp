@@ -66,7 +66,7 @@ bool PageLoading::settle(int number)
     return number == mNumber && !replaced && isWaitingForDocument() && end();
 }
 
-bool PageLoading::committed(const QString &loader, Document document)
+void PageLoading::committed(const QString &loader, Document document)
 {
     mCurrent = loader;
     mStanding = document == Document::Page ? Arrival::Arrived : Arrival::Failed;
@@ -77,7 +77,6 @@ bool PageLoading::committed(const QString &loader, Document document)
     } else if (byItself && mStanding == Arrival::Failed) {
         mArrival = Arrival::Failed;
     }
-    return !isLoading() || loader != mRequested || mStarted.isEmpty() || mStarted == loader;
 }
 
 void PageLoading::resumed()

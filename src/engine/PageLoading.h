@@ -71,11 +71,12 @@ class PageLoading
     /// A request for a document of the top frame has left the browser.
     void started(const QString &loader) { mStarted = loader; }
     [[nodiscard]] bool hasStarted() const { return !mStarted.isEmpty(); }
+    /// Another request of the top frame has left the browser behind the one that is awaited: either may come.
+    [[nodiscard]] bool isOvertaken() const { return isDocumentComing() && hasStarted() && mStarted != mRequested; }
     /// The document has told of its own load event, where loading ends with more than that.
     void documentComplete(const QString &loader) { mComplete = loader; }
-    /// A document has been put in place in the top frame. False when it will not stay: the old page has set out for
-    /// another one while ours was on its way, and that will take its place.
-    [[nodiscard]] bool committed(const QString &loader, Document document = Document::Page);
+    /// A document has been put in place in the top frame.
+    void committed(const QString &loader, Document document = Document::Page);
 
   private:
     // In the order in which a load goes through them.

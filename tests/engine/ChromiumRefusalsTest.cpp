@@ -1,5 +1,6 @@
 // Nothing on a page stops the free-standing browser: each of these ends in a page that can be read.
 #include "ChromiumFixture.h"
+#include "RestlessPages.h"
 #include "support/Places.h"
 
 #include <QDateTime>
@@ -361,6 +362,11 @@ TEST_F(ChromiumRefusals, APageThatReloadsItselfForEverCanBeReadAndLeft)
         EXPECT_LT(clock.elapsed(), 5000);
         expectAllIsWell();
     }
+}
+
+TEST_F(ChromiumRefusals, APageThatGoesOnByItselfDoesNotTakeTheNextOnesPlace)
+{
+    expectToLeaveRestlessPages(*browser, server(), {u"site.test"_s, u"other.test"_s});
 }
 
 TEST_F(ChromiumRefusals, AReadThatTakesLongIsNotBrokenOffForGood)

@@ -16,7 +16,7 @@ TEST(PageLoading, EndsWithTheLoadEventOfTheDocumentAskedFor)
     EXPECT_TRUE(page.isLoading());
     EXPECT_TRUE(page.isWaitingForDocument());
     EXPECT_EQ(page.answered(number, u"a"_s, u""_s), Verdict::Wait);
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_FALSE(page.isWaitingForDocument());
     EXPECT_TRUE(page.isLoading());
     EXPECT_TRUE(page.documentLoaded(u"a"_s));
@@ -27,7 +27,7 @@ TEST(PageLoading, EndsWithTheLoadEventOfTheDocumentAskedFor)
 TEST(PageLoading, TheOldDocumentsLoadEventDoesNotCount)
 {
     PageLoading page;
-    (void)page.committed(u"old"_s);
+    page.committed(u"old"_s);
     page.begin();
     EXPECT_FALSE(page.documentLoaded(u"old"_s));
     EXPECT_FALSE(page.stopped());
@@ -40,9 +40,9 @@ TEST(PageLoading, ADocumentOfAnEarlierRequestDoesNotCount)
     const int first = page.begin();
     EXPECT_EQ(page.answered(first, u"a"_s, u""_s), Verdict::Wait);
     page.begin();
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_FALSE(page.documentLoaded(u"a"_s));
-    (void)page.committed(u"b"_s);
+    page.committed(u"b"_s);
     EXPECT_TRUE(page.documentLoaded(u"b"_s));
 }
 
@@ -52,7 +52,7 @@ TEST(PageLoading, AnAnswerThatComesAfterTheNextRequestOutdatesItsDocument)
     const int first = page.begin();
     page.begin();
     EXPECT_EQ(page.answered(first, u"a"_s, u"net::ERR_ABORTED"_s), Verdict::Outdated);
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_FALSE(page.documentLoaded(u"a"_s));
     EXPECT_TRUE(page.isLoading());
 }
@@ -62,7 +62,7 @@ TEST(PageLoading, AnotherDocumentThanTheOneAskedForCounts)
     PageLoading page;
     const int number = page.begin();
     EXPECT_EQ(page.answered(number, u"http"_s, u""_s), Verdict::Wait);
-    (void)page.committed(u"https"_s);
+    page.committed(u"https"_s);
     EXPECT_TRUE(page.documentLoaded(u"https"_s));
 }
 
@@ -70,32 +70,31 @@ TEST(PageLoading, ADocumentThatIsReplacedBeforeItsLoadEventLeavesThePageLoading)
 {
     PageLoading page;
     page.answered(page.begin(), u"a"_s, u""_s);
-    (void)page.committed(u"a"_s);
-    (void)page.committed(u"b"_s);
+    page.committed(u"a"_s);
+    page.committed(u"b"_s);
     EXPECT_FALSE(page.documentLoaded(u"a"_s));
     EXPECT_TRUE(page.documentLoaded(u"b"_s));
 }
 
-TEST(PageLoading, ADocumentWillNotStayWhenTheOldPageHasSetOutForAnother)
+TEST(PageLoading, ARequestOfTheOldPageItselfBehindOursIsKnown)
 {
     PageLoading page;
+    EXPECT_FALSE(page.isOvertaken());
     const int number = page.begin();
-    page.started(u"a"_s);
-    page.answered(number, u"a"_s, u""_s);
-    page.started(u"reload"_s);
-    EXPECT_FALSE(page.committed(u"a"_s));
-
-    page.answered(page.begin(), u"b"_s, u""_s);
-    page.started(u"b"_s);
-    EXPECT_TRUE(page.committed(u"b"_s));
-    page.started(u"c"_s);
-    EXPECT_TRUE(page.committed(u"c"_s)) << "where the page itself goes on to";
+    page.started(u"ours"_s);
+    EXPECT_FALSE(page.isOvertaken()) << "whose it is tells the answer";
+    page.answered(number, u"ours"_s, u""_s);
+    EXPECT_FALSE(page.isOvertaken());
+    page.started(u"the page's own"_s);
+    EXPECT_TRUE(page.isOvertaken());
+    page.committed(u"ours"_s);
+    EXPECT_FALSE(page.isOvertaken()) << "where the page itself goes on to";
 }
 
 TEST(PageLoading, ARequestThatComesToNothingEndsWhenItHasSettled)
 {
     PageLoading page;
-    (void)page.committed(u"old"_s);
+    page.committed(u"old"_s);
     const int number = page.begin();
     page.started(u"a"_s);
     EXPECT_EQ(page.answered(number, u"a"_s, u"net::ERR_ABORTED"_s), Verdict::Aborted);
@@ -113,7 +112,7 @@ TEST(PageLoading, ARequestThatAnotherHasReplacedGoesOnWithThat)
     EXPECT_EQ(page.answered(number, u"a"_s, u"net::ERR_ABORTED"_s), Verdict::Aborted);
     page.started(u"b"_s);
     EXPECT_FALSE(page.settle(number));
-    (void)page.committed(u"b"_s);
+    page.committed(u"b"_s);
     EXPECT_TRUE(page.documentLoaded(u"b"_s));
 }
 
@@ -142,7 +141,7 @@ TEST(PageLoading, AReplacementThatComesToNothingEndsWhenTheBrowserStops)
 TEST(PageLoading, AMoveWithinThePageEndsWithTheWordOfIt)
 {
     PageLoading page;
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_FALSE(page.movedWithinPage()) << "nothing was asked for";
     EXPECT_EQ(page.answered(page.begin(), u""_s, u""_s), Verdict::Wait);
     EXPECT_TRUE(page.movedWithinPage());
@@ -171,7 +170,7 @@ TEST(PageLoading, AnErrorPageIsWaitedFor)
     PageLoading page;
     EXPECT_EQ(page.answered(page.begin(), u"a"_s, u"net::ERR_CONNECTION_REFUSED"_s), Verdict::Wait);
     EXPECT_TRUE(page.isLoading());
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_TRUE(page.documentLoaded(u"a"_s));
 }
 
@@ -187,7 +186,7 @@ TEST(PageLoading, ALoadThatIsBrokenOffHalfWayEndsWhenTheBrowserStops)
     PageLoading page;
     page.answered(page.begin(), u"a"_s, u""_s);
     EXPECT_FALSE(page.stopped()) << "the old document's end of loading";
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_TRUE(page.stopped());
 }
 
@@ -199,7 +198,7 @@ TEST(PageLoading, ALostProcessEndsThePageButNotARequest)
     EXPECT_FALSE(page.isDocumentComing()) << "the browser may still find another process for it";
     page.answered(number, u"a"_s, u""_s);
     EXPECT_TRUE(page.isDocumentComing());
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_FALSE(page.isDocumentComing());
     EXPECT_TRUE(page.processLost());
     EXPECT_FALSE(page.processLost());
@@ -225,7 +224,7 @@ TEST(PageLoading, APageArrivesWithItsDocument)
     EXPECT_EQ(page.arrival(), Arrival::Arrived) << "what stands there when nothing has been asked for";
     page.answered(page.begin(), u"a"_s, u""_s);
     EXPECT_EQ(page.arrival(), Arrival::Pending);
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_EQ(page.arrival(), Arrival::Arrived);
     page.documentLoaded(u"a"_s);
     EXPECT_EQ(page.arrival(), Arrival::Arrived);
@@ -236,9 +235,9 @@ TEST(PageLoading, ADocumentOfAnEarlierRequestIsNoArrival)
     PageLoading page;
     page.answered(page.begin(), u"a"_s, u""_s);
     page.begin();
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     EXPECT_EQ(page.arrival(), Arrival::Pending);
-    (void)page.committed(u"b"_s);
+    page.committed(u"b"_s);
     EXPECT_EQ(page.arrival(), Arrival::Arrived);
 }
 
@@ -263,20 +262,20 @@ TEST(PageLoading, EveryEndWithoutADocumentHasFailed)
          }},
         {"cancelled", [](PageLoading &page, int) { page.cancel(); }},
         {"told stopped", [](PageLoading &page, int) { page.endTold(PageLoading::End::Stopped, true); }},
-        {"error page", [](PageLoading &page, int) { (void)page.committed(u"a"_s, Document::ErrorPage); }},
+        {"error page", [](PageLoading &page, int) { page.committed(u"a"_s, Document::ErrorPage); }},
         {"crash",
          [](PageLoading &page, int) {
-             (void)page.committed(u"a"_s);
+             page.committed(u"a"_s);
              page.processLost();
          }},
     };
     for (const Row &row : rows) {
         PageLoading page;
-        (void)page.committed(u"old"_s);
+        page.committed(u"old"_s);
         row.end(page, page.begin());
         EXPECT_EQ(page.arrival(), Arrival::Failed) << row.tag;
         page.cancel();
-        (void)page.committed(u"later"_s);
+        page.committed(u"later"_s);
         EXPECT_EQ(page.arrival(), Arrival::Failed) << row.tag << ": the old page has gone on by itself";
         page.begin();
         EXPECT_EQ(page.arrival(), Arrival::Pending) << row.tag;
@@ -287,7 +286,7 @@ TEST(PageLoading, AMoveWithinThePageIsAsGoodAsThePage)
 {
     for (const Document document : {Document::Page, Document::ErrorPage}) {
         PageLoading page;
-        (void)page.committed(u"a"_s, document);
+        page.committed(u"a"_s, document);
         page.answered(page.begin(), {}, {});
         EXPECT_EQ(page.arrival(), Arrival::Pending);
         page.movedWithinPage();
@@ -303,8 +302,8 @@ TEST(PageLoading, AnErrorPageOnTheWayToTheRealOneCountsForNothing)
 {
     PageLoading page;
     page.begin();
-    (void)page.committed(u"error"_s, Document::ErrorPage);
-    (void)page.committed(u"page"_s);
+    page.committed(u"error"_s, Document::ErrorPage);
+    page.committed(u"page"_s);
     EXPECT_EQ(page.arrival(), Arrival::Arrived);
 }
 
@@ -312,10 +311,10 @@ TEST(PageLoading, APageThatEndsOnAnErrorPageByItselfHasFailed)
 {
     PageLoading page;
     page.begin();
-    (void)page.committed(u"page"_s);
+    page.committed(u"page"_s);
     page.documentLoaded(u"page"_s);
     page.resumed();
-    (void)page.committed(u"error"_s, Document::ErrorPage);
+    page.committed(u"error"_s, Document::ErrorPage);
     EXPECT_EQ(page.arrival(), Arrival::Failed);
 }
 
@@ -355,9 +354,9 @@ TEST(PageLoading, AnEndIsThatOfTheDocumentOnceThatHasToldOfItsLoadEvent)
 {
     PageLoading page;
     page.begin();
-    (void)page.committed(u"a"_s);
+    page.committed(u"a"_s);
     page.documentComplete(u"a"_s);
-    (void)page.committed(u"b"_s);
+    page.committed(u"b"_s);
     EXPECT_EQ(page.endTold(End::Loaded, false), Verdict::Wait) << "that was the document before";
     page.documentComplete(u"b"_s);
     EXPECT_EQ(page.endTold(End::Loaded, false), Verdict::Ended);

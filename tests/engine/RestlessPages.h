@@ -6,8 +6,8 @@
 
 #include <array>
 
-/// Leaves pages that go on by themselves without end, each in its own way, for an ordinary one of each host in turn, on
-/// fast lines and slow ones: that arrives, at the first attempt of whoever asks for it, and stays.
+/// Leaves pages of the first host that go on by themselves without end, each in its own way, for an ordinary one of
+/// either host, sooner or later, on fast lines and slow ones: that arrives, and stays.
 void expectToLeaveRestlessPages(BrowserEngine &browser, TestServer &server, const std::array<QString, 2> &hosts);
 
 /// Opens a page of `host` whose frames reload for ever, with a slow handler of what they tell: whatever else waits for

@@ -13,8 +13,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::chrono::seconds windowCallLimit{5};
-// How often one page is asked for once more, because a process was lost or the old page stood in the way.
+// How often one page is asked for once more, because a process was lost.
 constexpr int repetitionsAtMost = 3;
+// A page that has gone somewhere by itself within this time does so again, for all that is known.
+constexpr std::chrono::seconds restlessFor{2};
 
 } // namespace
 
@@ -90,12 +92,42 @@ void ChromiumPage::navigate(const QString &address)
     mRequested = address;
     mStuck = 0;
     mRepetitions = 0;
+    mLeft = mLeaving;
     ++mNavigations;
     std::erase_if(mNotices, [](const PageNotice &each) { return each.kind == PageNotice::Kind::LoadingEnded; });
+    const bool restless = !std::exchange(mRestless, QDeadlineTimer()).hasExpired();
+    if (mLeaving)
+        (void)mLoading.begin();
+    else if (!restless || isMoveWithin() || !leave())
+        requestAsUsual();
+}
+
+void ChromiumPage::requestAsUsual()
+{
     if (mPlain)
         requestWithScripts();
     else
         request();
+}
+
+// A page that goes on by itself sets out again whenever the next one is about to take its place, and so prevents it or
+// takes that place again. Its process is ended, which takes all of that along. Once for each page that is asked for:
+// what stands in the way then is that page itself.
+bool ChromiumPage::leave()
+{
+    if (std::exchange(mLeft, true))
+        return false;
+    (void)mLoading.begin();
+    mLeaving = true;
+    mStuck = 1;
+    mConnection->send(mTargets.session(), "Page.crash"_L1);
+    mWatch.processEnding();
+    return true;
+}
+
+bool ChromiumPage::isMoveWithin() const
+{
+    return mRequested.contains(u'#') && mRequested.section(u'#', 0, 0) == mAddress.section(u'#', 0, 0);
 }
 
 // A page that is left needs its scripts no more; one that never ends can be broken off only before the browser begins
@@ -103,7 +135,7 @@ void ChromiumPage::navigate(const QString &address)
 // page does not leave it.
 void ChromiumPage::breakOff()
 {
-    if (mRequested.contains(u'#') && mRequested.section(u'#', 0, 0) == mAddress.section(u'#', 0, 0))
+    if (isMoveWithin())
         return;
     mConnection->send(mTargets.session(), "Runtime.terminateExecution"_L1);
     mConnection->send(mTargets.session(), "Page.stopLoading"_L1);
@@ -149,6 +181,8 @@ void ChromiumPage::answered(int number, const DevToolsConnection::Answer &answer
 void ChromiumPage::settle(int number)
 {
     mConnection->send(mTargets.session(), "Page.getNavigationHistory"_L1, {}, whileAlive([this, number](const auto &) {
+                          if (mLoading.isOvertaken() && leave())
+                              return;
                           if (mLoading.settle(number))
                               loadingEnded();
                       }));
@@ -182,6 +216,7 @@ void ChromiumPage::onPageStuck()
 
 void ChromiumPage::onWindowReplaced()
 {
+    mLeaving = false;
     mTopFrame = mTargets.target();
     mAddress = emptyPage;
     mUnreachable.clear();
@@ -198,6 +233,7 @@ void ChromiumPage::stop()
 {
     requireWindow();
     mConnection->send(mTargets.session(), "Page.stopLoading"_L1);
+    mLeaving = false;
     if (mLoading.cancel())
         loadingEnded();
 }
@@ -307,6 +343,9 @@ void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &p
     const QString url = frame[u"url"].toString() + frame[u"urlFragment"].toString();
     const QString loader = frame[u"loaderId"].toString();
     const bool top = session == mTargets.session() && !frame.contains(u"parentId");
+    const bool isOurs = mLoading.isDocumentComing() && !mLoading.isOvertaken();
+    if (top && mLoading.isWaitingForDocument() && !isOurs && (mLeaving || leave()))
+        return;
     if (top)
         mDocuments.clear();
     mDocuments[id] = {.loader = loader, .url = url};
@@ -315,13 +354,10 @@ void ChromiumPage::onFrameNavigated(const QString &session, const QJsonObject &p
     mTopFrame = id;
     mAddress = url;
     mUnreachable = frame[u"unreachableUrl"].toString();
-    const bool stays = mLoading.committed(loader, mUnreachable.isEmpty() ? PageLoading::Document::Page
-                                                                         : PageLoading::Document::ErrorPage);
+    mLoading.committed(loader, mUnreachable.isEmpty() ? PageLoading::Document::Page : PageLoading::Document::ErrorPage);
     if (!mLoading.isWaitingForDocument())
         mWatch.end();
     mReader.documentChanged(id);
-    if (!stays && mRepetitions++ < repetitionsAtMost)
-        request();
 }
 
 void ChromiumPage::onFrameMoved(const QString &session, const QJsonObject &params)
@@ -369,6 +405,8 @@ void ChromiumPage::onStartedNavigating(const QString &session, const QJsonObject
         return;
     if (!mLoadsPlain)
         letScriptsRun(true); // the user does, or the page itself
+    if (!mLoading.isWaitingForDocument())
+        mRestless = QDeadlineTimer(restlessFor);
     mLoading.started(params[u"loaderId"].toString());
 }
 
@@ -398,7 +436,9 @@ void ChromiumPage::onProcessLost()
     mLostProcess = true;
     mReader.processLost();
     mDocuments.clear();
-    if (mLoading.isDocumentComing())
+    if (std::exchange(mLeaving, false))
+        requestAsUsual();
+    else if (mLoading.isDocumentComing())
         requestAfterLoss();
     else if (mLoading.processLost())
         loadingEnded();

@@ -85,6 +85,9 @@ class ChromiumPage : public QObject
 
     [[nodiscard]] QJsonObject askBrowser(const QString &session, QLatin1StringView method, const QJsonObject &params);
     void request();
+    void requestAsUsual();
+    [[nodiscard]] bool leave();
+    [[nodiscard]] bool isMoveWithin() const;
     void requestWithScripts();
     void letScriptsRun(bool run);
     void loadPlain(QDeadlineTimer deadline);
@@ -123,6 +126,9 @@ class ChromiumPage : public QObject
     int mNavigations = 0;      // counts Navigate, and the windows that have taken the place of one
     bool mPlain = false;       // the page was loaded without scripts
     bool mLoadsPlain = false;  // it is being loaded so
+    QDeadlineTimer mRestless;  // until then the page counts as one that goes on by itself
+    bool mLeft = false;        // the latest Navigate has cost the old page its process
+    bool mLeaving = false;     // it is about to
     bool mClosed = false;
     std::deque<PageNotice> mNotices;
 };

@@ -81,6 +81,7 @@ void ChromiumPage::load(const QString &address, QDeadlineTimer deadline)
     requireWindow();
     std::erase_if(mNotices, [](const PageNotice &notice) { return notice.url == emptyPage; });
     mRequested = address;
+    mLeft = true; // there is no old page
     request();
     mConnection->waitUntil([this] { return !mLoading.isWaitingForDocument(); }, deadline);
     const QDeadlineTimer patience(mReader.patience() / 2);

@@ -10,7 +10,7 @@ namespace {
 constexpr std::chrono::milliseconds betweenLooks{1000};
 constexpr std::chrono::milliseconds limitOfAnswer{1000};
 constexpr std::chrono::milliseconds limitOfDocument{1000};
-constexpr std::chrono::milliseconds limitOfLoss{2000};
+constexpr std::chrono::milliseconds limitOfLoss{800};
 constexpr int breakOffsAtMost = 1;
 
 } // namespace

@@ -327,7 +327,7 @@ void WebEngineBrowser::onDocumentCreated(const QString &url, bool topDocument)
     const bool errorPage = WebEngineAddress::isErrorPage(url);
     const auto kind = errorPage ? PageLoading::Document::ErrorPage : PageLoading::Document::Page;
     mDocument = mLoading.isWaitingForDocument() ? awaited() : QString::number(++mDocuments);
-    (void)mLoading.committed(mDocument, kind);
+    mLoading.committed(mDocument, kind);
     if (mProcess != Process::Closed)
         mProcess = Process::Alive;
     mLocation = errorPage ? WebEngineAddress::text(page()->url()) : url;
