@@ -87,7 +87,7 @@ QString Exports::statement(const ExportSource &source, const ExportKind &kind) c
 /// The rows as a file of that form; what the user is told then.
 QString Exports::write(Recordset &rows, DataFormat format, const QString &path, const QString &table)
 {
-    const auto cancelled = u"Export cancelled"_s;
+    QString cancelled = u"Export cancelled"_s;
     if (format == DataFormat::Saved || format == DataFormat::SavedXml)
         return save(rows, format, path, mWork) ? path + " written"_L1 : cancelled;
     const auto writer = makeWriter(format, path, table, Cells::columnsOf(rows));

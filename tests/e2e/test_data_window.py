@@ -180,6 +180,22 @@ class DataWindow(window.WindowCase):
         self.wait_for_addresses([row[2] for row in ROWS[1:]], "nothing is deleted from rows without a table")
         self.end()
 
+    def test_a_field_of_an_exported_file_is_imported_again(self):
+        path = self.export(7, EXPORTS[7])
+        self.first_cell("shift+Down", "shift+Down", "shift+Down", "shift+Down")
+        self.delete_selected()
+        self.wait_for_addresses([], "all rows are gone")
+        self.go_to("sstSearch(2)", "sstSettings(1)", "sstFiles(1)")
+        self.click("cmdSFISelDatabase")
+        self.answer("Select File", path)
+        # EmailAddress.Address, of the file and of the database.
+        for combo, row in (("cboSFITableIn", 0), ("cboSFIFieldIn", 3), ("cboSFITableExisting", 6), ("cboSFIFieldExisting", 3)):
+            self.choose(combo, row)
+        self.click("chkSFIImportField", left=10)
+        self.click("cmdSFIImport")
+        self.wait_for_addresses([row[2] for row in ROWS], "the field of the exported rows is back")
+        self.end()
+
 
 if __name__ == "__main__":
     unittest.main()
