@@ -205,9 +205,11 @@ class LargeTable : public DataViewTest
     LargeTable()
     {
         SQLite::Database file(database->DatabasePath().toStdString(), SQLite::OPEN_READWRITE);
-        file.exec("WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM n WHERE x<" + std::to_string(count) +
-                  ") INSERT INTO EmailAddress(Address,Url) SELECT 'a'||((x*7919)%1000003)||'@b.com', "
-                  "'u'||((x*104729)%1000003) FROM n");
+        SQLite::Statement rows(file, "WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM n WHERE x<?) "
+                                     "INSERT INTO EmailAddress(Address,Url) SELECT 'a'||((x*7919)%1000003)||'@b.com', "
+                                     "'u'||((x*104729)%1000003) FROM n");
+        rows.bind(1, count);
+        rows.exec();
         chooseTable(u"EmailAddress"_s);
     }
     /// The rows have arrived, however slow the machine is.
