@@ -47,7 +47,7 @@ def main_window_is_there(env):
 
 
 def window_time(program, display):
-    with tempfile.TemporaryDirectory() as home:
+    with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as home:
         env = dict(os.environ, HOME=home, XDG_DATA_HOME=home + "/data", XDG_CONFIG_HOME=home + "/config",
                    XDG_RUNTIME_DIR=home, DISPLAY=display, QT_QPA_PLATFORM="xcb")
         begun = time.perf_counter()
@@ -70,7 +70,7 @@ def main():
     folder = pathlib.Path(sys.argv[1]).resolve()
     rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 5
     report("trawlex-harvest --help", statistics.median(help_times(folder / "trawlex-harvest", rounds)), HELP_MARK)
-    with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1366x768x24"], stdout=subprocess.PIPE,
+    with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1366x768x24", "-noreset"], stdout=subprocess.PIPE,
                           stderr=subprocess.DEVNULL, text=True) as screen:
         display = f":{screen.stdout.readline().strip()}"
         try:

@@ -47,7 +47,7 @@ cp -r "$demo" "$clean/demo"
 inside python3 /demo/harvest.py --bin /usr/bin
 say "The window"
 exec {number}<> <(:)
-Xvfb -displayfd "$number" -screen 0 1280x1000x24 -nolisten tcp 2>/dev/null &
+Xvfb -displayfd "$number" -screen 0 1280x1000x24 -nolisten tcp -noreset 2>/dev/null &
 running+=($!)
 read -r -u "$number" display
 "${bare[@]}" DISPLAY=":$display" QT_QPA_PLATFORM=xcb chroot "$clean" trawlex 2>/dev/null &
