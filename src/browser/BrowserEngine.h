@@ -78,8 +78,8 @@ class BrowserEngine : public QObject
 
     /// What the browser calls itself to servers; "" if it cannot be given.
     [[nodiscard]] virtual QString userAgent() = 0;
-    /// The value of the header "Cookie" with which the browser would ask for `url`, the same each time while the cookies
-    /// are; "" without any, or if it cannot be given.
+    /// The value of the header "Cookie" with which the browser would ask for `url`, the same each time while the
+    /// cookies are; "" without any, or if it cannot be given.
     [[nodiscard]] virtual QString cookiesFor(const QString &url) = 0;
 
   Q_SIGNALS:
