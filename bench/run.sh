@@ -31,6 +31,7 @@ run_all() {
     [ -x "$program" ] || continue
     measure "$(basename "$program")" "$program"
   done
+  [ ! -w /dev/shm ] || measure "bench_store in memory" env TMPDIR=/dev/shm "$bin/bench_store"
   measure "starting" python3 "$here/bench_start.py" "$bin"
   measure "driving a browser" python3 "$here/bench_driving.py" "$bin" 10
   measure "fetching a series of files" python3 "$here/bench_transfer.py" "$bin"
